@@ -1,5 +1,7 @@
 #include "core/text_fields.h"
 
+#include "platform/folded_name.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -240,14 +242,7 @@ std::string_view TrimRight(std::string_view text) {
 
 std::string_view Trim(std::string_view text) { return TrimLeft(TrimRight(text)); }
 
-char UpperChar(char c) {
-  const int code = Asc(c);
-  if (code >= 'a' && code <= 'z') return Chr(code - 32);
-  if (code >= 0xE0 && code <= 0xFE && code != 0xF7) return Chr(code - 32);
-  if (code == 0x9A || code == 0x9C || code == 0x9E) return Chr(code - 16);
-  if (code == 0xFF) return Chr(0x9F);
-  return c;
-}
+char UpperChar(char c) { return FoldedChar(c); }
 
 char LowerChar(char c) {
   const int code = Asc(c);
@@ -271,8 +266,7 @@ std::string Lower(std::string_view text) {
 }
 
 bool EqualFolded(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return UpperChar(x) == UpperChar(y); });
+  return SameName(a, b);
 }
 
 std::string PadLeft(std::string_view text, std::size_t width) {
