@@ -1,5 +1,7 @@
 #include "platform/qt/text.h"
 
+#include <QList>
+
 #include "platform/code_page.h"
 
 namespace zepril {
