@@ -15,6 +15,7 @@ struct WindowControls {
   PointerShape Pointer = PointerShape::Default;
   int WidthPx = 1280;
   int HeightPx = 800;
+  int SidePanelWidthPx = 121;
 };
 
 // The map and the bar above it.
@@ -115,6 +116,7 @@ struct RecordPanelControls {
   Button Command40;  // WX panel
   Button Command36;  // highlight
   Button Command23;  // close
+  Frame Frame8;      // picture panel
 };
 
 // Transmission switches.
