@@ -1,0 +1,15 @@
+// What reception hands to the gateway.
+#pragma once
+
+#include <string_view>
+
+namespace zepril {
+
+class GateActions {
+ public:
+  virtual ~GateActions() = default;
+  // Raw monitor text as it came from the modem, before it is brought to normal form.
+  virtual void GateMonitorBlock(std::string_view text) = 0;
+};
+
+}  // namespace zepril

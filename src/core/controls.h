@@ -1,0 +1,117 @@
+// The windows' controls as plain values. Logic reads and writes these and never sees a widget; the
+// desktop copies them to widgets and raises the events. Only what the operator does raises an event;
+// an assignment never does. Texts are code page 1252.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zepril {
+
+using Event = std::function<void()>;
+
+struct KeyPress {
+  int Code = 0;   // virtual key code: 13 Enter, 37 to 40 arrows, otherwise the character's code
+  int Shift = 0;  // 1 Shift, 2 Ctrl, 4 Alt, added up
+};
+
+struct MousePress {
+  int Button = 1;  // 1 left, 2 right
+  int Shift = 0;
+  double X = 0.0;  // pixels from the control's top left
+  double Y = 0.0;
+};
+
+enum class PointerShape { Default, Hourglass };
+
+// What every control has. Colours are state values 0xBBGGRR; the desktop maps each to a shade of the
+// palette in use. Nothing set: the control's usual colour.
+struct Control {
+  bool Visible = true;
+  bool Enabled = true;
+  std::string ToolTip;
+  std::optional<std::uint32_t> BackColour;
+  std::optional<std::uint32_t> ForeColour;
+  int WidthPx = 0;         // 0: by layout
+  bool FocusWanted = false;  // taken and cleared by the desktop
+  bool HasFocus = false;     // set by the desktop
+
+  Event Click;
+  Event RightClick;
+  Event DoubleClick;
+};
+
+struct Label : Control {
+  std::string Caption;
+};
+
+struct Button : Control {
+  std::string Caption;
+};
+
+struct CheckBox : Control {
+  std::string Caption;
+  int Value = 0;  // 0 off, 1 on, 2 third state
+};
+
+struct OptionButton : Control {
+  std::string Caption;
+  bool Value = false;
+};
+
+struct TextBox : Control {
+  std::string Text;
+  Event Change;
+  std::function<void(KeyPress)> KeyDown;
+};
+
+struct ComboBox : Control {
+  std::string Text;                // of an editable field, or of the selected entry
+  std::vector<std::string> Items;
+  int ListIndex = -1;              // 0-based, -1 none
+  Event Change;                    // text typed or an entry chosen
+  std::function<void(KeyPress)> KeyDown;
+
+  // The selected entry, or an empty text.
+  std::string Selected() const {
+    return ListIndex >= 0 && ListIndex < static_cast<int>(Items.size())
+               ? Items[static_cast<std::size_t>(ListIndex)]
+               : std::string();
+  }
+  void Select(int index) {
+    ListIndex = index;
+    Text = Selected();
+  }
+};
+
+struct ListBox : Control {
+  std::vector<std::string> Items;
+  std::uint64_t Revision = 0;  // raised by whoever changes Items
+  int ListIndex = -1;          // 0-based
+  int TopIndex = 0;            // first row shown
+};
+
+struct Frame : Control {
+  std::string Caption;
+};
+
+// A bar that fills: width in pixels of `FullWidthPx`.
+struct FillBar : Control {
+  int FilledPx = 0;
+  int FullWidthPx = 120;
+  std::uint32_t Colour = 0xC0C078;
+};
+
+struct PictureBox : Control {
+  PointerShape Pointer = PointerShape::Default;
+  std::uint64_t Revision = 0;  // raised when the picture was painted anew
+  std::function<void(MousePress)> MouseDown;
+  std::function<void(MousePress)> MouseMove;
+  std::function<void(MousePress)> MouseUp;
+  std::function<void(KeyPress)> KeyDown;
+};
+
+}  // namespace zepril

@@ -1,0 +1,178 @@
+// Every control of the main window `Form1`, in groups; a room takes the groups that it handles. The
+// names are the program's own; object names of the widgets are the same.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "core/controls.h"
+
+namespace zepril {
+
+// The window itself.
+struct WindowControls {
+  std::string Title;
+  PointerShape Pointer = PointerShape::Default;
+  int WidthPx = 1280;
+  int HeightPx = 800;
+};
+
+// The map and the bar above it.
+struct MapControls {
+  PictureBox Picture1;     // the map
+  PictureBox PictureBase;  // second map window under it: the plain form of a map type
+  Button Command1;         // next coarser scale
+  Button Command2;         // next finer scale
+  Button Command7;         // zoom out by 2
+  Button Command8;         // zoom in by 2
+  Button Command9;         // zoom 1
+  Button Command12;        // centre button "MAP"
+  OptionButton Option1;    // follow the own position
+  OptionButton Option2;    // follow MONI 1
+  CheckBox Check4;         // coordinate grid
+  CheckBox Check9;         // distance circles
+  CheckBox Check12;        // picture marks
+  CheckBox Check14;        // track display
+  Button Command72;        // brightness
+  Button Command73;        // places
+  Button Command59;        // save map window
+  Label ScaleText;         // text of the scale bar
+};
+
+// The three read-outs and the station line.
+struct ReadoutControls {
+  Label Label1;   // centre, upper caption
+  Label Label2;   // centre, lower caption
+  Label Label3;   // cursor
+  Label Label4;
+  Label Label7;   // monitored station
+  Label Label8;
+  Label Label11;  // station line
+};
+
+// Six scale rows, coarse to fine: M5000 to M0002.
+struct ScaleControls {
+  Frame ScalePanel;
+  std::array<ComboBox, 6> Folder;    // Combo3 to Combo8
+  std::array<CheckBox, 6> FrameBox;  // tile frames of the scale
+  std::array<bool, 6> Covered{};     // a tile lies under the centre
+  Button Command5;                   // all frame boxes on
+  Button Command6;                   // all frame boxes off
+  Button Command37;                  // scan the library again
+};
+
+// The sixteen inks of a tile.
+struct PaletteControls {
+  Frame PalettePanel;
+  std::array<OptionButton, 16> Optionink;
+  Button Command42;  // no ink chosen
+  Button Command43;  // reset and close
+};
+
+// MONI 1.
+struct Moni1Controls {
+  ComboBox Combo9;   // call, and the calls that have a log
+  Label Label6;      // count of records
+  FillBar Label17;   // fill bar
+  Label Label9;      // date and time of the last record
+  Label Label10;     // "TEXT: " line
+  Button Command17;  // steps TrackStyle
+  CheckBox Check1;   // distance alarm
+  CheckBox Check22;  // internet
+  CheckBox Check27;  // internet scan
+};
+
+// MONI ALL.
+struct MoniAllControls {
+  Button Command13;  // steps the label level
+  Label Label16;     // level or "WX"
+  CheckBox Check10;  // class 2
+  CheckBox Check11;  // class 1
+  CheckBox Check13;  // class 0; third state: only if moved
+  CheckBox Check19;  // class 3
+  CheckBox Check25;  // class 4
+  CheckBox Check24;  // directly heard stations only
+  CheckBox Check3;   // distance alarm over all stations
+  CheckBox Check23;  // internet
+  FillBar Label5;    // fill bar
+  TextBox Text15;    // call to find
+  Button Command14;  // FIND
+  Button Command3;   // list of heard stations
+  ListBox HeardList;
+  Frame HeardPanel;
+};
+
+// The panel of a station's record.
+struct RecordPanelControls {
+  Frame Frame1;
+  Label Label19;     // "QTH=" or "DELETE"
+  Label Label20;     // the record
+  Button Command18;  // "<" or "<X"
+  Button Command19;  // ">" or "X>"
+  Button Command10;  // PING
+  Button Command41;  // prepare CHAT
+  Button Command11;  // make the station MONI 1
+  Button Command40;  // WX panel
+  Button Command36;  // highlight
+  Button Command23;  // close
+};
+
+// Transmission switches.
+struct TransmitControls {
+  CheckBox Check6;   // TX
+  CheckBox Check18;  // OBJECT TX
+  CheckBox Check7;   // CHAT
+  CheckBox Check8;   // messages from and to me only
+  CheckBox Check16;  // auto answer
+  CheckBox Check15;  // IGATE
+  CheckBox Check2;   // HF-DUAL
+  TextBox Text2;     // addressee
+  TextBox Text3;     // message
+  Frame Frame3;      // chat panel
+  Frame Frame7;      // chat log
+};
+
+// Raw list.
+struct RawListControls {
+  Button Command57;   // opens and closes it
+  ListBox RawList;
+  TextBox Text14;     // text to search
+  Button Command38;   // search
+};
+
+// Status line, banner, alarms.
+struct StatusControls {
+  Label Label15;  // status line
+  Label Text10;   // internet banner
+  Label IonoLabel;
+  Frame Frame12;  // distance alarm
+  Label Label25;
+  Frame Frame14;  // emergency
+};
+
+// USER QTH SETUP.
+struct QthSetupControls {
+  Frame Frame2;
+  TextBox TextQthNorth;  // km
+  TextBox TextQthEast;   // km
+  Button QthFromCentre;  // takes the map centre
+  Button QthOk;
+  Button Command22;      // CANCEL
+};
+
+struct MainWindowControls {
+  WindowControls Window;
+  MapControls Map;
+  ReadoutControls Readouts;
+  ScaleControls Scales;
+  PaletteControls Palette;
+  Moni1Controls Moni1;
+  MoniAllControls MoniAll;
+  RecordPanelControls Record;
+  TransmitControls Transmit;
+  RawListControls Raw;
+  StatusControls Status;
+  QthSetupControls Qth;
+};
+
+}  // namespace zepril

@@ -1,0 +1,30 @@
+// Internet databases, the gateway link, space-weather numbers.
+#pragma once
+
+#include <string>
+
+namespace zepril {
+
+struct InternetState {
+  std::string AprsIsServer;
+  std::string AprsIsPort = "14580";
+  int IGateOn = 0;
+  int IGateConnected = 0;
+  std::string AprsIsPasscode = "0";
+  std::string AprsIsRxBuffer;
+
+  double InetSwitchTime = 0.0;  // timer value of the last operation of an internet switch
+  double InetMaxOnSeconds = 900.0;
+  int Moni1ScanOn = 0;
+  int Moni1ScanTicks = 0;
+  int LastMoni1InternetMinute = -5000;  // decimal hhmm of the last fetch
+  int LastMoniAllInternetMinute = 0;
+  int InetSource = 0;
+
+  double SunspotNumber = 40.0;
+  double KpIndex = 2.0;
+  int IonoAutoOn = 1;
+  double LastIonoTimer = 0.0;  // timer value
+};
+
+}  // namespace zepril

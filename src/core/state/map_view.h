@@ -1,0 +1,83 @@
+// The map window: what is looked at and what is drawn over it. Kilometres are in the UTM zone of the
+// map library.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace zepril {
+
+struct MapViewState {
+  double MapCentralMeridian = 15.0;  // degrees
+  double MapFalseEasting = 500000.0;
+
+  double CentreNorthKm = 0.0;
+  double CentreEastKm = 0.0;
+  double MapTileKm = 5000.0;  // 5000, 1000, 200, 50, 10 or 2
+  double ZoomFactor = 1.0;    // native pixels of a tile to a screen pixel; 0 is read as 1
+  double MetresPerPixel = 5000.0;
+  double PixelsPerKm = 0.2;
+  double ViewWidthPx = 800.0;
+  double ViewHeightPx = 600.0;
+  double ViewNorthKm = 0.0;
+  double ViewSouthKm = 0.0;
+  double ViewWestKm = 0.0;
+  double ViewEastKm = 0.0;
+
+  std::string ActiveFolderName;
+  std::string ActiveFolderPath;
+  std::string BaseFolderPath;
+
+  int CentreFollow = 0;  // 0 free, 1 monitored station, 2 own position, 3 one jump to typed position
+  int PictureMode = 0;
+  bool GridOn = false;
+  bool CirclesOn = false;
+  bool PicturesOn = false;
+  bool TracksOn = false;
+  int PoiLevel = 0;        // 0 to 2
+  int BrightnessStep = 0;  // 0 to 2
+  bool InkStateOn = false;  // the last tile worked on had the 16 inks
+  std::string SelectedInk;  // number of the chosen ink, or empty
+  std::array<unsigned, 16> InkColours{};  // 0xBBGGRR, as the palette was last worked on
+
+  int StationLabelLevel = 0;  // 0 to 5
+  bool WxCaption = false;     // level 1 with the caption "WX"
+  int StationClassMask = 31;  // bits 0 to 4: classes 2, 1, 0, 3, 4
+  bool HideObjects = false;
+  bool MovedOnly = false;     // class 0 only if moved
+  std::string FindCall;
+
+  double OwnNorthKm = 0.0;
+  double OwnEastKm = 0.0;
+  bool ObjectCenterPending = false;  // the next redraw jumps to the own object
+  std::string QthNorthText;          // the typed position of CentreFollow 3
+  std::string QthEastText;
+
+  double StationAnchorX = 0.0;
+  double StationAnchorY = 0.0;
+  bool MapDrawn = false;         // false: the next tick redraws
+  bool MapSavedThisRun = false;  // missing tiles are white from the first saved map on
+  int MapLockedOnRecord = 0;     // the centre button reads "MAP L"
+  bool ManualMapMove = false;    // set by a press on the map, read by the GPS room
+  double ClickNorthKm = 0.0;
+  double ClickEastKm = 0.0;
+
+  int CentreDisplayMode = 0;   // 0 to 4
+  int CursorDisplayMode = 0;
+  int MonitorDisplayMode = 0;
+  double CursorNorthKm = 0.0;
+  double CursorEastKm = 0.0;
+  double CursorX = 0.0;  // last pixel of the mouse on the map
+  double CursorY = 0.0;
+
+  // Text behind the prefix of the chosen variant of each scale, as the configuration holds it:
+  // index 0 to 5 for M5000, M1000, M0200, M0050, M0010, M0002.
+  std::array<std::string, 6> StoredVariants;
+  std::vector<std::string> PictureNames;  // sorted, at most 5000
+
+  int ColourDepthBits = 32;
+  static constexpr int kScreenTwipsPerPixel = 15;
+};
+
+}  // namespace zepril

@@ -1,0 +1,22 @@
+// The receive pass: text awaiting decoding, the raw list, the packet being decoded.
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace zepril {
+
+struct ReceptionState {
+  std::string OwnHeaderPattern;   // beginning of the own transmitted header; empty before it is set
+  std::string RxBuffer = "\n";    // monitor text in normal form awaiting decoding
+  std::string ScsRxBuffer;        // unfinished frames of a serial TNC
+  static constexpr int kRawLines = 400;
+  std::array<std::string, kRawLines + 1> RawLines;  // index 0 to 400
+  int RawLineCount = 0;
+
+  std::string PacketInfoText;  // comment of the packet now being decoded
+  int TimestampStale = 0;      // its time stamp differs from the clock
+  int SymbolIndex = 37;        // its symbol
+};
+
+}  // namespace zepril

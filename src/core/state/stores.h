@@ -1,0 +1,20 @@
+// The station stores and the selection in them.
+#pragma once
+
+#include <string>
+
+#include "core/station_store.h"
+
+namespace zepril {
+
+struct StoresState {
+  StationStore MoniAllRecords{3000};  // all stations heard, newest last
+  StationStore Moni1Records{9999};    // history of the followed station, oldest first
+
+  std::string SelectedStationCall;  // whose records the browser steps through
+  int SelectedRecordIndex = 0;      // 1-based, into the list of that call
+
+  int LogsOn = 0;  // write _LOG_, _LOGL_ and _LOGRAW_
+};
+
+}  // namespace zepril

@@ -1,0 +1,24 @@
+// A serial line, 8 data bits, no parity, one stop bit. On a port that is not open every operation
+// does nothing.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace zepril {
+
+class SerialPort {
+ public:
+  virtual ~SerialPort() = default;
+  // `device`: a port number ("3") or the name of a device. False when it can't be opened.
+  virtual bool Open(const std::string& device, int baud) = 0;
+  virtual void Close() = 0;
+  virtual bool IsOpen() const = 0;
+  virtual void Write(std::string_view bytes) = 0;
+  // Takes everything received so far out of the buffer.
+  virtual std::string ReadAll() = 0;
+  virtual std::size_t BytesToWrite() const = 0;
+};
+
+}  // namespace zepril

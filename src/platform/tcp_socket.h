@@ -1,0 +1,27 @@
+// A TCP connection with the states the program knows. Data arrives through an event that runs
+// whenever control is handed over, also inside waits.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace zepril {
+
+enum class SocketState { Closed = 0, Connecting = 6, Connected = 7, PeerClosed = 8, Error = 9 };
+
+class TcpSocket {
+ public:
+  virtual ~TcpSocket() = default;
+  // Begins to connect; the state tells how it went. A host that does not answer in time ends in
+  // Error.
+  virtual void Connect(const std::string& host, int port) = 0;
+  virtual void Close() = 0;
+  virtual SocketState State() const = 0;
+  // False when the text could not be handed to the system.
+  virtual bool Send(std::string_view bytes) = 0;
+
+  std::function<void(std::string_view bytes)> DataArrived;
+};
+
+}  // namespace zepril

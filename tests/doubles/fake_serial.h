@@ -1,0 +1,45 @@
+// A serial line played by the test.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/serial_port.h"
+
+namespace zepril {
+
+class FakeSerial final : public SerialPort {
+ public:
+  bool Open(const std::string& device, int baud) override {
+    Device = device;
+    Baud = baud;
+    open_ = !Absent;
+    return open_;
+  }
+  void Close() override { open_ = false; }
+  bool IsOpen() const override { return open_; }
+  void Write(std::string_view bytes) override {
+    if (open_) Written += bytes;
+  }
+  std::string ReadAll() override {
+    if (!open_) return {};
+    if (!Reads.empty()) {  // one piece a read
+      std::string piece = Reads.front();
+      Reads.erase(Reads.begin());
+      return piece;
+    }
+    return {};
+  }
+  std::size_t BytesToWrite() const override { return 0; }
+
+  bool Absent = false;
+  std::string Device;
+  int Baud = 0;
+  std::string Written;
+  std::vector<std::string> Reads;
+
+ private:
+  bool open_ = false;
+};
+
+}  // namespace zepril
