@@ -105,6 +105,7 @@ const landRings = ringsOf(topology.objects.land).filter((ring) => {
 // An arc that two countries share is a border.
 const uses = new Map();
 for (const country of topology.objects.countries.geometries) {
+  if (country.properties.name === 'Baikonur') continue; // leased ground, no country
   for (const ref of ringsOf(country).flat()) {
     const arc = ref < 0 ? ~ref : ref;
     uses.set(arc, (uses.get(arc) ?? 0) + 1);
