@@ -128,6 +128,7 @@ void MapInteraction::BindStations() {
 
 void MapInteraction::BindPalette() {
   PaletteControls& palette = controls_.Palette;
+  palette.PalettePanel.Visible = false;
   controls_.Map.Command72.Click = [this] { StepBrightness(); };
   controls_.Map.Command72.RightClick = [this] {
     // Only tiles of 16 colours have inks.

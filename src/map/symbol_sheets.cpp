@@ -1,7 +1,6 @@
 #include "map/symbol_sheets.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "core/symbol_table.h"
 #include "core/text_fields.h"
@@ -33,8 +32,8 @@ SymbolCell CellOfSymbol(int index) {
   return {index / 100, std::clamp(x, 0, kLastColumnX), std::clamp(y, 0, kLastRowY)};
 }
 
-SymbolSheets::SymbolSheets(const Files& files, std::string program_folder)
-    : files_(files), program_folder_(std::move(program_folder)) {}
+SymbolSheets::SymbolSheets(const Files& files, const std::string& program_folder)
+    : files_(files), program_folder_(program_folder) {}
 
 void SymbolSheets::BeginRedraw() {
   for (Sheet& sheet : sheets_) sheet.Checked = false;

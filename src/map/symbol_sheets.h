@@ -32,7 +32,8 @@ SymbolCell CellOfSymbol(int index);
 // The sheets in memory; each is read once and again only when its file changes.
 class SymbolSheets {
  public:
-  SymbolSheets(const Files& files, std::string program_folder);
+  // `program_folder` is looked at whenever a sheet is read: it may be set after construction.
+  SymbolSheets(const Files& files, const std::string& program_folder);
 
   // To be called at the start of every redraw.
   void BeginRedraw();
@@ -50,7 +51,7 @@ class SymbolSheets {
   const Sheet& Loaded(int number);
 
   const Files& files_;
-  std::string program_folder_;
+  const std::string& program_folder_;
   std::array<Sheet, 2> sheets_;
 };
 
