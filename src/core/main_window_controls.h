@@ -15,6 +15,7 @@ struct WindowControls {
   PointerShape Pointer = PointerShape::Default;
   int WidthPx = 1280;
   int HeightPx = 800;
+  bool MaximiseWanted = false;  // taken and cleared by the desktop
 };
 
 // The map and the bar above it.
