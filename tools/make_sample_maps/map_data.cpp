@@ -240,6 +240,36 @@ bool TakePlace(std::string_view line, std::vector<Place>& places) {
   return true;
 }
 
+// Cuts the corners of a ring a quarter of each side before and behind them.
+Arc RoundOff(const Arc& ring) {
+  Arc smooth;
+  for (std::size_t i = 0; i < ring.size(); ++i) {
+    const Degrees a = ring[i], b = ring[(i + 1) % ring.size()];
+    for (const double t : {0.25, 0.75}) {
+      smooth.push_back({a.lon + t * (b.lon - a.lon), a.lat + t * (b.lat - a.lat)});
+    }
+  }
+  return smooth;
+}
+
+// Mueritz 53.51 12.67 53.46 12.62 ...: a hole in the land.
+bool TakeLake(std::string_view line, std::vector<Outline>& land) {
+  WordReader words(line);
+  words.Word();
+  Arc ring;
+  while (!words.AtEnd()) {
+    const auto lat = words.Next<double>(), lon = words.Next<double>();
+    if (!lat || !lon || std::abs(*lat) > kNorthLimit) return false;
+    if (std::abs(*lon - kSampleMeridian) > kReach) return false;
+    ring.push_back({*lon, *lat});
+  }
+  if (ring.size() < 3) return false;
+  for (int pass = 0; pass < 3; ++pass)
+    ring = RoundOff(ring);
+  land.push_back(ToOutline(ring, true));
+  return true;
+}
+
 std::optional<int> HexByte(std::string_view text, std::size_t at) {
   int value = 0;
   if (at + 2 > text.size()) return std::nullopt;
@@ -279,6 +309,8 @@ std::optional<MapData> ReadMapData(const std::filesystem::path& source, std::str
   };
   const bool good = ReadLines(source / "europe.txt", fault,
                               [&](std::string_view line) { return land.TakeLine(line); }) &&
+                    ReadLines(source / "lakes.txt", fault,
+                              [&](std::string_view line) { return TakeLake(line, data.land); }) &&
                     ReadLines(source / "towns.txt", fault, line_to(data.towns)) &&
                     ReadLines(source / "waters.txt", fault, line_to(data.waters)) &&
                     ReadLines(source / "letters.txt", fault,
