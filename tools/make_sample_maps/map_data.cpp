@@ -228,14 +228,18 @@ class LandReader {
   std::vector<Arc> arcs_;
 };
 
+// Told this way round, it also refuses what is no number.
+bool OnMap(double lat, double lon) {
+  return std::abs(lat) <= kNorthLimit && std::abs(lon - kSampleMeridian) <= kReach;
+}
+
 // 54.09 12.14 2 Rostock
 bool TakePlace(std::string_view line, std::vector<Place>& places) {
   WordReader words(line);
   const auto lat = words.Next<double>(), lon = words.Next<double>();
   const auto rank = words.Next<int>();
   const std::string_view name = words.Rest();
-  if (!lat || !lon || !rank || name.empty() || std::abs(*lon - kSampleMeridian) > kReach)
-    return false;
+  if (!lat || !lon || !rank || name.empty() || !OnMap(*lat, *lon)) return false;
   places.push_back({ToGrid({*lon, *lat}), *rank, std::string(name)});
   return true;
 }
@@ -259,8 +263,7 @@ bool TakeLake(std::string_view line, std::vector<Outline>& land) {
   Arc ring;
   while (!words.AtEnd()) {
     const auto lat = words.Next<double>(), lon = words.Next<double>();
-    if (!lat || !lon || std::abs(*lat) > kNorthLimit) return false;
-    if (std::abs(*lon - kSampleMeridian) > kReach) return false;
+    if (!lat || !lon || !OnMap(*lat, *lon)) return false;
     ring.push_back({*lon, *lat});
   }
   if (ring.size() < 3) return false;
