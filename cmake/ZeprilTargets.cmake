@@ -3,6 +3,10 @@
 add_library(zepril_flags INTERFACE)
 target_compile_options(zepril_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
                                               -Wno-sign-conversion -Wnon-virtual-dtor)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # This compiler warns wrongly at text + std::string when it optimises.
+  target_compile_options(zepril_flags INTERFACE -Wno-restrict)
+endif()
 if(ZEPRIL_WERROR)
   target_compile_options(zepril_flags INTERFACE -Werror)
 endif()
