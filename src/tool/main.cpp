@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "tool/air_command.h"
 #include "tool/arguments.h"
 #include "tool/decode_command.h"
 
@@ -18,6 +19,7 @@ struct Command {
 // Every command of the tool; a new one is a row here.
 constexpr Command kCommands[] = {
     {"decode", zepril::kDecodeHelp, zepril::RunDecode},
+    {"air", zepril::kAirHelp, zepril::RunAir},
 };
 
 int PrintUsage() {
