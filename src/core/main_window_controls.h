@@ -157,8 +157,7 @@ struct QthSetupControls {
   Frame Frame2;
   TextBox TextQthNorth;  // km
   TextBox TextQthEast;   // km
-  Button QthFromCentre;  // takes the map centre
-  Button QthOk;
+  Button QthOk;          // takes the map centre as own position
   Button Command22;      // CANCEL
 };
 
