@@ -3,8 +3,10 @@
 add_library(zepril_flags INTERFACE)
 target_compile_options(zepril_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
                                               -Wno-sign-conversion -Wnon-virtual-dtor)
-# GCC 12 sees an overlap in std::string operator+ that can't be (its bug 105651).
-target_compile_options(zepril_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # This compiler warns wrongly at text + std::string when it optimises.
+  target_compile_options(zepril_flags INTERFACE -Wno-restrict)
+endif()
 if(ZEPRIL_WERROR)
   target_compile_options(zepril_flags INTERFACE -Werror)
 endif()
@@ -26,6 +28,8 @@ function(zepril_room room)
   file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/${room}/*.cpp"
        "${CMAKE_SOURCE_DIR}/src/${room}/*.h")
   file(GLOB units CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/${room}/*.cpp")
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  list(FILTER units EXCLUDE REGEX "/main\\.cpp$")
   set(links "")
   foreach(dep IN LISTS arg_DEPENDS)
     string(REPLACE "/" "_" dep_name "${dep}")

@@ -16,6 +16,7 @@ struct WindowControls {
   int WidthPx = 1280;
   int HeightPx = 800;
   int SidePanelWidthPx = 121;
+  bool MaximiseWanted = false;  // taken and cleared by the desktop
 };
 
 // The map and the bar above it.

@@ -1,8 +1,9 @@
 // The receive pass: text awaiting decoding, the raw list, the packet being decoded.
 #pragma once
 
-#include <array>
 #include <string>
+
+#include "core/raw_lines.h"
 
 namespace zepril {
 
@@ -11,7 +12,7 @@ struct ReceptionState {
   std::string RxBuffer = "\n";    // monitor text in normal form awaiting decoding
   std::string ScsRxBuffer;        // unfinished frames of a serial TNC
   static constexpr int kRawLines = 400;
-  std::array<std::string, kRawLines + 1> RawLines;  // index 0 to 400
+  RawLineRing RawLines;  // index 0 to 400
   int RawLineCount = 0;
 
   std::string PacketInfoText;  // comment of the packet now being decoded

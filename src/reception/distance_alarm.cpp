@@ -1,0 +1,89 @@
+#include "reception/distance_alarm.h"
+
+#include <array>
+#include <cmath>
+#include <cstdint>
+
+#include "core/text_fields.h"
+
+namespace zepril {
+namespace {
+
+constexpr std::uint32_t kAlarmBlack = 0x000000;
+constexpr std::uint32_t kAlarmYellow = 0x00FFFF;
+
+}  // namespace
+
+double PlaneDistanceKm(const StationRecord& record, const MapViewState& map) {
+  return std::hypot(record.NorthKm() - map.OwnNorthKm, record.EastKm() - map.OwnEastKm);
+}
+
+bool ClassIsOn(int station_class, int station_class_mask) {
+  constexpr std::array<int, 5> kBitOfClass{2, 1, 0, 3, 4};
+  if (station_class < 0 || station_class >= static_cast<int>(kBitOfClass.size())) return true;
+  return (station_class_mask >> kBitOfClass[static_cast<std::size_t>(station_class)] & 1) != 0;
+}
+
+std::string RecordTimeText(const StationRecord& record) {
+  std::string text = "20";
+  text += record.Columns(1, 2);
+  text += '-';
+  text += record.Columns(3, 4);
+  text += '-';
+  text += record.Columns(5, 6);
+  text += ' ';
+  text += record.Columns(8, 9);
+  text += ':';
+  text += record.Columns(10, 11);
+  return text;
+}
+
+DistanceAlarm::DistanceAlarm(const AlarmState& alarm, const IdentityState& identity,
+                             const FollowedStationState& followed, const MapViewState& map,
+                             StatusControls& status, WindowControls& window)
+    : alarm_(alarm),
+      identity_(identity),
+      followed_(followed),
+      map_(map),
+      status_(status),
+      window_(window) {}
+
+// The own call, with or without an SSID.
+bool DistanceAlarm::IsOwnCall(std::string_view call) const {
+  const std::string own = Upper(Trim(identity_.MyCall));
+  if (own.empty()) return false;
+  return call == own || call == identity_.MyCallFull || call.starts_with(own + "-");
+}
+
+void DistanceAlarm::TestAllStations(const StationRecord& record) {
+  if (alarm_.MoniAllAlarmOn != 1 || map_.StationLabelLevel == 0) return;
+  if (!ClassIsOn(record.ClassDigit(), map_.StationClassMask)) return;
+  const std::string_view call = record.Call();
+  if (EqualFolded(call, Trim(followed_.Moni1Call)) || IsOwnCall(call)) return;
+  const double distance_km = PlaneDistanceKm(record, map_);
+  if (!(distance_km < alarm_.AlarmDistanceKm)) return;
+  Show("MONI ALL  <", record, distance_km);
+  status_.Label25.BackColour.reset();
+  status_.Label25.ForeColour.reset();
+  window_.MaximiseWanted = true;
+}
+
+void DistanceAlarm::TestFollowed(const StationRecord& record) {
+  if (followed_.Moni1AlarmOn != 1) return;
+  const double distance_km = PlaneDistanceKm(record, map_);
+  if (!(distance_km < alarm_.AlarmDistanceKm)) return;
+  Show("MONI 1  <", record, distance_km);
+  status_.Label25.BackColour = kAlarmYellow;
+  status_.Label25.ForeColour = kAlarmBlack;
+}
+
+void DistanceAlarm::Show(std::string_view opening, const StationRecord& record,
+                         double distance_km) {
+  status_.Frame12.Caption = std::string(opening) + Str(alarm_.AlarmDistanceKm) + " km  ALARM   " +
+                            RecordTimeText(record);
+  status_.Label25.Caption =
+      std::string(record.Call()) + "    D = " + FixedNumber(distance_km, 1) + " km !";
+  status_.Frame12.Visible = true;
+}
+
+}  // namespace zepril

@@ -1,0 +1,50 @@
+// The distance alarm: a station has come nearer to the operator than a set distance.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/main_window_controls.h"
+#include "core/state/alarms.h"
+#include "core/state/followed_station.h"
+#include "core/state/identity.h"
+#include "core/state/map_view.h"
+#include "core/station_record.h"
+
+namespace zepril {
+
+// Distance in km from the operator's position, in the plane of the map grid.
+double PlaneDistanceKm(const StationRecord& record, const MapViewState& map);
+
+// True when the class of `record` (0 to 4) is switched on in the mask: bits 0 to 4 stand for the
+// classes 2, 1, 0, 3, 4. Any other class counts as on.
+bool ClassIsOn(int station_class, int station_class_mask);
+
+class DistanceAlarm {
+ public:
+  DistanceAlarm(const AlarmState& alarm, const IdentityState& identity,
+                const FollowedStationState& followed, const MapViewState& map,
+                StatusControls& status, WindowControls& window);
+
+  // Alarm over all stations: when it and the station labels are on, the station's class is on, the
+  // station is neither the followed one nor the own, and nearer than the limit.
+  void TestAllStations(const StationRecord& record);
+  // Alarm of the followed station, when it is on.
+  void TestFollowed(const StationRecord& record);
+
+ private:
+  bool IsOwnCall(std::string_view call) const;
+  void Show(std::string_view opening, const StationRecord& record, double distance_km);
+
+  const AlarmState& alarm_;
+  const IdentityState& identity_;
+  const FollowedStationState& followed_;
+  const MapViewState& map_;
+  StatusControls& status_;
+  WindowControls& window_;
+};
+
+// "20YY-MM-DD HH:MM" of a record.
+std::string RecordTimeText(const StationRecord& record);
+
+}  // namespace zepril

@@ -1,0 +1,199 @@
+#include "reception/followed_history.h"
+
+#include <utility>
+
+#include "core/history_thinning.h"
+#include "core/text_fields.h"
+#include "reception/record_builder.h"
+#include "reception/station_logs.h"
+
+namespace zepril {
+
+std::string HistoryText(const std::vector<StationRecord>& records) {
+  std::string text;
+  text.reserve(records.size() * (StationRecord::kLength + 2));
+  for (const StationRecord& record : records) {
+    if (record.IsBlank()) continue;
+    text += record.RightTrimmed();
+    text += "\r\n";
+  }
+  return text;
+}
+
+FollowedHistory::FollowedHistory(const IdentityState& identity, StoresState& stores,
+                                 FollowedStationState& followed, MapViewState& map,
+                                 const GpsState& gps, Moni1Controls& moni1,
+                                 MapControls& map_controls, DistanceAlarm& alarm, Files& files,
+                                 SettingsActions& settings)
+    : identity_(identity),
+      stores_(stores),
+      followed_(followed),
+      map_(map),
+      gps_(gps),
+      moni1_(moni1),
+      map_controls_(map_controls),
+      alarm_(alarm),
+      files_(files),
+      settings_(settings) {}
+
+bool FollowedHistory::IsFollowed(std::string_view call) const {
+  return !call.empty() && EqualFolded(call, Trim(followed_.Moni1Call));
+}
+
+bool FollowedHistory::Enter(const StationRecord& record) {
+  StationStore& history = stores_.Moni1Records;
+  const StationRecord entry = HistoryRecord(record);
+
+  // The same place and text as last time: only date and time are renewed, so that a station that
+  // stands still does not fill its history.
+  const int count = history.Count();
+  if (count > 0 && history.At(count).Columns(13, 120) == entry.Columns(13, 120)) {
+    history.Set(count, entry);
+  } else {
+    history.Append(entry);
+  }
+
+  HoldCount();
+  Thin();
+  if (!WriteFile()) return false;
+  RefreshMonitorValues();
+  alarm_.TestFollowed(entry);
+  FollowOnMap();
+  return true;
+}
+
+// A full history loses its oldest thousand at once.
+void FollowedHistory::HoldCount() {
+  constexpr int kDroppedAtOnce = 1000;
+  if (stores_.Moni1Records.Count() > kMostHistoryLines) {
+    stores_.Moni1Records.Erase(1, kDroppedAtOnce);
+  }
+}
+
+// Thins a history that has outgrown its limit by a tenth down to eight tenths of it.
+void FollowedHistory::Thin() {
+  constexpr int kMostGapDays = 20;
+  StationStore& history = stores_.Moni1Records;
+  if (followed_.Moni1ThinningOn != 1 || history.Count() * 10 <= history.Limit * 11) return;
+  std::vector<StationRecord> records = history.All();
+  CutAtGap(records, kMostGapDays);
+  KeepReadable(records, kMostHistoryLines);
+  ThinByDistance(records, history.Limit * 0.8);
+  history.Assign(std::move(records));
+}
+
+// Without a GPS fix the map follows the station again, also after the operator has moved it.
+void FollowedHistory::FollowOnMap() {
+  if (gps_.GpsFixValid != 1 && gps_.GpsFixValidBefore != 1) {
+    map_.CentreFollow = 1;
+    map_controls_.Option1.Value = false;
+    map_controls_.Option2.Value = true;
+  }
+  map_.MapDrawn = false;
+}
+
+void FollowedHistory::RefreshMonitorValues() {
+  const StationStore& history = stores_.Moni1Records;
+  const StationRecord record = history.Count() > 0 ? history.At(history.Count()) : StationRecord();
+  followed_.MonitorDate = record.Date();
+  followed_.MonitorTime = record.Time();
+  followed_.MonitorNorthKm = record.NorthKm();
+  followed_.MonitorEastKm = record.EastKm();
+  followed_.MonitorHeardVia = record.HeardViaKey();
+  followed_.MonitorInfo = record.Info();
+  followed_.MonitorSymbol = record.Symbol();
+  followed_.MonitorSymbolText = record.SymbolText();
+  if (followed_.MonitorDate == "      ") followed_.MonitorDate.clear();
+  if (followed_.MonitorTime == "    ") followed_.MonitorTime.clear();
+}
+
+FollowedHistory::LoadedHistory FollowedHistory::Read() const {
+  LoadedHistory loaded;
+  files_.ReadLines(followed_.Moni1LogPath, [&loaded](std::string_view line) {
+    if (static_cast<int>(loaded.Records.size()) >= kMostHistoryLines) {
+      loaded.LinesLeftOut = true;
+      return false;
+    }
+    if (line.size() < StationRecord::kShortestLine || line.size() > StationRecord::kLongestLine) {
+      loaded.LinesLeftOut = loaded.LinesLeftOut || !line.empty();
+      return true;
+    }
+    loaded.Records.emplace_back(line);
+    return true;
+  });
+  return loaded;
+}
+
+// A station without a name has no file; its history is empty and valid.
+bool FollowedHistory::WriteFile() const {
+  if (Trim(followed_.Moni1Call).empty()) return true;
+  return files_.Replace(followed_.Moni1LogPath, HistoryText(stores_.Moni1Records.All()));
+}
+
+bool FollowedHistory::KeepCopy() const {
+  constexpr std::size_t kLargestCopied = 64u << 20;
+  const auto old = files_.ReadAll(followed_.Moni1LogPath, kLargestCopied);
+  return old.has_value() && files_.Replace(followed_.Moni1LogPath + ".BAK", *old);
+}
+
+void FollowedHistory::LoadAtStart() {
+  constexpr int kMostGapDays = 30;
+  followed_.Moni1LogPath = HistoryPath(identity_, followed_.Moni1Call);
+  stores_.Moni1Records.Clear();
+  if (!Trim(followed_.Moni1Call).empty()) {
+    if (!files_.Exists(followed_.Moni1LogPath)) files_.Append(followed_.Moni1LogPath, "");
+    LoadedHistory loaded = Read();
+    const bool cut = CutAtGap(loaded.Records, kMostGapDays);
+    stores_.Moni1Records.Assign(std::move(loaded.Records));
+    // What is dropped stays in a copy; without one the file is left alone.
+    if (cut && KeepCopy()) WriteFile();
+  }
+  RefreshMonitorValues();
+}
+
+void FollowedHistory::ChangeStation(const std::string& call) {
+  followed_.Moni1Call = call;
+  followed_.Moni1LogPath = HistoryPath(identity_, call);
+  stores_.Moni1Records.Clear();
+  if (!Trim(call).empty()) {
+    if (!files_.Exists(followed_.Moni1LogPath)) files_.Append(followed_.Moni1LogPath, "");
+    LoadedHistory loaded = Read();
+    stores_.Moni1Records.Assign(std::move(loaded.Records));
+    AppendFromAllStations();
+    if (!loaded.LinesLeftOut || KeepCopy()) WriteFile();
+  }
+  RefreshMonitorValues();
+  settings_.ReplaceConfigLine("CALL", call);
+}
+
+// Everything heard of the station since its newest record.
+void FollowedHistory::AppendFromAllStations() {
+  StationStore& history = stores_.Moni1Records;
+  const std::string newest(
+      history.Count() > 0 ? history.At(history.Count()).DateAndTime() : std::string_view{});
+  const StationStore& all = stores_.MoniAllRecords;
+  for (int index = 1; index <= all.Count(); ++index) {
+    const StationRecord& record = all.At(index);
+    if (!IsFollowed(record.Call()) || record.DateAndTime() <= newest) continue;
+    if (IsEmptyInternetRecord(record)) continue;
+    history.Append(HistoryRecord(record));
+    HoldCount();
+  }
+}
+
+// While the station's internet record is being collected, records of the area query without a text
+// would stand in its way.
+bool FollowedHistory::IsEmptyInternetRecord(const StationRecord& record) const {
+  const char source = record.Columns(91, 91).front();
+  return moni1_.Check22.Value == 1 && record.Info().empty() && source >= 'a' && source <= 'z';
+}
+
+bool FollowedHistory::WriteAndReadBack() {
+  if (!WriteFile()) return false;
+  if (Trim(followed_.Moni1Call).empty()) return true;
+  stores_.Moni1Records.Assign(Read().Records);
+  RefreshMonitorValues();
+  return true;
+}
+
+}  // namespace zepril

@@ -1,0 +1,44 @@
+// The log files of reception, under LOG in the folder of the map zone. Each is opened, written and
+// closed for every entry; lines end with CR LF.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/state/alarms.h"
+#include "core/state/identity.h"
+#include "core/station_record.h"
+#include "platform/files.h"
+
+namespace zepril {
+
+class StationLogs {
+ public:
+  StationLogs(const IdentityState& identity, Files& files) : identity_(identity), files_(files) {}
+
+  // Collected text of a pass as it came, no line end added. Each returns false when its file can't
+  // be written.
+  bool AppendRaw(std::string_view collected);
+  // A new record: the short line (columns 1-58, a blank, 90 to the end) to "_LOG_.TXT" and the whole
+  // record to "_LOGL_.TXT".
+  bool AppendRecord(const StationRecord& record);
+  // The block of seven lines of a station in emergency; `position_label` opens its fourth line.
+  bool AppendEmergency(const AlarmState& alarm, std::string_view position_label = "GLL     : ");
+
+  // Path of a file in the LOG folder, as the program writes paths.
+  std::string LogPath(std::string_view name) const;
+
+ private:
+  const IdentityState& identity_;
+  Files& files_;
+  std::string line_;
+};
+
+// Short line of a record, without its line end: 90 characters.
+std::string ShortLogLine(const StationRecord& record);
+
+// File of the history of `call` in the LOG folder of the map zone. Characters that a file name can't
+// hold, and a leading "_" that would make it one of the program's own logs, become "-".
+std::string HistoryPath(const IdentityState& identity, std::string_view call);
+
+}  // namespace zepril

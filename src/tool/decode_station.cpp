@@ -1,0 +1,209 @@
+#include "tool/decode_station.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/main_window_controls.h"
+#include "core/state/gps.h"
+#include "core/text_fields.h"
+#include "geodesy/conversions.h"
+
+namespace zepril {
+namespace {
+
+// The clock stands where it was set.
+class StandingClock final : public Clock {
+ public:
+  explicit StandingClock(const LocalTime& now) : now_(now) {}
+  LocalTime Now() const override { return now_; }
+  double SecondsSinceMidnight() const override {
+    return now_.Hour * 3600.0 + now_.Minute * 60.0 + now_.Second;
+  }
+  double MonotonicSeconds() const override { return 0.0; }
+  void Wait(double) override {}
+  void WaitPumping(double) override {}
+  void HandOver() override {}
+  std::int64_t LoopsPerSecond() override { return 0; }
+
+ private:
+  LocalTime now_;
+};
+
+// A serial line whose input is set by hand.
+class FedModem final : public SerialPort {
+ public:
+  bool Open(const std::string&, int) override { return true; }
+  void Close() override {}
+  bool IsOpen() const override { return true; }
+  void Write(std::string_view) override {}
+  std::string ReadAll() override { return std::exchange(Input, {}); }
+  std::size_t BytesToWrite() const override { return 0; }
+
+  std::string Input;
+};
+
+// An engine that hands out the monitored texts in its input, one after the other.
+class FedEngine final : public MonitorEngine {
+ public:
+  bool AGWStartPoll(std::string_view, std::string_view) override { return true; }
+  std::string AGWGetData() override {
+    constexpr std::size_t kLongestText = 4000;
+    const std::size_t pair = Input.find("\r\r");
+    if (pair == std::string::npos && Input.size() < kLongestText) return {};
+    const std::size_t length = std::min(pair == std::string::npos ? pair : pair + 2, kLongestText);
+    std::string text = Input.substr(0, length);
+    Input.erase(0, text.size());
+    return text;
+  }
+  bool AGWPutData(std::string_view, std::string_view) override { return false; }
+  void AGWClose() override {}
+
+  std::string Input;
+};
+
+// Keeps what is appended to the long log, lets everything else go.
+class LogKeeper final : public Files {
+ public:
+  std::optional<std::string> ReadAll(const std::string&, std::size_t) const override { return {}; }
+  std::optional<std::string> ReadRange(const std::string&, std::int64_t,
+                                       std::size_t) const override {
+    return {};
+  }
+  bool ReadLines(const std::string&, const LineReader&) const override { return false; }
+  bool Append(const std::string& path, std::string_view text) override {
+    if (path.ends_with("_LOGL_.TXT")) LongLog += text;
+    return true;
+  }
+  bool Write(const std::string&, std::string_view) override { return true; }
+  bool Replace(const std::string&, std::string_view) override { return true; }
+  bool Remove(const std::string&) override { return true; }
+  bool Rename(const std::string&, const std::string&) override { return true; }
+  bool MakeFolder(const std::string&) override { return true; }
+  std::optional<FileStamp> Stamp(const std::string&) const override { return {}; }
+  std::vector<FolderEntry> List(const std::string&, const std::string&) const override { return {}; }
+
+  std::string LongLog;
+};
+
+// Nobody looks, nobody answers.
+class NoActions final : public MapActions,
+                        public MessageActions,
+                        public EmergencyActions,
+                        public GateActions,
+                        public SettingsActions {
+ public:
+  void MapRedraw() override {}
+  void MapRefresh() override {}
+  void MessageReceived(std::string_view, std::string_view, std::string_view) override {}
+  void ShowEmergency() override {}
+  void GateMonitorBlock(std::string_view) override {}
+  void WriteConfigFromMainWindow() override {}
+  void ReplaceConfigLine(const std::string&, const std::string&) override {}
+};
+
+class NoDialogs final : public Dialogs {
+ public:
+  DialogAnswer Ask(const std::string&, const std::string&, DialogButtons,
+                   DialogAnswer default_answer) override {
+    return default_answer;
+  }
+};
+
+}  // namespace
+
+struct DecodeStation::Station {
+  explicit Station(const DecodeSettings& settings)
+      : TheClock(settings.Now),
+        Link(Radio, Reception, Internet, TheClock, Engine, Modem, Actions),
+        Distance(Alarms, Identity, Followed, Map, Controls.Status, Controls.Window),
+        History(Identity, Stores, Followed, Map, Gps, Controls.Moni1, Controls.Map, Distance, Logs,
+                Actions),
+        Browser(Stores, Map, Controls.Record, Controls.Map, History, Boxes, Actions),
+        Pass({Identity, Reception, Stores, Map, Alarms, Settings},
+             {Link, History, Browser, Distance, Actions, Actions, Actions}, Symbols, TheClock, Logs,
+             Timer1, nullptr) {
+    constexpr int kTickMilliseconds = 6000;
+    Timer1.Arm(kTickMilliseconds);
+    Identity.MyCallFull = settings.MyCallFull;
+    Identity.MyCall = settings.MyCallFull.substr(0, settings.MyCallFull.find('-'));
+    Identity.MapZoneName = "U" + ZeroPadded(settings.Zone, 2);
+    Map.MapCentralMeridian = UtmMeridianOfZone(settings.Zone);
+    Map.MapFalseEasting = kUtmFalseEasting;
+    Settings.UtcOffsetHours = settings.UtcOffsetHours;
+    Radio.RadioMode = settings.RadioMode;
+    Radio.AgwConnected = 1;
+    Stores.MoniAllRecords.Limit = settings.MoniAllLimit;
+    Stores.Moni1Records.Limit = settings.Moni1Limit;
+    Stores.LogsOn = 1;
+    // Nobody is followed: the long log holds all stations alike.
+    Followed.Moni1Call.clear();
+  }
+
+  void Feed(std::string_view bytes) {
+    switch (static_cast<RadioMode>(Radio.RadioMode)) {
+      case RadioMode::AgwLocal:
+        Engine.Input += bytes;
+        break;
+      case RadioMode::AgwRemote:
+        Radio.AgwRxBuffer += bytes;
+        break;
+      default:
+        Modem.Input += bytes;
+        break;
+    }
+  }
+
+  std::size_t Waiting() const {
+    return Engine.Input.size() + Modem.Input.size() + Radio.AgwRxBuffer.size() +
+           Reception.ScsRxBuffer.size() + Reception.RxBuffer.size();
+  }
+
+  IdentityState Identity;
+  RadioState Radio;
+  ReceptionState Reception;
+  StoresState Stores;
+  MapViewState Map;
+  AlarmState Alarms;
+  SettingsState Settings;
+  InternetState Internet;
+  FollowedStationState Followed;
+  GpsState Gps;
+  MainWindowControls Controls;
+  SymbolTable Symbols;
+  Timer Timer1{1};
+  StandingClock TheClock;
+  FedModem Modem;
+  FedEngine Engine;
+  LogKeeper Logs;
+  NoActions Actions;
+  NoDialogs Boxes;
+  Collector Link;
+  DistanceAlarm Distance;
+  FollowedHistory History;
+  RecordBrowser Browser;
+  ReceivePass Pass;
+};
+
+DecodeStation::DecodeStation(const DecodeSettings& settings)
+    : station_(std::make_unique<Station>(settings)) {}
+
+DecodeStation::~DecodeStation() = default;
+
+void DecodeStation::Receive(std::string_view bytes) {
+  station_->Feed(bytes);
+  station_->Pass.Run();
+}
+
+void DecodeStation::Drain() {
+  std::size_t waiting = 0;
+  do {
+    waiting = station_->Waiting();
+    station_->Pass.Run();
+  } while (station_->Waiting() != waiting);
+}
+
+std::string& DecodeStation::LongLog() { return station_->Logs.LongLog; }
+
+const ReceptionCounts& DecodeStation::Counts() const { return station_->Pass.Counts(); }
+
+}  // namespace zepril
