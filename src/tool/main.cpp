@@ -6,6 +6,7 @@
 
 #include "tool/arguments.h"
 #include "tool/decode_command.h"
+#include "tool/render_command.h"
 
 namespace {
 
@@ -18,6 +19,7 @@ struct Command {
 // Every command of the tool; a new one is a row here.
 constexpr Command kCommands[] = {
     {"decode", zepril::kDecodeHelp, zepril::RunDecode},
+    {"render", zepril::kRenderHelp, zepril::RunRender},
 };
 
 int PrintUsage() {
