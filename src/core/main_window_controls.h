@@ -15,6 +15,7 @@ struct WindowControls {
   PointerShape Pointer = PointerShape::Default;
   int WidthPx = 1280;
   int HeightPx = 800;
+  int SidePanelWidthPx = 121;
   bool MaximiseWanted = false;  // taken and cleared by the desktop
 };
 
@@ -116,6 +117,7 @@ struct RecordPanelControls {
   Button Command40;  // WX panel
   Button Command36;  // highlight
   Button Command23;  // close
+  Frame Frame8;      // picture panel
 };
 
 // Transmission switches.
@@ -156,8 +158,7 @@ struct QthSetupControls {
   Frame Frame2;
   TextBox TextQthNorth;  // km
   TextBox TextQthEast;   // km
-  Button QthFromCentre;  // takes the map centre
-  Button QthOk;
+  Button QthOk;          // takes the map centre as own position
   Button Command22;      // CANCEL
 };
 

@@ -1,9 +1,17 @@
 // Internet databases, the gateway link, space-weather numbers.
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <string>
 
 namespace zepril {
+
+// A line that went through the gate, and when, in seconds of the local calendar.
+struct GatedLine {
+  std::string Text;
+  std::int64_t Seconds = 0;
+};
 
 struct InternetState {
   std::string AprsIsServer;
@@ -12,6 +20,7 @@ struct InternetState {
   int IGateConnected = 0;
   std::string AprsIsPasscode = "0";
   std::string AprsIsRxBuffer;
+  std::array<GatedLine, 5> RecentlyGated;  // newest last
 
   double InetSwitchTime = 0.0;  // timer value of the last operation of an internet switch
   double InetMaxOnSeconds = 900.0;

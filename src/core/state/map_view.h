@@ -60,6 +60,8 @@ struct MapViewState {
   bool MapSavedThisRun = false;  // missing tiles are white from the first saved map on
   int MapLockedOnRecord = 0;     // the centre button reads "MAP L"
   bool ManualMapMove = false;    // set by a press on the map, read by the GPS room
+  bool LookupHit = false;        // the last right press found something
+  int SelectedPicture = 0;       // 1-based index into PictureNames of the picture shown
   double ClickNorthKm = 0.0;
   double ClickEastKm = 0.0;
 

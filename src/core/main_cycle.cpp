@@ -1,0 +1,322 @@
+#include "core/main_cycle.h"
+
+#include <cmath>
+
+#include "core/text_fields.h"
+#include "core/title_line.h"
+
+namespace zepril {
+namespace {
+
+constexpr std::uint32_t kCollectingMoni1 = 0x00C000;
+constexpr std::uint32_t kCollectingMoniAll = 0xFF80E0;
+constexpr double kEmergencyReturnSeconds = 30.0;
+constexpr double kIonoSeconds = 3600.0;
+constexpr int kChatPassTicks = 30 / 6;
+constexpr int kPanelWidthTwips = 1815;
+
+}  // namespace
+
+MainCycle::MainCycle(RuntimeState& state, MainWindowControls& controls, Clock& clock,
+                     DesktopActions& desktop, Timer& timer1, Timer& timer2, TickActions& actions,
+                     MapActions& map)
+    : state_(state),
+      controls_(controls),
+      clock_(clock),
+      desktop_(desktop),
+      timer1_(timer1),
+      timer2_(timer2),
+      actions_(actions),
+      map_(map) {}
+
+void MainCycle::Tick() {
+  if (in_tick_) return;
+  in_tick_ = true;
+  RunSteps();
+  in_tick_ = false;
+}
+
+void MainCycle::RunSteps() {
+  // The link to the APRS-IS server.
+  PollAprsIs();
+  // What the title tells of gateway and digipeater.
+  RenewTitle();
+  LookForCompanion();
+  // Scan of all followed stations over the internet.
+  if (CountScan() == Outcome::EndTick) return;
+  // Status line.
+  RenewStatusLine();
+  // Control to the window system once.
+  clock_.HandOver();
+  // Is the main window the active one?
+  state_.Settings.WindowActive = desktop_.MainWindowActive();
+  // An SCS TNC on two modes listens on the second one too.
+  if (state_.Radio.RadioMode == static_cast<int>(RadioMode::ScsTnc) && state_.Radio.HfDualOn == 1) {
+    actions_.KeepSecondModeMonitored();
+  }
+  // A call typed into the MONI 1 field.
+  if (FollowCallField() == Outcome::EndTick) return;
+  // Raw list: the newest row is selected and shown.
+  SelectLastRawLine();
+  // A pending emergency comes back after a while.
+  BringEmergencyBack();
+  // Web services are switched off a quarter of an hour after they were switched on.
+  LimitInternetTime();
+  // Identification of digipeater and gateway.
+  if (Identify() == Outcome::EndTick) return;
+  // Hourly ionosphere update.
+  if (UpdateIonosphere() == Outcome::EndTick) return;
+  // Internet collection for MONI 1, then for MONI ALL.
+  if (CollectMoni1() == Outcome::EndTick) return;
+  if (CollectMoniAll() == Outcome::EndTick) return;
+  // The map, when it is not drawn.
+  timer1_.Stop();
+  RedrawWhenStale();
+  // What is due to transmit: chat, object, beacon.
+  DecideWhatIsDue();
+  // The next tick comes later when something is transmitted.
+  SetInterval();
+  // GPS.
+  if (GpsIsPolled()) actions_.PollGps();
+  // Reception.
+  if (state_.Radio.RadioMode != static_cast<int>(RadioMode::None)) actions_.RunReceivePass();
+  // Transmission.
+  Transmit();
+}
+
+bool MainCycle::GateMode() const {
+  const int mode = state_.Radio.RadioMode;
+  return mode == static_cast<int>(RadioMode::AgwLocal) ||
+         mode == static_cast<int>(RadioMode::Pk232) ||
+         mode == static_cast<int>(RadioMode::ScsTnc) || mode == static_cast<int>(RadioMode::ScsPtc);
+}
+
+void MainCycle::PollAprsIs() {
+  if (Val(state_.Internet.AprsIsPasscode) > 0.0 && GateMode()) actions_.PollAprsIsLink();
+}
+
+void MainCycle::RenewTitle() {
+  std::string& title = state_.Settings.TitleText;
+  InternetState& internet = state_.Internet;
+  if (internet.IGateConnected == 0) {
+    BlankInTitle(title, internet.IGateOn == 1 ? 82 : 76, 90);
+  } else {
+    PutInTitle(title, 76, internet.IGateOn == 1 ? "IGate connected" : "      connected");
+    // Recently gated lines age by one place.
+    auto& lines = internet.RecentlyGated;
+    for (std::size_t at = 0; at + 1 < lines.size(); ++at) lines[at] = lines[at + 1];
+    lines.back() = {};
+  }
+}
+
+void MainCycle::LookForCompanion() {
+  if (state_.Radio.RadioMode == static_cast<int>(RadioMode::AgwLocal)) {
+    const bool found = desktop_.WindowExists("AGWuidigi");
+    state_.Radio.DigiOn = found ? 1 : 0;
+    if (found) {
+      PutInTitle(state_.Settings.TitleText, 61, "Digi: AGWUI");
+    } else {
+      BlankInTitle(state_.Settings.TitleText, 61, 71);
+    }
+  }
+  controls_.Window.Title = std::string(Trim(state_.Settings.TitleText));
+}
+
+MainCycle::Outcome MainCycle::CountScan() {
+  if (state_.Internet.Moni1ScanOn != 1) return Outcome::GoOn;
+  KeepPanelWidths();
+  --state_.Internet.Moni1ScanTicks;
+  if (state_.Internet.Moni1ScanTicks != 0) return Outcome::GoOn;
+  actions_.RunScanSwitchHandler();
+  return Outcome::EndTick;
+}
+
+void MainCycle::RenewStatusLine() {
+  std::string line = " " + ClockText();
+  if (state_.Radio.RadioMode != static_cast<int>(RadioMode::None)) {
+    line = state_.Radio.BaudModeLabel + "  " + line;
+  }
+  // Kept: column 6 of the finished line, whatever stands there.
+  if (state_.Gps.ClockSetFromGps == 1) line[5] = '!';
+  controls_.Status.Label15.Caption = line;
+}
+
+MainCycle::Outcome MainCycle::FollowCallField() {
+  const ComboBox& field = controls_.Moni1.Combo9;
+  const std::string typed = Upper(Trim(field.Text));
+  if (typed.empty() && field.HasFocus) return Outcome::GoOn;
+  if (typed == Upper(Trim(state_.Followed.Moni1Call))) return Outcome::GoOn;
+  actions_.ChangeFollowedStation();
+  return Outcome::EndTick;
+}
+
+void MainCycle::SelectLastRawLine() {
+  ListBox& list = controls_.Raw.RawList;
+  list.ListIndex = state_.Reception.RawLineCount;
+  list.TopIndex = state_.Reception.RawLineCount;
+}
+
+void MainCycle::BringEmergencyBack() {
+  if (state_.Alarms.AlarmCall.empty()) return;
+  const double closed_for = clock_.MonotonicSeconds() - state_.Alarms.AlarmClosedAt;
+  if (std::fabs(closed_for) > kEmergencyReturnSeconds) actions_.ShowEmergencyPanel();
+}
+
+void MainCycle::LimitInternetTime() {
+  // Kept: the timer value falls to 0 at midnight, and support switched on before it ends then.
+  const double on_for = clock_.SecondsSinceMidnight() - state_.Internet.InetSwitchTime;
+  if (std::fabs(on_for) <= state_.Internet.InetMaxOnSeconds) return;
+  controls_.MoniAll.Check23.Value = 0;
+  controls_.Moni1.Check22.Value = 0;
+  if (state_.Radio.RadioMode == static_cast<int>(RadioMode::None)) {
+    controls_.Transmit.Check7.Value = 0;
+  }
+}
+
+MainCycle::Outcome MainCycle::Identify() {
+  if (state_.Radio.DigiOn != 1 && state_.Internet.IGateConnected != 1) return Outcome::GoOn;
+  if (!GateMode()) return Outcome::GoOn;
+  // The third character spreads the stations over the hour; a letter reads as 0.
+  const int offset = static_cast<int>(Val(Mid(state_.Identity.MyCall, 3, 1)));
+  const std::string time = ClockText();
+  const int minute = clock_.Now().Minute;
+  if ((minute - offset) % 20 != 0 || time == state_.Transmission.LastIdBeaconTime) {
+    return Outcome::GoOn;
+  }
+  actions_.SendIdentification();
+  state_.Transmission.LastIdBeaconTime = time;
+  return Outcome::EndTick;
+}
+
+MainCycle::Outcome MainCycle::UpdateIonosphere() {
+  if (state_.Internet.IonoAutoOn != 1) return Outcome::GoOn;
+  const double now = clock_.SecondsSinceMidnight();
+  if (std::fabs(now - state_.Internet.LastIonoTimer) <= kIonoSeconds) return Outcome::GoOn;
+  controls_.Status.IonoLabel.Caption = "UPDATING...";
+  state_.Internet.LastIonoTimer = now;
+  actions_.StartIonoUpdate();
+  return Outcome::EndTick;
+}
+
+MainCycle::Outcome MainCycle::CollectMoni1() {
+  if (controls_.Moni1.Check22.Value != 1) return Outcome::GoOn;
+  const int share = 1 + controls_.MoniAll.Check23.Value;
+  const bool minute_come = ClockHhMm() / share != state_.Internet.LastMoni1InternetMinute / share;
+  if (state_.Internet.Moni1ScanOn == 0 && !minute_come) return Outcome::GoOn;
+  ShowCollecting("COLLECTING INTERNET DATA (MONI 1) ...", kCollectingMoni1);
+  actions_.FetchMoni1();
+  return Outcome::EndTick;
+}
+
+MainCycle::Outcome MainCycle::CollectMoniAll() {
+  if (controls_.MoniAll.Check23.Value != 1 || state_.Internet.Moni1ScanOn != 0) {
+    return Outcome::GoOn;
+  }
+  if (ClockHhMm() / 4 == state_.Internet.LastMoniAllInternetMinute / 4) return Outcome::GoOn;
+  ShowCollecting("COLLECTING INTERNET DATA (MONI ALL) ...", kCollectingMoniAll);
+  actions_.FetchMoniAll();
+  return Outcome::EndTick;
+}
+
+void MainCycle::ShowCollecting(const char* text, std::uint32_t colour) {
+  timer1_.Stop();
+  controls_.Window.Pointer = PointerShape::Hourglass;
+  controls_.Map.Picture1.Pointer = PointerShape::Hourglass;
+  controls_.Status.Text10.Caption = text;
+  controls_.Status.Text10.BackColour = colour;
+  controls_.Status.Text10.Visible = true;
+  clock_.HandOver();
+}
+
+void MainCycle::RedrawWhenStale() {
+  controls_.Transmit.Frame7.Visible = false;
+  if (!state_.Map.MapDrawn) map_.MapRedraw();
+  KeepPanelWidths();
+}
+
+void MainCycle::DecideWhatIsDue() {
+  TransmissionState& due = state_.Transmission;
+  due.ChatDue = false;
+  due.ObjectDue = false;
+  due.BeaconDue = false;
+  DecideChat();
+  DecideObjectAndBeacon();
+}
+
+void MainCycle::DecideChat() {
+  if (controls_.Transmit.Check7.Value != 1) return;
+  int& countdown = state_.Chat.ChatPollCountdown;
+  if (!state_.Chat.ChatTxText.empty()) countdown = 0;
+  if (countdown <= 0) {
+    state_.Transmission.ChatDue = true;
+    countdown = kChatPassTicks;
+  }
+  --countdown;
+}
+
+void MainCycle::DecideObjectAndBeacon() {
+  TransmissionState& due = state_.Transmission;
+  if (due.TxIntervalMinutes <= 0 || due.ChatDue || controls_.Transmit.Check6.Value != 1 ||
+      state_.Radio.RadioMode == static_cast<int>(RadioMode::None)) {
+    return;
+  }
+  const std::int64_t now = SecondsOf(clock_.Now());
+  const std::int64_t interval = 60LL * due.TxIntervalMinutes;
+  if (controls_.Transmit.Check18.Value == 1 && now - due.LastObjectTime > 2 * interval) {
+    due.ObjectDue = true;
+  }
+  if (!due.ObjectDue && now - due.LastBeaconTime > interval) due.BeaconDue = true;
+}
+
+void MainCycle::SetInterval() {
+  const TransmissionState& due = state_.Transmission;
+  const bool transmits = due.ChatDue || due.ObjectDue || due.BeaconDue;
+  timer1_.Arm(state_.Settings.TickMilliseconds * (transmits ? 2 : 1));
+}
+
+bool MainCycle::GpsIsPolled() const {
+  const std::string& source = state_.Gps.NmeaSource;
+  if (Val(source) != 0.0) return true;
+  return source.size() > 3 && InStr(Upper(source), "SAVE") == 0;
+}
+
+void MainCycle::Transmit() {
+  TransmissionState& due = state_.Transmission;
+  if (due.ChatDue) actions_.RunChatPass();
+  if (state_.Radio.RadioMode == static_cast<int>(RadioMode::None)) return;
+  if (due.ObjectDue && due.ObjectTxOn == 1) {
+    actions_.SendObjectReport();
+    due.LastObjectTime = SecondsOf(clock_.Now());
+  }
+  if (due.BeaconDue) {
+    actions_.SendBeacon();
+    due.LastBeaconTime = SecondsOf(clock_.Now());
+  }
+}
+
+void MainCycle::KeepPanelWidths() {
+  controls_.Window.SidePanelWidthPx = kPanelWidthTwips / state_.Settings.PanelWidthUnit;
+}
+
+int MainCycle::ClockHhMm() const {
+  const LocalTime now = clock_.Now();
+  return now.Hour * 100 + now.Minute;
+}
+
+std::string MainCycle::ClockText() const {
+  const LocalTime now = clock_.Now();
+  return ZeroPadded(now.Hour, 2) + ":" + ZeroPadded(now.Minute, 2);
+}
+
+void MainCycle::Timer2Elapsed() {
+  timer2_.Stop();
+  timer1_.Enable();
+  if (!controls_.Status.Text10.Visible) return;
+  // The banner still stands: the fetch has failed.
+  controls_.Moni1.Check22.Value = 0;
+  controls_.Status.Text10.Visible = false;
+  controls_.Window.Pointer = PointerShape::Default;
+  controls_.Map.Picture1.Pointer = PointerShape::Default;
+}
+
+}  // namespace zepril

@@ -1,0 +1,158 @@
+#include "core/main_window_captions.h"
+
+#include <initializer_list>
+
+namespace zepril {
+namespace {
+
+struct ToolTipRow {
+  Control& Subject;
+  const char* English;
+};
+
+void SetMapToolTips(MainWindowControls& c, const char* (*pick)(const char*)) {
+  const ToolTipRow rows[] = {
+      {c.Map.Command72, "Background map: normal-dark-bright / Rclick: Show palette (16-inks)"},
+      {c.Palette.Command42, "No ink chosen"},
+      {c.Palette.Command43, "Reset and close palette"},
+      {c.Map.Option1, "Recenters map to USER QTH / Rclick: USER QTH SETUP"},
+      {c.Map.Option2, "Recenters map to MONI 1 QTH"},
+      {c.Map.Command1, "Zooming out to the next scale level"},
+      {c.Map.Command2, "Zooming in to the next scale level"},
+      {c.Map.Command7, "Zooming out factor 2"},
+      {c.Map.Command8, "Zooming in factor 2"},
+      {c.Map.Command9, "Zoom factor 1"},
+      {c.Map.Command12, "Centers map to the record shown / Rclick: Next scale level"},
+      {c.Map.Picture1, "POI, TRK, PIC, STN, SUN"},
+      {c.Readouts.Label1, "Shows map center coordinates / Lclick switches different coordinate systems"},
+      {c.Readouts.Label2, "Shows map center coordinates / Lclick switches different coordinate systems"},
+      {c.Readouts.Label3, "Shows cursor coordinates / Lclick switches different coordinate systems"},
+      {c.Readouts.Label4, "Shows cursor coordinates / Lclick switches different coordinate systems"},
+      {c.Readouts.Label7, "Shows MONI 1 coordinates / Lclick switches different coordinate systems / Rclick: Records"},
+      {c.Readouts.Label8, "Shows MONI 1 coordinates / Lclick switches different coordinate systems / Rclick: Records"},
+      {c.Readouts.Label11, "Distance, direction, speed and path of MONI 1"},
+      {c.Scales.Command5, "Show tile frames of all scales"},
+      {c.Scales.Command6, "Hide all tile frames"},
+      {c.Scales.Command37, "Scan the map folders again"},
+  };
+  for (const ToolTipRow& row : rows) row.Subject.ToolTip = pick(row.English);
+  for (ComboBox& folder : c.Scales.Folder) folder.ToolTip = pick("Select the map folder of this scale");
+  for (CheckBox& box : c.Scales.FrameBox) {
+    box.ToolTip = pick("Show tile frames / filled: a tile lies under the map center");
+  }
+}
+
+void SetStationToolTips(MainWindowControls& c, const char* (*pick)(const char*)) {
+  const ToolTipRow rows[] = {
+      {c.Moni1.Combo9, "Call of the station that is followed / Enter: follow"},
+      {c.Moni1.Label6, "Count of MONI 1 records"},
+      {c.Moni1.Label17, "Size of the MONI 1 history"},
+      {c.Moni1.Label9, "Date and time of the last MONI 1 record"},
+      {c.Moni1.Label10, "Text of the last MONI 1 record"},
+      {c.Moni1.Command17, "Track style of MONI 1"},
+      {c.Moni1.Check1, "Distance alarm for MONI 1"},
+      {c.MoniAll.Command13,
+       "Labels: 0 / marks / + call / + text / symbols + call / symbols + text / WX / Rclick: Back"},
+      {c.MoniAll.Label16, "Label level"},
+      {c.MoniAll.Check10, "Show network stations"},
+      {c.MoniAll.Check11, "Show fixed stations"},
+      {c.MoniAll.Check13, "Show moving stations / third state: only if moved"},
+      {c.MoniAll.Check19, "Show special stations"},
+      {c.MoniAll.Check25, "Show weather stations"},
+      {c.MoniAll.Check24, "Show directly heard stations only"},
+      {c.MoniAll.Check3, "Distance alarm for all stations"},
+      {c.MoniAll.Label5, "Size of the MONI ALL list"},
+      {c.MoniAll.Text15, "Call to find on the map"},
+      {c.MoniAll.Command14, "Highlight this call on the map"},
+      {c.MoniAll.Command3, "List of heard stations"},
+      {c.Raw.Command57, "Raw packets"},
+      {c.Raw.Text14, "Text to search in the raw packets"},
+      {c.Raw.Command38, "Search upwards"},
+      {c.Record.Frame1, "Station record"},
+      {c.Record.Command11, "Follow this station (MONI 1)"},
+      {c.Record.Command18, "Previous record / cut older positions"},
+      {c.Record.Command19, "Next record / cut newer positions"},
+      {c.Record.Command23, "Close"},
+      {c.Record.Command36, "Highlight this station"},
+      {c.Qth.QthOk, "Take the map center as USER QTH"},
+      {c.Qth.TextQthNorth, "North in km / Enter: center the map there"},
+      {c.Qth.TextQthEast, "East in km / Enter: center the map there"},
+  };
+  for (const ToolTipRow& row : rows) row.Subject.ToolTip = pick(row.English);
+}
+
+void HidePanels(MainWindowControls& c) {
+  for (Control* panel : std::initializer_list<Control*>{
+           &c.Record.Frame1, &c.Record.Frame8, &c.Transmit.Frame3, &c.Transmit.Frame7,
+           &c.Status.Text10, &c.Status.Frame12, &c.Status.Frame14, &c.Qth.Frame2,
+           &c.Palette.PalettePanel, &c.MoniAll.HeardPanel, &c.Map.PictureBase, &c.Raw.RawList}) {
+    panel->Visible = false;
+  }
+}
+
+// What a later capability brings has its place in the logic already, and none on the window yet.
+void HideWhatIsNotThereYet(MainWindowControls& c) {
+  for (Control* control : std::initializer_list<Control*>{
+           &c.Map.Check4, &c.Map.Check9, &c.Map.Check12, &c.Map.Check14, &c.Map.Command73,
+           &c.Map.Command59, &c.Moni1.Check22, &c.Moni1.Check27, &c.MoniAll.Check23,
+           &c.Record.Command10, &c.Record.Command41, &c.Record.Command40, &c.Transmit.Check6,
+           &c.Transmit.Check18, &c.Transmit.Check7, &c.Transmit.Check8, &c.Transmit.Check16,
+           &c.Transmit.Check15, &c.Transmit.Check2, &c.Transmit.Text2, &c.Transmit.Text3,
+           &c.Status.IonoLabel}) {
+    control->Visible = false;
+  }
+}
+
+}  // namespace
+
+void SetInitialControls(MainWindowControls& c) {
+  HidePanels(c);
+  HideWhatIsNotThereYet(c);
+  c.Map.Command1.Caption = "<";
+  c.Map.Command2.Caption = ">";
+  c.Map.Command7.Caption = "-";
+  c.Map.Command9.Caption = "1";
+  c.Map.Command8.Caption = "+";
+  c.Map.Command12.Caption = "MAP";
+  c.Map.Option1.Caption = "OWN";
+  c.Map.Option2.Caption = "MONI 1";
+  c.Map.Command72.Caption = "DIM";
+  c.Moni1.Command17.Caption = "TRACK 0";
+  c.Moni1.Check1.Caption = "ALARM";
+  c.MoniAll.Command13.Caption = "LABELS";
+  c.MoniAll.Label16.Caption = "3";
+  c.MoniAll.Check10.Caption = "NET";
+  c.MoniAll.Check11.Caption = "FIX";
+  c.MoniAll.Check13.Caption = "MOV";
+  c.MoniAll.Check19.Caption = "SPEC";
+  c.MoniAll.Check25.Caption = "WX";
+  c.MoniAll.Check24.Caption = "DIRECT";
+  c.MoniAll.Check3.Caption = "ALARM";
+  c.MoniAll.Command14.Caption = "FIND";
+  c.MoniAll.Command3.Caption = "STATIONS ...";
+  c.Raw.Command57.Caption = "RAW";
+  c.Raw.Command38.Caption = "SEARCH";
+  c.Record.Command11.Caption = "MONI 1";
+  c.Record.Command36.Caption = "FIND";
+  c.Record.Command23.Caption = "CLOSE";
+  c.Scales.Command5.Caption = "ALL";
+  c.Scales.Command6.Caption = "NONE";
+  c.Scales.Command37.Caption = "SCAN";
+  c.Palette.Command42.Caption = "NO INK";
+  c.Palette.Command43.Caption = "CLOSE";
+  c.Qth.QthOk.Caption = "OK";
+  SetMainWindowLabels(c, 11);
+}
+
+void SetMainWindowLabels(MainWindowControls& c, int language) {
+  c.Qth.Frame2.Caption = "USER QTH SETUP: CENTER THE MAP TO YOUR QTH!";
+  c.Qth.Command22.Caption = "CANCEL";
+  // Tool tips are shown with a ten in the number and stay blank without.
+  const bool tool_tips = language / 10 == 1;
+  const auto shown = [](const char* text) { return text; };
+  const auto blank = [](const char*) { return ""; };
+  SetMapToolTips(c, tool_tips ? +shown : +blank);
+  SetStationToolTips(c, tool_tips ? +shown : +blank);
+}
+
+}  // namespace zepril

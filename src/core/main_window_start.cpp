@@ -1,0 +1,163 @@
+#include "core/main_window_start.h"
+
+#include <algorithm>
+
+#include "core/text_fields.h"
+#include "core/title_line.h"
+
+namespace zepril {
+namespace {
+
+constexpr int kHistoryGapDays = 30;
+
+}  // namespace
+
+int TxAllowedOf(std::string_view call) {
+  const std::string_view third = Mid(call, 3, 1);
+  return !third.empty() && IsDigit(third.front()) ? 1 : 0;
+}
+
+bool IsPicturePlace(double km) { return Right(ShortNumber(km), 4) == ".499"; }
+
+MainWindowStart::MainWindowStart(RuntimeState& state, MainWindowControls& controls, Clock& clock,
+                                 Timer& timer1, StartActions& actions)
+    : state_(state), controls_(controls), clock_(clock), timer1_(timer1), actions_(actions) {}
+
+bool MainWindowStart::Run(const std::string& program_folder, int colour_depth_bits) {
+  // Version, folder, screen.
+  state_.Identity.ProgramVersion = "8.08";
+  state_.Identity.ProgramFolder = program_folder;
+  state_.Map.ColourDepthBits = colour_depth_bits;
+  // Switches, store limits by the speed of the computer, defaults.
+  SetDefaults();
+  // Settings of the operator; names that follow from them.
+  actions_.ReadConfig();
+  actions_.SetOwnNames();
+  state_.Settings.TitleText = BaseTitle(state_.Identity.ProgramVersion, state_.Identity.MyCallFull);
+  // Panels and maps.
+  actions_.LayOutPanels();
+  actions_.ScanMapLibrary();
+  // History of the followed station, and where the map looks.
+  actions_.LoadHistory(kHistoryGapDays);
+  SetView();
+  // The rhythm, then the radio link.
+  state_.Settings.TickMilliseconds = 6000;
+  if (!OpenLink()) return false;
+  ApplyTxAllowed();
+  state_.Reception.RxBuffer = "\n";
+  // GPS, tracks, places, chat.
+  actions_.OpenGpsPort();
+  actions_.RestoreTracksPlacesAndChat();
+  controls_.Transmit.Check16.Value = state_.Chat.AutoAnswerOn;
+  // Gateway.
+  SetIGateSwitch();
+  actions_.ShowTitleMarkers();
+  // Ionosphere and internet; the main cycle begins.
+  if (state_.Internet.IonoAutoOn == 1) actions_.StartIonoUpdate();
+  state_.Internet.LastMoni1InternetMinute = -5000;
+  state_.Internet.LastMoniAllInternetMinute = 0;
+  timer1_.Arm(state_.Settings.TickMilliseconds);
+  // Labels and the first picture.
+  ShowFirstPicture();
+  // The terminal window, if open, and the second radio mode.
+  actions_.RunTerminalHandler();
+  state_.Radio.HfDualOn = controls_.Transmit.Check2.Value;
+  return true;
+}
+
+void MainWindowStart::SetDefaults() {
+  state_.Map.StationClassMask = 31;
+  state_.Followed.Moni1AlarmOn = 1;
+  state_.Radio.RadioMode = 0;
+  const StoreLimits limits = LimitsOfSpeed(clock_.LoopsPerSecond());
+  state_.Stores.MoniAllRecords.Limit = limits.MoniAllLimit;
+  state_.Stores.Moni1Records.Limit = limits.Moni1Limit;
+  state_.Identity.MapZoneName = "U33";
+  state_.Identity.MapsPath = R"(C:\ZEPRIL)";
+  state_.Gps.NmeaBaud = "4800";
+  RadioState fresh;
+  fresh.HfDualOn = state_.Radio.HfDualOn;
+  state_.Radio = fresh;
+  state_.Followed.Moni1Call = "QX7KB";
+  state_.Reception.SymbolIndex = 37;
+  state_.Alarms.AlarmDistanceKm = 10;
+  state_.Transmission.InfoLineActive.fill(1);
+  state_.Settings.Language = 11;
+}
+
+void MainWindowStart::SetView() {
+  MapViewState& map = state_.Map;
+  if (IsPicturePlace(map.CentreNorthKm) && IsPicturePlace(map.CentreEastKm)) {
+    // The last centre was a picture's place: the map opens there.
+    map.CentreFollow = 0;
+  } else {
+    map.CentreFollow = state_.Stores.Moni1Records.Count() > 0 ? 1 : 0;
+  }
+  controls_.Map.Option1.Value = false;
+  controls_.Map.Option2.Value = map.CentreFollow == 1;
+  if (map.CentreNorthKm == 0.0 && map.CentreEastKm == 0.0) {
+    map.CentreNorthKm = 6600.0;
+    map.CentreEastKm = 400.0;
+  }
+}
+
+bool MainWindowStart::OpenLink() {
+  switch (static_cast<RadioMode>(state_.Radio.RadioMode)) {
+    case RadioMode::AgwLocal:
+      actions_.OpenLocalEngine();
+      return true;
+    case RadioMode::Pk232:
+    case RadioMode::ScsTnc:
+    case RadioMode::ScsPtc:
+      actions_.OpenSerialModem();
+      return true;
+    case RadioMode::AgwRemote:
+      return actions_.ConnectAgw();
+    case RadioMode::None:
+      for (CheckBox* box : {&controls_.Transmit.Check6, &controls_.Transmit.Check16}) {
+        box->Enabled = false;
+        box->Visible = false;
+      }
+      return true;
+  }
+  return true;  // any other number collects nothing
+}
+
+void MainWindowStart::ApplyTxAllowed() {
+  state_.Identity.TxAllowed = TxAllowedOf(state_.Identity.MyCall);
+  if (state_.Identity.TxAllowed == 1) return;
+  TransmitControls& transmit = controls_.Transmit;
+  transmit.Check8.Value = 1;
+  transmit.Check8.Enabled = false;
+  transmit.Check16.Enabled = false;
+  transmit.Check16.Visible = false;
+  transmit.Text2.Visible = false;
+  transmit.Text3.Visible = false;
+  transmit.Check15.Value = 0;
+  transmit.Check15.Enabled = false;
+}
+
+void MainWindowStart::SetIGateSwitch() {
+  CheckBox& box = controls_.Transmit.Check15;
+  if (state_.Internet.AprsIsPasscode == "0") {
+    state_.Internet.IGateOn = 0;
+    box.Enabled = false;
+    box.Visible = false;
+  } else if (state_.Identity.TxAllowed == 1) {
+    box.Enabled = true;
+    box.Visible = true;
+  }
+  box.Value = state_.Identity.TxAllowed == 1 ? state_.Internet.IGateOn : 0;
+}
+
+void MainWindowStart::ShowFirstPicture() {
+  state_.Alarms.AlarmDistanceKm = std::max(state_.Alarms.AlarmDistanceKm, 1);
+  actions_.SetLabels();
+  actions_.ShowAndDrawMap();
+  const bool no_user_position = state_.Map.OwnNorthKm == 0.0 && state_.Map.OwnEastKm == 0.0;
+  const bool no_monitor_position =
+      state_.Followed.MonitorNorthKm == 0.0 && state_.Followed.MonitorEastKm == 0.0;
+  if (no_user_position && no_monitor_position) controls_.Qth.Frame2.Visible = true;
+}
+
+}  // namespace zepril

@@ -1,0 +1,52 @@
+// The packet engine on this computer (`RadioMode` 0): the program's four polled operations, spoken
+// over the engine's TCP interface on 127.0.0.1, port 8000. To the rest of the program there is no
+// difference. An engine that is not there, or goes away, is tried again quietly every ten seconds.
+#pragma once
+
+#include <deque>
+#include <string>
+
+#include "core/state/radio.h"
+#include "core/timer.h"
+#include "links/agw_stream.h"
+#include "platform/clock.h"
+#include "platform/monitor_engine.h"
+#include "platform/tcp_socket.h"
+
+namespace zepril {
+
+class AgwLocal final : public MonitorEngine {
+ public:
+  static constexpr int kEnginePort = 8000;
+  static constexpr std::size_t kMostWaitingFrames = 500;
+  static constexpr std::size_t kLongestText = 4000;
+
+  AgwLocal(RadioState& radio, TcpSocket& socket, Clock& clock, Timer& reopen_timer);
+
+  bool AGWStartPoll(std::string_view application, std::string_view call) override;
+  std::string AGWGetData() override;
+  bool AGWPutData(std::string_view header, std::string_view text) override;
+  void AGWClose() override;
+
+  bool LinkIsUp() const { return socket_.State() == SocketState::Connected; }
+  void ReopenElapsed();
+  // Another port than the usual one, for engines of tests.
+  void UsePort(int port) { port_ = port; }
+
+ private:
+  void Register();
+  void FrameArrived(std::string_view frame);
+
+  RadioState& radio_;
+  TcpSocket& socket_;
+  Clock& clock_;
+  Timer& reopen_timer_;
+  AgwStream stream_;
+  std::deque<std::string> waiting_;
+  std::string call_;
+  int port_ = kEnginePort;
+  bool opened_ = false;
+  bool registered_ = false;
+};
+
+}  // namespace zepril

@@ -1,0 +1,28 @@
+#include "map/fill_bars.h"
+
+#include <algorithm>
+
+#include "core/text_fields.h"
+
+namespace zepril {
+namespace {
+
+constexpr double kFullBarPx = 120.0;
+
+int BarPixels(int count, int limit) {
+  if (limit < 1) return 0;
+  return static_cast<int>(ToWhole(static_cast<double>(count) / limit * kFullBarPx));
+}
+
+}  // namespace
+
+void ShowMoniAllBar(FillBar& bar, int count, int limit) { bar.FilledPx = BarPixels(count, limit); }
+
+void ShowMoni1Bar(FillBar& bar, int count, int limit) {
+  bar.FilledPx = std::min(BarPixels(count, limit), static_cast<int>(kFullBarPx));
+  bar.Colour = kBarColour;
+  if (count > limit) bar.Colour = kBarOverLimit;
+  if (count > 1.2 * limit) bar.Colour = kBarFarOverLimit;
+}
+
+}  // namespace zepril

@@ -1,0 +1,24 @@
+// Colours of what is drawn over the map, 0xBBGGRR.
+#pragma once
+
+#include "platform/drawing_surface.h"
+
+namespace zepril {
+
+inline constexpr Colour kPenColour = 0x00FFFF;  // the pen between layers
+inline constexpr Colour ColourTrackRecent = 0x00FFFF;
+inline constexpr Colour ColourTrackHuman = 0xD0FF60;
+inline constexpr Colour ColourTrackHours = 0x20FFE0;
+inline constexpr Colour ColourTrackOld = 0x40FFC0;
+inline constexpr Colour ColourTrackT = 0xD0D0D0;
+inline constexpr Colour GpsColour = 0xFFFF00;
+inline constexpr Colour ColourMoniAll = 0xB80098;
+inline constexpr Colour ColourMoniAllObject = 0xE800C8;
+inline constexpr Colour ColourPictureMark = 0xFFFFFF;
+
+inline constexpr Colour kFindColour = 0x0080FF;      // the station that was looked for
+inline constexpr Colour kMessageDotColour = 0x00FF00;  // takes messages
+inline constexpr Colour kOwnObjectColour = 0x00C0C0;
+inline constexpr Colour kOwnObjectOnAirColour = 0x00FFFF;
+
+}  // namespace zepril

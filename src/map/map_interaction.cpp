@@ -1,0 +1,420 @@
+#include "map/map_interaction.h"
+
+#include "core/position_text.h"
+#include "core/text_fields.h"
+#include "map/map_view.h"
+#include "map/scales.h"
+#include "map/station_lookup.h"
+#include "map/tile_names.h"
+
+namespace zepril {
+namespace {
+
+constexpr int kFollowStation = 1;
+constexpr int kFollowOwn = 2;
+
+constexpr int kKeyEnter = 13;
+constexpr int kKeyLeft = 37;
+constexpr int kKeyUp = 38;
+constexpr int kKeyRight = 39;
+constexpr int kKeyDown = 40;
+constexpr int kRightButton = 2;
+
+constexpr int kHighestLabelLevel = 5;
+constexpr int kLevelSteps = 7;  // 0 to 5 and "WX"
+constexpr int kTrackStyles = 7;
+constexpr double kPictureMiddleKm = 0.499;
+
+constexpr std::array<std::uint32_t, 3> kBrightnessButton{0xC0C0A0, 0x606046, 0xFFFFD6};
+
+}  // namespace
+
+MapInteraction::MapInteraction(MapViewState& view, StoresState& stores,
+                               FollowedStationState& followed, MapInteractionControls controls,
+                               MapInteractionTools tools)
+    : view_(view), stores_(stores), followed_(followed), controls_(controls), tools_(tools) {
+  BindScaleAndZoom();
+  BindMap();
+  BindFolders();
+  BindCaptions();
+  BindStations();
+  BindPalette();
+}
+
+// ---- Binding --------------------------------------------------------------------------------
+
+void MapInteraction::BindScaleAndZoom() {
+  MapControls& map = controls_.Map;
+  map.Command1.Click = [this] { StepScale(-1); };
+  map.Command2.Click = [this] { StepScale(+1); };
+  map.Command7.Click = [this] {
+    view_.ZoomFactor < kLargestZoom ? SetZoom(view_.ZoomFactor * 2.0) : FocusMap();
+  };
+  map.Command8.Click = [this] {
+    view_.ZoomFactor > kSmallestZoom ? SetZoom(view_.ZoomFactor / 2.0) : FocusMap();
+  };
+  map.Command9.Click = [this] { SetZoom(1.0); };
+  map.Command12.Click = [this] { CentreOnRecord(); };
+  map.Command12.RightClick = [this] { StepScaleRound(); };
+  map.Option1.Click = [this] { Follow(kFollowOwn); };
+  map.Option2.Click = [this] { Follow(kFollowStation); };
+}
+
+void MapInteraction::BindMap() {
+  PictureBox& map = controls_.Map.Picture1;
+  map.MouseMove = [this](const MousePress& at) {
+    tools_.ReadoutTexts.CursorReadout(at.X, at.Y);
+    tools_.Lookups.MoveSunCurve();
+  };
+  map.MouseDown = [this](const MousePress& press) { PressMap(press); };
+  map.MouseUp = [this](const MousePress&) { ReleaseMap(); };
+  map.KeyDown = [this](const KeyPress& key) { KeyOnMap(key); };
+}
+
+void MapInteraction::BindFolders() {
+  ScaleControls& scales = controls_.Scales;
+  for (int row = 0; row < kMapScales; ++row) {
+    const auto at = static_cast<std::size_t>(row);
+    scales.Folder[at].Change = [this, row] { ChooseFolder(row); };
+    scales.FrameBox[at].Click = [this] { Redraw(); };
+  }
+  const auto all_boxes = [this](int value) {
+    for (CheckBox& box : controls_.Scales.FrameBox) box.Value = value;
+    Redraw();
+  };
+  scales.Command5.Click = [all_boxes] { all_boxes(1); };
+  scales.Command6.Click = [all_boxes] { all_boxes(0); };
+  scales.Command37.Click = [this] {
+    tools_.Library.MapLibraryScan();
+    Redraw();
+  };
+}
+
+void MapInteraction::BindCaptions() {
+  ReadoutControls& labels = controls_.ReadoutLabels;
+  for (Label* label : {&labels.Label1, &labels.Label2}) {
+    label->Click = [this] { StepReadout(Readout::Centre); };
+  }
+  for (Label* label : {&labels.Label3, &labels.Label4}) {
+    label->Click = [this] { StepReadout(Readout::Cursor); };
+  }
+  for (Label* label : {&labels.Label7, &labels.Label8}) {
+    label->Click = [this] { StepReadout(Readout::Monitor); };
+    label->RightClick = [this] { OpenMonitorRecords(); };
+  }
+}
+
+void MapInteraction::BindStations() {
+  MoniAllControls& all = controls_.MoniAll;
+  all.Command13.Click = [this] { StepLabelLevel(+1); };
+  all.Command13.RightClick = [this] { StepLabelLevel(-1); };
+  all.Label16.Click = [this] { StepLabelLevel(+1); };
+  all.Label16.RightClick = [this] { StepLabelLevel(-1); };
+  for (CheckBox* box : {&all.Check10, &all.Check11, &all.Check13, &all.Check19, &all.Check25}) {
+    box->Click = [this] {
+      ReadClassBoxes();
+      Redraw();
+    };
+  }
+  all.Check24.Click = [this] {
+    view_.HideObjects = controls_.MoniAll.Check24.Value != 0;
+    Redraw();
+  };
+  controls_.Moni1.Command17.Click = [this] {
+    followed_.TrackStyle = (followed_.TrackStyle + 1) % kTrackStyles;
+    Redraw();
+  };
+}
+
+void MapInteraction::BindPalette() {
+  PaletteControls& palette = controls_.Palette;
+  palette.PalettePanel.Visible = false;
+  controls_.Map.Command72.Click = [this] { StepBrightness(); };
+  controls_.Map.Command72.RightClick = [this] {
+    // Only tiles of 16 colours have inks.
+    if (!view_.InkStateOn) return;
+    controls_.Palette.PalettePanel.Visible = true;
+    Redraw();
+  };
+  for (int number = 0; number < static_cast<int>(palette.Optionink.size()); ++number) {
+    palette.Optionink[static_cast<std::size_t>(number)].Click = [this, number] {
+      ChooseInk(number);
+    };
+  }
+  palette.Command42.Click = [this] { ChooseInk(-1); };
+  palette.Command43.Click = [this] {
+    controls_.Palette.PalettePanel.Visible = false;
+    ChooseInk(-1);
+  };
+}
+
+// ---- Scale and zoom -------------------------------------------------------------------------
+
+void MapInteraction::StepScale(int rows) {
+  const int row = ScaleRow(view_.MapTileKm).value_or(0) + rows;
+  if (row < 0 || row >= kMapScales) {
+    FocusMap();
+    return;
+  }
+  view_.MapTileKm = kMapScaleTable[static_cast<std::size_t>(row)].TileKm;
+  SetZoom(1.0);
+}
+
+void MapInteraction::StepScaleRound() {
+  const int row = (ScaleRow(view_.MapTileKm).value_or(0) + 1) % kMapScales;
+  view_.MapTileKm = kMapScaleTable[static_cast<std::size_t>(row)].TileKm;
+  SetZoom(1.0);
+}
+
+void MapInteraction::SetZoom(double factor) {
+  view_.ZoomFactor = factor;
+  FocusMap();
+  Redraw();
+}
+
+void MapInteraction::ChooseFolder(int row) {
+  const auto at = static_cast<std::size_t>(row);
+  const std::string chosen = controls_.Scales.Folder[at].Selected();
+  if (chosen.empty() || chosen == view_.ActiveFolderName) return;
+  view_.MapTileKm = kMapScaleTable[at].TileKm;
+  SetZoom(1.0);
+}
+
+void MapInteraction::CentreOnRecord() {
+  // Without a record in the panel there is nowhere to go.
+  const std::string& record = controls_.Record.Label20.Caption;
+  if (Trim(Mid(record, 14, 18)).empty()) {
+    FocusMap();
+    return;
+  }
+  view_.PictureMode = 0;
+  tools_.Lookups.ClosePicture();
+  EndFollowing();
+  view_.CentreNorthKm = PositionTextKm(Mid(record, 14, 9));
+  view_.CentreEastKm = PositionTextKm(Mid(record, 23, 9));
+  view_.MapLockedOnRecord = 1;
+  Redraw();
+}
+
+void MapInteraction::Follow(int centre_follow) {
+  view_.CentreFollow = centre_follow;
+  controls_.Map.Option1.Value = centre_follow == kFollowOwn;
+  controls_.Map.Option2.Value = centre_follow == kFollowStation;
+  view_.PictureMode = 0;
+  tools_.Lookups.ClosePicture();
+  UnlockFromRecord();
+  Redraw();
+}
+
+// ---- Presses on the map ---------------------------------------------------------------------
+
+void MapInteraction::PressMap(const MousePress& press) {
+  tools_.ReadoutTexts.CursorReadout(press.X, press.Y);
+  if (press.Button == kRightButton) {
+    RightPress(press.X, press.Y);
+  } else {
+    LeftPress(press.X, press.Y);
+  }
+}
+
+void MapInteraction::LeftPress(double x, double y) {
+  UnlockFromRecord();
+  if (view_.PictureMode == 1) {
+    CentreOnPicture();
+  } else {
+    const MapPosition pressed = PositionOfPixel(view_, x, y);
+    view_.CentreNorthKm = pressed.NorthKm;
+    view_.CentreEastKm = pressed.EastKm;
+    view_.ManualMapMove = true;
+  }
+  EndFollowing();
+  Redraw();
+}
+
+void MapInteraction::CentreOnPicture() {
+  const auto index = static_cast<std::size_t>(view_.SelectedPicture);
+  if (index >= 1 && index <= view_.PictureNames.size()) {
+    const std::string& name = view_.PictureNames[index - 1];
+    // Into the middle of the kilometre.
+    view_.CentreNorthKm = TileFieldValue(Left(name, 4)) + kPictureMiddleKm;
+    view_.CentreEastKm = TileFieldValue(Mid(name, 5, 4)) + kPictureMiddleKm;
+  }
+  view_.PictureMode = 0;
+  tools_.Lookups.ClosePicture();
+}
+
+void MapInteraction::RightPress(double x, double y) {
+  tools_.ReadoutTexts.CursorReadout(x, y);
+  view_.ClickNorthKm = view_.CursorNorthKm;
+  view_.ClickEastKm = view_.CursorEastKm;
+  view_.LookupHit = false;
+  if (controls_.Window.WidthPx >= kNarrowestLookupWindow) view_.LookupHit = LookUpEverything();
+  if (view_.LookupHit) return;
+  // Nothing there: the plain map under a map type while the button is held, or the sun.
+  if (view_.ActiveFolderPath != view_.BaseFolderPath) {
+    controls_.Map.Picture1.Visible = false;
+  } else {
+    tools_.Lookups.ShowSunCurve();
+  }
+}
+
+bool MapInteraction::LookUpEverything() {
+  const auto stop_cycle = [this] {
+    tools_.Timer1.Stop();
+    tools_.Timer2.Stop();
+    tools_.Timer2.Arm(kLookupTimer2Ms);
+  };
+  // Station, picture, track point, place: each only if the ones before found nothing.
+  if (view_.StationLabelLevel > 0) {
+    stop_cycle();
+    if (LookUpStation()) return true;
+  }
+  if (view_.PicturesOn) {
+    stop_cycle();
+    if (tools_.Lookups.LookupPicture()) return true;
+  }
+  if (view_.TracksOn) {
+    stop_cycle();
+    if (tools_.Lookups.LookupTrackPoint()) return true;
+  }
+  if (view_.PoiLevel > 0) {
+    stop_cycle();
+    if (tools_.Lookups.LookupPlace()) return true;
+  }
+  return false;
+}
+
+bool MapInteraction::LookUpStation() {
+  const auto found = FindStationNear(stores_.MoniAllRecords, stores_.Moni1Records,
+                                     followed_.Moni1Call, view_.ClickNorthKm, view_.ClickEastKm,
+                                     LookupToleranceKm(view_.MetresPerPixel));
+  if (!found) return false;
+  stores_.SelectedStationCall = found->Call;
+  stores_.SelectedRecordIndex = found->RecordIndex;
+  tools_.RecordPanel.OpenRecordPanel();
+  return true;
+}
+
+void MapInteraction::ReleaseMap() {
+  controls_.Map.Picture1.Visible = true;
+  tools_.Lookups.HideSunCurve();
+}
+
+// ---- Keys -----------------------------------------------------------------------------------
+
+void MapInteraction::KeyOnMap(const KeyPress& key) {
+  // 1 pixel, 10 with Shift; other shift states take the same formula.
+  const double step = key.Shift * 9.0 + 1.0;
+  switch (key.Code) {
+    case kKeyLeft:
+      MovePointer(-step, 0.0);
+      break;
+    case kKeyUp:
+      MovePointer(0.0, -step);
+      break;
+    case kKeyRight:
+      MovePointer(step, 0.0);
+      break;
+    case kKeyDown:
+      MovePointer(0.0, step);
+      break;
+    case kKeyEnter:
+      LeftPress(view_.CursorX, view_.CursorY);
+      break;
+    default:
+      break;
+  }
+}
+
+void MapInteraction::MovePointer(double dx, double dy) {
+  const double x = view_.CursorX + dx;
+  const double y = view_.CursorY + dy;
+  if (x < 0.0 || y < 0.0 || x >= view_.ViewWidthPx || y >= view_.ViewHeightPx) return;
+  // Where the desktop does not let the pointer be moved, the read-out alone goes on from here.
+  tools_.Desktop.MovePointerOnMap(static_cast<int>(ToWhole(x)), static_cast<int>(ToWhole(y)));
+  tools_.ReadoutTexts.CursorReadout(x, y);
+}
+
+// ---- What is shown --------------------------------------------------------------------------
+
+void MapInteraction::StepLabelLevel(int direction) {
+  // "WX" is the step behind 5: level 1 with gauges.
+  const int step = view_.WxCaption ? kLevelSteps - 1 : view_.StationLabelLevel;
+  const int next = (step + direction + kLevelSteps) % kLevelSteps;
+  view_.WxCaption = next > kHighestLabelLevel;
+  view_.StationLabelLevel = view_.WxCaption ? 1 : next;
+  ShowState();
+  Redraw();
+}
+
+void MapInteraction::ReadClassBoxes() {
+  const MoniAllControls& all = controls_.MoniAll;
+  int mask = 0;
+  int bit = 1;
+  for (const CheckBox* box :
+       {&all.Check10, &all.Check11, &all.Check13, &all.Check19, &all.Check25}) {
+    if (box->Value != 0) mask |= bit;
+    bit *= 2;
+  }
+  view_.StationClassMask = mask;
+  view_.MovedOnly = all.Check13.Value == 2;
+}
+
+void MapInteraction::StepBrightness() {
+  view_.BrightnessStep = (view_.BrightnessStep + 1) % 3;
+  ShowState();
+  if (view_.PictureMode != 1) Redraw();
+}
+
+void MapInteraction::ChooseInk(int number) {
+  view_.SelectedInk = number < 0 ? std::string() : WholeNumber(number);
+  int at = 0;
+  for (OptionButton& ink : controls_.Palette.Optionink) ink.Value = at++ == number;
+  Redraw();
+}
+
+void MapInteraction::StepReadout(Readout readout) {
+  tools_.ReadoutTexts.StepDisplayMode(readout);
+  // The grid on the map follows the systems in use.
+  if (view_.GridOn) Redraw();
+}
+
+void MapInteraction::OpenMonitorRecords() {
+  stores_.SelectedStationCall = followed_.Moni1Call;
+  stores_.SelectedRecordIndex = stores_.Moni1Records.Count();
+  tools_.RecordPanel.OpenRecordPanel();
+}
+
+void MapInteraction::ShowState() {
+  MoniAllControls& all = controls_.MoniAll;
+  all.Label16.Caption = view_.WxCaption ? "WX" : WholeNumber(view_.StationLabelLevel);
+  int bit = 1;
+  for (CheckBox* box : {&all.Check10, &all.Check11, &all.Check13, &all.Check19, &all.Check25}) {
+    box->Value = (view_.StationClassMask & bit) != 0 ? 1 : 0;
+    bit *= 2;
+  }
+  if (view_.MovedOnly && all.Check13.Value == 1) all.Check13.Value = 2;
+  all.Check24.Value = view_.HideObjects ? 1 : 0;
+  const auto step = static_cast<std::size_t>(view_.BrightnessStep) % kBrightnessButton.size();
+  controls_.Map.Command72.BackColour = kBrightnessButton[step];
+  controls_.Map.Option1.Value = view_.CentreFollow == kFollowOwn;
+  controls_.Map.Option2.Value = view_.CentreFollow == kFollowStation;
+}
+
+void MapInteraction::EndFollowing() {
+  view_.CentreFollow = 0;
+  controls_.Map.Option1.Value = false;
+  controls_.Map.Option2.Value = false;
+}
+
+void MapInteraction::UnlockFromRecord() { view_.MapLockedOnRecord = 0; }
+
+void MapInteraction::FocusMap() { controls_.Map.Picture1.FocusWanted = true; }
+
+void MapInteraction::Redraw() {
+  // The cycle stands still while the map is painted; the redraw starts it again.
+  tools_.Timer1.Stop();
+  tools_.Map.MapRedraw();
+}
+
+}  // namespace zepril

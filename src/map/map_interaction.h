@@ -1,0 +1,123 @@
+// What the operator does with the map: centre by a press, look things up by a right press, step scale
+// and zoom, choose folders, inks, brightness, labels and classes. Each handler changes the state of
+// the view and has the map redrawn.
+#pragma once
+
+#include "core/actions/map_actions.h"
+#include "core/main_window_controls.h"
+#include "core/state/followed_station.h"
+#include "core/state/map_view.h"
+#include "core/state/stores.h"
+#include "core/timer.h"
+#include "map/map_library.h"
+#include "map/readouts.h"
+#include "platform/desktop_actions.h"
+
+namespace zepril {
+
+// Opens the panel of station records, which reception owns.
+class RecordPanelOpener {
+ public:
+  virtual ~RecordPanelOpener() = default;
+  // Shows the record in `SelectedStationCall` and `SelectedRecordIndex`.
+  virtual void OpenRecordPanel() = 0;
+};
+
+// What else a press on the map can find or show; a lookup returns true when it found something. What
+// is not overridden finds nothing.
+class MapLookups {
+ public:
+  virtual ~MapLookups() = default;
+  virtual bool LookupPicture() { return false; }
+  virtual bool LookupTrackPoint() { return false; }
+  virtual bool LookupPlace() { return false; }
+  virtual void ShowSunCurve() {}
+  virtual void MoveSunCurve() {}  // the pointer moved while it is shown
+  virtual void HideSunCurve() {}
+  virtual void ClosePicture() {}
+};
+
+struct MapInteractionControls {
+  const WindowControls& Window;
+  MapControls& Map;
+  ReadoutControls& ReadoutLabels;
+  ScaleControls& Scales;
+  PaletteControls& Palette;
+  Moni1Controls& Moni1;
+  MoniAllControls& MoniAll;
+  RecordPanelControls& Record;
+};
+
+struct MapInteractionTools {
+  MapActions& Map;
+  MapLibrary& Library;
+  Readouts& ReadoutTexts;
+  RecordPanelOpener& RecordPanel;
+  MapLookups& Lookups;
+  DesktopActions& Desktop;
+  Timer& Timer1;
+  Timer& Timer2;
+};
+
+class MapInteraction {
+ public:
+  static constexpr int kLookupTimer2Ms = 3000;
+  static constexpr int kNarrowestLookupWindow = 630;  // pixels
+  static constexpr double kLargestZoom = 8.0;
+  static constexpr double kSmallestZoom = 0.25;
+
+  // Sets the events of the controls; the object must outlive them.
+  MapInteraction(MapViewState& view, StoresState& stores, FollowedStationState& followed,
+                 MapInteractionControls controls, MapInteractionTools tools);
+  MapInteraction(const MapInteraction&) = delete;
+  MapInteraction& operator=(const MapInteraction&) = delete;
+
+  // Brings level, class boxes, brightness and follow options into the controls, after the state was
+  // loaded.
+  void ShowState();
+
+ private:
+  void BindScaleAndZoom();
+  void BindMap();
+  void BindFolders();
+  void BindCaptions();
+  void BindStations();
+  void BindPalette();
+
+  void StepScale(int rows);
+  void StepScaleRound();
+  void SetZoom(double factor);
+  void ChooseFolder(int row);
+  void CentreOnRecord();
+  void Follow(int centre_follow);
+
+  void PressMap(const MousePress& press);
+  void LeftPress(double x, double y);
+  void CentreOnPicture();
+  void RightPress(double x, double y);
+  bool LookUpEverything();
+  bool LookUpStation();
+  void ReleaseMap();
+  void KeyOnMap(const KeyPress& key);
+  void MovePointer(double dx, double dy);
+
+  void StepLabelLevel(int direction);
+  void ReadClassBoxes();
+  void StepBrightness();
+  void ChooseInk(int number);
+  void StepReadout(Readout readout);
+  void OpenMonitorRecords();
+
+  void EndFollowing();
+  void UnlockFromRecord();
+  void FocusMap();
+  void Redraw();
+
+  MapViewState& view_;
+  StoresState& stores_;
+  FollowedStationState& followed_;
+  MapInteractionControls controls_;
+  MapInteractionTools tools_;
+};
+
+}  // namespace zepril

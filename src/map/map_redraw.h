@@ -1,0 +1,87 @@
+// Paints the map window from scratch, layer by layer, each time anything changes. Nothing of the
+// picture survives from one redraw to the next.
+//
+// After a redraw the view edges and `MetresPerPixel` are valid, the read-outs, the scale text, the
+// fill bars and the coverage marks are up to date, the map is marked as drawn, and `Timer1` runs.
+#pragma once
+
+#include "core/main_window_controls.h"
+#include "core/state/followed_station.h"
+#include "core/state/gps.h"
+#include "core/state/identity.h"
+#include "core/state/map_view.h"
+#include "core/state/stores.h"
+#include "core/state/transmission.h"
+#include "core/symbol_table.h"
+#include "core/timer.h"
+#include "map/map_library.h"
+#include "map/overlay_layers.h"
+#include "map/readouts.h"
+#include "map/symbol_sheets.h"
+#include "map/tile_cache.h"
+#include "platform/clock.h"
+#include "platform/drawing_surface.h"
+
+namespace zepril {
+
+// The controls that a redraw writes or looks at.
+struct MapRedrawControls {
+  WindowControls& Window;
+  MapControls& Map;
+  ScaleControls& Scales;
+  PaletteControls& Palette;
+  Moni1Controls& Moni1;
+  MoniAllControls& MoniAll;
+  const RecordPanelControls& Record;
+  const TransmitControls& Transmit;
+};
+
+// What a redraw shows.
+struct MapRedrawSections {
+  MapViewState& View;
+  StoresState& Stores;
+  FollowedStationState& Followed;
+  const GpsState& Gps;
+  const TransmissionState& Transmission;
+  const IdentityState& Identity;
+};
+
+// Where it paints and what it is helped by.
+struct MapRedrawTools {
+  DrawingSurface& MapSurface;   // `Picture1`
+  DrawingSurface& BaseSurface;  // the second map window under it, of the same size
+  TileCache& Tiles;
+  MapLibrary& Library;
+  SymbolSheets& Sheets;
+  const SymbolTable& Symbols;
+  Readouts& ReadoutTexts;
+  OverlayLayers& Overlays;
+  const Clock& LocalClock;
+  Timer& Timer1;
+};
+
+class MapRedrawer {
+ public:
+  MapRedrawer(MapRedrawSections sections, MapRedrawControls controls, MapRedrawTools tools);
+
+  void MapRedraw();
+
+ private:
+  bool OwnPositionFromGps() const;
+  void FollowCentre();
+  void TakeFocus();
+  void ChooseFolders();
+  void DrawBaseMap();
+  void DrawOverlays(PixelPoint last_tile);
+  void DrawPositionMarks();
+  void SetStationAnchor();
+  void ShowTexts();
+  void SetPointer(PointerShape shape);
+  void Finish();
+
+  MapRedrawSections sections_;
+  MapRedrawControls controls_;
+  MapRedrawTools tools_;
+};
+
+}  // namespace zepril

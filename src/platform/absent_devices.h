@@ -1,0 +1,27 @@
+// Stand-ins for a device that is not there: every operation does nothing.
+#pragma once
+
+#include "platform/monitor_engine.h"
+#include "platform/serial_port.h"
+
+namespace zepril {
+
+class AbsentSerialPort final : public SerialPort {
+ public:
+  bool Open(const std::string&, int) override { return false; }
+  void Close() override {}
+  bool IsOpen() const override { return false; }
+  void Write(std::string_view) override {}
+  std::string ReadAll() override { return {}; }
+  std::size_t BytesToWrite() const override { return 0; }
+};
+
+class AbsentEngine final : public MonitorEngine {
+ public:
+  bool AGWStartPoll(std::string_view, std::string_view) override { return false; }
+  std::string AGWGetData() override { return {}; }
+  bool AGWPutData(std::string_view, std::string_view) override { return false; }
+  void AGWClose() override {}
+};
+
+}  // namespace zepril

@@ -1,0 +1,111 @@
+#include "platform/qt/qt_loop.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+#include <algorithm>
+
+namespace zepril {
+namespace {
+
+constexpr double kHandOverSeconds = 0.002;
+
+}  // namespace
+
+QtLoop::QtLoop() = default;
+
+QtLoop::~QtLoop() {
+  for (const auto& driven : driven_) driven->Subject->Changed = nullptr;
+}
+
+void QtLoop::Drive(Timer& timer, bool pumped) {
+  driven_.push_back(std::make_unique<Driven>());
+  Driven& driven = *driven_.back();
+  driven.Subject = &timer;
+  driven.Pumped = pumped;
+  driven.Clockwork = std::make_unique<QTimer>();
+  driven.Clockwork->setTimerType(Qt::CoarseTimer);
+  QObject::connect(driven.Clockwork.get(), &QTimer::timeout, [this, &driven] { Fire(driven); });
+  const auto follow = [&driven] {
+    driven.Due = false;
+    if (driven.Subject->Enabled()) {
+      driven.Clockwork->start(driven.Subject->IntervalMs());
+    } else {
+      driven.Clockwork->stop();
+    }
+  };
+  timer.Changed = follow;
+  follow();
+}
+
+bool QtLoop::MayFire(const Driven& driven) const {
+  if (held_ > 0) return false;
+  return depth_ == 0 || (driven.Pumped && pumping_ > 0);
+}
+
+void QtLoop::Fire(Driven& driven) {
+  if (!MayFire(driven)) {
+    driven.Due = true;
+    return;
+  }
+  driven.Due = false;
+  if (!driven.Subject->Enabled() || !driven.Subject->Elapsed) return;
+  RunStep(driven.Subject->Elapsed);
+}
+
+void QtLoop::FireDue() {
+  for (const auto& driven : driven_) {
+    if (driven->Due && MayFire(*driven)) Fire(*driven);
+  }
+}
+
+void QtLoop::RunStep(const std::function<void()>& step) {
+  ++depth_;
+  const int outer_pumping = pumping_;
+  pumping_ = 0;
+  step();
+  pumping_ = outer_pumping;
+  --depth_;
+  if (ControlsOut) ControlsOut();
+  if (depth_ > 0) return;
+  if (StepEnded) StepEnded();
+  // What fell due meanwhile comes from the loop, not from inside this step.
+  QTimer::singleShot(0, [this] { FireDue(); });
+}
+
+void QtLoop::Hold(const std::function<void()>& step) {
+  ++held_;
+  if (ControlsOut) ControlsOut();
+  step();
+  --held_;
+}
+
+void QtLoop::PumpFor(double seconds, bool user_events) {
+  if (ControlsOut) ControlsOut();
+  const double end = MonotonicSeconds() + seconds;
+  const auto flags = user_events ? QEventLoop::ProcessEventsFlags(QEventLoop::AllEvents)
+                                 : QEventLoop::ProcessEventsFlags(QEventLoop::ExcludeUserInputEvents);
+  QTimer alarm;
+  alarm.setSingleShot(true);
+  alarm.setTimerType(Qt::PreciseTimer);
+  alarm.start(static_cast<int>(std::max(seconds, 0.0) * 1000.0));
+  do {
+    QCoreApplication::processEvents(flags | QEventLoop::WaitForMoreEvents);
+  } while (MonotonicSeconds() < end && alarm.isActive());
+}
+
+void QtLoop::Wait(double seconds) {
+  ++held_;
+  PumpFor(seconds, false);
+  --held_;
+}
+
+void QtLoop::WaitPumping(double seconds) {
+  ++pumping_;
+  PumpFor(seconds, true);
+  --pumping_;
+}
+
+void QtLoop::HandOver() { WaitPumping(kHandOverSeconds); }
+
+}  // namespace zepril

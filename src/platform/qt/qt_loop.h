@@ -1,0 +1,63 @@
+// The program's one thread on Qt's event loop: the timers, the waits, and the pass that brings the
+// controls to the window after everything that may have changed them.
+//
+// In a plain wait sockets are served and the window is painted, no timer and no user event fires. In
+// a pumping wait and a hand-over user events and the pumped timers fire too; `Timer1` never does, so
+// that no tick runs inside another step. What fell due meanwhile fires when the outermost step ends.
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "core/timer.h"
+#include "platform/native/system_clock.h"
+
+namespace zepril {
+
+class QtLoop final : public SystemClock {
+ public:
+  QtLoop();
+  ~QtLoop() override;
+
+  void Wait(double seconds) override;
+  void WaitPumping(double seconds) override;
+  void HandOver() override;
+
+  // Drives `timer` from now on; a pumped one also fires in pumping waits and hand-overs.
+  void Drive(Timer& timer, bool pumped);
+
+  // Runs a step of the program: an event, a timer. Afterwards the controls go out.
+  void RunStep(const std::function<void()>& step);
+  bool InStep() const { return depth_ > 0; }
+  // Runs `step` with all timers held, as while a box is open.
+  void Hold(const std::function<void()>& step);
+
+  // Brings the controls to the window.
+  std::function<void()> ControlsOut;
+  // The outermost step has ended.
+  std::function<void()> StepEnded;
+
+ private:
+  struct Driven {
+    Timer* Subject = nullptr;
+    bool Pumped = false;
+    bool Due = false;
+    std::unique_ptr<QTimer> Clockwork;
+  };
+
+  void Fire(Driven& driven);
+  void FireDue();
+  bool MayFire(const Driven& driven) const;
+  void PumpFor(double seconds, bool user_events);
+
+  std::vector<std::unique_ptr<Driven>> driven_;
+  int depth_ = 0;    // steps under way
+  int held_ = 0;     // no timer at all
+  int pumping_ = 0;  // inside a pumping wait or hand-over
+};
+
+}  // namespace zepril

@@ -1,0 +1,319 @@
+#include "station/station_rooms.h"
+
+#include "config/config_file.h"
+#include "core/main_window_captions.h"
+#include "core/position_text.h"
+#include "core/text_fields.h"
+#include "core/title_line.h"
+
+namespace zepril {
+namespace {
+
+constexpr int kEnterKey = 13;
+constexpr int kFirstLabelLevel = 2;  // marks and calls: what a new operator wants to see
+constexpr int kJumpToTyped = 3;
+
+}  // namespace
+
+StationRooms::StationRooms(StationPlatform machine)
+    : machine_(machine),
+      agw_link_(State.Radio, State.Identity, State.Transmission, machine.Winsock1,
+                machine.LocalClock, machine.Boxes, *this, ReopenTimer),
+      agw_local_(State.Radio, machine.Winsock1, machine.LocalClock, ReopenTimer),
+      library_(machine.FileSystem, State.Identity, State.Map, Controls.Scales),
+      tiles_(machine.FileSystem, machine.LocalClock),
+      sheets_(machine.FileSystem, State.Identity.ProgramFolder),
+      readouts_(State.Map, State.Followed, State.Stores.Moni1Records, Controls.Readouts),
+      redrawer_({State.Map, State.Stores, State.Followed, State.Gps, State.Transmission,
+                 State.Identity},
+                {Controls.Window, Controls.Map, Controls.Scales, Controls.Palette, Controls.Moni1,
+                 Controls.MoniAll, Controls.Record, Controls.Transmit},
+                {machine.MapSurface, machine.BaseSurface, tiles_, library_, sheets_, symbols_,
+                 readouts_, overlays_, machine.LocalClock, Timer1}),
+      interaction_(State.Map, State.Stores, State.Followed,
+                   {Controls.Window, Controls.Map, Controls.Readouts, Controls.Scales,
+                    Controls.Palette, Controls.Moni1, Controls.MoniAll, Controls.Record},
+                   {*this, library_, readouts_, *this, lookups_, machine.Desktop, Timer1, Timer2}),
+      distance_(State.Alarms, State.Identity, State.Followed, State.Map, Controls.Status,
+                Controls.Window),
+      history_(State.Identity, State.Stores, State.Followed, State.Map, State.Gps, Controls.Moni1,
+               Controls.Map, distance_, machine.FileSystem, *this),
+      browser_(State.Stores, State.Map, Controls.Record, Controls.Map, history_, machine.Boxes,
+               *this),
+      heard_(State.Stores, Controls.MoniAll, browser_),
+      collector_(State.Radio, State.Reception, State.Internet, machine.LocalClock, agw_local_,
+                 machine.MSComm1, *this),
+      receive_pass_({State.Identity, State.Reception, State.Stores, State.Map, State.Alarms,
+                     State.Settings},
+                    {collector_, history_, browser_, distance_, *this, *this, *this}, symbols_,
+                    machine.LocalClock, machine.FileSystem, Timer1, &Controls.Raw.RawList),
+      cycle_(State, Controls, machine.LocalClock, machine.Desktop, Timer1, Timer2, *this, *this),
+      raw_search_(Controls.Raw, State.Settings, Timer1) {
+  SetInitialControls(Controls);
+  State.Map.StationLabelLevel = kFirstLabelLevel;
+  State.Map.ViewWidthPx = machine_.MapSurface.Width();
+  State.Map.ViewHeightPx = machine_.MapSurface.Height();
+  Timer1.Elapsed = [this] { cycle_.Tick(); };
+  Timer2.Elapsed = [this] { cycle_.Timer2Elapsed(); };
+  BindControls();
+}
+
+bool StationRooms::Start(const std::string& program_folder, int colour_depth_bits) {
+  return MainWindowStart(State, Controls, machine_.LocalClock, Timer1, *this)
+      .Run(program_folder, colour_depth_bits);
+}
+
+void StationRooms::Stop(bool by_operator) {
+  MainWindowStop(State, Controls, Timer1, Timer2, *this).Run(by_operator);
+}
+
+void StationRooms::MapResized(int width, int height) {
+  State.Map.ViewWidthPx = width;
+  State.Map.ViewHeightPx = height;
+  MapRedraw();
+}
+
+LinkLamp StationRooms::Lamp() const {
+  const auto mode = static_cast<RadioMode>(State.Radio.RadioMode);
+  const bool engine = mode == RadioMode::AgwLocal || mode == RadioMode::AgwRemote;
+  const bool up = mode == RadioMode::AgwRemote ? agw_link_.LinkIsUp() : agw_local_.LinkIsUp();
+  return LampOf(engine, up, State.Radio.LastDataSeconds, machine_.LocalClock.MonotonicSeconds());
+}
+
+// ---- Tick -----------------------------------------------------------------------------------
+
+void StationRooms::ChangeFollowedStation() {
+  FollowStation(Upper(Trim(Controls.Moni1.Combo9.Text)));
+}
+
+void StationRooms::RunReceivePass() { receive_pass_.Run(); }
+
+// ---- Start ----------------------------------------------------------------------------------
+
+void StationRooms::ReadConfig() {
+  ReadConfigForMainWindow(machine_.FileSystem, State);
+  Controls.Moni1.Check1.Value = State.Followed.Moni1AlarmOn;
+  if (State.Identity.MapZoneName.starts_with("U")) {
+    const double zone = Val(Mid(State.Identity.MapZoneName, 2));
+    State.Map.MapCentralMeridian = zone * 6.0 - 183.0;
+  }
+}
+
+void StationRooms::SetOwnNames() {
+  // The beginning of what this station transmits, as it comes back through a digipeater.
+  std::string path;
+  for (std::string_view element : Split(State.Transmission.TxPath, ',')) {
+    if (!Trim(element).empty()) path += std::string(Trim(element)) + ">";
+  }
+  State.Reception.OwnHeaderPattern =
+      State.Identity.MyCallFull.empty()
+          ? std::string()
+          : State.Identity.MyCallFull + "*>" + path + State.Transmission.TxDestination;
+}
+
+void StationRooms::ScanMapLibrary() {
+  machine_.FileSystem.MakeFolder(State.Identity.TempFolder);
+  for (const char* folder : {"\\LOG", "\\TRK", "\\POI"}) {
+    machine_.FileSystem.MakeFolder(State.Identity.MapSystemFolder + folder);
+  }
+  library_.MapLibraryScan();
+}
+
+void StationRooms::LoadHistory(int /*gap_days*/) {
+  history_.LoadAtStart();
+  ListFollowedCalls();
+  Controls.Moni1.Combo9.Text = State.Followed.Moni1Call;
+}
+
+void StationRooms::OpenLocalEngine() {
+  const std::string& call = State.Identity.MyCallFull;
+  const std::string name = call.empty() ? std::string("MYCALL") : call;
+  if (agw_local_.AGWStartPoll("ZEPRIL", name)) return;
+  // The engine might just be starting.
+  machine_.LocalClock.WaitPumping(2.0);
+  agw_local_.AGWStartPoll("ZEPRIL", name);
+}
+
+bool StationRooms::ConnectAgw() { return agw_link_.ConnectAgw(); }
+
+void StationRooms::ShowTitleMarkers() {
+  if (State.Internet.IGateOn == 1) PutInTitle(State.Settings.TitleText, 76, "IGate");
+  Controls.Window.Title = std::string(Trim(State.Settings.TitleText));
+}
+
+void StationRooms::SetLabels() {
+  SetMainWindowLabels(Controls, State.Settings.Language);
+  interaction_.ShowState();
+}
+
+void StationRooms::ShowAndDrawMap() {
+  Controls.Map.Picture1.Visible = true;
+  MapRedraw();
+}
+
+// ---- Stop -----------------------------------------------------------------------------------
+
+void StationRooms::CloseLocalEngine() { agw_local_.AGWClose(); }
+
+void StationRooms::DisconnectAgw() { agw_link_.DisconnectAgw(); }
+
+void StationRooms::ClosePorts() {
+  ReopenTimer.Stop();
+  machine_.MSComm1.Close();
+}
+
+void StationRooms::MergeConfigAtExit() {
+  LastValues last;
+  for (std::size_t row = 0; row < last.CurrentMaps.size(); ++row) {
+    last.CurrentMaps[row] = Controls.Scales.Folder[row].Selected();
+  }
+  last.CentreNorthKm = State.Map.CentreNorthKm;
+  last.CentreEastKm = State.Map.CentreEastKm;
+  last.OwnNorthKm = State.Map.OwnNorthKm;
+  last.OwnEastKm = State.Map.OwnEastKm;
+  zepril::MergeConfigAtExit(machine_.FileSystem, State.Identity.ProgramFolder, last);
+}
+
+void StationRooms::DeleteRunFiles() { library_.DeleteIndexFiles(); }
+
+// ---- Between rooms --------------------------------------------------------------------------
+
+void StationRooms::MapRedraw() {
+  redrawer_.MapRedraw();
+  if (Controls.Qth.Frame2.Visible) ShowQthFields();
+  Controls.Moni1.Command17.Caption = "TRACK " + WholeNumber(State.Followed.TrackStyle);
+}
+
+void StationRooms::MapRefresh() { ++Controls.Map.Picture1.Revision; }
+
+void StationRooms::WriteConfigFromMainWindow() {
+  zepril::WriteConfigFromMainWindow(machine_.FileSystem, State);
+  Timer1.Enable();
+}
+
+void StationRooms::ReplaceConfigLine(const std::string& key, const std::string& value) {
+  zepril::ReplaceConfigLine(machine_.FileSystem, ConfigPath(State.Identity.ProgramFolder), key,
+                            value);
+}
+
+void StationRooms::EndProgram() { EndWanted = true; }
+
+void StationRooms::OpenRecordPanel() {
+  browser_.Open(State.Stores.SelectedStationCall, State.Stores.SelectedRecordIndex,
+                State.Map.ClickNorthKm, State.Map.ClickEastKm);
+}
+
+// ---- Handlers -------------------------------------------------------------------------------
+
+void StationRooms::BindControls() {
+  BindStations();
+  BindRecordPanel();
+  BindQthSetup();
+  // The choice of a map folder is a setting.
+  for (ComboBox& folder : Controls.Scales.Folder) {
+    folder.Change = [this, choose = folder.Change] {
+      choose();
+      WriteConfigFromMainWindow();
+    };
+  }
+}
+
+void StationRooms::BindStations() {
+  Moni1Controls& moni1 = Controls.Moni1;
+  moni1.Combo9.Click = [this] { ChangeFollowedStation(); };
+  moni1.Combo9.KeyDown = [this](KeyPress key) {
+    if (key.Code == kEnterKey) ChangeFollowedStation();
+  };
+  moni1.Check1.Click = [this] {
+    State.Followed.Moni1AlarmOn = Controls.Moni1.Check1.Value;
+    WriteConfigFromMainWindow();
+  };
+  MoniAllControls& all = Controls.MoniAll;
+  all.Check3.Click = [this] { State.Alarms.MoniAllAlarmOn = Controls.MoniAll.Check3.Value; };
+  all.Command14.Click = [this] { Find(Controls.MoniAll.Text15.Text); };
+  all.Text15.KeyDown = [this](KeyPress key) {
+    if (key.Code == kEnterKey) Find(Controls.MoniAll.Text15.Text);
+  };
+  all.Command3.Click = [this] { heard_.Command3Click(); };
+  all.HeardList.Click = [this] { heard_.HeardListClick(); };
+  Controls.Status.Frame12.Click = [this] { Controls.Status.Frame12.Visible = false; };
+}
+
+void StationRooms::BindRecordPanel() {
+  RecordPanelControls& record = Controls.Record;
+  record.Command18.Click = [this] { browser_.Command18Click(); };
+  record.Command19.Click = [this] { browser_.Command19Click(); };
+  record.Command23.Click = [this] { browser_.Close(); };
+  record.Command11.Click = [this] { FollowStation(State.Stores.SelectedStationCall); };
+  record.Command36.Click = [this] { Find(State.Stores.SelectedStationCall); };
+}
+
+void StationRooms::BindQthSetup() {
+  QthSetupControls& qth = Controls.Qth;
+  Controls.Map.Option1.RightClick = [this] { OpenQthSetup(); };
+  qth.QthOk.Click = [this] { TakeCentreAsOwnPosition(); };
+  qth.Command22.Click = [this] { Controls.Qth.Frame2.Visible = false; };
+  for (TextBox* field : {&qth.TextQthNorth, &qth.TextQthEast}) {
+    field->KeyDown = [this](KeyPress key) {
+      if (key.Code == kEnterKey) JumpToTypedPosition();
+    };
+  }
+}
+
+void StationRooms::FollowStation(const std::string& call) {
+  Timer1.Stop();
+  history_.ChangeStation(call);
+  ListFollowedCalls();
+  Controls.Moni1.Combo9.Text = State.Followed.Moni1Call;
+  MapRedraw();
+}
+
+void StationRooms::ListFollowedCalls() {
+  ComboBox& field = Controls.Moni1.Combo9;
+  field.Items.clear();
+  const std::string folder = State.Identity.MapSystemFolder + "\\LOG";
+  for (const FolderEntry& entry : machine_.FileSystem.List(folder, "*.TXT")) {
+    if (entry.IsFolder || entry.Name.starts_with("_")) continue;
+    field.Items.push_back(Upper(Left(entry.Name, static_cast<std::ptrdiff_t>(entry.Name.size()) - 4)));
+  }
+  field.ListIndex = -1;
+}
+
+void StationRooms::Find(const std::string& call) {
+  State.Map.FindCall = Upper(Trim(call));
+  Controls.MoniAll.Text15.Text = State.Map.FindCall;
+  Timer1.Stop();
+  MapRedraw();
+}
+
+void StationRooms::OpenQthSetup() {
+  Controls.Qth.Frame2.Visible = true;
+  Controls.Map.Option1.Value = false;
+  State.Map.CentreFollow = 0;
+  Controls.Map.Option2.Value = false;
+  MapRedraw();
+}
+
+void StationRooms::ShowQthFields() {
+  QthSetupControls& qth = Controls.Qth;
+  if (qth.TextQthNorth.HasFocus || qth.TextQthEast.HasFocus) return;
+  qth.TextQthNorth.Text = Trim(RecordNorthText(State.Map.CentreNorthKm * 1000.0));
+  qth.TextQthEast.Text = Trim(RecordEastText(State.Map.CentreEastKm * 1000.0));
+}
+
+void StationRooms::JumpToTypedPosition() {
+  State.Map.QthNorthText = Controls.Qth.TextQthNorth.Text;
+  State.Map.QthEastText = Controls.Qth.TextQthEast.Text;
+  State.Map.CentreFollow = kJumpToTyped;
+  MapRedraw();
+}
+
+void StationRooms::TakeCentreAsOwnPosition() {
+  State.Map.OwnNorthKm = State.Map.CentreNorthKm;
+  State.Map.OwnEastKm = State.Map.CentreEastKm;
+  Controls.Qth.Frame2.Visible = false;
+  WriteConfigFromMainWindow();
+  MapRedraw();
+}
+
+}  // namespace zepril

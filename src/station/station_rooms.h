@@ -1,0 +1,165 @@
+// The rooms of one running program and the joins between them.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "config/main_window_settings.h"
+#include "core/actions/emergency_actions.h"
+#include "core/actions/gate_actions.h"
+#include "core/actions/map_actions.h"
+#include "core/actions/message_actions.h"
+#include "core/actions/program_actions.h"
+#include "core/actions/settings_actions.h"
+#include "core/actions/tick_actions.h"
+#include "core/main_cycle.h"
+#include "core/main_window_start.h"
+#include "core/main_window_stop.h"
+#include "core/symbol_table.h"
+#include "links/agw_link.h"
+#include "links/agw_local.h"
+#include "map/map_interaction.h"
+#include "map/map_library.h"
+#include "map/map_redraw.h"
+#include "map/overlay_layers.h"
+#include "map/readouts.h"
+#include "map/symbol_sheets.h"
+#include "map/tile_cache.h"
+#include "reception/collector.h"
+#include "reception/distance_alarm.h"
+#include "reception/followed_history.h"
+#include "reception/heard_stations.h"
+#include "reception/receive_pass.h"
+#include "reception/record_browser.h"
+#include "station/raw_list_search.h"
+#include "station/station_program.h"
+
+namespace zepril {
+
+// Capabilities that come later stand here as actions that do nothing; the order of tick, start and
+// stop has their places already.
+class StationRooms final : public TickActions,
+                           public StartActions,
+                           public StopActions,
+                           public MapActions,
+                           public SettingsActions,
+                           public EmergencyActions,
+                           public GateActions,
+                           public MessageActions,
+                           public ProgramActions,
+                           public RecordPanelOpener {
+ public:
+  explicit StationRooms(StationPlatform machine);
+
+  bool Start(const std::string& program_folder, int colour_depth_bits);
+  void Stop(bool by_operator);
+  void MapResized(int width, int height);
+  LinkLamp Lamp() const;
+
+  RuntimeState State;
+  MainWindowControls Controls;
+  Timer Timer1{6000};
+  Timer Timer2{3000};
+  Timer ReopenTimer{kReopenMilliseconds};
+  bool EndWanted = false;
+
+ private:
+  // The tick.
+  void PollAprsIsLink() override {}
+  void RunScanSwitchHandler() override {}
+  void KeepSecondModeMonitored() override {}
+  void ChangeFollowedStation() override;
+  void ShowEmergencyPanel() override {}
+  void SendIdentification() override {}
+  void FetchMoni1() override {}
+  void FetchMoniAll() override {}
+  void PollGps() override {}
+  void RunReceivePass() override;
+  void RunChatPass() override {}
+  void SendObjectReport() override {}
+  void SendBeacon() override {}
+
+  // The start; the ionosphere update serves the tick too.
+  void ReadConfig() override;
+  void SetOwnNames() override;
+  void LayOutPanels() override {}
+  void ScanMapLibrary() override;
+  void LoadHistory(int gap_days) override;
+  void OpenLocalEngine() override;
+  void OpenSerialModem() override {}
+  bool ConnectAgw() override;
+  void OpenGpsPort() override {}
+  void RestoreTracksPlacesAndChat() override {}
+  void ShowTitleMarkers() override;
+  void StartIonoUpdate() override {}
+  void SetLabels() override;
+  void ShowAndDrawMap() override;
+  void RunTerminalHandler() override {}
+
+  // The stop.
+  void CloseSound() override {}
+  void StopPageLoading() override {}
+  void StopPicturePanel() override {}
+  void CloseLocalEngine() override;
+  void LeaveSerialModem() override {}
+  void DisconnectAgw() override;
+  void ClosePorts() override;
+  void WriteNavigationFiles() override {}
+  void MergeConfigAtExit() override;
+  void DeleteRunFiles() override;
+
+  // What rooms ask of each other.
+  void MapRedraw() override;
+  void MapRefresh() override;
+  void WriteConfigFromMainWindow() override;
+  void ReplaceConfigLine(const std::string& key, const std::string& value) override;
+  void ShowEmergency() override {}
+  void GateMonitorBlock(std::string_view) override {}
+  void MessageReceived(std::string_view, std::string_view, std::string_view) override {}
+  void EndProgram() override;
+  void OpenRecordPanel() override;
+
+  // Handlers that join several rooms.
+  void BindControls();
+  void BindStations();
+  void BindRecordPanel();
+  void BindQthSetup();
+  void FollowStation(const std::string& call);
+  void ListFollowedCalls();
+  void Find(const std::string& call);
+  void OpenQthSetup();
+  void JumpToTypedPosition();
+  void TakeCentreAsOwnPosition();
+  void ShowQthFields();
+
+  StationPlatform machine_;
+  SymbolTable symbols_;
+  MapLookups lookups_;
+  OverlayLayers overlays_;
+
+  AgwLink agw_link_;
+  AgwLocal agw_local_;
+
+  MapLibrary library_;
+  TileCache tiles_;
+  SymbolSheets sheets_;
+  Readouts readouts_;
+  MapRedrawer redrawer_;
+  MapInteraction interaction_;
+
+  DistanceAlarm distance_;
+  FollowedHistory history_;
+  RecordBrowser browser_;
+  HeardStationsPanel heard_;
+  Collector collector_;
+  ReceivePass receive_pass_;
+
+  MainCycle cycle_;
+  RawListSearch raw_search_;
+
+ public:
+  MainCycle& Cycle() { return cycle_; }
+  AgwLocal& LocalEngine() { return agw_local_; }
+};
+
+}  // namespace zepril

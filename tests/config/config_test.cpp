@@ -1,0 +1,305 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <set>
+
+#include "config/config_file.h"
+#include "config/main_window_settings.h"
+#include "config/start_panel_settings.h"
+#include "core/text_fields.h"
+#include "platform/native/native_files.h"
+#include "tests/doubles/temp_folder.h"
+
+namespace zepril {
+namespace {
+
+class ConfigTest : public ::testing::Test {
+ protected:
+  ConfigTest() { state.Identity.ProgramFolder = "C:"; }
+
+  void WriteIni(const std::string& text) { ASSERT_TRUE(files.Write("C:\\ZEPRIL.INI", text)); }
+  std::string Ini() const { return files.ReadAll("C:\\ZEPRIL.INI", 1 << 20).value_or("missing"); }
+  std::vector<std::string> IniLines() const {
+    return ReadTrimmedLines(files, "C:\\ZEPRIL.INI", 1000).value_or(std::vector<std::string>{});
+  }
+  bool HasLine(const std::string& line) const {
+    const auto lines = IniLines();
+    return std::find(lines.begin(), lines.end(), line) != lines.end();
+  }
+  StartPanelSettings ReadPanel(const std::string& ini) {
+    WriteIni(ini);
+    StartPanelSettings settings = DefaultStartPanelSettings("C:", "");
+    ReadConfigForStartPanel(files, "C:", settings);
+    return settings;
+  }
+  void ReadMain(const std::string& ini) {
+    WriteIni(ini);
+    ReadConfigForMainWindow(files, state);
+  }
+
+  TempFolder folder;
+  NativeFiles files{folder.Path()};
+  RuntimeState state;
+};
+
+TEST_F(ConfigTest, StartPanelWritesEightyKeysInTheOrderOfTheFile) {
+  StartPanelSettings settings = DefaultStartPanelSettings("C:", "");
+  ASSERT_TRUE(WriteConfigFromStartPanel(files, "C:", settings));
+  const auto lines = IniLines();
+  ASSERT_EQ(lines.size(), 80U);
+  const std::string order =
+      "LANG USER MSYS UMAPS M0002 M0010 M0050 M0200 M1000 M5000 TEMP NMEA NBAUD MODEM COM TBAUD "
+      "SCOMP SBAUD HOSTC HOSTP HBAUD CALL DISA DIST UTCD SLOG LOGS TXID TXON TXTO TXPA TXPM1 TXPM2 "
+      "TXPM3 TXPM4 TXTIM TXI1 TXI2 TXI3 TXI4 TXI5 TXI6 TXI1A TXI2A TXI3A TXI4A TXI5A TXI6A TXM1 "
+      "TXM2 TXM3 TXM4 TXM5 TXM6 TXAF TXAFC DIGI XBAUD TXSY TXSS UTN UTE UUN UUE ONAM OTXT OSYM OSYN "
+      "OUTN OUTE NOAT SSPT KIND IONA POIF TRKF AIPRT AISRV IGATE WVER";
+  std::string written;
+  for (const std::string& line : lines) {
+    written += (written.empty() ? "" : " ") + line.substr(0, line.find('='));
+  }
+  EXPECT_EQ(written, order);
+  EXPECT_TRUE(HasLine("TXON= 0"));
+  EXPECT_NE(Ini().find("WVER=\r\n"), std::string::npos);
+}
+
+TEST_F(ConfigTest, DefaultsOfAFirstRun) {
+  const StartPanelSettings s = DefaultStartPanelSettings("C:\\ZEPRIL", "c:\\Temp");
+  EXPECT_EQ(s.TempFolder, "C:\\TEMP");
+  EXPECT_EQ(DefaultStartPanelSettings("C:\\ZEPRIL", "").TempFolder, "C:\\ZEPRIL");
+  EXPECT_EQ(s.MapsPath, "C:\\ZEPRIL\\U33");
+  EXPECT_EQ(s.TncPort, 2);
+  EXPECT_EQ(s.TxSymbolIndex, 14);
+  EXPECT_EQ(s.ObjectSymbol, 0);
+  EXPECT_EQ(s.InfoLine[1], "using ZEPRIL");
+  EXPECT_EQ(s.InfoLine[2], std::string("ZEPRIL DOWNLOAD: ") + kProductAddress);
+  EXPECT_EQ(s.InfoLine[4], s.InfoLine[2]);
+  EXPECT_EQ(s.SunspotNumber, 40);
+  EXPECT_EQ(s.KpIndex, 2);
+}
+
+TEST_F(ConfigTest, MainWindowWritesSeventyThreeKeysAndKeepsTheBlankOfTheInterval) {
+  ReadMain("M0050=TOPO\r\nNOAT=1\r\nTXON=10\r\nFOO=1\r\n");
+  ASSERT_TRUE(WriteConfigFromMainWindow(files, state));
+  EXPECT_EQ(IniLines().size(), 73U);
+  EXPECT_TRUE(HasLine("TXON= 10"));
+  for (const char* gone : {"M0002=", "M0010=", "M0050=", "M0200=", "M1000=", "M5000=", "NOAT=", "FOO="}) {
+    EXPECT_EQ(Ini().find(gone), std::string::npos) << gone;
+  }
+}
+
+TEST_F(ConfigTest, KeysMatchWithoutCaseAndTheLaterLineWins) {
+  ReadMain("  usEr=qx7kb \r\nTXON=5\r\nTXON=7\r\n");
+  EXPECT_EQ(state.Identity.MyCall, "QX7KB");
+  EXPECT_EQ(state.Transmission.TxIntervalMinutes, 7);
+  EXPECT_EQ(ReadPanel("  usEr=qx7kb \r\n").MyCall, "QX7KB");
+}
+
+TEST_F(ConfigTest, EmptyNmeaValuesLeaveTheHeldOnes) {
+  ReadMain("NMEA=3\r\nNMEA=\r\nNBAUD=0\r\n");
+  EXPECT_EQ(state.Gps.NmeaSource, "3");
+  EXPECT_EQ(state.Gps.NmeaBaud, "4800");
+  EXPECT_EQ(ReadPanel("NBAUD=\r\n").NmeaBaud, "4800");
+  EXPECT_EQ(ReadPanel("NBAUD=9600x\r\n").NmeaBaud, "9600x");
+}
+
+TEST_F(ConfigTest, MapSystemIsBroughtToTwoDigits) {
+  EXPECT_EQ(NormalisedMapZone("U8"), "U08");
+  EXPECT_EQ(NormalisedMapZone("U-33"), "U33");
+  EXPECT_EQ(NormalisedMapZone("U75"), "U60");
+  EXPECT_EQ(NormalisedMapZone("33"), "U33");
+  EXPECT_EQ(NormalisedMapZone(""), "U33");
+  EXPECT_EQ(NormalisedMapZone("U0"), "U00");
+  EXPECT_EQ(NormalisedMapZone("UX"), "U00");
+  EXPECT_EQ(NormalisedMapZone("U33N"), "U33");
+  const StartPanelSettings s = ReadPanel("MSYS=u5\r\n");
+  EXPECT_EQ(s.MapZoneName, "U05");
+  EXPECT_EQ(s.MapSystemFolder, "C:\\U05");
+}
+
+TEST_F(ConfigTest, FoldersLoseOneBackslashOnly) {
+  EXPECT_EQ(ReadPanel("UMAPS=D:\\MAPS\\\r\n").MapsPath, "D:\\MAPS");
+  EXPECT_EQ(ReadPanel("UMAPS=D:\\MAPS\\\\\r\n").MapsPath, "D:\\MAPS\\");
+  ReadMain("TEMP=C:\\T\\\r\n");
+  EXPECT_EQ(state.Identity.TempFolder, "C:\\T");
+}
+
+TEST_F(ConfigTest, ObjectNameIsFilledToNineOrStaysEmpty) {
+  EXPECT_EQ(ReadPanel("ONAM=AB\r\n").ObjectName, "AB       ");
+  EXPECT_EQ(ReadPanel("ONAM=\r\n").ObjectName, "");
+  ReadMain("ONAM=LONGNAMEXYZ\r\n");
+  EXPECT_EQ(state.Transmission.ObjectName, "LONGNAMEX");
+}
+
+TEST_F(ConfigTest, ClockOffsetKeepsItsFractionInTheStartPanelOnly) {
+  EXPECT_EQ(ReadPanel("UTCD=2.5\r\n").UtcOffsetHours, 2.5);
+  ReadMain("UTCD=2.5\r\n");
+  EXPECT_EQ(state.Settings.UtcOffsetHours, 2);
+  ReadMain("UTCD=1.5\r\n");
+  EXPECT_EQ(state.Settings.UtcOffsetHours, 2);
+  ASSERT_TRUE(WriteConfigFromMainWindow(files, state));
+  EXPECT_TRUE(HasLine("UTCD=2"));
+}
+
+TEST_F(ConfigTest, MergeKeepsUnknownLinesAndTheirOrder) {
+  WriteIni("usER=qx7kb\r\nFOO=1\r\nM0050=X\r\nUTN=1\r\n");
+  LastValues last;
+  last.CurrentMaps = {"M5000", "M1000", "M0200", "M0050TOPO", "M0010", "M0002"};
+  last.CentreNorthKm = 6600;
+  last.CentreEastKm = 400;
+  last.OwnNorthKm = 5378.123;
+  last.OwnEastKm = 412.345;
+  ASSERT_TRUE(MergeConfigAtExit(files, "C:", last));
+  EXPECT_EQ(Ini(),
+            "usER=qx7kb\r\nFOO=1\r\nM0050=TOPO\r\nUTN=6600\r\nM5000=\r\nM1000=\r\nM0200=\r\nM0010=\r\n"
+            "M0002=\r\nUTE=400\r\nUUN=5378.123\r\nUUE=412.345\r\n");
+}
+
+TEST_F(ConfigTest, MergeLeavesAFileOfMoreThanAHundredLinesAlone) {
+  std::string text;
+  for (int line = 0; line < 101; ++line) text += "X" + WholeNumber(line) + "=1\r\n";
+  WriteIni(text);
+  EXPECT_FALSE(MergeConfigAtExit(files, "C:", {}));
+  EXPECT_EQ(Ini(), text);
+  // One that would grow beyond a hundred lines stays too.
+  text.clear();
+  for (int line = 0; line < 95; ++line) text += "X" + WholeNumber(line) + "=1\r\n";
+  WriteIni(text);
+  EXPECT_FALSE(MergeConfigAtExit(files, "C:", {}));
+  EXPECT_EQ(Ini(), text);
+}
+
+TEST_F(ConfigTest, FirstRunMarkIsTestedOnTheLineAsStored) {
+  WriteIni(" TEMP=x\r\ntemp=x\r\n");
+  EXPECT_FALSE(ScanForFirstRun(files, "C:\\ZEPRIL.INI").Configured);
+  WriteIni("TEMP=\r\nWVER=win10 \r\n");
+  EXPECT_TRUE(ScanForFirstRun(files, "C:\\ZEPRIL.INI").Configured);
+  EXPECT_EQ(ScanForFirstRun(files, "C:\\ZEPRIL.INI").LayoutHint, "WIN10");
+  ReadMain("WVER=win10\r\n");
+  EXPECT_EQ(state.Settings.LayoutHint, "WIN10");
+}
+
+TEST_F(ConfigTest, FirstRunScanCreatesAMissingFile) {
+  EXPECT_FALSE(ScanForFirstRun(files, "C:\\ZEPRIL.INI").Configured);
+  EXPECT_EQ(Ini(), "");
+}
+
+TEST_F(ConfigTest, RealsAreWrittenShortAndOverlayKeepsItsFirstCharacter) {
+  ReadMain("UTN=0.5\r\nUUE=-10.517\r\nTXSS=XY\r\n");
+  EXPECT_EQ(state.Transmission.TxOverlay, "X");
+  ASSERT_TRUE(WriteConfigFromMainWindow(files, state));
+  EXPECT_TRUE(HasLine("UTN=.5"));
+  EXPECT_TRUE(HasLine("UUE=-10.517"));
+  EXPECT_EQ(ReadPanel("TXSS=\r\n").TxOverlay, "A");
+}
+
+TEST_F(ConfigTest, NameOnTheAirTakesAnSsidOfOneToFifteen) {
+  ReadMain("USER=qx7kb\r\nTXID=9\r\n");
+  EXPECT_EQ(state.Identity.MyCallFull, "QX7KB-9");
+  state.Identity = {};
+  state.Identity.ProgramFolder = "C:";
+  ReadMain("USER=qx7kb\r\nTXID=16\r\n");
+  EXPECT_EQ(state.Identity.MyCallFull, "QX7KB");
+  EXPECT_EQ(state.Identity.MySsid, "16");
+  ASSERT_TRUE(WriteConfigFromMainWindow(files, state));
+  EXPECT_TRUE(HasLine("TXID=16"));
+}
+
+TEST_F(ConfigTest, AnSsidBeforeTheCallOrNoneLeavesTheBareCall) {
+  ReadMain("TXID=9\r\nUSER=QX7KB\r\n");
+  EXPECT_EQ(state.Identity.MyCallFull, "QX7KB");
+  state.Identity = {};
+  state.Identity.ProgramFolder = "C:";
+  ReadMain("USER=QX7KB\r\n");
+  EXPECT_EQ(state.Identity.MyCallFull, "QX7KB");
+}
+
+TEST_F(ConfigTest, ValuesBeyondTheirFieldLeaveTheHeldValue) {
+  ReadMain("DIST=40000\r\nLOGS=300\r\nSLOG=-1\r\nTXON=abc\r\n");
+  EXPECT_EQ(state.Alarms.AlarmDistanceKm, 10);
+  EXPECT_EQ(state.Stores.LogsOn, 0);
+  EXPECT_EQ(state.Followed.Moni1ThinningOn, 0);
+  EXPECT_EQ(state.Transmission.TxIntervalMinutes, 0);
+}
+
+TEST_F(ConfigTest, AlarmDistanceIsHeldToTheStartPanelsRange) {
+  EXPECT_EQ(ReadPanel("DIST=0\r\n").AlarmDistanceKm, 1);
+  EXPECT_EQ(ReadPanel("DIST=250\r\n").AlarmDistanceKm, 100);
+}
+
+TEST_F(ConfigTest, MainWindowReaderHasFallbackValuesOfItsOwn) {
+  ReadMain("");
+  EXPECT_EQ(state.Radio.TncPort, 1);
+  EXPECT_EQ(state.Followed.Moni1AlarmOn, 1);
+  EXPECT_EQ(state.Transmission.ObjectSymbol, 37);
+  EXPECT_EQ(state.Identity.MapsPath, "C:\\ZEPRIL");
+  EXPECT_EQ(state.Identity.TempFolder, "C:");
+  EXPECT_EQ(state.Transmission.TxDestination, "ZEPR");
+}
+
+TEST_F(ConfigTest, MainWindowUpperCasesTheStoredMapVariants) {
+  ReadMain("M0050=topo\r\n");
+  EXPECT_EQ(state.Map.StoredVariants[3], "TOPO");
+  EXPECT_EQ(ReadPanel("M0050=topo\r\n").StoredVariants[3], "topo");
+}
+
+TEST_F(ConfigTest, BothReadersTakeEverySettingThatTheirWriterGives) {
+  StartPanelSettings s = DefaultStartPanelSettings("C:", "");
+  s.MyCall = "QX7KB";
+  s.AgwHost = "radio.local";
+  s.BaudMode = "1200";
+  s.TxPathMemory[2] = "WIDE2-2";
+  s.InfoLineActive[4] = 0;
+  s.InfoLineMemory[5] = "145.500MHZ";
+  s.CentreNorthKm = 6200.499;
+  s.ObjectOverlay = "7";
+  s.KeepReadOnlyMarks = 1;
+  ASSERT_TRUE(WriteConfigFromStartPanel(files, "C:", s));
+  const std::string first = Ini();
+  StartPanelSettings again = DefaultStartPanelSettings("C:", "");
+  EXPECT_TRUE(ReadConfigForStartPanel(files, "C:", again));
+  ASSERT_TRUE(WriteConfigFromStartPanel(files, "C:", again));
+  EXPECT_EQ(Ini(), first);
+  ReadConfigForMainWindow(files, state);
+  EXPECT_EQ(state.Radio.AgwHost, "radio.local");
+  EXPECT_EQ(state.Radio.BaudModeLabel, "1200 Bd");
+  EXPECT_EQ(state.Transmission.TxPathMemory[2], "WIDE2-2");
+  EXPECT_EQ(state.Transmission.InfoLineActive[4], 0);
+  EXPECT_EQ(state.Transmission.InfoLineMemory[5], "145.500MHZ");
+  EXPECT_EQ(state.Map.CentreNorthKm, 6200.499);
+  EXPECT_EQ(state.Transmission.ObjectOverlay, "7");
+}
+
+TEST_F(ConfigTest, ReplacingOneLineKeepsAllOthers) {
+  WriteIni("FOO=1\r\ncall=OLD\r\nM0050=TOPO\r\n");
+  ASSERT_TRUE(ReplaceConfigLine(files, "C:\\ZEPRIL.INI", "CALL", "QX1AB"));
+  EXPECT_EQ(Ini(), "FOO=1\r\nCALL=QX1AB\r\nM0050=TOPO\r\n");
+  ASSERT_TRUE(ReplaceConfigLine(files, "C:\\ZEPRIL.INI", "TXID", "7"));
+  EXPECT_EQ(Ini(), "FOO=1\r\nCALL=QX1AB\r\nM0050=TOPO\r\nTXID=7\r\n");
+}
+
+TEST_F(ConfigTest, AnEndlessLineNeitherFillsMemoryNorIsCutByAnEdit) {
+  const std::string giant = "FOO=" + std::string(300000, 'x') + "\r\nUSER=QX7KB\r\n";
+  ReadMain(giant);
+  EXPECT_EQ(state.Identity.MyCall, "QX7KB");
+  EXPECT_FALSE(ReplaceConfigLine(files, "C:\\ZEPRIL.INI", "CALL", "X"));
+  EXPECT_FALSE(MergeConfigAtExit(files, "C:", {}));
+  EXPECT_EQ(Ini(), giant);
+}
+
+TEST_F(ConfigTest, AFailedWriteLeavesTheOldFileWhole) {
+  ReadMain("USER=QX7KB\r\n");
+  // The new file beside the old one can't be made: a folder stands in its place.
+  ASSERT_TRUE(files.MakeFolder("C:\\ZEPRIL.INI.new~"));
+  EXPECT_FALSE(WriteConfigFromMainWindow(files, state));
+  EXPECT_EQ(Ini(), "USER=QX7KB\r\n");
+}
+
+TEST(BaudModeLabel, NamesTheMode) {
+  EXPECT_EQ(BaudModeLabelOf("300"), "300 Bd");
+  EXPECT_EQ(BaudModeLabelOf("300R"), "RPR 300");
+  EXPECT_EQ(BaudModeLabelOf("19200"), "19200 Bd");
+}
+
+}  // namespace
+}  // namespace zepril

@@ -1,0 +1,244 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/main_window_start.h"
+#include "core/main_window_stop.h"
+#include "tests/doubles/virtual_clock.h"
+
+namespace zepril {
+namespace {
+
+using Names = std::vector<std::string>;
+
+class StartRecorder final : public StartActions {
+ public:
+  void ReadConfig() override {
+    Done.push_back("config");
+    if (OnReadConfig) OnReadConfig();
+  }
+  void SetOwnNames() override { Done.push_back("names"); }
+  void LayOutPanels() override { Done.push_back("panels"); }
+  void ScanMapLibrary() override { Done.push_back("maps"); }
+  void LoadHistory(int gap_days) override {
+    Done.push_back("history " + std::to_string(gap_days));
+    if (OnLoadHistory) OnLoadHistory();
+  }
+  void OpenLocalEngine() override { Done.push_back("local engine"); }
+  void OpenSerialModem() override { Done.push_back("serial"); }
+  bool ConnectAgw() override {
+    Done.push_back("agw");
+    return AgwAnswers;
+  }
+  void OpenGpsPort() override { Done.push_back("gps"); }
+  void RestoreTracksPlacesAndChat() override { Done.push_back("restore"); }
+  void ShowTitleMarkers() override { Done.push_back("title"); }
+  void StartIonoUpdate() override { Done.push_back("iono"); }
+  void SetLabels() override { Done.push_back("labels"); }
+  void ShowAndDrawMap() override { Done.push_back("draw"); }
+  void RunTerminalHandler() override { Done.push_back("terminal"); }
+
+  Names Done;
+  bool AgwAnswers = true;
+  std::function<void()> OnReadConfig;
+  std::function<void()> OnLoadHistory;
+};
+
+class StartTest : public ::testing::Test {
+ protected:
+  bool Start() {
+    recorder.OnReadConfig = [this] {
+      state.Radio.RadioMode = mode;
+      state.Identity.MyCall = call;
+      if (WithConfig) WithConfig();
+    };
+    return MainWindowStart(state, controls, clock, timer1, recorder).Run("C:\\ZEPRIL", 32);
+  }
+
+  RuntimeState state;
+  MainWindowControls controls;
+  VirtualClock clock;
+  Timer timer1{6000};
+  StartRecorder recorder;
+  int mode = 3;
+  std::string call = "QX7KB";
+  std::function<void()> WithConfig;
+};
+
+TEST_F(StartTest, RunsItsStepsInOrder) {
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(recorder.Done,
+            (Names{"config", "names", "panels", "maps", "history 30", "agw", "gps", "restore", "title",
+                   "iono", "labels", "draw", "terminal"}));
+  EXPECT_TRUE(timer1.Enabled());
+  EXPECT_EQ(timer1.IntervalMs(), 6000);
+  EXPECT_EQ(state.Reception.RxBuffer, "\n");
+  EXPECT_EQ(state.Internet.LastMoni1InternetMinute, -5000);
+  EXPECT_EQ(state.Internet.LastMoniAllInternetMinute, 0);
+}
+
+TEST_F(StartTest, EachModeOpensItsLink) {
+  const auto opened = [&](int radio_mode) {
+    mode = radio_mode;
+    recorder.Done.clear();
+    Start();
+    return recorder.Done[5];
+  };
+  EXPECT_EQ(opened(0), "local engine");
+  EXPECT_EQ(opened(1), "serial");
+  EXPECT_EQ(opened(5), "serial");
+  EXPECT_EQ(opened(6), "serial");
+  EXPECT_EQ(opened(4), "gps");
+  EXPECT_FALSE(controls.Transmit.Check6.Visible);
+  EXPECT_FALSE(controls.Transmit.Check16.Enabled);
+}
+
+TEST_F(StartTest, AFailedLinkEndsTheStart) {
+  recorder.AgwAnswers = false;
+  EXPECT_FALSE(Start());
+  EXPECT_EQ(recorder.Done.back(), "agw");
+  EXPECT_FALSE(timer1.Enabled());
+}
+
+TEST_F(StartTest, StoreLimitsFollowTheSpeedOfTheComputer) {
+  clock.Loops = 229500;
+  Start();
+  EXPECT_EQ(state.Stores.MoniAllRecords.Limit, 51);
+  EXPECT_EQ(state.Stores.Moni1Records.Limit, 255);
+}
+
+TEST_F(StartTest, ADigitInTheThirdPlaceAllowsMessages) {
+  EXPECT_EQ(TxAllowedOf("QX7KB"), 1);
+  EXPECT_EQ(TxAllowedOf("DL1ABC"), 1);
+  EXPECT_EQ(TxAllowedOf("2E0ABC"), 1);
+  EXPECT_EQ(TxAllowedOf("G4ABC"), 0);
+  EXPECT_EQ(TxAllowedOf("K1ABC"), 0);
+  EXPECT_EQ(TxAllowedOf("DLXYZ"), 0);
+  EXPECT_EQ(TxAllowedOf(""), 0);
+  call = "G4ABC";
+  state.Internet.AprsIsPasscode = "123";
+  state.Internet.IGateOn = 1;
+  Start();
+  EXPECT_EQ(controls.Transmit.Check8.Value, 1);
+  EXPECT_FALSE(controls.Transmit.Check8.Enabled);
+  EXPECT_FALSE(controls.Transmit.Check16.Visible);
+  EXPECT_FALSE(controls.Transmit.Text3.Visible);
+  EXPECT_EQ(controls.Transmit.Check15.Value, 0);
+  EXPECT_FALSE(controls.Transmit.Check15.Enabled);
+  EXPECT_TRUE(controls.Transmit.Check6.Visible);
+}
+
+TEST_F(StartTest, WithoutAPasscodeThereIsNoGateSwitch) {
+  state.Internet.IGateOn = 1;
+  state.Internet.AprsIsPasscode = "0";
+  Start();
+  EXPECT_EQ(state.Internet.IGateOn, 0);
+  EXPECT_FALSE(controls.Transmit.Check15.Visible);
+}
+
+TEST_F(StartTest, APicturePlaceInBothCoordinatesOpensTheMapThere) {
+  WithConfig = [this] {
+    state.Map.CentreNorthKm = 6200.499;
+    state.Map.CentreEastKm = 400.499;
+  };
+  recorder.OnLoadHistory = [this] { state.Stores.Moni1Records.Append(StationRecord("240115 1234")); };
+  Start();
+  EXPECT_EQ(state.Map.CentreFollow, 0);
+  EXPECT_FALSE(controls.Map.Option2.Value);
+  EXPECT_EQ(state.Map.CentreNorthKm, 6200.499);
+  WithConfig = [this] {
+    state.Map.CentreNorthKm = 6200.499;
+    state.Map.CentreEastKm = 400.5;
+  };
+  Start();
+  EXPECT_EQ(state.Map.CentreFollow, 1);
+  EXPECT_TRUE(controls.Map.Option2.Value);
+}
+
+TEST_F(StartTest, WithoutAHistoryTheMapIsFreeAndHasADefaultCentre) {
+  Start();
+  EXPECT_EQ(state.Map.CentreFollow, 0);
+  EXPECT_EQ(state.Map.CentreNorthKm, 6600.0);
+  EXPECT_EQ(state.Map.CentreEastKm, 400.0);
+}
+
+TEST_F(StartTest, PositionPanelComesWhenNothingIsKnown) {
+  controls.Qth.Frame2.Visible = false;
+  Start();
+  EXPECT_TRUE(controls.Qth.Frame2.Visible);
+  controls.Qth.Frame2.Visible = false;
+  WithConfig = [this] { state.Map.OwnNorthKm = 5800; };
+  Start();
+  EXPECT_FALSE(controls.Qth.Frame2.Visible);
+}
+
+TEST_F(StartTest, IonosphereUpdateRunsOnlyWhenArmed) {
+  WithConfig = [this] { state.Internet.IonoAutoOn = 0; };
+  Start();
+  EXPECT_EQ(std::count(recorder.Done.begin(), recorder.Done.end(), "iono"), 0);
+}
+
+TEST_F(StartTest, AlarmDistanceIsAtLeastOne) {
+  WithConfig = [this] { state.Alarms.AlarmDistanceKm = 0; };
+  Start();
+  EXPECT_EQ(state.Alarms.AlarmDistanceKm, 1);
+}
+
+class StopRecorder final : public StopActions {
+ public:
+  void CloseSound() override { Done.push_back("sound"); }
+  void StopPageLoading() override { Done.push_back("page"); }
+  void StopPicturePanel() override { Done.push_back("picture"); }
+  void CloseLocalEngine() override { Done.push_back("local engine"); }
+  void LeaveSerialModem() override { Done.push_back("serial"); }
+  void DisconnectAgw() override { Done.push_back("agw"); }
+  void ClosePorts() override { Done.push_back("ports"); }
+  void WriteNavigationFiles() override { Done.push_back("navigation"); }
+  void MergeConfigAtExit() override { Done.push_back("merge"); }
+  void DeleteRunFiles() override { Done.push_back("delete"); }
+  Names Done;
+};
+
+class StopTest : public ::testing::Test {
+ protected:
+  Names Stop(int mode, bool by_operator) {
+    state.Radio.RadioMode = mode;
+    StopRecorder recorder;
+    timer1.Arm(6000);
+    timer2.Arm(3000);
+    MainWindowStop(state, controls, timer1, timer2, recorder).Run(by_operator);
+    EXPECT_FALSE(timer1.Enabled());
+    EXPECT_FALSE(timer2.Enabled());
+    return recorder.Done;
+  }
+  StopTest() { controls.Record.Frame8.Visible = false; }
+  RuntimeState state;
+  MainWindowControls controls;
+  Timer timer1{6000};
+  Timer timer2{3000};
+};
+
+TEST_F(StopTest, RunsItsStepsInOrder) {
+  EXPECT_EQ(Stop(3, true), (Names{"sound", "sound", "agw", "ports", "navigation", "merge", "delete"}));
+  EXPECT_EQ(Stop(0, true)[2], "local engine");
+  EXPECT_EQ(Stop(1, true)[2], "serial");
+  EXPECT_EQ(Stop(5, true)[2], "serial");
+  EXPECT_EQ(Stop(6, true)[2], "serial");
+  EXPECT_EQ(Stop(4, true)[2], "ports");
+}
+
+TEST_F(StopTest, SettingsAreMergedOnACloseByTheOperatorOnly) {
+  EXPECT_EQ(Stop(3, false), (Names{"sound", "sound", "agw", "ports", "navigation", "delete"}));
+}
+
+TEST_F(StopTest, LoadingPagesAreStopped) {
+  controls.Moni1.Check22.Value = 1;
+  controls.Record.Frame8.Visible = true;
+  EXPECT_EQ(Stop(4, true), (Names{"sound", "page", "picture", "sound", "ports", "navigation", "merge", "delete"}));
+}
+
+}  // namespace
+}  // namespace zepril

@@ -1,0 +1,77 @@
+#include "geodesy/coordinate_texts.h"
+
+#include <gtest/gtest.h>
+
+#include "core/position_text.h"
+
+namespace zepril {
+namespace {
+
+TEST(KilometreText, IsNineCharactersWithAPointBeforeTheMetres) {
+  EXPECT_EQ(KilometreText(5912.345), " 5912.345");
+  EXPECT_EQ(KilometreText(0.1), "     .100");
+  EXPECT_EQ(KilometreText(0.05), "     . 50");
+}
+
+TEST(KilometreText, ExactZeroHasFourDigitsAndAlmostZeroHasOne) {
+  EXPECT_EQ(KilometreText(0.0), "    0.000");
+  EXPECT_EQ(KilometreText(0.0004), "     .  0");
+}
+
+TEST(KilometreText, SignOfANegativeValueStaysInTheFirstColumn) {
+  EXPECT_EQ(KilometreText(-12.345), "-  12.345");
+  EXPECT_EQ(KilometreText(-0.0005), "-    .  1");
+  EXPECT_EQ(KilometreText(-12.3454), "-  12.346");  // rounded down
+}
+
+TEST(KilometreText, IsReadBackByThePositionReader) {
+  for (double km : {0.0, 0.042, -0.001, 12.345, -12.345, 5912.345, -9999.998, 400.0}) {
+    EXPECT_NEAR(PositionTextKm(KilometreText(km)), km, 0.0005) << km;
+  }
+}
+
+TEST(GridTexts, EastFromTenThousandKilometresShowsTwoDecimals) {
+  EXPECT_EQ(GridEastText(15500.00012), " 15500.00");
+  EXPECT_EQ(GridEastText(10484.25506), " 10484.55");
+  EXPECT_EQ(GridEastText(4595.17776), " 4595.177");  // cut, not rounded
+}
+
+TEST(GridTexts, NorthIsHeldBelowTenThousandKilometres) {
+  EXPECT_EQ(GridNorthText(12345.678), " 9999.999");
+  EXPECT_EQ(GridNorthText(9999.999), " 9999.999");
+  EXPECT_EQ(GridNorthText(-12.345), "-  12.345");
+}
+
+TEST(PointTexts, WholeMetresSurviveBinaryFractions) {
+  EXPECT_EQ(PointKilometreText(RoundedToMetre(1.001)), "    1.001");
+}
+
+TEST(PointTexts, BeyondTheGridIsEmptyButTheCentreHasNoSuchRule) {
+  EXPECT_EQ(PointKilometreText(RoundedToMetre(9999.9994)), "");
+  EXPECT_EQ(PointKilometreText(RoundedToMetre(-9999.9994)), "");
+  EXPECT_EQ(PointKilometreText(9999.998), " 9999.998");
+  EXPECT_EQ(KilometreText(9999.9994), " 9999.999");
+}
+
+TEST(DegreeMinuteText, CutsAndKeepsTheSignWhereThereIsRoom) {
+  EXPECT_EQ(DegreeMinuteText(52.5041), " 52:30.24");
+  EXPECT_EQ(DegreeMinuteText(-9.5), "- 9:30.00");
+  EXPECT_EQ(DegreeMinuteText(-0.5), "- 0:30.00");
+  EXPECT_EQ(DegreeMinuteText(-0.00001), "- 0:00.00");
+  EXPECT_EQ(DegreeMinuteText(48.5025), " 48:30.14");
+  EXPECT_EQ(DegreeMinuteText(59.99999999), " 59:59.99");
+}
+
+TEST(DegreeMinuteText, ThreeDigitsOfDegreesLoseTheSign) {
+  EXPECT_EQ(DegreeMinuteText(-122.5), "122:30.00");
+  EXPECT_EQ(DegreeMinuteText(122.0), "122:00.00");
+}
+
+TEST(Locator, IsAllCapitalsAndDoesNotWrap) {
+  EXPECT_EQ(LocatorOf(52.5, 13.4), "JO62QM");
+  EXPECT_EQ(LocatorOf(0.0, 15.0), "JJ70MA");
+  EXPECT_EQ(LocatorOf(0.0, 180.0), "SJ00AA");
+}
+
+}  // namespace
+}  // namespace zepril

@@ -1,0 +1,102 @@
+#include "make_sample_maps/labels.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace zepril {
+namespace {
+
+struct Box {
+  int left, top, right, bottom;
+};
+
+bool Meet(const Box& a, const Box& b) {
+  return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
+class Placer {
+ public:
+  explicit Placer(double km_per_pixel) : km_per_pixel_(km_per_pixel) {}
+
+  void Town(const Place& town) {
+    const int x = Pixel(town.at.east_km), y = Pixel(-town.at.north_km);
+    const int r = DotRadius(town.rank);
+    const Box dot{x - r - 1, y - r - 1, x + r + 2, y + r + 2};
+    if (town.rank > 2 && !Free(dot)) return;
+    Label label{0, 0, 8, town.rank, false, town.name};
+    const int w = LabelWidth(label);
+    // The ink of a letter's cell begins three rows down and ends three rows above its foot.
+    const int gap = r + 3, up = -r - 15, down = r - 1;
+    const std::optional<Label> placed = Try(label, {{x + gap, y - 7},
+                                                    {x - gap - w, y - 7},
+                                                    {x + r, y + up},
+                                                    {x + r, y + down},
+                                                    {x - w / 2, y + up},
+                                                    {x - w / 2, y + down},
+                                                    {x - r - w, y + up},
+                                                    {x - r - w, y + down}});
+    if (!placed && town.rank > 2) return;
+    taken_.push_back(dot);
+    result_.dots.push_back({x, y, town.rank});
+    if (placed) Keep(*placed);
+  }
+
+  void Water(const Place& water) {
+    const int x = Pixel(water.at.east_km), y = Pixel(-water.at.north_km);
+    Label label{0, 0, water.rank == 1 ? 16 : water.rank == 2 ? 14 : 11, 3, true, water.name};
+    const int w = LabelWidth(label);
+    std::vector<std::pair<int, int>> tries;
+    for (const int dy : {0, 20, -20, 40, -40})
+      tries.push_back({x - w / 2, y - 7 + dy});
+    if (const auto placed = Try(label, tries)) Keep(*placed);
+  }
+
+  Labels Take() { return std::move(result_); }
+
+ private:
+  int Pixel(double km) const { return static_cast<int>(std::floor(km / km_per_pixel_)); }
+
+  static Box BoxOf(const Label& label) {
+    return {label.x - 1, label.y + 2, label.x + LabelWidth(label) + 1, label.y + kLabelHeight};
+  }
+
+  bool Free(const Box& box) const {
+    return std::none_of(taken_.begin(), taken_.end(), [&](const Box& b) { return Meet(b, box); });
+  }
+
+  std::optional<Label> Try(Label label, const std::vector<std::pair<int, int>>& places) const {
+    for (const auto& [x, y] : places) {
+      label.x = x;
+      label.y = y;
+      if (Free(BoxOf(label))) return label;
+    }
+    return std::nullopt;
+  }
+
+  void Keep(const Label& label) {
+    taken_.push_back(BoxOf(label));
+    result_.labels.push_back(label);
+  }
+
+  double km_per_pixel_;
+  std::vector<Box> taken_;
+  Labels result_;
+};
+
+}  // namespace
+
+Labels PlaceLabels(const MapData& data, double km_per_pixel, int last_town, int last_water) {
+  Placer placer(km_per_pixel);
+  for (int rank = 1; rank <= last_town; ++rank) {
+    for (const Place& town : data.towns) {
+      if (town.rank == rank) placer.Town(town);
+    }
+  }
+  for (const Place& water : data.waters) {
+    if (water.rank <= last_water) placer.Water(water);
+  }
+  return placer.Take();
+}
+
+}  // namespace zepril

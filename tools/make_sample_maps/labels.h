@@ -1,0 +1,43 @@
+// Where the dots and names of a scale stand: decided once for the whole scale, so that a name runs
+// on across tile edges.
+#pragma once
+
+#include "make_sample_maps/map_data.h"
+
+#include <vector>
+
+namespace zepril {
+
+// Pixels of the whole scale: x eastward from easting 0, y southward from northing 0.
+struct Dot {
+  int x = 0, y = 0;
+  int rank = 3;
+};
+
+struct Label {
+  int x = 0, y = 0;  // top left of the first letter's cell
+  int step = 8;      // from letter to letter
+  int rank = 3;      // 1: drawn bold
+  bool water = false;
+  std::string text;
+};
+
+struct Labels {
+  std::vector<Dot> dots;
+  std::vector<Label> labels;
+};
+
+constexpr int kLabelHeight = 15;
+
+inline int DotRadius(int rank) {
+  return rank == 1 ? 4 : rank == 2 ? 3 : 2;
+}
+inline int LabelWidth(const Label& label) {
+  return label.step * static_cast<int>(label.text.size());
+}
+
+// Larger towns choose first; a name that finds no free place is left out, and with it the dot of a
+// small town. Places of a rank above `last_town` or `last_water` are not shown.
+Labels PlaceLabels(const MapData& data, double km_per_pixel, int last_town, int last_water);
+
+}  // namespace zepril

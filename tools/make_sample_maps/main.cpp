@@ -1,0 +1,23 @@
+// make_sample_maps <source data dir> <target dir>
+//
+// Draws the sample map library; the target is the folder that the program takes as its map path.
+
+#include "make_sample_maps/sample_maps.h"
+
+#include <cstdio>
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::fputs("usage: make_sample_maps <source data dir> <target dir>\n", stderr);
+    return 2;
+  }
+  const zepril::SampleMapsResult result =
+      zepril::DrawSampleMaps(argv[1], argv[2], [](int done, int total) {
+        std::fputs((std::to_string(done) + "/" + std::to_string(total) + "\n").c_str(), stdout);
+        std::fflush(stdout);
+        return true;
+      });
+  if (result.complete) return 0;
+  std::fputs(("cannot go on: " + result.fault + "\n").c_str(), stderr);
+  return 1;
+}

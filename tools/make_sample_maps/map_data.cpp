@@ -1,0 +1,290 @@
+#include "make_sample_maps/map_data.h"
+
+#include "geodesy/conversions.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <fstream>
+#include <iterator>
+#include <string_view>
+
+namespace zepril {
+namespace {
+
+constexpr double kReach = 89.98;  // degrees of longitude either side
+constexpr double kSouthLimit = -5;
+constexpr double kNorthLimit = 84.9;
+
+struct Degrees {
+  double lon = 0, lat = 0;
+};
+using Arc = std::vector<Degrees>;
+
+std::optional<std::string> ReadFile(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) return std::nullopt;
+  return std::string{std::istreambuf_iterator<char>(file), {}};
+}
+
+// Cuts a text into words, without keeping them.
+class WordReader {
+ public:
+  explicit WordReader(std::string_view text) : rest_(text) {}
+
+  bool AtEnd() {
+    while (!rest_.empty() && rest_.front() == ' ')
+      rest_.remove_prefix(1);
+    return rest_.empty();
+  }
+  std::string_view Word() {
+    if (AtEnd()) return {};
+    const std::size_t end = std::min(rest_.find(' '), rest_.size());
+    const std::string_view word = rest_.substr(0, end);
+    rest_.remove_prefix(end);
+    return word;
+  }
+  template <typename Number>
+  std::optional<Number> Next() {
+    const std::string_view word = Word();
+    Number value = 0;
+    const auto result = std::from_chars(word.data(), word.data() + word.size(), value);
+    if (result.ec != std::errc() || result.ptr != word.data() + word.size()) return std::nullopt;
+    return value;
+  }
+  std::string_view Rest() {
+    AtEnd();
+    return rest_;
+  }
+
+ private:
+  std::string_view rest_;
+};
+
+// Calls `take` for each line that is neither empty nor a comment, until it says no.
+template <typename Take>
+bool EachLine(std::string_view text, Take take) {
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    std::string_view line = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+    if (line.empty() || line.front() == '#') continue;
+    if (!take(line)) return false;
+  }
+  return true;
+}
+
+// The grid runs out to infinity where the equator lies 90 degrees off the meridian, and its series
+// fails before. Points near there are set far aside, where they shape no tile.
+MapPoint ToGrid(Degrees at) {
+  const double to_radians = kConversionPi / 180;
+  const double aside =
+      std::cos(at.lat * to_radians) * std::sin((at.lon - kSampleMeridian) * to_radians);
+  if (std::abs(aside) > 0.999) return {std::copysign(25000.0, aside), at.lat * 100};
+  const GridMetres grid = GeodeticToUtm(at.lon, at.lat, kSampleMeridian, kUtmFalseEasting);
+  return {grid.East / 1000, grid.North / 1000};
+}
+
+// Keeps what lies on the side of one edge of the box where `depth` is not negative.
+template <typename Depth>
+Arc CutRing(const Arc& ring, Depth depth) {
+  Arc kept;
+  for (std::size_t i = 0; i < ring.size(); ++i) {
+    const Degrees a = ring[i], b = ring[(i + 1) % ring.size()];
+    const double da = depth(a), db = depth(b);
+    if (da >= 0) kept.push_back(a);
+    if ((da >= 0) != (db >= 0)) {
+      const double t = da / (da - db);
+      kept.push_back({a.lon + t * (b.lon - a.lon), a.lat + t * (b.lat - a.lat)});
+    }
+  }
+  return kept;
+}
+
+Arc CutToReach(Arc ring) {
+  ring = CutRing(ring, [](Degrees p) { return p.lon - (kSampleMeridian - kReach); });
+  ring = CutRing(ring, [](Degrees p) { return kSampleMeridian + kReach - p.lon; });
+  ring = CutRing(ring, [](Degrees p) { return p.lat - kSouthLimit; });
+  return CutRing(ring, [](Degrees p) { return kNorthLimit - p.lat; });
+}
+
+// Long straight steps in degrees are curves in the grid: they get points between.
+Outline ToOutline(const Arc& arc, bool closed) {
+  Outline outline;
+  const std::size_t steps = closed ? arc.size() : arc.size() - 1;
+  for (std::size_t i = 0; i < steps; ++i) {
+    const Degrees a = arc[i], b = arc[(i + 1) % arc.size()];
+    const double span = std::max(std::abs(b.lon - a.lon), std::abs(b.lat - a.lat));
+    const int parts = 1 + static_cast<int>(std::min(span, 360.0));
+    for (int part = 0; part < parts; ++part) {
+      const double t = static_cast<double>(part) / parts;
+      outline.points.push_back(ToGrid({a.lon + t * (b.lon - a.lon), a.lat + t * (b.lat - a.lat)}));
+    }
+  }
+  if (!closed) outline.points.push_back(ToGrid(arc.back()));
+  outline.low = outline.high = outline.points.front();
+  for (const MapPoint& p : outline.points) {
+    outline.low = {std::min(outline.low.east_km, p.east_km),
+                   std::min(outline.low.north_km, p.north_km)};
+    outline.high = {std::max(outline.high.east_km, p.east_km),
+                    std::max(outline.high.north_km, p.north_km)};
+  }
+  return outline;
+}
+
+class LandReader {
+ public:
+  explicit LandReader(MapData& data) : data_(data) {}
+
+  bool TakeLine(std::string_view line) {
+    WordReader words(line);
+    const std::string_view kind = words.Word();
+    if (kind == "a") return TakeArc(words);
+    if (kind == "r") return TakeRing(words);
+    if (kind == "b") return TakeBorders(words);
+    return false;
+  }
+
+ private:
+  bool TakeArc(WordReader& words) {
+    Arc arc;
+    int lon = 0, lat = 0;
+    while (!words.AtEnd()) {
+      const auto east = words.Next<int>(), north = words.Next<int>();
+      if (!east || !north || std::abs(*east) > 400000 || std::abs(*north) > 400000) return false;
+      lon += *east;
+      lat += *north;
+      if (std::abs(lon) > 200000 || std::abs(lat) > 100000) return false;
+      arc.push_back({lon / 1000.0, lat / 1000.0});
+    }
+    arcs_.push_back(std::move(arc));
+    return true;
+  }
+
+  const Arc* Find(int number) const {
+    const std::size_t index = static_cast<std::size_t>(std::abs(static_cast<long>(number)));
+    return index == 0 || index > arcs_.size() ? nullptr : &arcs_[index - 1];
+  }
+
+  bool TakeRing(WordReader& words) {
+    Arc ring;
+    while (!words.AtEnd()) {
+      const auto number = words.Next<int>();
+      const Arc* arc = number ? Find(*number) : nullptr;
+      if (arc == nullptr) return false;
+      if (*number > 0) {
+        ring.insert(ring.end(), arc->begin(), arc->end());
+      } else {
+        ring.insert(ring.end(), arc->rbegin(), arc->rend());
+      }
+    }
+    Unwind(ring);
+    // Unwound, a ring may lie a turn beside the map.
+    for (const double turn : {-360.0, 0.0, 360.0}) {
+      Arc turned = ring;
+      for (Degrees& at : turned)
+        at.lon += turn;
+      turned = CutToReach(std::move(turned));
+      if (turned.size() >= 3) data_.land.push_back(ToOutline(turned, true));
+    }
+    return true;
+  }
+
+  // Takes out the jump from 180 east to 180 west.
+  static void Unwind(Arc& ring) {
+    double turn = 0;
+    for (std::size_t i = 1; i < ring.size(); ++i) {
+      const double step = ring[i].lon + turn - ring[i - 1].lon;
+      if (step > 180) turn -= 360;
+      if (step < -180) turn += 360;
+      ring[i].lon += turn;
+    }
+  }
+
+  bool TakeBorders(WordReader& words) {
+    while (!words.AtEnd()) {
+      const auto number = words.Next<int>();
+      const Arc* arc = number ? Find(*number) : nullptr;
+      if (arc == nullptr) return false;
+      AddBorder(*arc);
+    }
+    return true;
+  }
+
+  // The pieces of a line within reach.
+  void AddBorder(const Arc& arc) {
+    Arc piece;
+    for (const Degrees& at : arc) {
+      const bool inside = std::abs(at.lon - kSampleMeridian) < kReach && at.lat > kSouthLimit;
+      if (inside) piece.push_back(at);
+      if (inside && &at != &arc.back()) continue;
+      if (piece.size() >= 2) data_.borders.push_back(ToOutline(piece, false));
+      piece.clear();
+    }
+  }
+
+  MapData& data_;
+  std::vector<Arc> arcs_;
+};
+
+// 54.09 12.14 2 Rostock
+bool TakePlace(std::string_view line, std::vector<Place>& places) {
+  WordReader words(line);
+  const auto lat = words.Next<double>(), lon = words.Next<double>();
+  const auto rank = words.Next<int>();
+  const std::string_view name = words.Rest();
+  if (!lat || !lon || !rank || name.empty() || std::abs(*lon - kSampleMeridian) > kReach)
+    return false;
+  places.push_back({ToGrid({*lon, *lat}), *rank, std::string(name)});
+  return true;
+}
+
+std::optional<int> HexByte(std::string_view text, std::size_t at) {
+  int value = 0;
+  if (at + 2 > text.size()) return std::nullopt;
+  const auto result = std::from_chars(text.data() + at, text.data() + at + 2, value, 16);
+  if (result.ec != std::errc() || result.ptr != text.data() + at + 2) return std::nullopt;
+  return value;
+}
+
+// 41 0000001824244242427E4242420000
+bool TakeLetter(std::string_view line, MapData& data) {
+  const auto byte = HexByte(line, 0);
+  if (!byte) return false;
+  LetterRows& rows = data.letters[static_cast<std::size_t>(*byte)];
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    const auto bits = HexByte(line, 3 + 2 * row);
+    if (!bits) return false;
+    rows[row] = static_cast<std::uint8_t>(*bits);
+  }
+  return true;
+}
+
+template <typename Take>
+bool ReadLines(const std::filesystem::path& path, std::string& fault, Take take) {
+  const auto text = ReadFile(path);
+  if (text && EachLine(*text, take)) return true;
+  fault = path.filename().string();
+  return false;
+}
+
+}  // namespace
+
+std::optional<MapData> ReadMapData(const std::filesystem::path& source, std::string& fault) {
+  MapData data;
+  LandReader land(data);
+  const auto line_to = [&](auto& places) {
+    return [&places](std::string_view line) { return TakePlace(line, places); };
+  };
+  const bool good = ReadLines(source / "europe.txt", fault,
+                              [&](std::string_view line) { return land.TakeLine(line); }) &&
+                    ReadLines(source / "towns.txt", fault, line_to(data.towns)) &&
+                    ReadLines(source / "waters.txt", fault, line_to(data.waters)) &&
+                    ReadLines(source / "letters.txt", fault,
+                              [&](std::string_view line) { return TakeLetter(line, data); });
+  if (!good) return std::nullopt;
+  return data;
+}
+
+}  // namespace zepril

@@ -1,0 +1,103 @@
+#include "make_sample_maps/sample_maps.h"
+
+#include "make_sample_maps/labels.h"
+#include "make_sample_maps/map_data.h"
+#include "make_sample_maps/tile_file.h"
+#include "make_sample_maps/tile_raster.h"
+
+#include <system_error>
+
+namespace zepril {
+namespace {
+
+// One scale folder and the south-west corners of its first and last tile.
+struct ScaleFolder {
+  const char* name;
+  int side_km;
+  int south, north, west, east;
+  int last_town, last_water;  // ranks shown
+  TileStyle style;
+
+  int Count() const { return ((north - south) / side_km + 1) * ((east - west) / side_km + 1); }
+};
+
+constexpr ScaleFolder kFolders[] = {
+    {"M1000", 1000, 3000, 8000, -3000, 4000, 3, 3, {false, 4, 9, true}},
+    {"M5000", 5000, 0, 5000, -5000, 0, 1, 1, {false, 2, 4, false}},
+    {"M0200", 200, 5600, 7400, -1000, 1800, 3, 4, {false, 6, 14, true}},
+    {"M1000RELIEF", 1000, 4000, 7000, -2000, 2000, 3, 3, {true, 0, 0, true}},
+};
+
+class Drawing {
+ public:
+  Drawing(const MapData& data, const SampleMapsProgress& progress)
+      : data_(data), progress_(progress) {
+    for (const ScaleFolder& folder : kFolders)
+      total_ += folder.Count();
+  }
+
+  bool DrawFolder(const ScaleFolder& folder, const std::filesystem::path& path) {
+    std::error_code error;
+    std::filesystem::create_directories(path, error);
+    if (error) {
+      result_.fault = path.string();
+      return false;
+    }
+    const Labels labels = PlaceLabels(data_, folder.side_km / static_cast<double>(kTilePixels),
+                                      folder.last_town, folder.last_water);
+    const Palette palette = folder.style.relief ? ReliefPalette() : FlatPalette();
+    for (int north = folder.south; north <= folder.north; north += folder.side_km) {
+      for (int east = folder.west; east <= folder.east; east += folder.side_km) {
+        if (!DrawTile(folder, {north, east, folder.side_km}, labels, palette, path)) return false;
+      }
+    }
+    return true;
+  }
+
+  SampleMapsResult Result() const { return result_; }
+
+ private:
+  bool DrawTile(const ScaleFolder& folder, const TilePlace& place, const Labels& labels,
+                const Palette& palette, const std::filesystem::path& path) {
+    const std::filesystem::path file = path / TileName(place.north_km, place.east_km);
+    const std::uintmax_t size = folder.style.relief ? kTileBytes8 : kTileBytes4;
+    std::error_code error;
+    if (std::filesystem::file_size(file, error) == size && !error) {
+      ++result_.kept;
+    } else if (WriteTile(file, PaintTile(data_, labels, place, folder.style), palette)) {
+      ++result_.drawn;
+    } else {
+      result_.fault = file.string();
+      return false;
+    }
+    return !progress_ || progress_(result_.drawn + result_.kept, total_);
+  }
+
+  const MapData& data_;
+  const SampleMapsProgress& progress_;
+  int total_ = 0;
+  SampleMapsResult result_;
+};
+
+}  // namespace
+
+SampleMapsResult DrawSampleMaps(const std::filesystem::path& source,
+                                const std::filesystem::path& target,
+                                const SampleMapsProgress& progress) try {
+  SampleMapsResult result;
+  const auto data = ReadMapData(source, result.fault);
+  if (!data) return result;
+  Drawing drawing(*data, progress);
+  for (const ScaleFolder& folder : kFolders) {
+    if (!drawing.DrawFolder(folder, target / folder.name)) return drawing.Result();
+  }
+  result = drawing.Result();
+  result.complete = true;
+  return result;
+} catch (const std::exception& error) {  // out of memory, or a path the system refuses
+  SampleMapsResult result;
+  result.fault = error.what();
+  return result;
+}
+
+}  // namespace zepril

@@ -1,0 +1,28 @@
+// Draws a small map library of Europe, so that the program shows a map from its first start.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+namespace zepril {
+
+// Called after each tile with the number done and the number in all; false ends the work early.
+using SampleMapsProgress = std::function<bool(int done, int total)>;
+
+struct SampleMapsResult {
+  int drawn = 0;  // tiles written now
+  int kept = 0;   // tiles that stood already, with the right size
+  bool complete = false;
+  std::string fault;  // what could not be read or written; empty otherwise
+};
+
+// Draws the tiles of zone 33 into scale folders under `target` (which is made where missing), from
+// europe.txt, towns.txt, waters.txt and letters.txt in `source`. Tiles that exist with the right
+// size are left alone, so work that was ended early goes on where it stopped. A tile appears under
+// its name only when it is whole. Takes a few seconds; throws nothing.
+SampleMapsResult DrawSampleMaps(const std::filesystem::path& source,
+                                const std::filesystem::path& target,
+                                const SampleMapsProgress& progress);
+
+}  // namespace zepril

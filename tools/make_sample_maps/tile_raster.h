@@ -1,0 +1,28 @@
+// Paints one tile.
+#pragma once
+
+#include "make_sample_maps/labels.h"
+#include "make_sample_maps/map_data.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace zepril {
+
+struct TileStyle {
+  bool relief = false;
+  int near_pixels = 4;   // width of the light strip of sea along the coast
+  int shore_pixels = 9;  // and of the second one outside of it
+  bool border_band = true;
+};
+
+struct TilePlace {
+  int north_km = 0, east_km = 0;  // south-west corner
+  int side_km = 1000;
+};
+
+// 1000 x 1000 indices, top row first: inks, or entries of the relief palette.
+std::vector<std::uint8_t> PaintTile(const MapData& data, const Labels& labels,
+                                    const TilePlace& place, const TileStyle& style);
+
+}  // namespace zepril
