@@ -124,7 +124,7 @@ void SetInitialControls(MainWindowControls& c) {
   c.MoniAll.Check10.Caption = "NET";
   c.MoniAll.Check11.Caption = "FIX";
   c.MoniAll.Check13.Caption = "MOV";
-  c.MoniAll.Check19.Caption = "SPEC";
+  c.MoniAll.Check19.Caption = "OTHER";
   c.MoniAll.Check25.Caption = "WX";
   c.MoniAll.Check24.Caption = "DIRECT";
   c.MoniAll.Check3.Caption = "ALARM";

@@ -228,15 +228,48 @@ class LandReader {
   std::vector<Arc> arcs_;
 };
 
+// Told this way round, it also refuses what is no number.
+bool OnMap(double lat, double lon) {
+  return std::abs(lat) <= kNorthLimit && std::abs(lon - kSampleMeridian) <= kReach;
+}
+
 // 54.09 12.14 2 Rostock
 bool TakePlace(std::string_view line, std::vector<Place>& places) {
   WordReader words(line);
   const auto lat = words.Next<double>(), lon = words.Next<double>();
   const auto rank = words.Next<int>();
   const std::string_view name = words.Rest();
-  if (!lat || !lon || !rank || name.empty() || std::abs(*lon - kSampleMeridian) > kReach)
-    return false;
+  if (!lat || !lon || !rank || name.empty() || !OnMap(*lat, *lon)) return false;
   places.push_back({ToGrid({*lon, *lat}), *rank, std::string(name)});
+  return true;
+}
+
+// Cuts the corners of a ring a quarter of each side before and behind them.
+Arc RoundOff(const Arc& ring) {
+  Arc smooth;
+  for (std::size_t i = 0; i < ring.size(); ++i) {
+    const Degrees a = ring[i], b = ring[(i + 1) % ring.size()];
+    for (const double t : {0.25, 0.75}) {
+      smooth.push_back({a.lon + t * (b.lon - a.lon), a.lat + t * (b.lat - a.lat)});
+    }
+  }
+  return smooth;
+}
+
+// Mueritz 53.51 12.67 53.46 12.62 ...: a hole in the land.
+bool TakeLake(std::string_view line, std::vector<Outline>& land) {
+  WordReader words(line);
+  words.Word();
+  Arc ring;
+  while (!words.AtEnd()) {
+    const auto lat = words.Next<double>(), lon = words.Next<double>();
+    if (!lat || !lon || !OnMap(*lat, *lon)) return false;
+    ring.push_back({*lon, *lat});
+  }
+  if (ring.size() < 3) return false;
+  for (int pass = 0; pass < 3; ++pass)
+    ring = RoundOff(ring);
+  land.push_back(ToOutline(ring, true));
   return true;
 }
 
@@ -279,6 +312,8 @@ std::optional<MapData> ReadMapData(const std::filesystem::path& source, std::str
   };
   const bool good = ReadLines(source / "europe.txt", fault,
                               [&](std::string_view line) { return land.TakeLine(line); }) &&
+                    ReadLines(source / "lakes.txt", fault,
+                              [&](std::string_view line) { return TakeLake(line, data.land); }) &&
                     ReadLines(source / "towns.txt", fault, line_to(data.towns)) &&
                     ReadLines(source / "waters.txt", fault, line_to(data.waters)) &&
                     ReadLines(source / "letters.txt", fault,

@@ -31,14 +31,14 @@ struct Place {
 using LetterRows = std::array<std::uint8_t, 15>;  // a byte a row, leftmost column highest
 
 struct MapData {
-  std::vector<Outline> land;     // closed rings; what an odd number of them holds is land
+  std::vector<Outline> land;  // closed rings, lakes too; what an odd number of them holds is land
   std::vector<Outline> borders;  // open lines
   std::vector<Place> towns;
   std::vector<Place> waters;
   std::array<LetterRows, 256> letters{};  // by byte of code page 1252
 };
 
-// Reads the four files of `source`. Nothing, with `fault` naming the file, when one is missing or
+// Reads the five files of `source`. Nothing, with `fault` naming the file, when one is missing or
 // not understood. Land is cut off 90 degrees from the middle of the zone and 5 degrees south of
 // the equator, where the grid ends to make sense.
 std::optional<MapData> ReadMapData(const std::filesystem::path& source, std::string& fault);

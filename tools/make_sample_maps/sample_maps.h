@@ -18,9 +18,9 @@ struct SampleMapsResult {
 };
 
 // Draws the tiles of zone 33 into scale folders under `target` (which is made where missing), from
-// europe.txt, towns.txt, waters.txt and letters.txt in `source`. Tiles that exist with the right
-// size are left alone, so work that was ended early goes on where it stopped. A tile appears under
-// its name only when it is whole. Takes a few seconds; throws nothing.
+// europe.txt, lakes.txt, towns.txt, waters.txt and letters.txt in `source`. Tiles that exist with
+// the right size are left alone, so work that was ended early goes on where it stopped. A tile
+// appears under its name only when it is whole. Takes a few seconds; throws nothing.
 SampleMapsResult DrawSampleMaps(const std::filesystem::path& source,
                                 const std::filesystem::path& target,
                                 const SampleMapsProgress& progress);

@@ -1,0 +1,290 @@
+#include "desktop/binder.h"
+
+#include <QAbstractButton>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QStringListModel>
+
+#include "desktop/corner_mark.h"
+#include "desktop/fill_bar_widget.h"
+#include "desktop/keys.h"
+#include "platform/qt/text.h"
+
+namespace zepril {
+namespace {
+
+// What was last brought out of a control; a property goes out again only when it differs.
+struct Shown {
+  bool Known = false;
+  bool Visible = true;
+  bool Enabled = true;
+  std::string ToolTip;
+  std::optional<std::uint32_t> BackColour;
+  std::optional<std::uint32_t> ForeColour;
+};
+
+void ShowColours(QWidget* widget, const Control& control, const Look& look) {
+  if (!control.BackColour && !control.ForeColour) {
+    widget->setStyleSheet(QString());
+    return;
+  }
+  QString sheet;
+  if (control.BackColour) {
+    const QColor back = StateShade(*control.BackColour, look);
+    sheet += QStringLiteral("background: %1; color: %2;").arg(back.name(), TextOn(back).name());
+  }
+  if (control.ForeColour) {
+    sheet += QStringLiteral("color: %1;").arg(PlainColour(*control.ForeColour).name());
+  }
+  widget->setStyleSheet(sheet);
+}
+
+void ShowCommon(QWidget* widget, Control& control, Shown& shown, const Look& look) {
+  if (!shown.Known || shown.Visible != control.Visible) widget->setVisible(control.Visible);
+  if (!shown.Known || shown.Enabled != control.Enabled) widget->setEnabled(control.Enabled);
+  if (!shown.Known || shown.ToolTip != control.ToolTip) widget->setToolTip(ToQt(control.ToolTip));
+  if (shown.BackColour != control.BackColour || shown.ForeColour != control.ForeColour) {
+    ShowColours(widget, control, look);
+  }
+  if (control.FocusWanted) {
+    control.FocusWanted = false;
+    widget->setFocus(Qt::OtherFocusReason);
+  }
+  shown = {true, control.Visible, control.Enabled, control.ToolTip, control.BackColour, control.ForeColour};
+}
+
+// "&" in a caption reads as itself on our widgets; the logic's doubled ones become single again.
+QString CaptionText(const std::string& caption) {
+  return ToQt(caption).replace(QStringLiteral("&&"), QStringLiteral("&"));
+}
+QString ButtonText(const std::string& caption) {
+  return CaptionText(caption).replace(QStringLiteral("&"), QStringLiteral("&&"));
+}
+
+}  // namespace
+
+void Binder::Raise(const Event& event) {
+  if (event) loop_.RunStep(event);
+}
+
+void Binder::BindCommon(QWidget* widget, Control& control, bool press_is_click) {
+  watched_.push_back({widget, &control, nullptr, press_is_click});
+  widget->installEventFilter(this);
+  if (control.RightClick) new CornerMark(widget);
+  outs_.push_back([widget, &control, this, shown = Shown{}]() mutable {
+    ShowCommon(widget, control, shown, look_);
+  });
+}
+
+void Binder::BindKeys(QWidget* widget, std::function<void(KeyPress)> key_down) {
+  for (Watched& watched : watched_) {
+    if (watched.Widget == widget) watched.KeyDown = std::move(key_down);
+  }
+}
+
+void Binder::Bind(QAbstractButton* widget, Button& control) {
+  BindCommon(widget, control);
+  connect(widget, &QAbstractButton::clicked, this, [this, &control] { Raise(control.Click); });
+  outs_.push_back([widget, &control, caption = std::string("\x01")]() mutable {
+    if (caption == control.Caption) return;
+    caption = control.Caption;
+    if (!widget->property("picture_only").toBool()) widget->setText(ButtonText(caption));
+    widget->setAccessibleName(CaptionText(caption));
+  });
+}
+
+void Binder::Bind(QAbstractButton* widget, CheckBox& control) {
+  BindCommon(widget, control);
+  widget->setCheckable(true);
+  const bool three_states = widget->property("three_states").toBool();
+  connect(widget, &QAbstractButton::clicked, this, [this, &control, three_states] {
+    control.Value = (control.Value + 1) % (three_states ? 3 : 2);
+    if (control.Click) {
+      Raise(control.Click);
+    } else {
+      loop_.RunStep([] {});
+    }
+  });
+  outs_.push_back([widget, &control, caption = std::string("\x01")]() mutable {
+    if (widget->isChecked() != (control.Value != 0)) {
+      const QSignalBlocker quiet(widget);
+      widget->setChecked(control.Value != 0);
+    }
+    if (widget->property("third_state").toBool() != (control.Value == 2)) {
+      widget->setProperty("third_state", control.Value == 2);
+      widget->update();
+    }
+    if (caption == control.Caption) return;
+    caption = control.Caption;
+    if (!widget->property("picture_only").toBool()) widget->setText(ButtonText(caption));
+    widget->setAccessibleName(CaptionText(caption));
+  });
+}
+
+void Binder::Bind(QAbstractButton* widget, OptionButton& control) {
+  BindCommon(widget, control);
+  widget->setCheckable(true);
+  connect(widget, &QAbstractButton::clicked, this, [this, &control] {
+    control.Value = true;
+    Raise(control.Click);
+  });
+  outs_.push_back([widget, &control, caption = std::string("\x01")]() mutable {
+    if (widget->isChecked() != control.Value) {
+      const QSignalBlocker quiet(widget);
+      widget->setChecked(control.Value);
+    }
+    if (caption == control.Caption) return;
+    caption = control.Caption;
+    if (!widget->property("picture_only").toBool()) widget->setText(ButtonText(caption));
+    widget->setAccessibleName(CaptionText(caption));
+  });
+}
+
+void Binder::Bind(QLabel* widget, Label& control) {
+  BindCommon(widget, control, true);
+  widget->setTextFormat(Qt::PlainText);
+  outs_.push_back([widget, &control, caption = std::string("\x01")]() mutable {
+    if (caption == control.Caption) return;
+    caption = control.Caption;
+    widget->setText(CaptionText(caption));
+    widget->setAccessibleName(widget->text());
+  });
+}
+
+void Binder::Bind(QLineEdit* widget, TextBox& control) {
+  BindCommon(widget, control);
+  connect(widget, &QLineEdit::textEdited, this, [this, widget, &control] {
+    control.Text = FromQt(widget->text());
+    Raise(control.Change);
+  });
+  BindKeys(widget, [&control](KeyPress key) {
+    if (control.KeyDown) control.KeyDown(key);
+  });
+  outs_.push_back([widget, &control] {
+    const QString text = ToQt(control.Text);
+    if (widget->text() != text) widget->setText(text);
+  });
+}
+
+void Binder::Bind(QComboBox* widget, ComboBox& control) {
+  BindCommon(widget, control);
+  connect(widget, &QComboBox::activated, this, [this, &control](int index) {
+    control.Select(index);
+    if (control.Change) Raise(control.Change);
+    if (control.Click) Raise(control.Click);
+  });
+  if (widget->isEditable()) {
+    connect(widget, &QComboBox::editTextChanged, this, [this, widget, &control] {
+      control.Text = FromQt(widget->currentText());
+      Raise(control.Change);
+    });
+    BindKeys(widget, [&control](KeyPress key) {
+      if (control.KeyDown) control.KeyDown(key);
+    });
+    watched_.push_back({widget->lineEdit(), &control, watched_.back().KeyDown, false});
+    widget->lineEdit()->installEventFilter(this);
+  }
+  outs_.push_back([widget, &control, items = std::vector<std::string>()]() mutable {
+    const QSignalBlocker quiet(widget);
+    if (items != control.Items) {
+      items = control.Items;
+      widget->clear();
+      for (const std::string& item : items) widget->addItem(ToQt(item));
+    }
+    if (widget->isEditable()) {
+      const QString text = ToQt(control.Text);
+      if (widget->currentText() != text) widget->setEditText(text);
+    } else if (widget->currentIndex() != control.ListIndex) {
+      widget->setCurrentIndex(control.ListIndex);
+    }
+  });
+}
+
+void Binder::Bind(QListView* widget, QStringListModel* model, ListBox& control) {
+  BindCommon(widget, control);
+  widget->setModel(model);
+  connect(widget, &QListView::clicked, this, [this, &control](const QModelIndex& index) {
+    control.ListIndex = index.row();
+    Raise(control.Click);
+  });
+  connect(widget, &QListView::activated, this, [this, &control](const QModelIndex& index) {
+    control.ListIndex = index.row();
+    Raise(control.DoubleClick ? control.DoubleClick : control.Click);
+  });
+  outs_.push_back([widget, model, &control, revision = ~std::uint64_t{0}, row = -1, top = -1]() mutable {
+    if (!control.Visible || !widget->isVisible()) return;
+    if (revision != control.Revision || model->rowCount() != static_cast<int>(control.Items.size())) {
+      revision = control.Revision;
+      QStringList lines;
+      lines.reserve(static_cast<qsizetype>(control.Items.size()));
+      for (const std::string& item : control.Items) lines.append(ToQt(item));
+      model->setStringList(lines);
+      row = -1;
+      top = -1;
+    }
+    if (row == control.ListIndex && top == control.TopIndex) return;
+    row = control.ListIndex;
+    const QModelIndex index = model->index(row, 0);
+    if (index.isValid()) widget->setCurrentIndex(index);
+    if (top != control.TopIndex) {
+      top = control.TopIndex;
+      const QModelIndex shown = model->index(std::min(top, model->rowCount() - 1), 0);
+      if (shown.isValid()) widget->scrollTo(shown, QAbstractItemView::EnsureVisible);
+    }
+  });
+}
+
+void Binder::Bind(FillBarWidget* widget, FillBar& control) {
+  BindCommon(widget, control, true);
+  outs_.push_back([widget, &control] {
+    widget->Show(control.FilledPx, control.FullWidthPx, PlainColour(control.Colour));
+  });
+}
+
+void Binder::Bind(QWidget* widget, Frame& control) { BindCommon(widget, control, true); }
+
+void Binder::ControlsOut() {
+  for (const auto& out : outs_) out();
+}
+
+bool Binder::eventFilter(QObject* watched, QEvent* event) {
+  for (const Watched& row : watched_) {
+    if (row.Widget != watched) continue;
+    Control& control = *row.Subject;
+    switch (event->type()) {
+      case QEvent::FocusIn:
+        control.HasFocus = true;
+        break;
+      case QEvent::FocusOut:
+        control.HasFocus = false;
+        break;
+      case QEvent::ContextMenu:
+        if (!control.RightClick) break;
+        Raise(control.RightClick);
+        return true;
+      case QEvent::MouseButtonRelease:
+        if (!row.PressIsClick || !control.Click) break;
+        if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) break;
+        Raise(control.Click);
+        return true;
+      case QEvent::KeyPress: {
+        if (!row.KeyDown) break;
+        const KeyPress key = KeyPressOf(*static_cast<QKeyEvent*>(event));
+        loop_.RunStep([&] { row.KeyDown(key); });
+        break;
+      }
+      default:
+        break;
+    }
+    break;
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace zepril

@@ -1,0 +1,45 @@
+#include "desktop/lamp_widget.h"
+
+#include <QPainter>
+
+#include "platform/qt/text.h"
+
+namespace zepril {
+
+LampWidget::LampWidget(QWidget* parent) : QWidget(parent) {
+  setFixedSize(16, 16);
+  setObjectName(QStringLiteral("LinkLamp"));
+}
+
+void LampWidget::Show(const LinkLamp& lamp) {
+  setToolTip(ToQt(lamp.ToolTip));
+  const char* name = "radio link: none";
+  if (lamp.State == LampState::Data) name = "radio link: data";
+  if (lamp.State == LampState::Silent) name = "radio link: silent";
+  if (lamp.State == LampState::Lost) name = "radio link: lost";
+  setAccessibleName(QString::fromLatin1(name));
+  if (state_ == lamp.State) return;
+  state_ = lamp.State;
+  update();
+}
+
+void LampWidget::paintEvent(QPaintEvent*) {
+  if (state_ == LampState::None) return;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QColor ink = palette().color(QPalette::WindowText);
+  const QRectF disc(2.5, 2.5, 11.0, 11.0);
+  painter.setPen(QPen(ink, 1.5));
+  painter.setBrush(state_ == LampState::Data ? QBrush(ink) : QBrush(Qt::NoBrush));
+  painter.drawEllipse(disc);
+  if (state_ == LampState::Silent) {
+    painter.setBrush(ink);
+    painter.drawPie(disc, 180 * 16, 180 * 16);
+  }
+  if (state_ == LampState::Lost) {
+    painter.drawLine(QPointF(4.5, 4.5), QPointF(11.5, 11.5));
+    painter.drawLine(QPointF(11.5, 4.5), QPointF(4.5, 11.5));
+  }
+}
+
+}  // namespace zepril

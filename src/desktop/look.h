@@ -1,0 +1,37 @@
+// How the windows look: one palette and a short style sheet over Qt's Fusion style.
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+#include <QString>
+
+#include <cstdint>
+
+namespace zepril {
+
+// Roles of the palette in use.
+struct Look {
+  QColor Window;
+  QColor Panel;
+  QColor Field;
+  QColor Line;
+  QColor Text;
+  QColor Dim;
+  QColor Accent;  // a switch that is on
+};
+
+const Look& NightLook();
+const Look& DayLook();
+
+QPalette PaletteOf(const Look& look);
+QString StyleSheetOf(const Look& look);
+
+// A colour that the program's logic gives to a control (0xBBGGRR names a state) in a shade of this
+// look that stays readable behind its text.
+QColor StateShade(std::uint32_t state_colour, const Look& look);
+// The colour itself, for fill bars and inks.
+QColor PlainColour(std::uint32_t state_colour);
+// Black or white, whichever reads better on `back`.
+QColor TextOn(const QColor& back);
+
+}  // namespace zepril
