@@ -6,7 +6,9 @@
 
 #include "tool/air_command.h"
 #include "tool/arguments.h"
+#include "tool/coords_command.h"
 #include "tool/decode_command.h"
+#include "tool/render_command.h"
 
 namespace {
 
@@ -19,6 +21,8 @@ struct Command {
 // Every command of the tool; a new one is a row here.
 constexpr Command kCommands[] = {
     {"decode", zepril::kDecodeHelp, zepril::RunDecode},
+    {"coords", zepril::kCoordsHelp, zepril::RunCoords},
+    {"render", zepril::kRenderHelp, zepril::RunRender},
     {"air", zepril::kAirHelp, zepril::RunAir},
 };
 
