@@ -146,7 +146,7 @@ void FollowedHistory::LoadAtStart() {
     const bool cut = CutAtGap(loaded.Records, kMostGapDays);
     stores_.Moni1Records.Assign(std::move(loaded.Records));
     // What is dropped stays in a copy; without one the file is left alone.
-    if (cut && KeepCopy()) WriteFile();
+    if (cut && KeepCopy() && WriteFile()) stores_.Moni1Records.Assign(Read().Records);
   }
   RefreshMonitorValues();
 }

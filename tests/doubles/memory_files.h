@@ -26,13 +26,13 @@ class MemoryFiles final : public Files {
   bool ReadLines(const std::string& path, const LineReader& line) const override {
     const auto found = Contents.find(path);
     if (found == Contents.end()) return false;
+    // Lines end with CR LF, LF or CR, as in real files.
     std::string_view rest = found->second;
     while (!rest.empty()) {
-      const std::size_t end = rest.find('\n');
-      std::string_view one = rest.substr(0, end);
-      if (one.ends_with('\r')) one.remove_suffix(1);
-      if (!line(one)) break;
-      rest = end == std::string_view::npos ? std::string_view{} : rest.substr(end + 1);
+      const std::size_t end = std::min(rest.find_first_of("\r\n"), rest.size());
+      if (!line(rest.substr(0, end))) break;
+      rest.remove_prefix(end);
+      rest.remove_prefix(rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, rest.size()));
     }
     return true;
   }

@@ -141,6 +141,17 @@ TEST(FollowedHistory, GapOfMoreThanThirtyDaysCutsAtStartAndKeepsACopy) {
   EXPECT_EQ(station.Disk.Of(kPath + ".BAK"), old);
 }
 
+TEST(FollowedHistory, AfterACutTheHistoryIsWhatItsFileGivesBack) {
+  Reception station;
+  StationRecord short_line = Position(3, "240203 1200");
+  short_line.Put(100, 120, "");
+  station.Disk.Contents[kPath] = LineOf(Position(1, "240101 1200")) + LineOf(Position(2, "240202 1200")) +
+                                 std::string(short_line.Text()) + "\r\n";
+  station.History.LoadAtStart();
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 1);
+  EXPECT_EQ(station.Disk.LineCount(kPath), 2);
+}
+
 TEST(FollowedHistory, GapOfThirtyDaysIsKept) {
   Reception station;
   station.Disk.Contents[kPath] =
