@@ -28,6 +28,8 @@ function(zepril_room room)
   file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/${room}/*.cpp"
        "${CMAKE_SOURCE_DIR}/src/${room}/*.h")
   file(GLOB units CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/${room}/*.cpp")
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  list(FILTER units EXCLUDE REGEX "/main\\.cpp$")
   set(links "")
   foreach(dep IN LISTS arg_DEPENDS)
     string(REPLACE "/" "_" dep_name "${dep}")

@@ -97,8 +97,9 @@ TileCache::Entry* TileCache::Lookup(const std::string& key, const FileStamp& sta
     Drop(at->second);
     return nullptr;
   }
-  entries_.splice(entries_.begin(), entries_, at->second);
-  return &entries_.front();
+  std::list<Entry>& list = ListOf(*at->second);
+  list.splice(list.begin(), list, at->second);
+  return &list.front();
 }
 
 void TileCache::Keep(Entry entry) {
@@ -106,15 +107,19 @@ void TileCache::Keep(Entry entry) {
   const auto before = by_key_.find(entry.Key);
   if (before != by_key_.end()) Drop(before->second);
   bytes_ += entry.Bytes;
-  entries_.push_front(std::move(entry));
-  by_key_[entries_.front().Key] = entries_.begin();
-  while (bytes_ > budget_) Drop(std::prev(entries_.end()));
+  std::list<Entry>& list = ListOf(entry);
+  list.push_front(std::move(entry));
+  by_key_[list.front().Key] = list.begin();
+  while (bytes_ > budget_) {
+    std::list<Entry>& oldest = decoded_.empty() ? drawn_ : decoded_;
+    Drop(std::prev(oldest.end()));
+  }
 }
 
 void TileCache::Drop(std::list<Entry>::iterator entry) {
   bytes_ -= entry->Bytes;
   by_key_.erase(entry->Key);
-  entries_.erase(entry);
+  ListOf(*entry).erase(entry);
 }
 
 }  // namespace zepril

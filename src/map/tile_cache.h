@@ -4,7 +4,8 @@
 // a tile whose length or time of change differs is read anew. Which names a folder holds is listed
 // once and kept while the folder's own stamp stays the same; a list made within a second of a change
 // is made again, as a change right behind it might carry the same time. Everything lies within a
-// memory budget, least recently used first out.
+// memory budget, least recently used first out; decoded tiles go before drawn pictures, which are
+// what the next redraw asks for (many small ones at a zoom factor of 8).
 #pragma once
 
 #include <cstdint>
@@ -84,6 +85,7 @@ class TileCache {
   Entry* Lookup(const std::string& key, const FileStamp& stamp);
   void Keep(Entry entry);
   void Drop(std::list<Entry>::iterator entry);
+  std::list<Entry>& ListOf(const Entry& entry) { return entry.Decoded ? decoded_ : drawn_; }
 
   const Files& files_;
   const Clock& clock_;
@@ -91,7 +93,9 @@ class TileCache {
   std::size_t bytes_ = 0;
   int files_read_ = 0;
   std::uint64_t redraw_ = 1;
-  std::list<Entry> entries_;  // most recently used first
+  // Most recently used first.
+  std::list<Entry> decoded_;
+  std::list<Entry> drawn_;
   std::unordered_map<std::string, std::list<Entry>::iterator> by_key_;
   std::map<std::string, KnownFolder> folders_;
   std::unordered_set<std::string> bad_;  // files of this redraw that are no bitmap

@@ -70,6 +70,11 @@ void ReadWind(std::string_view text, WxGaugeValues& values) {
 void DrawDisc(DrawingSurface& surface, int x, int y, const WxGaugeValues& values) {
   const Colour fill = values.TemperatureC ? GaugeTemperatureColour(*values.TemperatureC) : kShade;
   LineBatch lines(surface);
+  for (int dy = -kOuterRadius; dy <= kOuterRadius; ++dy) {
+    const int dx = static_cast<int>(Int(std::sqrt(kOuterRadius * kOuterRadius - dy * dy)));
+    lines.Line(x - dx, y + dy, x + dx, y + dy, fill);
+  }
+  // Spokes to the rim close the steps of the scan lines.
   for (double angle = 0.0; angle < 2.0 * kShortPi; angle += kPieStep) {
     const int dx = static_cast<int>(ToWhole(std::cos(angle) * kOuterRadius));
     const int dy = static_cast<int>(ToWhole(std::sin(angle) * kOuterRadius));

@@ -25,7 +25,7 @@ StartPanel::StartPanel(Files& files, Dialogs& dialogs, std::string program_folde
   Controls.Option10.Caption = "-";
   Controls.Command1.Click = [this] { Command1Click(); };
   for (OptionButton* option : {&Controls.Option2, &Controls.Option9, &Controls.Option10}) {
-    option->Click = [this] { ShowPortFields(); };
+    option->Click = [this, option] { ChooseInterface(*option); };
   }
   Controls.Text8.Change = [this] { Controls.Fault.Caption.clear(); };
   Load();
@@ -59,6 +59,14 @@ void StartPanel::ShowSettings() {
   Controls.Option2.Value = !Controls.Option9.Value && !Controls.Option10.Value;
   ShowPortFields();
   (settings_.MyCall.empty() ? Controls.Text8.FocusWanted : Controls.Command1.FocusWanted) = true;
+}
+
+// Of the radio interfaces one is chosen.
+void StartPanel::ChooseInterface(const OptionButton& chosen) {
+  for (OptionButton* option : {&Controls.Option2, &Controls.Option9, &Controls.Option10}) {
+    option->Value = option == &chosen;
+  }
+  ShowPortFields();
 }
 
 void StartPanel::ShowPortFields() {

@@ -28,6 +28,7 @@ class StartPanel {
   void Load();
   void DeleteRunLogs();
   void ShowSettings();
+  void ChooseInterface(const OptionButton& chosen);
   void ShowPortFields();
   void Command1Click();
   bool TakeFields();

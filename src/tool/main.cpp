@@ -7,6 +7,7 @@
 #include "tool/arguments.h"
 #include "tool/coords_command.h"
 #include "tool/decode_command.h"
+#include "tool/render_command.h"
 
 namespace {
 
@@ -20,6 +21,7 @@ struct Command {
 constexpr Command kCommands[] = {
     {"decode", zepril::kDecodeHelp, zepril::RunDecode},
     {"coords", zepril::kCoordsHelp, zepril::RunCoords},
+    {"render", zepril::kRenderHelp, zepril::RunRender},
 };
 
 int PrintUsage() {

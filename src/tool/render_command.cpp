@@ -1,12 +1,13 @@
 #include "tool/render_command.h"
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QString>
 #include <QTemporaryDir>
 
 #include <cstdio>
-#include <map>
 #include <optional>
+#include <string>
 
 #include "config/config_file.h"
 #include "config/main_window_settings.h"
@@ -19,38 +20,24 @@
 #include "platform/native/system_clock.h"
 #include "platform/qt/map_fonts.h"
 #include "platform/qt/qt_surface.h"
+#include "tool/arguments.h"
 
 namespace zepril {
 namespace {
 
 constexpr int kLargestSide = 16384;
+constexpr double kSmallestZoom = 0.25;
+constexpr double kLargestZoom = 8.0;
 
-constexpr const char* kUsage =
-    "usage: zepril-tool render --folder PROGRAMFOLDER [--records FILE] [--centre N,E]\n"
-    "         [--tile 5000|1000|200|50|10|2] [--zoom 1] [--level 0-5|WX] [--size 1200x800]\n"
-    "         [--moni1 CALL] [--own N,E] [--style 0-6] [--brightness 0-2] [--frames] [--ink 0-15]\n"
-    "         [--fonts FOLDER] -o map.png\n";
+constexpr ArgumentRule kRules[] = {
+    {"--folder", true}, {"-o", true},      {"--records", true},    {"--centre", true},
+    {"--tile", true},   {"--zoom", true},  {"--level", true},      {"--size", true},
+    {"--moni1", true},  {"--own", true},   {"--style", true},      {"--brightness", true},
+    {"--ink", true},    {"--fonts", true}, {"--frames", false},
+};
 
-using Options = std::map<std::string, std::string>;
-
-std::optional<Options> ReadOptions(const std::vector<std::string>& arguments) {
-  Options options;
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string& name = arguments[i];
-    if (name == "--frames") {
-      options[name] = "1";
-      continue;
-    }
-    if (name.size() < 2 || name.front() != '-' || i + 1 >= arguments.size()) return std::nullopt;
-    options[name] = arguments[++i];
-  }
-  if (!options.contains("--folder") || !options.contains("-o")) return std::nullopt;
-  return options;
-}
-
-std::string Option(const Options& options, const std::string& name, const std::string& otherwise) {
-  const auto found = options.find(name);
-  return found == options.end() ? otherwise : found->second;
+std::string TextOf(const Arguments& arguments, std::string_view name, std::string_view otherwise) {
+  return std::string(arguments.Value(name).value_or(otherwise));
 }
 
 // Two numbers with a separator between them.
@@ -58,10 +45,13 @@ struct Pair {
   double First = 0.0;
   double Second = 0.0;
 };
-std::optional<Pair> ReadPair(const std::string& text, char separator) {
+Pair PairOf(Arguments& arguments, std::string_view name, std::string_view otherwise,
+            char separator) {
+  const std::string text = TextOf(arguments, name, otherwise);
   const auto parts = Split(text, separator);
-  if (parts.size() != 2) return std::nullopt;
-  return Pair{Val(parts[0]), Val(parts[1])};
+  if (parts.size() == 2) return {Val(parts[0]), Val(parts[1])};
+  arguments.Fail(std::string(name) + " must be two numbers");
+  return {};
 }
 
 void ReadSettings(Files& files, RuntimeState& state, const std::string& folder) {
@@ -101,81 +91,91 @@ void FollowNewest(RuntimeState& state) {
   followed.MonitorSymbolText = newest.SymbolText();
 }
 
-bool SetView(const Options& options, RuntimeState& state) {
+void SetView(Arguments& arguments, RuntimeState& state) {
   MapViewState& view = state.Map;
-  const auto size = ReadPair(Option(options, "--size", "1200x800"), 'x');
-  const auto centre = ReadPair(Option(options, "--centre", "6600,400"), ',');
-  if (!size || !centre) return false;
-  if (!(size->First >= 1 && size->First <= kLargestSide)) return false;
-  if (!(size->Second >= 1 && size->Second <= kLargestSide)) return false;
-  view.ViewWidthPx = Int(size->First);
-  view.ViewHeightPx = Int(size->Second);
-  view.CentreNorthKm = centre->First;
-  view.CentreEastKm = centre->Second;
-  view.MapTileKm = Val(Option(options, "--tile", "5000"));
-  if (!ScaleRow(view.MapTileKm)) return false;
-  view.ZoomFactor = Val(Option(options, "--zoom", "1"));
-  if (!(view.ZoomFactor >= 0.25 && view.ZoomFactor <= 8.0)) return false;
-  const std::string level = Option(options, "--level", "3");
-  view.WxCaption = level == "WX";
-  view.StationLabelLevel = view.WxCaption ? 1 : WholeVal(level, 0, 5).value_or(3);
-  view.BrightnessStep = WholeVal(Option(options, "--brightness", "0"), 0, 2).value_or(0);
-  view.SelectedInk = Option(options, "--ink", "");
-  state.Followed.TrackStyle = WholeVal(Option(options, "--style", "0"), 0, 6).value_or(0);
-  if (const auto own = ReadPair(Option(options, "--own", ""), ',')) {
-    view.OwnNorthKm = own->First;
-    view.OwnEastKm = own->Second;
+  const Pair size = PairOf(arguments, "--size", "1200x800", 'x');
+  const bool size_fits = size.First >= 1 && size.First <= kLargestSide && size.Second >= 1 &&
+                         size.Second <= kLargestSide;
+  if (!size_fits) arguments.Fail("--size must be WIDTHxHEIGHT in pixels");
+  view.ViewWidthPx = Int(size.First);
+  view.ViewHeightPx = Int(size.Second);
+  const Pair centre = PairOf(arguments, "--centre", "6600,400", ',');
+  view.CentreNorthKm = centre.First;
+  view.CentreEastKm = centre.Second;
+  view.MapTileKm = Val(TextOf(arguments, "--tile", "5000"));
+  if (!ScaleRow(view.MapTileKm)) arguments.Fail("--tile must be 5000, 1000, 200, 50, 10 or 2");
+  view.ZoomFactor = Val(TextOf(arguments, "--zoom", "1"));
+  if (!(view.ZoomFactor >= kSmallestZoom && view.ZoomFactor <= kLargestZoom)) {
+    arguments.Fail("--zoom must be a number from 0.25 to 8");
   }
-  return true;
+  view.WxCaption = TextOf(arguments, "--level", "") == "WX";
+  view.StationLabelLevel = view.WxCaption ? 1 : arguments.Whole("--level", 0, 5, 3);
+  view.BrightnessStep = arguments.Whole("--brightness", 0, 2, 0);
+  if (arguments.Has("--ink")) view.SelectedInk = WholeNumber(arguments.Whole("--ink", 0, 15, 0));
+  // The inks of the first tile decide whether one stays chosen.
+  view.InkStateOn = arguments.Has("--ink");
+  state.Followed.TrackStyle = arguments.Whole("--style", 0, 6, 0);
+  if (!arguments.Has("--own")) return;
+  const Pair own = PairOf(arguments, "--own", "", ',');
+  view.OwnNorthKm = own.First;
+  view.OwnEastKm = own.Second;
 }
 
-int Complain(const std::string& text) {
-  std::fputs(text.c_str(), stderr);
-  return 2;
-}
-
-}  // namespace
-
-int RenderCommand(const std::vector<std::string>& arguments) {
-  const auto options = ReadOptions(arguments);
-  if (!options) return Complain(kUsage);
-  // The state that the picture shows.
-  NativeFiles files(DefaultDriveFolder());
-  SystemClock clock;
-  RuntimeState state;
-  MainWindowControls controls;
-  const std::string folder = Option(*options, "--folder", ".");
-  ReadSettings(files, state, folder);
-  state.Followed.Moni1Call = Option(*options, "--moni1", state.Followed.Moni1Call);
-  if (!SetView(*options, state)) return Complain(kUsage);
-  const std::string records = Option(*options, "--records", "");
-  if (!records.empty() && !ReadRecords(files, state, records)) {
-    return Complain("zepril-tool render: can't read " + records + "\n");
-  }
-  FollowNewest(state);
-  // Index files go to a folder of their own, which is gone afterwards.
-  const QTemporaryDir temp;
+int Paint(const Arguments& arguments, Files& files, RuntimeState& state, const QString& fonts_at) {
+  const QTemporaryDir temp;  // for the index files; gone afterwards
   state.Identity.TempFolder = temp.path().toStdString();
   MapFonts fonts;
-  fonts.LoadFonts(QString::fromStdString(
-      Option(*options, "--fonts", files.NativePath(folder + "\\fonts"))));
+  fonts.LoadFonts(fonts_at);
   const int width = static_cast<int>(state.Map.ViewWidthPx);
   const int height = static_cast<int>(state.Map.ViewHeightPx);
   QtSurface map(width, height, fonts);
   QtSurface base(width, height, fonts);
+  SystemClock clock;
   OverlayLayers overlays;
   Timer timer1(6000);
+  MainWindowControls controls;
   controls.Record.Frame1.Visible = false;
   MapRoom room({state.Map, state.Stores, state.Followed, state.Gps, state.Transmission,
                 state.Identity},
                controls, {files, clock, map, base}, overlays, timer1);
   room.Library.MapLibraryScan();
   ZoneOfMap(room.ReadoutTexts.Values(), state.Identity, state.Map);
-  for (CheckBox& box : controls.Scales.FrameBox) box.Value = options->contains("--frames") ? 1 : 0;
+  for (CheckBox& box : controls.Scales.FrameBox) box.Value = arguments.Has("--frames") ? 1 : 0;
   room.Redrawer.MapRedraw();
-  if (map.Picture().save(QString::fromStdString(Option(*options, "-o", "map.png")))) return 0;
+  if (map.Picture().save(QString::fromStdString(TextOf(arguments, "-o", "")))) return 0;
   std::fputs("zepril-tool render: can't write the picture\n", stderr);
   return 1;
+}
+
+}  // namespace
+
+int RunRender(std::span<const std::string_view> args) {
+  Arguments arguments(args, kRules);
+  if (!arguments.Has("--folder")) arguments.Fail("--folder is missing");
+  if (!arguments.Has("-o")) arguments.Fail("-o is missing");
+  // The state that the picture shows.
+  NativeFiles files(DefaultDriveFolder());
+  RuntimeState state;
+  const std::string folder = TextOf(arguments, "--folder", ".");
+  ReadSettings(files, state, folder);
+  state.Followed.Moni1Call = TextOf(arguments, "--moni1", state.Followed.Moni1Call);
+  SetView(arguments, state);
+  if (arguments.Failed()) return arguments.Report("render");
+  const std::string records = TextOf(arguments, "--records", "");
+  if (!records.empty() && !ReadRecords(files, state, records)) {
+    std::fputs("zepril-tool render: can't read the records\n", stderr);
+    return 1;
+  }
+  FollowNewest(state);
+  // Fonts need an application; it runs without a screen unless one is asked for.
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  int argc = 1;
+  char name[] = "zepril-tool";
+  char* argv[] = {name, nullptr};
+  const QGuiApplication application(argc, argv);
+  return Paint(arguments, files, state,
+               QString::fromStdString(
+                   TextOf(arguments, "--fonts", files.NativePath(folder + "\\fonts"))));
 }
 
 }  // namespace zepril

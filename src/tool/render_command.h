@@ -1,4 +1,4 @@
-// `zepril-tool render`: a map window to a picture, without a window.
+// zepril-tool render: a map window to a picture, without a window.
 //
 //   zepril-tool render --folder PROGRAMFOLDER --records FILE --centre N,E --tile 1000 --zoom 1
 //                      --level 3 --size 1200x800 -o map.png
@@ -7,13 +7,19 @@
 // its U33. FILE holds records of 120 columns, one a line. N,E is the centre in kilometres.
 #pragma once
 
-#include <string>
-#include <vector>
+#include <span>
+#include <string_view>
 
 namespace zepril {
 
-// Exit code 0, 1 when the picture could not be written, 2 for arguments that can't be used (they are
-// then explained on standard error). Needs a QGuiApplication.
-int RenderCommand(const std::vector<std::string>& arguments);
+inline constexpr std::string_view kRenderHelp =
+    "a map window to a picture: --folder PROGRAMFOLDER -o PICTURE [--records FILE] [--centre N,E] "
+    "[--tile 5000|1000|200|50|10|2] [--zoom 0.25-8] [--level 0-5|WX] [--size 1200x800] "
+    "[--moni1 CALL] [--own N,E] [--style 0-6] [--brightness 0-2] [--ink 0-15] [--frames] "
+    "[--fonts FOLDER]";
+
+// Exit status 0, 1 when a file can't be read or the picture not be written, 2 for arguments that
+// can't be used. A tool built without the toolkit says that it can't do it, and returns 1.
+int RunRender(std::span<const std::string_view> args);
 
 }  // namespace zepril

@@ -1,0 +1,100 @@
+// The main window: lays the widgets out and binds them to the program's controls. No arithmetic, no
+// protocol.
+#pragma once
+
+#include <QStringListModel>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+
+#include "desktop/binder.h"
+#include "desktop/lamp_widget.h"
+#include "desktop/look.h"
+#include "desktop/map_widget.h"
+#include "platform/qt/map_fonts.h"
+#include "station/station_program.h"
+
+class QBoxLayout;
+class QFrame;
+class QGridLayout;
+class QLabel;
+class QSplitter;
+class QTabWidget;
+class QToolButton;
+class QVBoxLayout;
+
+namespace zepril {
+
+class MainWindow final : public QWidget {
+ public:
+  MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fonts, QtSurface& map_surface,
+             QtSurface& base_surface);
+
+  MapWidget* Map() { return map_; }
+  // The operator has closed the window (or the program wants to end), and no step is under way.
+  std::function<void()> Closed;
+  void ControlsOut();
+  // A close request that came inside a step is carried out now.
+  void CloseWhenAsked();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QWidget* MakeMapBar();
+  QWidget* MakeLeftColumn();
+  QWidget* MakeRightColumn();
+  QWidget* MakeBottomLine();
+  QWidget* MakeDrawer();
+  QWidget* MakeReadouts();
+  QWidget* MakeScales();
+  QWidget* MakeMoni1();
+  QWidget* MakeMoniAll();
+  void MakeOverlays();
+  void MakeRecordPanel();
+  void MakeAlarmPanel();
+  void MakeQthSetup();
+  void MakeHeardList();
+  void MakePalettePanel();
+  void PlaceOverlays();
+  void Arrange();
+  void ShowDrawer();
+
+  QToolButton* MakeTool(const char* name, int picture, bool caption);
+  QLabel* MakeFixedLabel(const char* name);
+  QFrame* MakePanel(const char* name, QWidget* parent);
+
+  StationProgram& program_;
+  MainWindowControls& controls_;
+  QtLoop& loop_;
+  const Look& look_;
+  Binder binder_;
+  QFont fixed_font_;
+
+  MapWidget* map_ = nullptr;
+  QWidget* left_column_ = nullptr;
+  QWidget* right_column_ = nullptr;
+  QBoxLayout* middle_ = nullptr;
+  QTabWidget* drawer_ = nullptr;
+  QSplitter* split_ = nullptr;
+  QWidget* raw_page_ = nullptr;
+  LampWidget* lamp_ = nullptr;
+  QTimer lamp_timer_;
+  QStringListModel raw_lines_;
+  QStringListModel heard_lines_;
+
+  QFrame* record_panel_ = nullptr;
+  QFrame* alarm_panel_ = nullptr;
+  QFrame* qth_panel_ = nullptr;
+  QFrame* heard_panel_ = nullptr;
+  QFrame* palette_panel_ = nullptr;
+  QLabel* banner_ = nullptr;
+  QLabel* record_text_ = nullptr;
+  bool close_asked_ = false;
+  bool raw_shown_ = false;
+};
+
+}  // namespace zepril

@@ -1,0 +1,112 @@
+#include "desktop/map_widget.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "desktop/keys.h"
+
+namespace zepril {
+
+MapWidget::MapWidget(QtLoop& loop, PictureBox& map, PictureBox& base, QtSurface& map_surface,
+                     QtSurface& base_surface, QWidget* parent)
+    : QWidget(parent),
+      loop_(loop),
+      map_(map),
+      base_(base),
+      map_surface_(map_surface),
+      base_surface_(base_surface) {
+  setObjectName(QStringLiteral("Picture1"));
+  setAccessibleName(QStringLiteral("map"));
+  setMouseTracking(true);
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setCursor(Qt::CrossCursor);
+}
+
+void MapWidget::ControlsOut() {
+  if (map_.FocusWanted) {
+    map_.FocusWanted = false;
+    setFocus(Qt::OtherFocusReason);
+  }
+  if (toolTip().isEmpty() != map_.ToolTip.empty()) setToolTip(QString::fromLatin1(map_.ToolTip.c_str()));
+  if (shown_revision_ == map_.Revision && shown_visible_ == map_.Visible) return;
+  shown_revision_ = map_.Revision;
+  shown_visible_ = map_.Visible;
+  update();
+}
+
+void MapWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  // While the map is hidden the plain form under it is seen.
+  painter.drawImage(rect(), map_.Visible ? map_surface_.Picture() : base_surface_.Picture());
+}
+
+void MapWidget::resizeEvent(QResizeEvent*) {
+  if (width() < 1 || height() < 1) return;
+  map_surface_.Resize(width(), height());
+  base_surface_.Resize(width(), height());
+  if (PlaceOverlays) PlaceOverlays();
+  if (Resized) Resized(width(), height());
+}
+
+MousePress MapWidget::PressOf(const QMouseEvent& event) const {
+  MousePress press;
+  press.Button = event.button() == Qt::RightButton ? 2 : 1;
+  press.X = event.position().x();
+  press.Y = event.position().y();
+  return press;
+}
+
+void MapWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton) return;
+  const MousePress press = PressOf(*event);
+  if (map_.MouseDown) loop_.RunStep([&] { map_.MouseDown(press); });
+}
+
+void MapWidget::mouseReleaseEvent(QMouseEvent* event) {
+  const MousePress press = PressOf(*event);
+  if (map_.MouseUp) loop_.RunStep([&] { map_.MouseUp(press); });
+}
+
+void MapWidget::mouseMoveEvent(QMouseEvent* event) {
+  const MousePress press = PressOf(*event);
+  if (map_.MouseMove) loop_.RunStep([&] { map_.MouseMove(press); });
+}
+
+void MapWidget::keyPressEvent(QKeyEvent* event) {
+  const KeyPress key = KeyPressOf(*event);
+  const bool ours = key.Code == 13 || (key.Code >= 37 && key.Code <= 40);
+  if (!ours || !map_.KeyDown) {
+    QWidget::keyPressEvent(event);
+    return;
+  }
+  loop_.RunStep([&] { map_.KeyDown(key); });
+}
+
+void MapWidget::contextMenuEvent(QContextMenuEvent* event) {
+  // The mouse has had its press already; the Menu key looks up what lies at the pointer.
+  if (event->reason() != QContextMenuEvent::Keyboard) return;
+  const QPoint at = mapFromGlobal(QCursor::pos());
+  MousePress press;
+  press.Button = 2;
+  press.X = at.x();
+  press.Y = at.y();
+  loop_.RunStep([&] {
+    if (map_.MouseDown) map_.MouseDown(press);
+    if (map_.MouseUp) map_.MouseUp(press);
+  });
+}
+
+void MapWidget::focusInEvent(QFocusEvent* event) {
+  map_.HasFocus = true;
+  QWidget::focusInEvent(event);
+}
+
+void MapWidget::focusOutEvent(QFocusEvent* event) {
+  map_.HasFocus = false;
+  QWidget::focusOutEvent(event);
+}
+
+}  // namespace zepril

@@ -1,0 +1,51 @@
+// The map on the window: shows what was painted on the map surface and hands presses, moves and keys
+// to the map's control. On a screen of a higher scale each pixel of the map becomes a block, so that
+// nothing is blurred. Panels that belong to the map lie over it as children.
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+#include "core/controls.h"
+#include "platform/qt/qt_loop.h"
+#include "platform/qt/qt_surface.h"
+
+namespace zepril {
+
+class MapWidget final : public QWidget {
+ public:
+  MapWidget(QtLoop& loop, PictureBox& map, PictureBox& base, QtSurface& map_surface,
+            QtSurface& base_surface, QWidget* parent = nullptr);
+
+  // Told with the new size after the surfaces have it.
+  std::function<void(int width, int height)> Resized;
+  // Told after a resize, to place what lies over the map.
+  std::function<void()> PlaceOverlays;
+  // Shows the map or the plain form under it, as the controls say.
+  void ControlsOut();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  MousePress PressOf(const QMouseEvent& event) const;
+
+  QtLoop& loop_;
+  PictureBox& map_;
+  PictureBox& base_;
+  QtSurface& map_surface_;
+  QtSurface& base_surface_;
+  std::uint64_t shown_revision_ = 0;
+  bool shown_visible_ = true;
+};
+
+}  // namespace zepril

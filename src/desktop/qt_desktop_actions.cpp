@@ -1,0 +1,31 @@
+#include "desktop/qt_desktop_actions.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QDesktopServices>
+#include <QUrl>
+#include <QWidget>
+
+#include "platform/qt/text.h"
+
+namespace zepril {
+
+bool QtDesktopActions::MainWindowActive() const {
+  return main_window_ != nullptr && QApplication::activeWindow() == main_window_;
+}
+
+// Windows of other programs can't be asked for on every system: none is found.
+bool QtDesktopActions::WindowExists(const std::string&) const { return false; }
+
+void QtDesktopActions::Open(const std::string& path_or_address) {
+  QDesktopServices::openUrl(QUrl::fromUserInput(ToQt(path_or_address)));
+}
+
+bool QtDesktopActions::MovePointerOnMap(int x, int y) {
+  if (map_ == nullptr) return false;
+  const QPoint target = map_->mapToGlobal(QPoint(x, y));
+  QCursor::setPos(target);
+  return QCursor::pos() == target;
+}
+
+}  // namespace zepril

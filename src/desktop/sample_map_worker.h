@@ -1,0 +1,30 @@
+// Draws the sample maps at a first run, beside the window's thread.
+#pragma once
+
+#include <QObject>
+
+#include <atomic>
+#include <functional>
+#include <string>
+#include <thread>
+
+namespace zepril {
+
+class SampleMapWorker final : public QObject {
+ public:
+  // `source`: native folder of the map data; `target`: native folder of the scale folders.
+  SampleMapWorker(std::string source, std::string target);
+  ~SampleMapWorker() override;  // ends early; whole tiles stay and the next run goes on
+
+  void Begin();
+  // Told in the window's thread; done == total at the end.
+  std::function<void(int done, int total)> Progress;
+
+ private:
+  std::string source_;
+  std::string target_;
+  std::atomic<bool> wanted_ = true;
+  std::thread thread_;
+};
+
+}  // namespace zepril

@@ -1,0 +1,32 @@
+// One row of the scale panel: bar of the active scale, frame box that is filled where a tile lies
+// under the map's centre, folder list.
+#pragma once
+
+#include <QWidget>
+
+#include "desktop/look.h"
+
+class QAbstractButton;
+class QComboBox;
+
+namespace zepril {
+
+class ScaleRow final : public QWidget {
+ public:
+  ScaleRow(const QString& folder_name, const Look& look, QWidget* parent = nullptr);
+  QAbstractButton* FrameBox() { return box_; }
+  QComboBox* Folders() { return folders_; }
+  void Show(bool covered, bool active);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const Look& look_;
+  QAbstractButton* box_;
+  QComboBox* folders_;
+  bool covered_ = false;
+  bool active_ = false;
+};
+
+}  // namespace zepril

@@ -1,0 +1,511 @@
+#include "map/map_interaction.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "map/map_view.h"
+#include "map/station_lookup.h"
+#include "tests/map/map_world.h"
+
+namespace zepril {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// The joins of the map, written down.
+class Joins final : public MapActions,
+                    public RecordPanelOpener,
+                    public MapLookups,
+                    public DesktopActions {
+ public:
+  explicit Joins(MapWorld& world) : world_(world) {}
+
+  void MapRedraw() override {
+    timer1_ran_while_redrawing_ = world_.Timer1.Enabled();
+    Calls.push_back("redraw");
+    world_.Redraw();
+  }
+  void MapRefresh() override { Calls.push_back("refresh"); }
+  void OpenRecordPanel() override { Calls.push_back("record panel"); }
+  bool LookupPicture() override { return Look("PIC"); }
+  bool LookupTrackPoint() override { return Look("TRK"); }
+  bool LookupPlace() override { return Look("POI"); }
+  void ShowSunCurve() override { Calls.push_back("SUN"); }
+  void HideSunCurve() override { Calls.push_back("hide SUN"); }
+  void ClosePicture() override { Calls.push_back("close picture"); }
+  bool MainWindowActive() const override { return true; }
+  bool WindowExists(const std::string&) const override { return false; }
+  void Open(const std::string&) override {}
+  bool MovePointerOnMap(int x, int y) override {
+    Pointer.push_back({x, y});
+    return PointerMoves;
+  }
+
+  std::vector<std::string> Calls;
+  std::vector<PixelPoint> Pointer;
+  std::string Finds;  // the lookup that finds something
+  bool PointerMoves = true;
+  bool timer1_ran_while_redrawing_ = false;
+
+ private:
+  bool Look(const std::string& name) {
+    Calls.push_back(name);
+    return Finds == name;
+  }
+  MapWorld& world_;
+};
+
+struct InteractionWorld : MapWorld {
+  InteractionWorld()
+      : Join(*this),
+        Hands(State.Map, State.Stores, State.Followed,
+              {Controls.Window, Controls.Map, Controls.Readouts, Controls.Scales, Controls.Palette,
+               Controls.Moni1, Controls.MoniAll, Controls.Record},
+              {Join, Room.Library, Room.ReadoutTexts, Join, Join, Join, Timer1, Timer2}) {
+    Redraw();
+    Timer1.Enable();
+  }
+  void Press(int button, double x, double y) {
+    Controls.Map.Picture1.MouseDown({button, 0, x, y});
+  }
+  void Key(int code, int shift = 0) { Controls.Map.Picture1.KeyDown({code, shift}); }
+
+  Joins Join;
+  MapInteraction Hands;
+};
+
+// ---- Scale and zoom -------------------------------------------------------------------------
+
+TEST(ScaleButtons, StepAlongTheChainAndStopAtItsEnds) {
+  InteractionWorld world;
+  world.View().ZoomFactor = 4.0;
+  world.Controls.Map.Command1.Click();
+  EXPECT_EQ(world.View().MapTileKm, 200.0);
+  EXPECT_EQ(world.View().ZoomFactor, 1.0);
+  world.Controls.Map.Command2.Click();
+  world.Controls.Map.Command2.Click();
+  EXPECT_EQ(world.View().MapTileKm, 10.0);
+  world.View().MapTileKm = 2.0;
+  world.Join.Calls.clear();
+  world.Controls.Map.Picture1.FocusWanted = false;
+  world.Controls.Map.Command2.Click();
+  EXPECT_EQ(world.View().MapTileKm, 2.0);
+  EXPECT_THAT(world.Join.Calls, IsEmpty());
+  EXPECT_TRUE(world.Controls.Map.Picture1.FocusWanted);
+  world.View().MapTileKm = 5000.0;
+  world.Controls.Map.Command1.Click();
+  EXPECT_EQ(world.View().MapTileKm, 5000.0);
+}
+
+TEST(ZoomButtons, DoubleAndHalveBetweenAQuarterAndEight) {
+  InteractionWorld world;
+  for (int i = 0; i < 3; ++i) world.Controls.Map.Command7.Click();
+  EXPECT_EQ(world.View().ZoomFactor, 8.0);
+  world.Join.Calls.clear();
+  world.Controls.Map.Command7.Click();
+  EXPECT_EQ(world.View().ZoomFactor, 8.0);
+  EXPECT_THAT(world.Join.Calls, IsEmpty());
+  world.Controls.Map.Command9.Click();
+  EXPECT_EQ(world.View().ZoomFactor, 1.0);
+  for (int i = 0; i < 3; ++i) world.Controls.Map.Command8.Click();
+  EXPECT_EQ(world.View().ZoomFactor, 0.25);
+  EXPECT_EQ(world.View().MapTileKm, 50.0);
+}
+
+TEST(CentreButton, ARightClickStepsTheScaleRound) {
+  InteractionWorld world;
+  world.View().MapTileKm = 10.0;
+  world.View().ZoomFactor = 2.0;
+  world.Controls.Map.Command12.RightClick();
+  EXPECT_EQ(world.View().MapTileKm, 2.0);
+  EXPECT_EQ(world.View().ZoomFactor, 1.0);
+  world.Controls.Map.Command12.RightClick();
+  EXPECT_EQ(world.View().MapTileKm, 5000.0);
+}
+
+TEST(Redraws, HappenWithTheCycleStopped) {
+  InteractionWorld world;
+  world.Controls.Map.Command7.Click();
+  EXPECT_FALSE(world.Join.timer1_ran_while_redrawing_);
+  EXPECT_TRUE(world.Timer1.Enabled());
+}
+
+TEST(FolderFields, ChoosingAnotherFolderMakesItsScaleActive) {
+  InteractionWorld world;
+  world.AddTile("M0050", "58000400.BMP", FourBitTile());
+  world.AddTile("M0010", "58200420.BMP", FourBitTile());
+  world.Scan();
+  world.Redraw();
+  world.Join.Calls.clear();
+  world.View().ZoomFactor = 2.0;
+  world.Controls.Scales.Folder[3].Change();  // the active one
+  EXPECT_THAT(world.Join.Calls, IsEmpty());
+  EXPECT_EQ(world.View().ZoomFactor, 2.0);
+  world.Controls.Scales.Folder[4].Change();
+  EXPECT_EQ(world.View().MapTileKm, 10.0);
+  EXPECT_EQ(world.View().ZoomFactor, 1.0);
+  EXPECT_EQ(world.View().ActiveFolderName, "M0010");
+}
+
+TEST(ScalePanel, AllBoxesOnAndOffAndANewScan) {
+  InteractionWorld world;
+  world.Controls.Scales.Command5.Click();
+  for (const CheckBox& box : world.Controls.Scales.FrameBox) EXPECT_EQ(box.Value, 1);
+  world.Controls.Scales.Command6.Click();
+  for (const CheckBox& box : world.Controls.Scales.FrameBox) EXPECT_EQ(box.Value, 0);
+  world.AddTile("M0002", "58000400.BMP", "x");
+  world.Controls.Scales.Command37.Click();
+  EXPECT_EQ(world.Controls.Scales.Folder[5].Selected(), "M0002");
+  EXPECT_EQ(world.Join.Calls.size(), 3u);
+}
+
+// ---- Presses --------------------------------------------------------------------------------
+
+TEST(LeftPress, CentresTheMapAndEndsFollowing) {
+  InteractionWorld world;
+  world.View().CentreFollow = 1;
+  world.Controls.Map.Option2.Value = true;
+  world.View().MapLockedOnRecord = 1;
+  world.Press(1, 100, 50);
+  EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, 5837.45);
+  EXPECT_DOUBLE_EQ(world.View().CentreEastKm, 410.0);
+  EXPECT_EQ(world.View().CentreFollow, 0);
+  EXPECT_FALSE(world.Controls.Map.Option1.Value);
+  EXPECT_FALSE(world.Controls.Map.Option2.Value);
+  EXPECT_TRUE(world.View().ManualMapMove);
+  EXPECT_EQ(world.Controls.Map.Command12.Caption, "MAP");
+}
+
+TEST(LeftPress, OnAPictureGoesToWhereItWasTaken) {
+  InteractionWorld world;
+  world.View().PictureNames = {"57000400.JPG", "A123@050.JPG"};
+  world.View().SelectedPicture = 2;
+  world.View().PictureMode = 1;
+  world.Press(1, 100, 50);
+  EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, -1122.501);
+  EXPECT_DOUBLE_EQ(world.View().CentreEastKm, -49.501);
+  EXPECT_EQ(world.View().PictureMode, 0);
+}
+
+TEST(RightPress, LookupsStopAtTheFirstHit) {
+  InteractionWorld world;
+  world.View().StationLabelLevel = 3;
+  world.View().PicturesOn = world.View().TracksOn = true;
+  world.View().PoiLevel = 1;
+  world.Join.Finds = "TRK";
+  world.Press(2, 400, 299);
+  EXPECT_THAT(world.Join.Calls, ElementsAre("PIC", "TRK"));
+  EXPECT_TRUE(world.View().LookupHit);
+  EXPECT_DOUBLE_EQ(world.View().ClickNorthKm, 5825.0);
+  EXPECT_FALSE(world.Timer1.Enabled());
+  EXPECT_TRUE(world.Timer2.Enabled());
+  EXPECT_EQ(world.Timer2.IntervalMs(), 3000);
+  world.Join.Calls.clear();
+  world.Join.Finds.clear();
+  world.Press(2, 400, 299);
+  EXPECT_THAT(world.Join.Calls, ElementsAre("PIC", "TRK", "POI", "SUN"));
+}
+
+TEST(RightPress, AStationComesFirst) {
+  InteractionWorld world;
+  world.View().StationLabelLevel = 3;
+  world.View().PicturesOn = true;
+  world.Hear({});
+  world.Press(2, 400, 299);
+  EXPECT_THAT(world.Join.Calls, ElementsAre("record panel"));
+  EXPECT_EQ(world.State.Stores.SelectedStationCall, "N0CALL");
+  EXPECT_EQ(world.State.Stores.SelectedRecordIndex, 1);
+}
+
+TEST(RightPress, InANarrowWindowNothingIsLookedUp) {
+  InteractionWorld world;
+  world.Controls.Window.WidthPx = 629;
+  world.View().StationLabelLevel = 3;
+  world.Hear({});
+  world.Press(2, 400, 299);
+  EXPECT_THAT(world.Join.Calls, ElementsAre("SUN"));
+  EXPECT_TRUE(world.Timer1.Enabled());
+  world.Controls.Window.WidthPx = 630;
+  world.Press(2, 400, 299);
+  EXPECT_EQ(world.Join.Calls.back(), "record panel");
+}
+
+TEST(RightPress, WithAllLookupsOffOpensTheSunCurve) {
+  InteractionWorld world;
+  world.Press(2, 400, 299);
+  EXPECT_THAT(world.Join.Calls, ElementsAre("SUN"));
+  world.Controls.Map.Picture1.MouseUp({2, 0, 400, 299});
+  EXPECT_EQ(world.Join.Calls.back(), "hide SUN");
+}
+
+TEST(RightPress, ShowsThePlainMapUnderAMapTypeUntilTheRelease) {
+  InteractionWorld world;
+  world.AddTile("M0050TOPO", "58000400.BMP", FourBitTile());
+  world.AddTile("M0050", "58000400.BMP", FourBitTile());
+  world.View().StoredVariants[3] = "TOPO";
+  world.Scan();
+  world.Redraw();
+  world.Press(2, 400, 299);
+  EXPECT_FALSE(world.Controls.Map.Picture1.Visible);
+  EXPECT_THAT(world.Join.Calls, IsEmpty());
+  world.Controls.Map.Picture1.MouseUp({2, 0, 400, 299});
+  EXPECT_TRUE(world.Controls.Map.Picture1.Visible);
+}
+
+TEST(MouseMove, ShowsTheCursorsPosition) {
+  InteractionWorld world;
+  world.Controls.Map.Picture1.MouseMove({0, 0, 100, 50});
+  EXPECT_EQ(world.Controls.Readouts.Label3.Caption, "UTMcrs 5837.450");
+}
+
+TEST(StationLookup, ToleranceGrowsWithTheScale) {
+  EXPECT_EQ(LookupToleranceKm(2), 0.5);
+  EXPECT_EQ(LookupToleranceKm(199.9), 0.5);
+  EXPECT_EQ(LookupToleranceKm(200), 1.5);
+  EXPECT_EQ(LookupToleranceKm(5000), 25.5);
+}
+
+TEST(StationLookup, TakesTheNewestAndOnlyThenTheHistory) {
+  StationStore all(100);
+  StationStore history(100);
+  RecordMaker maker;
+  maker.Call = "FIRST";
+  all.Append(maker.Make());
+  maker.Call = "SECOND";
+  all.Append(maker.Make());
+  maker.NorthKm += 0.5;  // not below the tolerance
+  maker.Call = "FAR";
+  all.Append(maker.Make());
+  maker = {};
+  maker.Call = "QX7KB";
+  maker.EastKm += 5.0;
+  history.Append(maker.Make());
+  const auto near = FindStationNear(all, history, "QX7KB", 5825.0, 425.0, 0.5);
+  ASSERT_TRUE(near);
+  EXPECT_EQ(near->Call, "SECOND");
+  EXPECT_EQ(near->RecordIndex, 2);
+  const auto followed = FindStationNear(all, history, "QX7KB", 5825.0, 430.0, 0.5);
+  ASSERT_TRUE(followed);
+  EXPECT_EQ(followed->Call, "QX7KB");
+  EXPECT_EQ(followed->RecordIndex, 1);
+  EXPECT_FALSE(FindStationNear(all, history, "QX7KB", 5900.0, 430.0, 0.5));
+}
+
+TEST(StationLookup, ARecordOfTheFollowedStationLeadsToItsHistory) {
+  StationStore all(100);
+  StationStore history(100);
+  RecordMaker maker;
+  maker.Call = "QX7KB";
+  history.Append(maker.Make());
+  history.Append(maker.Make());
+  all.Append(maker.Make());
+  const auto found = FindStationNear(all, history, "qx7kb", 5825.0, 425.0, 0.5);
+  ASSERT_TRUE(found);
+  EXPECT_EQ(found->RecordIndex, 2);
+}
+
+// ---- Keys -----------------------------------------------------------------------------------
+
+TEST(MapKeys, ArrowsMoveThePointerByOneAndByTenWithShift) {
+  InteractionWorld world;
+  world.Controls.Map.Picture1.MouseMove({0, 0, 100, 100});
+  world.Key(37);
+  world.Key(38, 1);
+  world.Key(39, 2);
+  world.Key(40);
+  EXPECT_THAT(world.Join.Pointer, ElementsAre(PixelPoint{99, 100}, PixelPoint{99, 90},
+                                              PixelPoint{118, 90}, PixelPoint{118, 91}));
+}
+
+TEST(MapKeys, AMoveOutOfTheMapIsNotMade) {
+  InteractionWorld world;
+  world.Controls.Map.Picture1.MouseMove({0, 0, 5, 595});
+  world.Key(37, 1);
+  world.Key(40, 1);
+  EXPECT_THAT(world.Join.Pointer, IsEmpty());
+  EXPECT_EQ(world.View().CursorX, 5.0);
+}
+
+TEST(MapKeys, WhereThePointerCannotBeMovedAVirtualOneIsKept) {
+  InteractionWorld world;
+  world.Join.PointerMoves = false;
+  world.Controls.Map.Picture1.MouseMove({0, 0, 100, 60});
+  world.Key(38, 1);
+  EXPECT_EQ(world.Controls.Readouts.Label3.Caption, "UTMcrs 5837.450");
+  world.Key(13);
+  EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, 5837.45);
+  EXPECT_DOUBLE_EQ(world.View().CentreEastKm, 410.0);
+}
+
+// ---- Centre button and follow options -------------------------------------------------------
+
+TEST(CentreButton, GoesToTheRecordInThePanelAndLocks) {
+  InteractionWorld world;
+  RecordMaker maker;
+  maker.NorthKm = 5900.5;
+  maker.EastKm = -12.5;
+  world.Controls.Record.Label20.Caption = std::string(maker.Make().Text());
+  world.View().CentreFollow = 1;
+  world.Controls.Map.Command12.Click();
+  EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, 5900.5);
+  EXPECT_DOUBLE_EQ(world.View().CentreEastKm, -12.5);
+  EXPECT_EQ(world.View().CentreFollow, 0);
+  EXPECT_EQ(world.Controls.Map.Command12.Caption, "MAP L");
+}
+
+TEST(CentreButton, WithoutARecordTheMapStaysWhereItIs) {
+  InteractionWorld world;
+  world.Controls.Map.Command12.Click();
+  EXPECT_EQ(world.View().CentreNorthKm, 5825.0);
+  EXPECT_THAT(world.Join.Calls, IsEmpty());
+}
+
+TEST(FollowOptions, ChooseWhatTheCentreFollowsAndCloseThePicture) {
+  InteractionWorld world;
+  world.View().PictureMode = 1;
+  world.View().MapLockedOnRecord = 1;
+  world.View().OwnNorthKm = 5800.0;
+  world.View().OwnEastKm = 400.0;
+  world.Controls.Map.Option1.Click();
+  EXPECT_EQ(world.View().CentreFollow, 2);
+  EXPECT_EQ(world.View().PictureMode, 0);
+  EXPECT_EQ(world.View().CentreNorthKm, 5800.0);
+  EXPECT_EQ(world.Controls.Map.Command12.Caption, "MAP");
+  world.Controls.Map.Option2.Click();
+  EXPECT_EQ(world.View().CentreFollow, 1);
+  EXPECT_TRUE(world.Controls.Map.Option2.Value);
+  EXPECT_FALSE(world.Controls.Map.Option1.Value);
+}
+
+// ---- What is shown --------------------------------------------------------------------------
+
+TEST(LabelLevel, TheSixthPressShowsWxAndTheSeventhNothing) {
+  InteractionWorld world;
+  std::vector<std::string> captions;
+  for (int i = 0; i < 7; ++i) {
+    world.Controls.MoniAll.Command13.Click();
+    captions.push_back(world.Controls.MoniAll.Label16.Caption);
+    if (captions.back() == "WX") {
+      EXPECT_EQ(world.View().StationLabelLevel, 1);
+      EXPECT_TRUE(world.View().WxCaption);
+    }
+  }
+  EXPECT_THAT(captions, ElementsAre("1", "2", "3", "4", "5", "WX", "0"));
+  EXPECT_FALSE(world.View().WxCaption);
+  world.Controls.MoniAll.Command13.RightClick();
+  EXPECT_EQ(world.Controls.MoniAll.Label16.Caption, "WX");
+  world.Controls.MoniAll.Label16.RightClick();
+  EXPECT_EQ(world.Controls.MoniAll.Label16.Caption, "5");
+}
+
+TEST(ClassBoxes, SetTheBitsOfTheMask) {
+  InteractionWorld world;
+  MoniAllControls& all = world.Controls.MoniAll;
+  world.Hands.ShowState();
+  const auto mask_without = [&](CheckBox& box) {
+    box.Value = 0;
+    box.Click();
+    const int mask = world.View().StationClassMask;
+    box.Value = 1;
+    box.Click();
+    return mask;
+  };
+  EXPECT_EQ(mask_without(all.Check10), 30);
+  EXPECT_EQ(mask_without(all.Check11), 29);
+  EXPECT_EQ(mask_without(all.Check13), 27);
+  EXPECT_EQ(mask_without(all.Check19), 23);
+  EXPECT_EQ(mask_without(all.Check25), 15);
+  EXPECT_EQ(world.View().StationClassMask, 31);
+}
+
+TEST(ClassBoxes, TheThirdStateOfTheMovingClassAsksForMovement) {
+  InteractionWorld world;
+  CheckBox& moving = world.Controls.MoniAll.Check13;
+  moving.Value = 2;
+  moving.Click();
+  EXPECT_TRUE(world.View().MovedOnly);
+  world.Hands.ShowState();
+  EXPECT_EQ(moving.Value, 2);
+  moving.Value = 1;
+  moving.Click();
+  EXPECT_FALSE(world.View().MovedOnly);
+}
+
+TEST(StationSwitches, DirectlyHeardOnlyAndTrackStyle) {
+  InteractionWorld world;
+  world.Controls.MoniAll.Check24.Value = 1;
+  world.Controls.MoniAll.Check24.Click();
+  EXPECT_TRUE(world.View().HideObjects);
+  for (int style : {1, 2, 3, 4, 5, 6, 0}) {
+    world.Controls.Moni1.Command17.Click();
+    EXPECT_EQ(world.State.Followed.TrackStyle, style);
+  }
+}
+
+TEST(Brightness, StepsThroughThreeWithTheButtonInTheirColours) {
+  InteractionWorld world;
+  world.Hands.ShowState();
+  EXPECT_EQ(world.Controls.Map.Command72.BackColour, 0xC0C0A0u);
+  world.Controls.Map.Command72.Click();
+  EXPECT_EQ(world.View().BrightnessStep, 1);
+  EXPECT_EQ(world.Controls.Map.Command72.BackColour, 0x606046u);
+  world.Controls.Map.Command72.Click();
+  EXPECT_EQ(world.Controls.Map.Command72.BackColour, 0xFFFFD6u);
+  world.View().PictureMode = 1;
+  world.Join.Calls.clear();
+  world.Controls.Map.Command72.Click();
+  EXPECT_EQ(world.View().BrightnessStep, 0);
+  EXPECT_THAT(world.Join.Calls, IsEmpty());
+}
+
+TEST(Palette, OpensOnlyOverTilesWithInksAndChoosesOne) {
+  InteractionWorld world;
+  world.Controls.Map.Command72.RightClick();
+  EXPECT_FALSE(world.Controls.Palette.PalettePanel.Visible);
+  world.AddTile("M0050", "58000400.BMP", FourBitTile());
+  world.Scan();
+  world.Redraw();
+  world.Controls.Map.Command72.RightClick();
+  EXPECT_TRUE(world.Controls.Palette.PalettePanel.Visible);
+  world.Controls.Palette.Optionink[5].Click();
+  EXPECT_EQ(world.View().SelectedInk, "5");
+  EXPECT_TRUE(world.Controls.Palette.Optionink[5].Value);
+  EXPECT_EQ(world.Controls.Palette.Optionink[5].BackColour, 0x00FFFFu);
+  world.Controls.Palette.Command42.Click();
+  EXPECT_EQ(world.View().SelectedInk, "");
+  EXPECT_TRUE(world.Controls.Palette.PalettePanel.Visible);
+  world.Controls.Palette.Optionink[0].Click();
+  world.Controls.Palette.Command43.Click();
+  EXPECT_EQ(world.View().SelectedInk, "");
+  EXPECT_FALSE(world.Controls.Palette.PalettePanel.Visible);
+}
+
+TEST(Captions, AClickStepsTheSystemAndRedrawsOnlyUnderAGrid) {
+  InteractionWorld world;
+  world.Controls.Readouts.Label4.Click();
+  EXPECT_EQ(world.View().CursorDisplayMode, 1);
+  EXPECT_EQ(world.Controls.Readouts.Label3.Caption.substr(0, 6), "GLLcrs");
+  EXPECT_THAT(world.Join.Calls, IsEmpty());
+  world.View().GridOn = true;
+  world.Controls.Readouts.Label1.Click();
+  world.Controls.Readouts.Label8.Click();
+  EXPECT_EQ(world.View().CentreDisplayMode, 1);
+  EXPECT_EQ(world.View().MonitorDisplayMode, 1);
+  EXPECT_THAT(world.Join.Calls, ElementsAre("redraw", "redraw"));
+}
+
+TEST(Captions, ARightClickOnTheStationOpensItsRecords) {
+  InteractionWorld world;
+  RecordMaker maker;
+  maker.Call = "QX7KB";
+  world.Follow(maker);
+  world.Follow(maker);
+  world.Controls.Readouts.Label7.RightClick();
+  EXPECT_EQ(world.State.Stores.SelectedStationCall, "QX7KB");
+  EXPECT_EQ(world.State.Stores.SelectedRecordIndex, 2);
+  EXPECT_THAT(world.Join.Calls, ElementsAre("record panel"));
+}
+
+}  // namespace
+}  // namespace zepril

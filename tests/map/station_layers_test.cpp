@@ -1,0 +1,639 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "map/all_stations_layer.h"
+#include "map/map_colours.h"
+#include "map/map_view.h"
+#include "map/moni1_layer.h"
+#include "map/record_age.h"
+#include "map/station_marks.h"
+#include "map/symbol_sheets.h"
+#include "tests/map/map_world.h"
+
+namespace zepril {
+namespace {
+
+using testing::ElementsAre;
+using Operation = RecorderSurface::Operation;
+
+Operation Filled(int x1, int y1, int x2, int y2, Colour colour) {
+  return {"filled", x1, y1, x2, y2, colour, {}, FontFace::Text, {}};
+}
+Operation Words(int x, int y, const std::string& text, Colour colour) {
+  return {"text", x, y, 0, 0, colour, text, FontFace::Text, {}};
+}
+Operation Line(int x1, int y1, int x2, int y2, Colour colour) {
+  return {"line", x1, y1, x2, y2, colour, {}, FontFace::Text, {}};
+}
+
+// A window in which pixel (x, y) is at km (1000 - y, x): one pixel a kilometre.
+struct StationWorld : MapWorld {
+  StationWorld() {
+    MapViewState& view = View();
+    view.MapTileKm = 1000.0;
+    view.CentreNorthKm = 701.0;
+    view.CentreEastKm = 400.0;
+    ComputeViewEdges(view);
+    EXPECT_DOUBLE_EQ(view.ViewNorthKm, 1000.0);
+    EXPECT_DOUBLE_EQ(view.ViewWestKm, 0.0);
+  }
+  static RecordMaker At(int x, int y, const std::string& call = "N0CALL",
+                        const std::string& symbol = "/>") {
+    RecordMaker maker;
+    maker.NorthKm = 1000.0 - y;
+    maker.EastKm = x;
+    maker.Call = call;
+    maker.Symbol = symbol;
+    return maker;
+  }
+  const std::vector<Operation>& Draw(int level) {
+    View().StationLabelLevel = level;
+    Surface.Operations.clear();
+    Room.Sheets.BeginRedraw();
+    AllStationsDraw(Surface, View(), State.Stores.MoniAllRecords, State.Followed.Moni1Call,
+                    Room.Symbols, Room.Sheets, Clock.Now());
+    return Surface.Operations;
+  }
+};
+
+// ---- All stations ---------------------------------------------------------------------------
+
+TEST(AllStationsDraw, AMovingStationIsADiamondOfThreeColours) {
+  StationWorld world;
+  world.Hear(StationWorld::At(100, 200));
+  world.Draw(1);
+  std::vector<Colour> rings;
+  for (const Operation& line : world.Surface.Of("line")) {
+    // The line from the right corner up tells the radius.
+    if (line.X1 > 100 && line.Y1 == 200 && line.Y2 < 200) rings.push_back(line.Ink);
+  }
+  EXPECT_THAT(rings, ElementsAre(ColourMoniAll, ColourMoniAll, 0xFFFFFFu, 0xFFFFFFu, 0u, 0u));
+}
+
+TEST(AllStationsDraw, FixedStationsAreSquaresAndNetworkStationsCircles) {
+  StationWorld world;
+  world.Hear(StationWorld::At(100, 200, "FIXED", "/-"));
+  world.Draw(1);
+  const auto boxes = world.Surface.Of("box");
+  ASSERT_EQ(boxes.size(), 5u);
+  EXPECT_EQ(boxes[4], (Operation{"box", 95, 195, 105, 205, 0, {}, FontFace::Text, {}}));
+  EXPECT_EQ(boxes[2].Ink, 0xFFFFFFu);
+  StationWorld other;
+  other.Hear(StationWorld::At(100, 200, "DIGI", "/#"));
+  other.Draw(1);
+  EXPECT_EQ(other.Surface.Of("circle").size(), 6u);
+}
+
+TEST(AllStationsDraw, AWeatherStationIsACircleWithABar) {
+  StationWorld world;
+  world.Hear(StationWorld::At(100, 200, "WX", "/_"));
+  world.Draw(2);
+  EXPECT_EQ(world.Surface.Of("circle").size(), 6u);
+  EXPECT_EQ(world.Surface.Of("circle")[2].Ink, ColourMoniAll);
+  EXPECT_EQ(world.Surface.Of("circle")[3].Ink, 0xFFFFFFu);
+  EXPECT_THAT(world.Surface.Of("line"), ElementsAre(Line(96, 200, 104, 200, 0xFFFFFF)));
+}
+
+TEST(AllStationsDraw, TheCoreGreysWithAgeAtLevelOneOnly) {
+  const auto core_at = [](const std::string& stamp, int level) {
+    StationWorld world;  // the clock stands at 2024-01-15 12:34
+    RecordMaker first = StationWorld::At(100, 200);
+    first.DateAndTime = stamp;
+    RecordMaker second = StationWorld::At(150, 200);
+    second.DateAndTime = stamp;
+    world.Hear(first);
+    world.Hear(second);
+    world.Draw(level);
+    for (const Operation& line : world.Surface.Of("line")) {
+      if (line.X1 == 100 && line.Y1 == 200 && line.X2 == 150) return line.Ink;
+    }
+    return 0x123456u;
+  };
+  EXPECT_EQ(core_at("240115 1054", 1), 0x9B9B9Bu);  // 100 minutes
+  EXPECT_EQ(core_at("240115 0819", 1), 0u);         // 255
+  EXPECT_EQ(core_at("240101 0819", 1), 0u);
+  EXPECT_EQ(core_at("240115 1234", 1), 0xFFFFFFu);
+  EXPECT_EQ(core_at("240101 0819", 2), 0xFFFFFFu);
+}
+
+TEST(AllStationsDraw, ATrackIsFourLinesAroundACore) {
+  StationWorld world;
+  world.Hear(StationWorld::At(100, 200));
+  world.Hear(StationWorld::At(150, 220));
+  world.Draw(2);
+  const auto lines = world.Surface.Of("line");
+  ASSERT_GE(lines.size(), 5u);
+  EXPECT_EQ(lines[0], Line(99, 200, 149, 220, ColourMoniAll));
+  EXPECT_EQ(lines[1], Line(101, 200, 151, 220, ColourMoniAll));
+  EXPECT_EQ(lines[2], Line(100, 199, 150, 219, ColourMoniAll));
+  EXPECT_EQ(lines[3], Line(100, 201, 150, 221, ColourMoniAll));
+  EXPECT_EQ(lines[4], Line(100, 200, 150, 220, 0xFFFFFF));
+}
+
+TEST(AllStationsDraw, TwoPositionsOnOnePixelAreACross) {
+  StationWorld world;
+  world.Hear(StationWorld::At(100, 200, "HOME", "/-"));
+  world.Hear(StationWorld::At(100, 200, "HOME", "/-"));
+  world.Draw(2);
+  const auto lines = world.Surface.Of("line");
+  ASSERT_EQ(lines.size(), 5u);
+  EXPECT_EQ(lines[0], Line(99, 200, 99, 200, ColourMoniAll));
+  EXPECT_EQ(lines[4], Line(100, 200, 100, 200, 0xFFFFFF));
+}
+
+TEST(AllStationsDraw, ASinglePositionHasAMarkAndNoTrack) {
+  StationWorld world;
+  world.Hear(StationWorld::At(100, 200, "HOME", "/-"));
+  world.Draw(2);
+  EXPECT_TRUE(world.Surface.Of("line").empty());
+  EXPECT_EQ(world.Surface.Of("box").size(), 5u);
+}
+
+TEST(AllStationsDraw, TheLabelClearsTheMarkAndTheBiggerSymbol) {
+  StationWorld world;
+  world.Hear(StationWorld::At(100, 100));
+  world.Draw(2);
+  EXPECT_THAT(world.Surface.Of("filled"), ElementsAre(Filled(108, 93, 156, 105, ColourMoniAll)));
+  EXPECT_THAT(world.Surface.Of("text"), ElementsAre(Words(108, 91, "N0CALL", 0xFFFFFF)));
+  world.Draw(4);
+  EXPECT_THAT(world.Surface.Of("filled"), ElementsAre(Filled(114, 93, 162, 105, ColourMoniAll)));
+  world.Draw(1);
+  EXPECT_TRUE(world.Surface.Of("text").empty());
+}
+
+TEST(AllStationsDraw, TheLongLabelTellsTimeCommentSymbolViaAndCall) {
+  StationWorld world;
+  RecordMaker heard = StationWorld::At(100, 100);
+  heard.Via = "WIDE1-1";
+  world.Hear(heard);
+  world.Draw(3);
+  EXPECT_EQ(world.Surface.Of("text")[0].Words, "1234 Test /> WIDE1-1 N0CALL");
+  heard.Object = '_';
+  heard.Call = "OBJECT";
+  world.Hear(heard);
+  world.Draw(5);
+  EXPECT_EQ(world.Surface.Of("text")[1].Words, "1234 Test /> WIDE1-1_OBJECT");
+}
+
+TEST(AllStationsDraw, ARecordWithTheObjectMarkDrawsNoTrack) {
+  StationWorld world;
+  RecordMaker heard = StationWorld::At(100, 200, "OBJ", "/-");
+  heard.Object = '_';
+  world.Hear(heard);
+  heard.EastKm += 50;
+  world.Hear(heard);
+  world.Draw(2);
+  EXPECT_TRUE(world.Surface.Of("line").empty());
+}
+
+TEST(AllStationsDraw, ASmallLetterInTheSourceFieldHasItsOwnColour) {
+  StationWorld world;
+  RecordMaker heard = StationWorld::At(100, 100);
+  heard.Via = "inet";
+  world.Hear(heard);
+  world.Draw(2);
+  EXPECT_EQ(world.Surface.Of("filled")[0].Ink, 0xE800C8u);
+}
+
+TEST(AllStationsDraw, DirectlyHeardOnlyLeavesOutRecordsWithASource) {
+  StationWorld world;
+  RecordMaker heard = StationWorld::At(100, 100);
+  heard.Via = "WIDE1-1";
+  world.Hear(heard);
+  world.View().HideObjects = true;
+  EXPECT_TRUE(world.Draw(3).empty());
+  world.Hear(StationWorld::At(300, 300));
+  world.Draw(2);
+  EXPECT_EQ(world.Surface.Of("text").size(), 1u);
+  for (const Operation& line : world.Surface.Of("line")) EXPECT_GT(line.X1, 250);
+}
+
+TEST(AllStationsDraw, AHiddenClassIsLeftOutAltogether) {
+  struct Row {
+    const char* Symbol;
+    int Bit;
+  };
+  for (const Row& row : {Row{"/#", 0}, Row{"/-", 1}, Row{"/>", 2}, Row{"/_", 4}}) {
+    StationWorld world;
+    world.Hear(StationWorld::At(100, 100, "CALL", row.Symbol));
+    world.Hear(StationWorld::At(200, 100, "CALL", row.Symbol));
+    world.View().StationClassMask = 31 & ~(1 << row.Bit);
+    EXPECT_TRUE(world.Draw(3).empty()) << row.Symbol;
+    world.View().StationClassMask = 1 << row.Bit;
+    EXPECT_FALSE(world.Draw(3).empty()) << row.Symbol;
+  }
+}
+
+TEST(AllStationsDraw, AMovingStationThatStoodStillIsLeftOutWhenAsked) {
+  StationWorld world;
+  world.View().MovedOnly = true;
+  world.Hear(StationWorld::At(100, 100, "STILL"));
+  world.Hear(StationWorld::At(100, 100, "STILL"));
+  EXPECT_TRUE(world.Draw(2).empty());
+  EXPECT_TRUE(world.Draw(4).empty());
+  world.Hear(StationWorld::At(110, 100, "STILL"));
+  EXPECT_FALSE(world.Draw(2).empty());
+  StationWorld fixed;
+  fixed.View().MovedOnly = true;
+  fixed.Hear(StationWorld::At(100, 100, "HOME", "/-"));
+  EXPECT_FALSE(fixed.Draw(2).empty());
+}
+
+TEST(AllStationsDraw, TheOneHeardLastLiesOnTopAndTheFollowedOneIsNotDrawn) {
+  StationWorld world;
+  world.State.Followed.Moni1Call = "QX7KB";
+  world.Hear(StationWorld::At(100, 100, "FIRST"));
+  world.Hear(StationWorld::At(100, 110, "SECOND"));
+  world.Hear(StationWorld::At(100, 120, "QX7KB"));
+  world.Hear(StationWorld::At(100, 130, "FIRST"));
+  world.Draw(2);
+  const auto labels = world.Surface.Of("text");
+  ASSERT_EQ(labels.size(), 2u);
+  EXPECT_EQ(labels[0].Words, "SECOND");
+  EXPECT_EQ(labels[1].Words, "FIRST");
+}
+
+TEST(AllStationsDraw, APixelOf1900IsTooFarForMarkAndLabel) {
+  StationWorld world;
+  world.Hear(StationWorld::At(1899, 100, "NEAR", "/-"));
+  world.Hear(StationWorld::At(1900, 100, "FAR", "/-"));
+  world.Draw(2);
+  EXPECT_EQ(world.Surface.Of("text").size(), 1u);
+  EXPECT_EQ(world.Surface.Of("text")[0].Words, "NEAR");
+  EXPECT_EQ(world.Surface.Of("box").size(), 5u);
+}
+
+TEST(AllStationsDraw, AStationThatTakesMessagesHasAGreenDot) {
+  StationWorld world;
+  RecordMaker heard = StationWorld::At(100, 100, "CALL", "/#");
+  heard.Message = '\'';
+  world.Hear(heard);
+  for (int level : {2, 3}) {
+    world.Draw(level);
+    EXPECT_THAT(world.Surface.Of("box"),
+                ElementsAre(Operation{"box", 99, 99, 101, 101, 0x00FF00, {}, FontFace::Text, {}}));
+  }
+  for (int level : {1, 4, 5}) {
+    world.Draw(level);
+    EXPECT_TRUE(world.Surface.Of("box").empty());
+  }
+}
+
+TEST(AllStationsDraw, TheStationLookedForIsLabelledAgain) {
+  StationWorld world;
+  world.View().FindCall = "N0CALL";
+  world.Hear(StationWorld::At(100, 100));
+  world.Draw(2);
+  EXPECT_THAT(world.Surface.Of("text"),
+              ElementsAre(Words(108, 91, "N0CALL", 0xFFFFFF), Words(108, 91, "! N0CALL !", 0)));
+  EXPECT_EQ(world.Surface.Of("filled")[1], Filled(108, 93, 188, 105, 0x0080FF));
+  world.Draw(3);
+  EXPECT_EQ(world.Surface.Of("text")[1].Words, "1234 Test />  N0CALL");
+}
+
+TEST(AllStationsDraw, BitmapSymbolsCarryTheirOverlay) {
+  StationWorld world;
+  world.AddSheet(0);
+  world.AddSheet(1);
+  world.Hear(StationWorld::At(100, 100, "CAR", "/>"));
+  world.Hear(StationWorld::At(200, 100, "OVER", "\\nX"));
+  world.Draw(4);
+  const auto images = world.Surface.Of("image");
+  ASSERT_EQ(images.size(), 2u);
+  EXPECT_EQ(images[0].X1, 89);
+  EXPECT_EQ(images[0].Y1, 90);
+  EXPECT_EQ(images[0].X2, 22);
+  EXPECT_EQ(images[0].Source, (PixelRect{(30 - 1) % 16 * 21, (30 - 1) / 16 * 21, 22, 22}));
+  EXPECT_THAT(world.Surface.Of("text"), testing::Contains(Words(196, 93, "X", 0)));
+}
+
+TEST(AllStationsDraw, AMissingSheetDrawsNoSymbolAndKeepsTheLabel) {
+  StationWorld world;
+  world.Hear(StationWorld::At(100, 100));
+  world.Draw(4);
+  EXPECT_TRUE(world.Surface.Of("image").empty());
+  EXPECT_EQ(world.Surface.Of("text").size(), 1u);
+}
+
+TEST(AllStationsDraw, AnImpossibleTimeLosesThatStationOnly) {
+  StationWorld world;
+  RecordMaker broken = StationWorld::At(100, 100, "BROKEN");
+  broken.DateAndTime = "249915 1234";
+  world.Hear(broken);
+  world.Hear(StationWorld::At(200, 100, "GOOD", "/-"));
+  world.Draw(1);
+  EXPECT_TRUE(world.Surface.Of("line").empty());
+  EXPECT_EQ(world.Surface.Of("box").size(), 5u);
+}
+
+TEST(AllStationsDraw, TheWxCaptionPutsAGaugeAroundWeatherStations) {
+  StationWorld world;
+  RecordMaker wx = StationWorld::At(300, 300, "WX", "/_");
+  wx.Info = "220/004g005t077r000p000P000h50b10139";
+  world.Hear(wx);
+  world.Draw(1);
+  EXPECT_TRUE(world.Surface.Of("arc").empty());
+  world.View().WxCaption = true;
+  world.Draw(1);
+  EXPECT_FALSE(world.Surface.Of("arc").empty());
+}
+
+// The plain way of the layer, call by call over the whole store, as a check of the index.
+std::vector<StationTrail> LiteralTrails(const StationStore& store) {
+  std::vector<std::string> calls;
+  for (int i = store.Count(); i >= 1 && calls.size() < kMostStations; --i) {
+    if (store.At(i).IsBlank()) continue;
+    const std::string call(store.At(i).Call());
+    if (std::find(calls.begin(), calls.end(), call) == calls.end()) calls.push_back(call);
+  }
+  std::reverse(calls.begin(), calls.end());
+  std::vector<StationTrail> trails;
+  for (const std::string& call : calls) {
+    trails.push_back({call, {}});
+    for (int i = 1; i <= store.Count(); ++i) {
+      if (!store.At(i).IsBlank() && store.At(i).Call() == call) trails.back().Records.push_back(i);
+    }
+  }
+  return trails;
+}
+
+TEST(TrailsOfStore, AgreeWithALiteralScanOnRandomStores) {
+  std::mt19937 random(11);
+  for (int round = 0; round < 200; ++round) {
+    StationStore store(3000);
+    const int calls = 1 + static_cast<int>(random() % 40);
+    const int records = static_cast<int>(random() % 300);
+    for (int i = 0; i < records; ++i) {
+      RecordMaker maker;
+      maker.Call = "QX" + WholeNumber(static_cast<int>(random()) % calls);
+      store.Append(random() % 17 == 0 ? StationRecord() : maker.Make());
+    }
+    const auto fast = TrailsOfStore(store);
+    const auto plain = LiteralTrails(store);
+    ASSERT_EQ(fast.size(), plain.size());
+    for (std::size_t i = 0; i < fast.size(); ++i) {
+      ASSERT_EQ(fast[i].Call, plain[i].Call);
+      ASSERT_EQ(fast[i].Records, plain[i].Records);
+    }
+  }
+}
+
+TEST(AllStationsDraw, RecordsOfRandomBytesAreSurvived) {
+  std::mt19937 random(3);
+  StationWorld world;
+  for (int i = 0; i < 2000; ++i) {
+    std::string bytes(120, ' ');
+    for (char& c : bytes) c = static_cast<char>(random());
+    world.State.Stores.MoniAllRecords.Append(StationRecord(bytes));
+    world.State.Stores.Moni1Records.Append(StationRecord(bytes));
+  }
+  for (int level = 1; level <= 5; ++level) {
+    world.Draw(level);
+    for (const Operation& operation : world.Surface.Operations) {
+      ASSERT_LE(std::abs(operation.X1), 4100);
+      ASSERT_LE(std::abs(operation.Y1), 4100);
+    }
+  }
+  world.Redraw();
+}
+
+// ---- The followed station -------------------------------------------------------------------
+
+struct FollowedWorld : StationWorld {
+  void DrawFollowed() {
+    Surface.Operations.clear();
+    Room.Sheets.BeginRedraw();
+    Moni1Draw(Surface, View(), State.Followed, State.Stores.Moni1Records, Room.Symbols,
+              Room.Sheets, Clock.Now(), Controls.Moni1);
+  }
+  void Add(int x, int y, const std::string& stamp = "240115 1234") {
+    RecordMaker maker = At(x, y, "QX7KB");
+    maker.DateAndTime = stamp;
+    Follow(maker);
+    View().StationAnchorX = x;
+    View().StationAnchorY = y;
+  }
+};
+
+Colour ColourOf(RecordMaker maker, const std::string& stamp) {
+  maker.DateAndTime = stamp;
+  return TrackColour(maker.Make(), false, {2024, 1, 15, 12, 34, 0});
+}
+
+TEST(TrackColour, TellsTheAge) {
+  EXPECT_EQ(ColourOf({}, "240115 1234"), ColourTrackRecent);
+  EXPECT_EQ(ColourOf({}, "240115 1134"), ColourTrackRecent);  // 60 minutes
+  EXPECT_EQ(ColourOf({}, "240115 1133"), ColourTrackHours);   // 61
+  EXPECT_EQ(ColourOf({}, "240115 0635"), ColourTrackHours);   // 359
+  EXPECT_EQ(ColourOf({}, "240115 0634"), ColourTrackOld);     // 360
+  EXPECT_EQ(ColourOf({}, "xx0115 0634"), ColourTrackOld);
+}
+
+TEST(TrackColour, PersonsAndLateRecordsHaveTheirOwn) {
+  for (const char* symbol : {"/,", "/C", "/[", "/b", "\\,"}) {
+    RecordMaker maker;
+    maker.Symbol = symbol;
+    EXPECT_EQ(ColourOf(maker, "240115 0634"), 0xD0FF60u) << symbol;
+    maker.Stale = 'T';
+    EXPECT_EQ(ColourOf(maker, "240115 0634"), 0xD0D0D0u) << symbol;
+    EXPECT_EQ(TrackColour(maker.Make(), true, {2024, 1, 15, 12, 34, 0}), 0x00FFFFu);
+  }
+}
+
+TEST(Moni1Draw, ASegmentIsFourLinesAroundABlackCore) {
+  FollowedWorld world;
+  world.Add(100, 200, "240115 0000");
+  world.Add(150, 220, "240115 0000");
+  world.DrawFollowed();
+  const auto lines = world.Surface.Of("line");
+  // The first point's mark comes before the line that leaves it.
+  const auto side = std::find(lines.begin(), lines.end(), Line(99, 200, 149, 220, ColourTrackOld));
+  ASSERT_NE(side, lines.end());
+  EXPECT_EQ(side[1], Line(101, 200, 151, 220, ColourTrackOld));
+  EXPECT_EQ(side[2], Line(100, 199, 150, 219, ColourTrackOld));
+  EXPECT_EQ(side[3], Line(100, 201, 150, 221, ColourTrackOld));
+  EXPECT_EQ(side[4], Line(100, 200, 150, 220, kBlack));
+}
+
+TEST(Moni1Draw, PointMarksAlternateInPairsAndTheLastPointHasNone) {
+  FollowedWorld world;
+  world.Add(100, 200);
+  world.Add(300, 200);
+  world.DrawFollowed();
+  std::vector<Colour> at_first;
+  for (const Operation& line : world.Surface.Of("line")) {
+    if (line.X1 > 100 && line.X1 <= 106 && line.X2 == 100 && line.Y1 == 200 && line.Y2 < 200) {
+      at_first.push_back(line.Ink);
+    }
+  }
+  EXPECT_THAT(at_first, ElementsAre(0u, 0u, ColourTrackRecent, ColourTrackRecent, 0u, 0u));
+}
+
+TEST(Moni1Draw, TheOwnMarkHasBigRingsByClass) {
+  FollowedWorld world;
+  world.Add(300, 200);
+  world.DrawFollowed();
+  std::vector<Colour> rings;
+  for (const Operation& line : world.Surface.Of("line")) {
+    if (line.X1 > 300 && line.Y1 == 200 && line.Y2 < 200) rings.push_back(line.Ink);
+  }
+  ASSERT_EQ(rings.size(), 15u);
+  EXPECT_EQ(rings[10], kBlack);
+  EXPECT_EQ(rings[11], ColourTrackRecent);
+  EXPECT_EQ(rings[12], ColourTrackRecent);
+  EXPECT_EQ(rings[13], kBlack);
+}
+
+TEST(Moni1Draw, ABlankRecordKeepsThePreviousPoint) {
+  FollowedWorld world;
+  world.Add(100, 200);
+  world.State.Stores.Moni1Records.Append(StationRecord());
+  world.Add(150, 220);
+  world.DrawFollowed();
+  EXPECT_THAT(world.Surface.Of("line"), testing::Contains(Line(100, 200, 150, 220, kBlack)));
+}
+
+TEST(Moni1Draw, TrackStylesLeaveOutWhatTheyShould) {
+  const auto lines_of = [](int style) {
+    FollowedWorld world;
+    world.Add(100, 200, "240115 0000");
+    world.Add(150, 220, "240115 0000");
+    world.State.Followed.TrackStyle = style;
+    world.DrawFollowed();
+    return world.Surface.Of("line");
+  };
+  const auto core = Line(100, 200, 150, 220, kBlack);
+  EXPECT_THAT(lines_of(1), testing::Contains(Line(99, 200, 149, 220, ColourTrackRecent)));
+  EXPECT_THAT(lines_of(1), testing::Not(testing::Contains(Line(101, 200, 100, 199, kBlack))));
+  EXPECT_THAT(lines_of(0), testing::Contains(Line(101, 200, 100, 199, kBlack)));
+  EXPECT_THAT(lines_of(2), testing::Contains(core));
+  EXPECT_THAT(lines_of(2), testing::Not(testing::Contains(Line(99, 200, 149, 220, ColourTrackOld))));
+  EXPECT_THAT(lines_of(6), testing::Not(testing::Contains(core)));
+  EXPECT_FALSE(lines_of(6).empty());  // the last mark
+}
+
+TEST(Moni1Draw, StylesThreeToFivePassOverLateRecords) {
+  FollowedWorld world;
+  world.Add(100, 200);
+  RecordMaker late = StationWorld::At(500, 500, "QX7KB");
+  late.Stale = 'T';
+  world.Follow(late);
+  world.Add(150, 220);
+  world.State.Followed.TrackStyle = 3;
+  world.DrawFollowed();
+  EXPECT_THAT(world.Surface.Of("line"), testing::Contains(Line(100, 200, 150, 220, kBlack)));
+  EXPECT_EQ(world.State.Stores.Moni1Records.Count(), 3);
+}
+
+TEST(Moni1Draw, ThinningTakesLateRecordsOutOfTheStore) {
+  FollowedWorld world;
+  world.Add(100, 200);
+  RecordMaker late = StationWorld::At(500, 500, "QX7KB");
+  late.Stale = 'T';
+  world.Follow(late);
+  world.DrawFollowed();
+  EXPECT_EQ(world.State.Stores.Moni1Records.Count(), 2);
+  world.State.Followed.Moni1ThinningOn = 1;
+  world.DrawFollowed();
+  EXPECT_EQ(world.State.Stores.Moni1Records.Count(), 1);
+}
+
+TEST(Moni1Draw, CaptionsTellCallCountTimeAndText) {
+  FollowedWorld world;
+  world.Add(100, 200);
+  FollowedStationState& followed = world.State.Followed;
+  followed.Moni1Call = "QX7KB-12345";
+  followed.MonitorDate = "240115";
+  followed.MonitorTime = "1234";
+  followed.MonitorSymbolText = "Car        0";
+  followed.MonitorInfo = "You & me";
+  world.DrawFollowed();
+  EXPECT_EQ(world.Controls.Moni1.Combo9.Text, "QX7KB-123");
+  EXPECT_EQ(world.Controls.Moni1.Label6.Caption, "1");
+  EXPECT_EQ(world.Controls.Moni1.Label9.Caption, "2024-01-15 12:34  Car        0");
+  EXPECT_EQ(world.Controls.Moni1.Label10.Caption, "TEXT: You && me");
+}
+
+TEST(Moni1Draw, TheCallFieldIsLeftAloneWhileTheOperatorTypes) {
+  FollowedWorld world;
+  world.Controls.Moni1.Combo9.HasFocus = true;
+  world.Controls.Moni1.Combo9.Text = "QX";
+  world.DrawFollowed();
+  EXPECT_EQ(world.Controls.Moni1.Combo9.Text, "QX");
+}
+
+TEST(Moni1Draw, AnEmptyHistoryDrawsNothing) {
+  FollowedWorld world;
+  world.DrawFollowed();
+  EXPECT_TRUE(world.Surface.Operations.empty());
+  EXPECT_EQ(world.Controls.Moni1.Label9.Caption, "");
+}
+
+TEST(Moni1Draw, TheLabelFollowsTheLevel) {
+  FollowedWorld world;
+  world.Add(300, 200);
+  world.View().StationLabelLevel = 2;
+  world.DrawFollowed();
+  EXPECT_THAT(world.Surface.Of("text"), ElementsAre(Words(317, 191, "QX7KB", kBlack)));
+  world.View().StationLabelLevel = 3;
+  world.DrawFollowed();
+  EXPECT_EQ(world.Surface.Of("text")[0].Words, "1234 Test />  QX7KB");
+  world.View().StationLabelLevel = 1;
+  world.DrawFollowed();
+  EXPECT_TRUE(world.Surface.Of("text").empty());
+}
+
+// ---- Symbols and ages -----------------------------------------------------------------------
+
+TEST(SymbolCells, LieInSixteenColumnsAndSixRows) {
+  struct Row {
+    int Index, Sheet, X, Y;
+  };
+  for (const Row& row : {Row{1, 0, 0, 0}, Row{16, 0, 315, 0}, Row{17, 0, 0, 21},
+                         Row{37, 0, 84, 42}, Row{94, 0, 273, 105}, Row{101, 1, 0, 0},
+                         Row{194, 1, 273, 105}, Row{0, 0, 0, 0}, Row{100, 1, 0, 105}}) {
+    const SymbolCell cell = CellOfSymbol(row.Index);
+    EXPECT_EQ(cell.Sheet, row.Sheet) << row.Index;
+    EXPECT_EQ(cell.X, row.X) << row.Index;
+    EXPECT_EQ(cell.Y, row.Y) << row.Index;
+  }
+}
+
+TEST(SymbolIndex, BringsEveryPairIntoTheTable) {
+  EXPECT_EQ(SymbolIndex('/', '!'), 1);
+  EXPECT_EQ(SymbolIndex('/', '~'), 94);
+  EXPECT_EQ(SymbolIndex('\\', '!'), 101);
+  EXPECT_EQ(SymbolIndex('/', ' '), 194);
+  EXPECT_EQ(SymbolIndex('\\', '\x7F'), 194);
+  for (int table = 0; table < 256; ++table) {
+    for (int code = 0; code < 256; ++code) {
+      const int index = SymbolIndex(Chr(table), Chr(code));
+      ASSERT_GE(index, 1);
+      ASSERT_LE(index, 194);
+    }
+  }
+}
+
+TEST(SymbolSheets, ASheetTooSmallForItsCellsDrawsNothing) {
+  StationWorld world;
+  world.Disk.Write(R"(C:\Z\ZEPRSYM0.BMP)",
+                   BmpMaker{21, 21, 8, TestPalette(256), std::string(24 * 21, '\7')}.Bytes());
+  world.Room.Sheets.DrawSymbol(world.Surface, 1, 0, 0);
+  EXPECT_TRUE(world.Surface.Operations.empty());
+}
+
+TEST(RecordAge, CountsWholeMinutesAndRefusesImpossibleTimes) {
+  RecordMaker maker;
+  maker.DateAndTime = "231231 2359";
+  EXPECT_EQ(RecordAgeMinutes(maker.Make(), {2024, 1, 1, 0, 1, 59}), 2);
+  EXPECT_EQ(RecordAgeMinutes(maker.Make(), {2023, 12, 31, 23, 0, 0}), 0);  // from the future
+  for (const char* stamp : {"230031 2359", "231332 2359", "231231 2460", "231231 9959", ""}) {
+    maker.DateAndTime = stamp;
+    EXPECT_EQ(RecordAgeMinutes(maker.Make(), {2024, 1, 1, 0, 1, 0}), std::nullopt) << stamp;
+  }
+}
+
+}  // namespace
+}  // namespace zepril
