@@ -35,8 +35,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   NoSettings settings;
   identity.MapSystemFolder = "M";
   zepril::DistanceAlarm alarm(alarms, identity, followed, map, controls.Status, controls.Window);
-  zepril::FollowedHistory history(identity, stores, followed, map, gps, controls.Moni1, controls.Map,
-                                  alarm, disk, settings);
+  zepril::FollowedHistory history(identity, stores, followed, map, gps, controls.Moni1,
+                                  controls.Map, alarm, disk, settings);
 
   // Loading, and a second start on what the first one left.
   const std::string path = "M\\LOG\\QX7KB.TXT";

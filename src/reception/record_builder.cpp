@@ -8,7 +8,8 @@
 namespace zepril {
 namespace {
 
-// A torn header may have a return inside a call. It would break the line of a log or history in two.
+// A torn header may have a return inside a call. It would break the line of a log or history in
+// two.
 std::string WithoutReturns(std::string text) {
   std::replace(text.begin(), text.end(), '\r', ' ');
   return text;

@@ -41,7 +41,9 @@ class MemoryFiles final : public Files {
     Contents[path] += text;
     return true;
   }
-  bool Write(const std::string& path, std::string_view text) override { return Replace(path, text); }
+  bool Write(const std::string& path, std::string_view text) override {
+    return Replace(path, text);
+  }
   bool Replace(const std::string& path, std::string_view text) override {
     if (Refused(path)) return false;
     Contents[path] = text;
@@ -54,7 +56,9 @@ class MemoryFiles final : public Files {
     if (!Contents.contains(path)) return std::nullopt;
     return FileStamp{};
   }
-  std::vector<FolderEntry> List(const std::string&, const std::string&) const override { return {}; }
+  std::vector<FolderEntry> List(const std::string&, const std::string&) const override {
+    return {};
+  }
 
   std::string Of(const std::string& path) const {
     const auto found = Contents.find(path);
