@@ -1,6 +1,7 @@
 #include "reception/packet_decoder.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <utility>
@@ -158,6 +159,14 @@ void SetDateAndTime(const LocalTime& now, DecodedPacket& packet) {
 DecodeResult Dropped(DropReason reason) { return {DecodeOutcome::Dropped, reason}; }
 
 }  // namespace
+
+std::string_view DropText(DropReason reason) {
+  constexpr std::array<std::string_view, kDropReasons> kTexts{
+      "own packet gated back", "header too short", "not marked as heard", "own echo", "message",
+      "information too short", "no position",      "near the equator",    "off the grid",
+      "no line feed before it"};
+  return kTexts[static_cast<std::size_t>(reason)];
+}
 
 std::string CleanComment(std::string_view text) {
   constexpr std::size_t kPrefixColumns = 6;

@@ -5,6 +5,9 @@
 // decoder never reports a malformed packet: a failed test drops the frame.
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "core/symbol_table.h"
 #include "reception/decoded_packet.h"
 #include "reception/header_analysis.h"
@@ -24,6 +27,9 @@ enum class DropReason {
   NoLineFeed,          // a header with no beginning
 };
 inline constexpr int kDropReasons = 10;
+
+// A few words for a reason, for statistics.
+std::string_view DropText(DropReason reason);
 
 enum class DecodeOutcome {
   Packet,

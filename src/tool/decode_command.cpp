@@ -143,18 +143,18 @@ class LineDecoder {
 };
 
 void PrintStats(const ReceptionCounts& counts, std::int64_t refused_lines) {
-  constexpr std::array<const char*, kDropReasons> kReasons{
-      "own packet gated back", "header too short", "not marked as heard", "own echo", "message",
-      "information too short", "no position",      "near the equator",    "off the grid",
-      "no line feed before it"};
-  const auto print = [](const char* label, std::int64_t count) {
-    std::fprintf(stderr, "%-24s%s\n", label, WholeNumber(count).c_str());
+  const auto print = [](std::string_view label, std::int64_t count) {
+    constexpr std::size_t kLabelWidth = 26;
+    const std::string line = PadRight(label, kLabelWidth) + WholeNumber(count) + "\n";
+    std::fwrite(line.data(), 1, line.size(), stderr);
   };
   print("frames", counts.Frames);
   print("stored", counts.Stored);
   print("repeats", counts.Repeats);
   print("recoveries", counts.Recoveries);
-  for (std::size_t i = 0; i < kReasons.size(); ++i) print(kReasons[i], counts.Drops[i]);
+  for (int i = 0; i < kDropReasons; ++i) {
+    print(DropText(static_cast<DropReason>(i)), counts.Drops[static_cast<std::size_t>(i)]);
+  }
   print("lines that are no packet", refused_lines);
 }
 

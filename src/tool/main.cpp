@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tool/arguments.h"
+#include "tool/coords_command.h"
 #include "tool/decode_command.h"
 #include "tool/render_command.h"
 
@@ -19,6 +20,7 @@ struct Command {
 // Every command of the tool; a new one is a row here.
 constexpr Command kCommands[] = {
     {"decode", zepril::kDecodeHelp, zepril::RunDecode},
+    {"coords", zepril::kCoordsHelp, zepril::RunCoords},
     {"render", zepril::kRenderHelp, zepril::RunRender},
 };
 

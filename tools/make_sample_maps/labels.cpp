@@ -19,16 +19,16 @@ class Placer {
  public:
   explicit Placer(double km_per_pixel) : km_per_pixel_(km_per_pixel) {}
 
-  void Town(const Place& town) {
+  void Town(const MapPlace& town) {
     const int x = Pixel(town.at.east_km), y = Pixel(-town.at.north_km);
     const int r = DotRadius(town.rank);
     const Box dot{x - r - 1, y - r - 1, x + r + 2, y + r + 2};
     if (town.rank > 2 && !Free(dot)) return;
-    Label label{0, 0, 8, town.rank, false, town.name};
+    MapLabel label{0, 0, 8, town.rank, false, town.name};
     const int w = LabelWidth(label);
     // The ink of a letter's cell begins three rows down and ends three rows above its foot.
     const int gap = r + 3, up = -r - 15, down = r - 1;
-    const std::optional<Label> placed = Try(label, {{x + gap, y - 7},
+    const std::optional<MapLabel> placed = Try(label, {{x + gap, y - 7},
                                                     {x - gap - w, y - 7},
                                                     {x + r, y + up},
                                                     {x + r, y + down},
@@ -42,9 +42,9 @@ class Placer {
     if (placed) Keep(*placed);
   }
 
-  void Water(const Place& water) {
+  void Water(const MapPlace& water) {
     const int x = Pixel(water.at.east_km), y = Pixel(-water.at.north_km);
-    Label label{0, 0, water.rank == 1 ? 16 : water.rank == 2 ? 14 : 11, 3, true, water.name};
+    MapLabel label{0, 0, water.rank == 1 ? 16 : water.rank == 2 ? 14 : 11, 3, true, water.name};
     const int w = LabelWidth(label);
     std::vector<std::pair<int, int>> tries;
     for (const int dy : {0, 20, -20, 40, -40})
@@ -57,7 +57,7 @@ class Placer {
  private:
   int Pixel(double km) const { return static_cast<int>(std::floor(km / km_per_pixel_)); }
 
-  static Box BoxOf(const Label& label) {
+  static Box BoxOf(const MapLabel& label) {
     return {label.x - 1, label.y + 2, label.x + LabelWidth(label) + 1, label.y + kLabelHeight};
   }
 
@@ -65,7 +65,7 @@ class Placer {
     return std::none_of(taken_.begin(), taken_.end(), [&](const Box& b) { return Meet(b, box); });
   }
 
-  std::optional<Label> Try(Label label, const std::vector<std::pair<int, int>>& places) const {
+  std::optional<MapLabel> Try(MapLabel label, const std::vector<std::pair<int, int>>& places) const {
     for (const auto& [x, y] : places) {
       label.x = x;
       label.y = y;
@@ -74,7 +74,7 @@ class Placer {
     return std::nullopt;
   }
 
-  void Keep(const Label& label) {
+  void Keep(const MapLabel& label) {
     taken_.push_back(BoxOf(label));
     result_.labels.push_back(label);
   }
@@ -89,11 +89,11 @@ class Placer {
 Labels PlaceLabels(const MapData& data, double km_per_pixel, int last_town, int last_water) {
   Placer placer(km_per_pixel);
   for (int rank = 1; rank <= last_town; ++rank) {
-    for (const Place& town : data.towns) {
+    for (const MapPlace& town : data.towns) {
       if (town.rank == rank) placer.Town(town);
     }
   }
-  for (const Place& water : data.waters) {
+  for (const MapPlace& water : data.waters) {
     if (water.rank <= last_water) placer.Water(water);
   }
   return placer.Take();

@@ -14,7 +14,7 @@ struct Dot {
   int rank = 3;
 };
 
-struct Label {
+struct MapLabel {
   int x = 0, y = 0;  // top left of the first letter's cell
   int step = 8;      // from letter to letter
   int rank = 3;      // 1: drawn bold
@@ -24,7 +24,7 @@ struct Label {
 
 struct Labels {
   std::vector<Dot> dots;
-  std::vector<Label> labels;
+  std::vector<MapLabel> labels;
 };
 
 constexpr int kLabelHeight = 15;
@@ -32,7 +32,7 @@ constexpr int kLabelHeight = 15;
 inline int DotRadius(int rank) {
   return rank == 1 ? 4 : rank == 2 ? 3 : 2;
 }
-inline int LabelWidth(const Label& label) {
+inline int LabelWidth(const MapLabel& label) {
   return label.step * static_cast<int>(label.text.size());
 }
 

@@ -234,7 +234,7 @@ bool OnMap(double lat, double lon) {
 }
 
 // 54.09 12.14 2 Rostock
-bool TakePlace(std::string_view line, std::vector<Place>& places) {
+bool TakePlace(std::string_view line, std::vector<MapPlace>& places) {
   WordReader words(line);
   const auto lat = words.Next<double>(), lon = words.Next<double>();
   const auto rank = words.Next<int>();

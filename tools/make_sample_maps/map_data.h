@@ -22,7 +22,7 @@ struct Outline {
   MapPoint low, high;  // corners of the box around the points
 };
 
-struct Place {
+struct MapPlace {
   MapPoint at;
   int rank = 3;  // 1 largest
   std::string name;
@@ -33,8 +33,8 @@ using LetterRows = std::array<std::uint8_t, 15>;  // a byte a row, leftmost colu
 struct MapData {
   std::vector<Outline> land;  // closed rings, lakes too; what an odd number of them holds is land
   std::vector<Outline> borders;  // open lines
-  std::vector<Place> towns;
-  std::vector<Place> waters;
+  std::vector<MapPlace> towns;
+  std::vector<MapPlace> waters;
   std::array<LetterRows, 256> letters{};  // by byte of code page 1252
 };
 

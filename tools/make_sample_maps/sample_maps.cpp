@@ -57,7 +57,7 @@ class Drawing {
   SampleMapsResult Result() const { return result_; }
 
  private:
-  bool DrawTile(const ScaleFolder& folder, const TilePlace& place, const Labels& labels,
+  bool DrawTile(const ScaleFolder& folder, const SampleTile& place, const Labels& labels,
                 const Palette& palette, const std::filesystem::path& path) {
     const std::filesystem::path file = path / TileName(place.north_km, place.east_km);
     const std::uintmax_t size = folder.style.relief ? kTileBytes8 : kTileBytes4;

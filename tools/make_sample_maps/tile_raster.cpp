@@ -15,7 +15,7 @@ constexpr int kReliefDepth = 130;  // pixels from the coast to the darkest sea
 // A tile with a margin around it, while it is painted.
 class Canvas {
  public:
-  Canvas(const MapData& data, const TilePlace& place, const TileStyle& style)
+  Canvas(const MapData& data, const SampleTile& place, const TileStyle& style)
       : data_(data),
         style_(style),
         margin_(style.relief ? kReliefMargin : kFlatMargin),
@@ -34,7 +34,7 @@ class Canvas {
     Coast();
     for (const Dot& dot : labels.dots)
       PaintDot(dot);
-    for (const Label& label : labels.labels)
+    for (const MapLabel& label : labels.labels)
       PaintLabel(label);
     return Inner();
   }
@@ -252,7 +252,7 @@ class Canvas {
   }
 
   // Lines near the letters are wiped away first, so that names stay clear.
-  void PaintLabel(const Label& label) {
+  void PaintLabel(const MapLabel& label) {
     const int x = label.x - left_, y = label.y - top_;
     if (x > side_ || y > side_ || x + LabelWidth(label) < 0 || y + kLabelHeight < 0) return;
     if (!label.water) {
@@ -272,7 +272,7 @@ class Canvas {
   }
 
   template <typename Take>
-  void EachLetterPixel(const Label& label, int x, int y, Take take) const {
+  void EachLetterPixel(const MapLabel& label, int x, int y, Take take) const {
     for (const char c : label.text) {
       const LetterRows& rows = data_.letters[static_cast<unsigned char>(c)];
       for (int row = 0; row < kLabelHeight; ++row) {
@@ -307,7 +307,7 @@ class Canvas {
 }  // namespace
 
 std::vector<std::uint8_t> PaintTile(const MapData& data, const Labels& labels,
-                                    const TilePlace& place, const TileStyle& style) {
+                                    const SampleTile& place, const TileStyle& style) {
   return Canvas(data, place, style).Paint(labels);
 }
 

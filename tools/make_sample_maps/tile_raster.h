@@ -16,13 +16,13 @@ struct TileStyle {
   bool border_band = true;
 };
 
-struct TilePlace {
+struct SampleTile {
   int north_km = 0, east_km = 0;  // south-west corner
   int side_km = 1000;
 };
 
 // 1000 x 1000 indices, top row first: inks, or entries of the relief palette.
 std::vector<std::uint8_t> PaintTile(const MapData& data, const Labels& labels,
-                                    const TilePlace& place, const TileStyle& style);
+                                    const SampleTile& place, const TileStyle& style);
 
 }  // namespace zepril

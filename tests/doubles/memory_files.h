@@ -1,0 +1,77 @@
+// Files in memory, by their paths as they are written.
+#pragma once
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/files.h"
+
+namespace zepril {
+
+class MemoryFiles final : public Files {
+ public:
+  std::optional<std::string> ReadAll(const std::string& path, std::size_t limit) const override {
+    const auto found = Contents.find(path);
+    if (found == Contents.end() || found->second.size() > limit) return std::nullopt;
+    return found->second;
+  }
+  std::optional<std::string> ReadRange(const std::string&, std::int64_t,
+                                       std::size_t) const override {
+    return std::nullopt;
+  }
+  bool ReadLines(const std::string& path, const LineReader& line) const override {
+    const auto found = Contents.find(path);
+    if (found == Contents.end()) return false;
+    std::string_view rest = found->second;
+    while (!rest.empty()) {
+      const std::size_t end = rest.find('\n');
+      std::string_view one = rest.substr(0, end);
+      if (one.ends_with('\r')) one.remove_suffix(1);
+      if (!line(one)) break;
+      rest = end == std::string_view::npos ? std::string_view{} : rest.substr(end + 1);
+    }
+    return true;
+  }
+  bool Append(const std::string& path, std::string_view text) override {
+    if (Refused(path)) return false;
+    Contents[path] += text;
+    return true;
+  }
+  bool Write(const std::string& path, std::string_view text) override { return Replace(path, text); }
+  bool Replace(const std::string& path, std::string_view text) override {
+    if (Refused(path)) return false;
+    Contents[path] = text;
+    return true;
+  }
+  bool Remove(const std::string& path) override { return Contents.erase(path) > 0; }
+  bool Rename(const std::string&, const std::string&) override { return false; }
+  bool MakeFolder(const std::string&) override { return true; }
+  std::optional<FileStamp> Stamp(const std::string& path) const override {
+    if (!Contents.contains(path)) return std::nullopt;
+    return FileStamp{};
+  }
+  std::vector<FolderEntry> List(const std::string&, const std::string&) const override { return {}; }
+
+  std::string Of(const std::string& path) const {
+    const auto found = Contents.find(path);
+    return found == Contents.end() ? std::string() : found->second;
+  }
+  int LineCount(const std::string& path) const {
+    const std::string text = Of(path);
+    return static_cast<int>(std::count(text.begin(), text.end(), '\n'));
+  }
+
+  std::map<std::string, std::string> Contents;
+  std::string RefusedEnding;  // files whose path ends so can't be written
+
+ private:
+  bool Refused(const std::string& path) const {
+    return !RefusedEnding.empty() && path.ends_with(RefusedEnding);
+  }
+};
+
+}  // namespace zepril

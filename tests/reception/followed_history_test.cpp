@@ -1,0 +1,219 @@
+#include "reception/followed_history.h"
+
+#include "core/text_fields.h"
+#include "tests/reception/reception_support.h"
+
+namespace zepril {
+namespace {
+
+const std::string kPath = R"(C:\ZEPRIL\U33\LOG\QX7KB.TXT)";
+
+std::string Place(int metres) { return PadLeft(WholeNumber(metres), 5) + ".000"; }
+
+StationRecord Position(int place, const std::string& date_time = "240115 1234",
+                       const std::string& info = "Test") {
+  return RecordOf("QX7KB", date_time, Place(place), "  391.394", "", info);
+}
+
+std::string LineOf(const StationRecord& record) { return std::string(record.RightTrimmed()) + "\r\n"; }
+
+TEST(FollowedHistory, NewPositionGoesToListFileAndMonitorValues) {
+  Reception station;
+  StationRecord record = Position(100);
+  record.Put(42, 42, "!");
+  record.Put(90, 90, "_");
+  record.Put(91, 100, "DIGIPEATRX");
+  EXPECT_TRUE(station.History.Enter(record));
+  ASSERT_EQ(station.Stores.Moni1Records.Count(), 1);
+  EXPECT_EQ(station.Stores.Moni1Records.At(1).EmergencyMark(), ' ');
+  EXPECT_EQ(station.Stores.Moni1Records.At(1).ObjectMark(), ' ');
+  EXPECT_EQ(station.Disk.Of(kPath), LineOf(station.Stores.Moni1Records.At(1)));
+  EXPECT_EQ(station.Followed.MonitorDate, "240115");
+  EXPECT_EQ(station.Followed.MonitorTime, "1234");
+  EXPECT_DOUBLE_EQ(station.Followed.MonitorNorthKm, 100.0);
+  EXPECT_DOUBLE_EQ(station.Followed.MonitorEastKm, 391.394);
+  EXPECT_EQ(station.Followed.MonitorHeardVia, "DIGIPEATR");
+  EXPECT_EQ(station.Followed.MonitorInfo, "Test");
+  EXPECT_EQ(station.Followed.MonitorSymbol, "/>");
+  EXPECT_EQ(station.Followed.MonitorSymbolText, "Car        0");
+}
+
+TEST(FollowedHistory, SamePlaceAndTextOnlyRenewsTheTime) {
+  Reception station;
+  station.History.Enter(Position(100, "240115 1234"));
+  StationRecord later = Position(100, "240115 1244");
+  later.Put(12, 12, "T");
+  station.History.Enter(later);
+  ASSERT_EQ(station.Stores.Moni1Records.Count(), 1);
+  EXPECT_EQ(station.Stores.Moni1Records.At(1).Time(), "1244");
+  EXPECT_EQ(station.Disk.LineCount(kPath), 1);
+  station.History.Enter(Position(100, "240115 1245", "other text"));
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 2);
+}
+
+TEST(FollowedHistory, FullHistoryLosesAThousandAtOnce) {
+  Reception station;
+  for (int i = 0; i < 9998; ++i) station.Stores.Moni1Records.Append(Position(i % 9000));
+  station.History.Enter(Position(9990));
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 8999);
+  EXPECT_EQ(station.Stores.Moni1Records.At(1).NorthText(), Place(1000));
+}
+
+TEST(FollowedHistory, ThinningStartsAboveOneAndATenthOfTheLimit) {
+  Reception station;
+  station.Followed.Moni1ThinningOn = 1;
+  station.Stores.Moni1Records.Limit = 100;
+  for (int i = 0; i < 109; ++i) {
+    station.Stores.Moni1Records.Append(RecordOf("QX7KB", "240115 1234", " 5817.86" + WholeNumber(i % 10)));
+  }
+  station.History.Enter(Position(1));
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 110);
+  station.History.Enter(Position(2));
+  EXPECT_LE(station.Stores.Moni1Records.Count(), 80);
+  EXPECT_EQ(station.Disk.LineCount(kPath), station.Stores.Moni1Records.Count());
+}
+
+TEST(FollowedHistory, WithoutThinningTheHistoryGrows) {
+  Reception station;
+  station.Stores.Moni1Records.Limit = 10;
+  for (int i = 0; i < 50; ++i) station.History.Enter(Position(i));
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 50);
+}
+
+TEST(FollowedHistory, WithoutGpsTheMapFollowsTheStationAgain) {
+  Reception station;
+  station.Map.CentreFollow = 0;
+  station.Controls.Map.Option1.Value = true;
+  station.History.Enter(Position(1));
+  EXPECT_EQ(station.Map.CentreFollow, 1);
+  EXPECT_FALSE(station.Controls.Map.Option1.Value);
+  EXPECT_TRUE(station.Controls.Map.Option2.Value);
+  EXPECT_FALSE(station.Map.MapDrawn);
+  station.Gps.GpsFixValid = 1;
+  station.Map.CentreFollow = 0;
+  station.History.Enter(Position(2));
+  EXPECT_EQ(station.Map.CentreFollow, 0);
+}
+
+TEST(FollowedHistory, FileThatCannotBeWrittenIsAFailure) {
+  Reception station;
+  station.Disk.RefusedEnding = "QX7KB.TXT";
+  EXPECT_FALSE(station.History.Enter(Position(1)));
+}
+
+TEST(FollowedHistory, LoadingSkipsLinesThatAreNoRecords) {
+  Reception station;
+  const std::string line(Position(1).RightTrimmed());
+  station.Disk.Contents[kPath] = line.substr(0, 102) + "\r\n" + line.substr(0, 103) + "\r\n" + line +
+                                 std::string(120 - line.size(), 'x') + "\r\n" + line +
+                                 std::string(121 - line.size(), 'x') + "\r\n\r\n";
+  station.History.LoadAtStart();
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 2);
+}
+
+TEST(FollowedHistory, LoadingStopsAtTheMostLines) {
+  Reception station;
+  std::string text;
+  for (int i = 0; i < 10050; ++i) text += LineOf(Position(i % 9000));
+  station.Disk.Contents[kPath] = text;
+  station.History.LoadAtStart();
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 9998);
+  EXPECT_EQ(station.Disk.Of(kPath), text);
+}
+
+TEST(FollowedHistory, MissingFileIsCreated) {
+  Reception station;
+  station.History.LoadAtStart();
+  EXPECT_TRUE(station.Disk.Exists(kPath));
+  EXPECT_EQ(station.Followed.MonitorDate, "");
+  EXPECT_EQ(station.Followed.MonitorNorthKm, 0.0);
+}
+
+TEST(FollowedHistory, GapOfMoreThanThirtyDaysCutsAtStartAndKeepsACopy) {
+  Reception station;
+  const std::string old = LineOf(Position(1, "240101 1200")) + LineOf(Position(2, "240202 1200")) +
+                          LineOf(Position(3, "240302 1200"));
+  station.Disk.Contents[kPath] = old;
+  station.History.LoadAtStart();
+  ASSERT_EQ(station.Stores.Moni1Records.Count(), 2);
+  EXPECT_EQ(station.Stores.Moni1Records.At(1).Date(), "240202");
+  EXPECT_EQ(station.Disk.LineCount(kPath), 2);
+  EXPECT_EQ(station.Disk.Of(kPath + ".BAK"), old);
+}
+
+TEST(FollowedHistory, GapOfThirtyDaysIsKept) {
+  Reception station;
+  station.Disk.Contents[kPath] =
+      LineOf(Position(1, "240101 1200")) + LineOf(Position(2, "240201 1200"));
+  station.History.LoadAtStart();
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 2);
+  EXPECT_FALSE(station.Disk.Exists(kPath + ".BAK"));
+}
+
+TEST(FollowedHistory, FileStaysWhenItsCopyCannotBeKept) {
+  Reception station;
+  station.Disk.Contents[kPath] =
+      LineOf(Position(1, "240101 1200")) + LineOf(Position(2, "240202 1200"));
+  station.Disk.RefusedEnding = ".BAK";
+  station.History.LoadAtStart();
+  EXPECT_EQ(station.Disk.LineCount(kPath), 2);
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 1);
+}
+
+TEST(FollowedHistory, ChangeOfStationTakesWhatWasHeardSince) {
+  Reception station;
+  const std::string path = R"(C:\ZEPRIL\U33\LOG\N0NEW.TXT)";
+  station.Disk.Contents[path] = LineOf(RecordOf("N0NEW", "240115 1200", Place(1)));
+  StationRecord marked = RecordOf("N0NEW", "240115 1201", Place(3));
+  marked.Put(42, 42, "!");
+  marked.Put(90, 90, "_");
+  for (const StationRecord& record :
+       {RecordOf("N0NEW", "240115 1200", Place(2)), marked, RecordOf("N0OLD", "240115 1202")}) {
+    station.Stores.MoniAllRecords.Append(record);
+  }
+  station.History.ChangeStation("n0new");
+  EXPECT_EQ(station.Followed.Moni1Call, "n0new");
+  // The path is as typed; names of files are found without regard to case by the files below.
+  EXPECT_EQ(station.Followed.Moni1LogPath, R"(C:\ZEPRIL\U33\LOG\n0new.TXT)");
+  station.History.ChangeStation("N0NEW");
+  ASSERT_EQ(station.Stores.Moni1Records.Count(), 2);
+  EXPECT_EQ(station.Stores.Moni1Records.At(2).NorthText(), Place(3));
+  EXPECT_EQ(station.Stores.Moni1Records.At(2).EmergencyMark(), ' ');
+  EXPECT_EQ(station.Stores.Moni1Records.At(2).ObjectMark(), ' ');
+  EXPECT_EQ(station.Disk.LineCount(path), 2);
+  EXPECT_DOUBLE_EQ(station.Followed.MonitorNorthKm, 3.0);
+  ASSERT_EQ(station.Actions.ConfigLines.size(), 2u);
+  EXPECT_EQ(station.Actions.ConfigLines[1], (std::pair<std::string, std::string>("CALL", "N0NEW")));
+}
+
+TEST(FollowedHistory, EmptyInternetRecordsStayOutWhileTheInternetIsAsked) {
+  Reception station;
+  station.Stores.MoniAllRecords.Append(RecordOf("N0NEW", "240115 1200", Place(1), "  391.394", "inet", ""));
+  station.Stores.MoniAllRecords.Append(
+      RecordOf("N0NEW", "240115 1201", Place(2), "  391.394", "inet", "text"));
+  station.Controls.Moni1.Check22.Value = 1;
+  station.History.ChangeStation("N0NEW");
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 1);
+  station.Disk.Contents.clear();
+  station.Controls.Moni1.Check22.Value = 0;
+  station.History.ChangeStation("N0NEW");
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 2);
+}
+
+TEST(FollowedHistory, StationWithoutNameHasAnEmptyHistoryAndNoFile) {
+  Reception station;
+  station.History.ChangeStation("");
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 0);
+  EXPECT_TRUE(station.Disk.Contents.empty());
+  EXPECT_FALSE(station.History.IsFollowed(""));
+}
+
+TEST(FollowedHistory, CallIsFollowedWithoutRegardToCase) {
+  Reception station;
+  station.Followed.Moni1Call = "qx7kb";
+  EXPECT_TRUE(station.History.IsFollowed("QX7KB"));
+  EXPECT_FALSE(station.History.IsFollowed("QX7KB-9"));
+}
+
+}  // namespace
+}  // namespace zepril

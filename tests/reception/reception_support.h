@@ -1,0 +1,166 @@
+// A whole reception over doubles, for the tests of this room.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/main_window_controls.h"
+#include "core/state/gps.h"
+#include "platform/monitor_engine.h"
+#include "reception/receive_pass.h"
+#include "tests/doubles/fake_serial.h"
+#include "tests/doubles/memory_files.h"
+#include "tests/doubles/scripted_dialogs.h"
+#include "tests/doubles/virtual_clock.h"
+
+namespace zepril {
+
+class FakeEngine final : public MonitorEngine {
+ public:
+  bool AGWStartPoll(std::string_view, std::string_view) override { return true; }
+  std::string AGWGetData() override {
+    if (Texts.empty()) return {};
+    std::string text = Texts.front();
+    Texts.erase(Texts.begin());
+    return text;
+  }
+  bool AGWPutData(std::string_view, std::string_view) override { return true; }
+  void AGWClose() override {}
+
+  std::vector<std::string> Texts;
+};
+
+// Writes down what reception asks of other rooms.
+class RecordingActions final : public MapActions,
+                               public MessageActions,
+                               public EmergencyActions,
+                               public GateActions,
+                               public SettingsActions {
+ public:
+  void MapRedraw() override {
+    ++Redraws;
+    if (OnRedraw) OnRedraw();
+  }
+  void MapRefresh() override { ++Refreshes; }
+  void MessageReceived(std::string_view from, std::string_view info,
+                       std::string_view header) override {
+    Messages.push_back({std::string(from), std::string(info), std::string(header)});
+  }
+  void ShowEmergency() override { ++Emergencies; }
+  void GateMonitorBlock(std::string_view text) override { Gated.emplace_back(text); }
+  void WriteConfigFromMainWindow() override {}
+  void ReplaceConfigLine(const std::string& key, const std::string& value) override {
+    ConfigLines.emplace_back(key, value);
+  }
+
+  struct Message {
+    std::string From;
+    std::string Info;
+    std::string Header;
+  };
+  int Redraws = 0;
+  int Refreshes = 0;
+  int Emergencies = 0;
+  std::vector<Message> Messages;
+  std::vector<std::string> Gated;
+  std::vector<std::pair<std::string, std::string>> ConfigLines;
+  std::function<void()> OnRedraw;
+};
+
+// A station in zone U33 that receives through a PK-232 (its text is the normal form already).
+class Reception {
+ public:
+  Reception()
+      : Link(Radio, Received, Internet, Time, Engine, Modem, Actions),
+        Distance(Alarms, Identity, Followed, Map, Controls.Status, Controls.Window),
+        History(Identity, Stores, Followed, Map, Gps, Controls.Moni1, Controls.Map, Distance, Disk,
+                Actions),
+        Browser(Stores, Map, Controls.Record, Controls.Map, History, Boxes, Actions),
+        Pass({Identity, Received, Stores, Map, Alarms, Settings},
+             {Link, History, Browser, Distance, Actions, Actions, Actions}, Symbols, Time, Disk,
+             Timer1, &Controls.Raw.RawList) {
+    Identity.MyCall = Identity.MyCallFull = "QX7KB";
+    Identity.MapSystemFolder = R"(C:\ZEPRIL\U33)";
+    Radio.RadioMode = 1;
+    Radio.AgwConnected = 1;
+    Stores.MoniAllRecords.Limit = 666;
+    Stores.Moni1Records.Limit = 3330;
+    Followed.Moni1LogPath = R"(C:\ZEPRIL\U33\LOG\QX7KB.TXT)";
+    Map.MapDrawn = true;
+    Controls.Record.Frame1.Visible = false;
+    Controls.Status.Frame12.Visible = false;
+    Actions.OnRedraw = [this] { Timer1.Enable(); };
+    Modem.Open("1", 1200);
+    Timer1.Arm(6000);
+  }
+
+  // A frame in normal form, heard directly from N0CALL unless a header says otherwise.
+  static std::string Frame(const std::string& information,
+                           const std::string& header = "N0CALL*>WIDE1-1>APRS") {
+    return header + " <UI>:\r\n" + information + "\r\n";
+  }
+  void Hear(const std::string& text) {
+    Modem.Reads.push_back(text);
+    Pass.Run();
+  }
+  void HearPacket(const std::string& information,
+                  const std::string& header = "N0CALL*>WIDE1-1>APRS") {
+    Hear(Frame(information, header));
+  }
+  const StationRecord& Last() const {
+    return Stores.MoniAllRecords.At(Stores.MoniAllRecords.Count());
+  }
+  int Heard() const { return Stores.MoniAllRecords.Count(); }
+  std::int64_t Drops(DropReason reason) const {
+    return Pass.Counts().Drops[static_cast<std::size_t>(reason)];
+  }
+  static std::string Log(const std::string& name) { return R"(C:\ZEPRIL\U33\LOG\)" + name; }
+
+  IdentityState Identity;
+  RadioState Radio;
+  ReceptionState Received;
+  StoresState Stores;
+  MapViewState Map;
+  AlarmState Alarms;
+  SettingsState Settings;
+  InternetState Internet;
+  FollowedStationState Followed;
+  GpsState Gps;
+  MainWindowControls Controls;
+  SymbolTable Symbols;
+  Timer Timer1{6000};
+  VirtualClock Time;
+  FakeSerial Modem;
+  FakeEngine Engine;
+  MemoryFiles Disk;
+  RecordingActions Actions;
+  ScriptedDialogs Boxes;
+  Collector Link;
+  DistanceAlarm Distance;
+  FollowedHistory History;
+  RecordBrowser Browser;
+  ReceivePass Pass;
+};
+
+// A record of `call` at a place, by the columns.
+inline StationRecord RecordOf(const std::string& call, const std::string& date_time = "240115 1234",
+                              const std::string& north = " 5817.860",
+                              const std::string& east = "  391.394",
+                              const std::string& via = "", const std::string& info = "Test") {
+  StationRecord record;
+  record.Put(1, 11, date_time);
+  record.Put(13, 13, {&StationRecord::kKeyMark, 1});
+  record.Put(14, 22, north);
+  record.Put(23, 31, east);
+  record.Put(33, 41, call);
+  record.Put(43, 89, info);
+  record.Put(91, 100, via);
+  record.Put(101, 103, "/>");
+  record.Put(105, 120, "  Car        0");
+  return record;
+}
+
+}  // namespace zepril
