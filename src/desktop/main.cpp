@@ -12,6 +12,7 @@
 #include "desktop/qt_desktop_actions.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/sample_map_worker.h"
+#include "desktop/session_end.h"
 #include "desktop/start_window.h"
 #include "platform/absent_devices.h"
 #include "platform/native/native_files.h"
@@ -43,6 +44,15 @@ class Desktop {
         base_surface_(kFirstMapWidth, kFirstMapHeight, fonts_) {}
 
   bool LoadFonts() { return fonts_.LoadFonts(ToQt(places_.DataFolder + "/fonts")); }
+
+  // The session ends: as if the operator closed the window that is open.
+  void CloseAsOperator() {
+    if (window_) {
+      window_->close();
+    } else {
+      QCoreApplication::quit();
+    }
+  }
 
   void ShowStartWindow() {
     const char* temp = std::getenv("TEMP");
@@ -160,6 +170,7 @@ int main(int argc, char** argv) {
   if (!desktop.LoadFonts()) {
     std::fputs("zepril: its fonts are missing, a fixed font of the system stands in\n", stderr);
   }
+  const zepril::SessionEnd session_end([&desktop] { desktop.CloseAsOperator(); });
   desktop.ShowStartWindow();
   return QApplication::exec();
 }

@@ -75,7 +75,7 @@ StartWindow::StartWindow(StartPanel& panel, QtLoop& loop, const MapFonts& fonts)
   start->setDefault(true);
   start->setAutoDefault(true);
   start->setMinimumSize(160, 40);
-  start->setStyleSheet(QStringLiteral("font-size: 15px; font-weight: bold;"));
+  start->setStyleSheet(QStringLiteral("font-size: 15px; font-weight: bold; min-height: 36px;"));
   auto* bottom = new QBoxLayout(QBoxLayout::LeftToRight);
   bottom->addStretch(1);
   bottom->addWidget(start);

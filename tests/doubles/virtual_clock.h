@@ -55,6 +55,8 @@ class VirtualClock final : public Clock {
     driven_.push_back({&timer, pumped, timer.Generation(), elapsed_});
   }
 
+  void ForgetTimers() { driven_.clear(); }
+
   // Lets the program run: timers fire as they fall due, events arrive.
   void Run(double seconds) {
     const double end = elapsed_ + seconds;
