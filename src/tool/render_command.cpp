@@ -173,7 +173,8 @@ int RunRender(std::span<const std::string_view> args) {
   int argc = 1;
   char name[] = "zepril-tool";
   char* argv[] = {name, nullptr};
-  const QGuiApplication application(argc, argv);
+  std::optional<QGuiApplication> application;
+  if (QCoreApplication::instance() == nullptr) application.emplace(argc, argv);
   return Paint(
       arguments, files, state,
       QString::fromStdString(TextOf(arguments, "--fonts", files.NativePath(folder + "\\fonts"))));
