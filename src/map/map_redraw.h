@@ -22,6 +22,8 @@
 #include "platform/clock.h"
 #include "platform/drawing_surface.h"
 
+#include <string>
+
 namespace zepril {
 
 // The controls that a redraw writes or looks at.
@@ -67,6 +69,7 @@ class MapRedrawer {
   void MapRedraw();
 
  private:
+  void ReadZone();
   bool OwnPositionFromGps() const;
   void FollowCentre();
   void TakeFocus();
@@ -82,6 +85,7 @@ class MapRedrawer {
   MapRedrawSections sections_;
   MapRedrawControls controls_;
   MapRedrawTools tools_;
+  std::string zone_read_;  // zone of the maps that the read-outs know
 };
 
 }  // namespace zepril

@@ -139,7 +139,6 @@ int Paint(const Arguments& arguments, Files& files, RuntimeState& state, const Q
       {state.Map, state.Stores, state.Followed, state.Gps, state.Transmission, state.Identity},
       controls, {files, clock, map, base}, overlays, timer1);
   room.Library.MapLibraryScan();
-  ZoneOfMap(room.ReadoutTexts.Values(), state.Identity, state.Map);
   for (CheckBox& box : controls.Scales.FrameBox)
     box.Value = arguments.Has("--frames") ? 1 : 0;
   room.Redrawer.MapRedraw();
