@@ -5,6 +5,8 @@
 // fill bars and the coverage marks are up to date, the map is marked as drawn, and `Timer1` runs.
 #pragma once
 
+#include <string>
+
 #include "core/main_window_controls.h"
 #include "core/state/followed_station.h"
 #include "core/state/gps.h"
@@ -21,8 +23,6 @@
 #include "map/tile_cache.h"
 #include "platform/clock.h"
 #include "platform/drawing_surface.h"
-
-#include <string>
 
 namespace zepril {
 
