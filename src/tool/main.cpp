@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "tool/air_command.h"
 #include "tool/arguments.h"
 #include "tool/coords_command.h"
 #include "tool/decode_command.h"
@@ -22,6 +23,7 @@ constexpr Command kCommands[] = {
     {"decode", zepril::kDecodeHelp, zepril::RunDecode},
     {"coords", zepril::kCoordsHelp, zepril::RunCoords},
     {"render", zepril::kRenderHelp, zepril::RunRender},
+    {"air", zepril::kAirHelp, zepril::RunAir},
 };
 
 int PrintUsage() {
