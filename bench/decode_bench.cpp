@@ -1,5 +1,6 @@
 // Decoding of 100,000 varied packets, in process. The limit to keep is that of the field's usual
-// decoder, decode_aprs, whole process against whole process: bench/compare_decode.sh prints the ratio.
+// decoder, decode_aprs, whole process against whole process: bench/compare_decode.sh prints the
+// ratio.
 #include <benchmark/benchmark.h>
 
 #include <string>
@@ -16,7 +17,8 @@ constexpr int kLines = 100000;
 std::vector<std::string> Frames() {
   zepril::Tnc2Lines lines;
   std::vector<std::string> frames(kLines);
-  for (std::string& frame : frames) zepril::Tnc2ToNormal(lines.Next(), frame);
+  for (std::string& frame : frames)
+    zepril::Tnc2ToNormal(lines.Next(), frame);
   return frames;
 }
 

@@ -1,5 +1,5 @@
-// How long a whole redraw of a 1200 x 800 map takes with full stores: the limits are 25 ms (16 is the
-// goal), 40 ms at zoom factor 8 with some 100 tiles, and 300 ms for the first redraw of a run.
+// How long a whole redraw of a 1200 x 800 map takes with full stores: the limits are 25 ms (16 is
+// the goal), 40 ms at zoom factor 8 with some 100 tiles, and 300 ms for the first redraw of a run.
 #include <QByteArray>
 #include <QGuiApplication>
 #include <benchmark/benchmark.h>
@@ -106,9 +106,9 @@ class World {
     constexpr const char* kSymbols[] = {"/>", "/-", "/#", "/_", "\\nX"};
     for (int i = 0; i < 666; ++i) {
       const int station = static_cast<int>(random() % 200);
-      state_.Stores.MoniAllRecords.Append(
-          MakeRecord(i, spread(5825.0, 20.0), spread(425.0, 30.0),
-                     "QX" + WholeNumber(station), kSymbols[station % 5]));
+      state_.Stores.MoniAllRecords.Append(MakeRecord(i, spread(5825.0, 20.0), spread(425.0, 30.0),
+                                                     "QX" + WholeNumber(station),
+                                                     kSymbols[station % 5]));
     }
     double north = 5825.0;
     double east = 425.0;
@@ -138,7 +138,8 @@ void WarmRedraw(benchmark::State& state) {
   World world;
   world.View().ZoomFactor = static_cast<double>(state.range(0));
   world.Redraw();
-  for (auto _ : state) world.Redraw();
+  for (auto _ : state)
+    world.Redraw();
   state.counters["limit_ms"] = state.range(0) >= 8 ? 40 : 25;
 }
 BENCHMARK(WarmRedraw)->Arg(1)->Arg(2)->Arg(4)->Arg(8)->Unit(benchmark::kMillisecond);
@@ -147,7 +148,8 @@ void WarmRedrawOfLevel(benchmark::State& state) {
   World world;
   world.View().StationLabelLevel = static_cast<int>(state.range(0));
   world.Redraw();
-  for (auto _ : state) world.Redraw();
+  for (auto _ : state)
+    world.Redraw();
   state.counters["limit_ms"] = 25;
 }
 BENCHMARK(WarmRedrawOfLevel)->DenseRange(0, 5)->Unit(benchmark::kMillisecond);

@@ -1,5 +1,6 @@
 // Varied packets for measuring, the same ones every time: plain, compressed and Mic-E positions,
-// objects, messages, status, telemetry, digipeated and direct, from a few hundred stations that move.
+// objects, messages, status, telemetry, digipeated and direct, from a few hundred stations that
+// move.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +20,8 @@ class Tnc2Lines {
       case 1:
         return line + ":N0CALL   :Hello from " + Call(station) + "{" + Digits(Pick(100), 2);
       case 2:
-        return line + ";" + Padded("OBJ" + Digits(station, 3)) + "*" + Stamp() + Position(station) + "Event";
+        return line + ";" + Padded("OBJ" + Digits(station, 3)) + "*" + Stamp() + Position(station) +
+               "Event";
       case 3:
         return line + "@" + Stamp() + Position(station) + "Mobile " + Digits(Pick(1000), 3);
       case 4:
@@ -41,7 +43,8 @@ class Tnc2Lines {
   }
   static std::string Digits(int value, int width) {
     std::string text(static_cast<std::size_t>(width), '0');
-    for (int i = width; i-- > 0; value /= 10) text[static_cast<std::size_t>(i)] = static_cast<char>('0' + value % 10);
+    for (int i = width; i-- > 0; value /= 10)
+      text[static_cast<std::size_t>(i)] = static_cast<char>('0' + value % 10);
     return text;
   }
   static std::string Call(int station) {
@@ -77,12 +80,14 @@ class Tnc2Lines {
   }
   std::string Base91(int count) {
     std::string text;
-    for (int i = 0; i < count; ++i) text += static_cast<char>('!' + Pick(90));
+    for (int i = 0; i < count; ++i)
+      text += static_cast<char>('!' + Pick(90));
     return text;
   }
   std::string MicEDestination() {
     std::string text = "S";
-    for (int i = 0; i < 5; ++i) text += static_cast<char>((i == 2 ? 'P' : '0') + Pick(10));
+    for (int i = 0; i < 5; ++i)
+      text += static_cast<char>((i == 2 ? 'P' : '0') + Pick(10));
     return text;
   }
 

@@ -17,8 +17,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   const std::string_view normal = std::string_view(collected).substr(6);
   const std::size_t line_end = normal.find("\r\n");
-  if (line_end == std::string_view::npos || !normal.substr(0, line_end).ends_with(">:")) std::abort();
-  if (!normal.ends_with("\r\n") || normal.size() > text.size() + 16) std::abort();
+  if (line_end == std::string_view::npos || !normal.substr(0, line_end).ends_with(">:"))
+    std::abort();
+  if (!normal.ends_with("\r\n") || normal.size() > 2 * text.size() + 16) std::abort();
   if (zepril::HasAgwForm(text)) {
     const std::string_view rest = text.substr(text.find('\r') + 1);
     const std::string_view information = normal.substr(line_end + 2);

@@ -1,5 +1,5 @@
-// One frame through header analysis and decoding: an accepted packet lies on the grid, and its record
-// reads back what was decoded.
+// One frame through header analysis and decoding: an accepted packet lies on the grid, and its
+// record reads back what was decoded.
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -17,7 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (frame.find(":\r\n") == std::string::npos) frame = "N0CALL*>WIDE1-1>S32U6T <UI>:\r\n" + frame;
 
   zepril::AnalysedFrame analysed;
-  if (zepril::AnalyseHeader(frame, "QX7KB", "QX7KB*>ZEPR", analysed) != zepril::HeaderOutcome::Frame) {
+  if (zepril::AnalyseHeader(frame, "QX7KB", "QX7KB*>ZEPR", analysed) !=
+      zepril::HeaderOutcome::Frame) {
     return 0;
   }
   zepril::DecodeContext context;

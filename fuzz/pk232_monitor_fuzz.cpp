@@ -10,7 +10,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view text = zepril::Pk232Text(input);
   if (text.empty()) return 0;
   if (!input.ends_with(text) || text.size() < 10) std::abort();
-  // A text that begins with a good header is kept as it is, so that reading it again changes nothing.
+  // A text that begins with a good header is kept as it is, so that reading it again changes
+  // nothing.
   const std::size_t line_end = text.find("\r\n");
   const bool good = text.substr(0, line_end).find("<UI>") != std::string_view::npos;
   if (good && zepril::Pk232Text(text) != text) std::abort();

@@ -1,5 +1,6 @@
-// Arbitrary bytes in arbitrary cuts through the whole receive pass, in every radio mode: every entry
-// of the long log is a whole record, each stored one has its entry, and the passes come to rest.
+// Arbitrary bytes in arbitrary cuts through the whole receive pass, in every radio mode: every
+// entry of the long log is a whole record, each stored one has its entry, and the passes come to
+// rest.
 #include <cstdint>
 #include <cstdlib>
 #include <string>
@@ -34,7 +35,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (log.size() / kEntry != static_cast<std::size_t>(station.Counts().Stored)) std::abort();
   for (std::size_t at = 0; at < log.size(); at += kEntry) {
     const std::string_view record = std::string_view(log).substr(at, 120);
-    if (record[12] != '\xFE' || record.find_first_of("\r\n") != std::string_view::npos) std::abort();
+    if (record[12] != '\xFE' || record.find_first_of("\r\n") != std::string_view::npos)
+      std::abort();
     if (record.substr(0, 4) != "2401" || log.compare(at + 120, 2, "\r\n") != 0) std::abort();
   }
   return 0;

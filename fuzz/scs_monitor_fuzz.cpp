@@ -33,7 +33,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string collected = TakeAll(whole, dialect);
   if (collected.size() > input.size() + 16 * (input.size() / 24 + 1)) std::abort();
   std::size_t feeds = 0;
-  for (char c : collected) feeds += c == '\n' ? 1 : 0;
+  for (char c : collected)
+    feeds += c == '\n' ? 1 : 0;
   if (!collected.empty() && (feeds < 2 || !collected.ends_with("\r\n"))) std::abort();
   if (!collected.empty() && collected.find(" <UI>:\r\n") == std::string::npos) std::abort();
 

@@ -26,11 +26,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                                : bitmap->Pixels.size() == count);
   // A one-bit bitmap takes at least an eighth of a byte a pixel: nothing is made of nothing.
   Require(count <= size * 8);
-  for (std::uint8_t index : bitmap->Indexed) Require(index < bitmap->Palette.size());
+  for (std::uint8_t index : bitmap->Indexed)
+    Require(index < bitmap->Palette.size());
   for (int side : {1, 7, 125}) {
     const auto drawn = zepril::StretchedPixels(*bitmap, bitmap->Palette, side, side);
     Require(drawn.size() == static_cast<std::size_t>(side) * static_cast<std::size_t>(side));
-    for (std::uint32_t pixel : drawn) Require(pixel >> 24 == 0xFF);
+    for (std::uint32_t pixel : drawn)
+      Require(pixel >> 24 == 0xFF);
   }
   return 0;
 }

@@ -88,7 +88,8 @@ void ThinByDistance(std::vector<StationRecord>& records, double enough) {
   }
   std::vector<StationRecord> kept;
   kept.reserve(places.size());
-  for (const Place& place : places) kept.push_back(records[place.Index]);
+  for (const Place& place : places)
+    kept.push_back(records[place.Index]);
   records = std::move(kept);
 }
 

@@ -22,9 +22,7 @@ class RawLineRing {
   }
 
  private:
-  std::size_t Place(int index) const {
-    return static_cast<std::size_t>((first_ + index) % kLines);
-  }
+  std::size_t Place(int index) const { return static_cast<std::size_t>((first_ + index) % kLines); }
 
   std::array<std::string, static_cast<std::size_t>(kLines)> lines_;
   int first_ = 0;

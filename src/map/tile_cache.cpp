@@ -83,8 +83,8 @@ std::optional<DrawnTile> TileCache::Drawn(const Found& tile, int side, const Pal
   if (!bitmap) return std::nullopt;
   DrawnTile drawn{std::min(side, bitmap->Width), std::min(side, bitmap->Height), nullptr};
   if (drawn.Width < 1 || drawn.Height < 1) return std::nullopt;
-  drawn.Pixels = std::make_shared<const std::vector<std::uint32_t>>(StretchedPixels(
-      *bitmap, WorkedPalette(bitmap->Palette, work), drawn.Width, drawn.Height));
+  drawn.Pixels = std::make_shared<const std::vector<std::uint32_t>>(
+      StretchedPixels(*bitmap, WorkedPalette(bitmap->Palette, work), drawn.Width, drawn.Height));
   Keep({key, tile.Stamp.ModifiedNs, tile.Stamp.Size, nullptr, drawn,
         drawn.Pixels->size() * sizeof(std::uint32_t)});
   return drawn;

@@ -1,11 +1,11 @@
 // Keeps tiles between redraws: decoded, and as last drawn (screen size, brightness, ink).
 //
-// A redraw shows the disk as it is: the stamp of every tile in view is asked for at each redraw, and
-// a tile whose length or time of change differs is read anew. Which names a folder holds is listed
-// once and kept while the folder's own stamp stays the same; a list made within a second of a change
-// is made again, as a change right behind it might carry the same time. Everything lies within a
-// memory budget, least recently used first out; decoded tiles go before drawn pictures, which are
-// what the next redraw asks for (many small ones at a zoom factor of 8).
+// A redraw shows the disk as it is: the stamp of every tile in view is asked for at each redraw,
+// and a tile whose length or time of change differs is read anew. Which names a folder holds is
+// listed once and kept while the folder's own stamp stays the same; a list made within a second of
+// a change is made again, as a change right behind it might carry the same time. Everything lies
+// within a memory budget, least recently used first out; decoded tiles go before drawn pictures,
+// which are what the next redraw asks for (many small ones at a zoom factor of 8).
 #pragma once
 
 #include <cstdint>
@@ -76,7 +76,7 @@ class TileCache {
     std::optional<FileStamp> Stamp;
     double SeenSince = 0.0;  // monotonic seconds
     bool Listed = false;
-    bool Settled = false;    // the list will hold while the stamp does
+    bool Settled = false;  // the list will hold while the stamp does
     std::uint64_t CheckedIn = 0;
     std::unordered_map<std::string, std::string> Names;  // in capitals -> as spelled
   };

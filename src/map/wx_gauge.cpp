@@ -26,7 +26,9 @@ constexpr int kArrowTo = kGaugeSize / 2 + 30;
 constexpr double kPieStep = kShortPi / 32.0;
 
 // "-" stands among the digits of a temperature below 0.
-bool IsWxDigit(char c) { return IsDigit(c) || c == '-'; }
+bool IsWxDigit(char c) {
+  return IsDigit(c) || c == '-';
+}
 
 bool AllDigits(std::string_view text, std::size_t from, std::size_t count) {
   if (from + count > text.size()) return false;
@@ -52,8 +54,8 @@ std::optional<double> Scaled(std::optional<double> value, double factor) {
 }
 
 void ReadWind(std::string_view text, WxGaugeValues& values) {
-  const bool head = AllDigits(text, 0, 3) && text.size() > 3 && text[3] == '/' &&
-                    AllDigits(text, 4, 3);
+  const bool head =
+      AllDigits(text, 0, 3) && text.size() > 3 && text[3] == '/' && AllDigits(text, 4, 3);
   if (head) {
     values.DirectionDeg = Val(text.substr(0, 3));
     values.SpeedMs = Val(text.substr(4, 3)) * kKnotsToMs;
@@ -121,8 +123,10 @@ void DrawWind(DrawingSurface& surface, int x, int y, const WxGaugeValues& values
       lines.Line(tip.X + dx, tip.Y + dy, end.X + dx, end.Y + dy, colour);
     }
   };
-  for (const auto& [dx, dy] : {std::pair{-1, 0}, {0, -1}}) arrow(dx, dy, kRim);
-  for (const auto& [dx, dy] : {std::pair{1, 0}, {0, 1}}) arrow(dx, dy, kShade);
+  for (const auto& [dx, dy] : {std::pair{-1, 0}, {0, -1}})
+    arrow(dx, dy, kRim);
+  for (const auto& [dx, dy] : {std::pair{1, 0}, {0, 1}})
+    arrow(dx, dy, kShade);
   arrow(0, 0, kBlack);
 }
 
@@ -160,7 +164,8 @@ Colour GaugeTemperatureColour(double celsius) {
                                         {40, 0, 0, 0}}};
   const double held = std::clamp(celsius, kStops.front().Celsius, kStops.back().Celsius);
   std::size_t upper = 1;
-  while (upper + 1 < kStops.size() && kStops[upper].Celsius < held) ++upper;
+  while (upper + 1 < kStops.size() && kStops[upper].Celsius < held)
+    ++upper;
   const Stop& a = kStops[upper - 1];
   const Stop& b = kStops[upper];
   const double share = (held - a.Celsius) / (b.Celsius - a.Celsius);

@@ -13,7 +13,8 @@ constexpr std::size_t kSenderColumn = 6;  // behind the port digit and ":Fm "
 void AppendPath(std::string_view behind_via, std::string& collected) {
   std::string_view path = Trim(behind_via);
   path = Trim(path.substr(0, path.find('<')));
-  for (char c : path) collected += c == ',' ? '>' : c;
+  for (char c : path)
+    collected += c == ',' ? '>' : c;
   collected += '>';
 }
 

@@ -1,6 +1,7 @@
 // The packet engine's monitor text, brought to the normal form of a frame.
 //
-// The normal form is two lines: sender ("*" behind it when nobody repeated the frame), the path with
+// The normal form is two lines: sender ("*" behind it when nobody repeated the frame), the path
+// with
 // ">" before each element and the destination as the last, a blank and the marker; then the
 // information as it came. Both end with CR LF.
 //

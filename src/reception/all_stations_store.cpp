@@ -48,9 +48,8 @@ bool IsSamePacket(const StationRecord& stored, const StationRecord& record) {
 }
 
 bool IsRepeatByScan(const StationStore& store, const StationRecord& record) {
-  return std::any_of(store.All().begin(), store.All().end(), [&](const StationRecord& stored) {
-    return IsSamePacket(stored, record);
-  });
+  return std::any_of(store.All().begin(), store.All().end(),
+                     [&](const StationRecord& stored) { return IsSamePacket(stored, record); });
 }
 
 std::vector<StationRecord> WithoutSupersededByScan(const std::vector<StationRecord>& records) {
@@ -75,7 +74,8 @@ void AllStationsStore::Refresh() {
     indexed_ = 0;
     reordered_ = store_.Reordered();
   }
-  while (indexed_ < store_.Count()) Add(++indexed_);
+  while (indexed_ < store_.Count())
+    Add(++indexed_);
 }
 
 void AllStationsStore::Add(int index) {
@@ -100,7 +100,9 @@ bool AllStationsStore::IsRepeat(const StationRecord& record) {
          any_in(by_text_, Bucket(record.Trimmed()));
 }
 
-bool AllStationsStore::Append(const StationRecord& record) { return store_.Append(record); }
+bool AllStationsStore::Append(const StationRecord& record) {
+  return store_.Append(record);
+}
 
 // Looks from the newest record back: what has been seen is superseded.
 void AllStationsStore::RemoveSuperseded() {

@@ -18,8 +18,8 @@ class AllStationsStore {
   explicit AllStationsStore(StationStore& store) : store_(store) {}
 
   // True when `record` is in the list already: the same text, or the same position key less than 10
-  // minutes apart (minutes of the day, no regard to the date) with another heard-via: the same packet
-  // over a second digipeater.
+  // minutes apart (minutes of the day, no regard to the date) with another heard-via: the same
+  // packet over a second digipeater.
   bool IsRepeat(const StationRecord& record);
 
   // Appends `record`; false when the list is full to its capacity.

@@ -116,6 +116,8 @@ void Collector::HandToGate(std::string_view text) {
   }
 }
 
-void Collector::DataCame() { radio_.LastDataSeconds = clock_.MonotonicSeconds(); }
+void Collector::DataCame() {
+  radio_.LastDataSeconds = clock_.MonotonicSeconds();
+}
 
 }  // namespace zepril

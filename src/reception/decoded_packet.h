@@ -13,19 +13,19 @@ inline constexpr std::string_view kDirectLat = "YYYY";
 inline constexpr std::string_view kDirectLon = "XXXX";
 
 struct DecodedPacket {
-  std::string PacketCall;         // source or object name, upper case
-  std::string PacketDestination;  // as it came
-  std::string PacketHeardVia;     // the source call for objects
-  char PacketType = 0;            // data type; rewritten for objects; 0: no information
-  std::string PacketInfo;         // information, trimmed
-  std::string PacketLatText;      // "4903.50N", "YYYY", or empty
-  std::string PacketLonText;      // "07201.75W", "XXXX", or empty
-  double PacketLat = 0.0;         // degrees, south negative
-  double PacketLon = 0.0;         // degrees, west negative
-  std::string PacketSymbol;       // 2 characters, or 3 with an overlay
-  std::string PacketSymbolText;   // record columns 105-120
-  std::string PacketDate;         // YYMMDD
-  std::string PacketTime;         // HHMM
+  std::string PacketCall;           // source or object name, upper case
+  std::string PacketDestination;    // as it came
+  std::string PacketHeardVia;       // the source call for objects
+  char PacketType = 0;              // data type; rewritten for objects; 0: no information
+  std::string PacketInfo;           // information, trimmed
+  std::string PacketLatText;        // "4903.50N", "YYYY", or empty
+  std::string PacketLonText;        // "07201.75W", "XXXX", or empty
+  double PacketLat = 0.0;           // degrees, south negative
+  double PacketLon = 0.0;           // degrees, west negative
+  std::string PacketSymbol;         // 2 characters, or 3 with an overlay
+  std::string PacketSymbolText;     // record columns 105-120
+  std::string PacketDate;           // YYMMDD
+  std::string PacketTime;           // HHMM
   char PacketMessageCapable = ' ';  // "'" or blank
   bool PacketIsObject = false;
   bool PacketIsEmergency = false;

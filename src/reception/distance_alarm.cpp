@@ -79,8 +79,8 @@ void DistanceAlarm::TestFollowed(const StationRecord& record) {
 
 void DistanceAlarm::Show(std::string_view opening, const StationRecord& record,
                          double distance_km) {
-  status_.Frame12.Caption = std::string(opening) + Str(alarm_.AlarmDistanceKm) + " km  ALARM   " +
-                            RecordTimeText(record);
+  status_.Frame12.Caption =
+      std::string(opening) + Str(alarm_.AlarmDistanceKm) + " km  ALARM   " + RecordTimeText(record);
   status_.Label25.Caption =
       std::string(record.Call()) + "    D = " + FixedNumber(distance_km, 1) + " km !";
   status_.Frame12.Visible = true;

@@ -13,9 +13,8 @@ void FillEmergency(const StationRecord& record, const MapViewState& map, const s
   alarm.AlarmTime = RecordTimeText(record);
   alarm.AlarmNorth = record.NorthText();
   alarm.AlarmEast = record.EastText();
-  const Geodetic place =
-      UtmToGeodetic(map.MapCentralMeridian, record.EastKm() * kMetresPerKm,
-                    record.NorthKm() * kMetresPerKm, map.MapFalseEasting);
+  const Geodetic place = UtmToGeodetic(map.MapCentralMeridian, record.EastKm() * kMetresPerKm,
+                                       record.NorthKm() * kMetresPerKm, map.MapFalseEasting);
   alarm.AlarmLat = DegreeMinuteText(place.Lat);
   alarm.AlarmLon = DegreeMinuteText(place.Lon);
   alarm.AlarmInfo = record.Info();

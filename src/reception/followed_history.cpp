@@ -146,7 +146,7 @@ void FollowedHistory::LoadAtStart() {
     const bool cut = CutAtGap(loaded.Records, kMostGapDays);
     stores_.Moni1Records.Assign(std::move(loaded.Records));
     // What is dropped stays in a copy; without one the file is left alone.
-    if (cut && KeepCopy()) WriteFile();
+    if (cut && KeepCopy() && WriteFile()) stores_.Moni1Records.Assign(Read().Records);
   }
   RefreshMonitorValues();
 }
@@ -169,8 +169,8 @@ void FollowedHistory::ChangeStation(const std::string& call) {
 // Everything heard of the station since its newest record.
 void FollowedHistory::AppendFromAllStations() {
   StationStore& history = stores_.Moni1Records;
-  const std::string newest(
-      history.Count() > 0 ? history.At(history.Count()).DateAndTime() : std::string_view{});
+  const std::string newest(history.Count() > 0 ? history.At(history.Count()).DateAndTime()
+                                               : std::string_view{});
   const StationStore& all = stores_.MoniAllRecords;
   for (int index = 1; index <= all.Count(); ++index) {
     const StationRecord& record = all.At(index);

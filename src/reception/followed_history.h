@@ -25,10 +25,10 @@ inline constexpr int kMostHistoryLines = 9998;
 
 class FollowedHistory {
  public:
-  FollowedHistory(const IdentityState& identity, StoresState& stores, FollowedStationState& followed,
-                  MapViewState& map, const GpsState& gps, Moni1Controls& moni1,
-                  MapControls& map_controls, DistanceAlarm& alarm, Files& files,
-                  SettingsActions& settings);
+  FollowedHistory(const IdentityState& identity, StoresState& stores,
+                  FollowedStationState& followed, MapViewState& map, const GpsState& gps,
+                  Moni1Controls& moni1, MapControls& map_controls, DistanceAlarm& alarm,
+                  Files& files, SettingsActions& settings);
 
   // True when `call` is the followed station, without regard to case.
   bool IsFollowed(std::string_view call) const;

@@ -15,9 +15,9 @@ enum class CutOutcome {
   Frame,       // a frame was cut out
 };
 
-// Looks for the first header in `rx_buffer` and, when its frame is complete, puts the frame (header,
-// CR LF, information without its line end) into `frame` and takes it out of the buffer; the line
-// feed that closes a frame opens the next one.
+// Looks for the first header in `rx_buffer` and, when its frame is complete, puts the frame
+// (header, CR LF, information without its line end) into `frame` and takes it out of the buffer;
+// the line feed that closes a frame opens the next one.
 CutOutcome CutFrame(std::string& rx_buffer, std::string& frame);
 
 // Offset of the first complete header end in `text`: one of the three markers " <UI>:", " [UI]:",

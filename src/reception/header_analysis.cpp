@@ -16,7 +16,9 @@ void AssignUpper(std::string& target, std::string_view text) {
   std::transform(target.begin(), target.end(), target.begin(), UpperChar);
 }
 
-std::string_view CutAtReturn(std::string_view text) { return text.substr(0, text.find('\r')); }
+std::string_view CutAtReturn(std::string_view text) {
+  return text.substr(0, text.find('\r'));
+}
 
 // The text between the last of `delimiters` before offset `end` and `end`.
 std::string_view LastElement(std::string_view text, std::size_t end, std::string_view delimiters) {
@@ -29,7 +31,8 @@ std::string_view LastElement(std::string_view text, std::size_t end, std::string
 // than the one before) or "WIDE1" without a hyphen.
 bool UsesAlias(std::string_view path) {
   constexpr std::string_view kWide = "WIDE";
-  for (std::size_t hyphen = path.find('-', 1); hyphen != kNone; hyphen = path.find('-', hyphen + 1)) {
+  for (std::size_t hyphen = path.find('-', 1); hyphen != kNone;
+       hyphen = path.find('-', hyphen + 1)) {
     if (hyphen + 1 < path.size() && IsDigit(path[hyphen - 1]) && IsDigit(path[hyphen + 1]) &&
         path[hyphen + 1] < path[hyphen - 1]) {
       return true;
@@ -84,10 +87,11 @@ bool IsOwnEcho(std::string_view frame, std::string_view own_header) {
   return !own_header.empty() && frame.starts_with(own_header);
 }
 
-HeaderOutcome ReadNormal(std::string_view frame, std::string_view header, std::string_view information,
-                         std::string_view own_header, AnalysedFrame& result) {
-  constexpr std::size_t kShortestHeader = 6;   // the colon stands at column 7 or beyond
-  constexpr std::size_t kSearchFrom = 2;       // offset of column 3
+HeaderOutcome ReadNormal(std::string_view frame, std::string_view header,
+                         std::string_view information, std::string_view own_header,
+                         AnalysedFrame& result) {
+  constexpr std::size_t kShortestHeader = 6;     // the colon stands at column 7 or beyond
+  constexpr std::size_t kSearchFrom = 2;         // offset of column 3
   constexpr std::size_t kDirectStarColumn = 10;  // an asterisk up to this column marks the sender
   if (header.size() < kShortestHeader) return HeaderOutcome::TooShort;
   if (header.find('*') == kNone) return HeaderOutcome::NotMarked;
@@ -123,8 +127,8 @@ HeaderOutcome ReadNormal(std::string_view frame, std::string_view header, std::s
   result.PacketDestination = last == kNone ? elements : elements.substr(last + 1);
 
   // Only a well formed path has an information: a sender, ">" behind it, an asterisk.
-  const bool well_formed = delimiter != kNone && elements.find('>', delimiter + 1) != kNone &&
-                           star != kNone;
+  const bool well_formed =
+      delimiter != kNone && elements.find('>', delimiter + 1) != kNone && star != kNone;
   result.PacketInfo.clear();
   result.PacketType = '\0';
   if (well_formed && !information.empty()) {

@@ -40,8 +40,8 @@ std::string_view Comment(std::string_view info) {
   const std::string_view comment = Trim(Mid(info, 11));
   if (comment.empty()) return comment;
   const char first = info[9];
-  const bool belongs = IsDigit(first) || (first >= 'A' && first <= 'Y') ||
-                       (first >= 'a' && first <= 'z');
+  const bool belongs =
+      IsDigit(first) || (first >= 'A' && first <= 'Y') || (first >= 'a' && first <= 'z');
   return belongs ? Trim(Mid(info, 10)) : comment;
 }
 
@@ -53,7 +53,8 @@ bool ReadMicE(DecodedPacket& packet) {
   if (info.size() < kShortestInfo) return false;
 
   std::array<MicEDigit, kDigits> digit;
-  for (std::size_t i = 0; i < kDigits; ++i) digit[i] = ReadDigit(packet.PacketDestination[i]);
+  for (std::size_t i = 0; i < kDigits; ++i)
+    digit[i] = ReadDigit(packet.PacketDestination[i]);
   if (digit[0].Plain && digit[1].Plain && digit[2].Plain) packet.PacketIsEmergency = true;
 
   // Latitude: degrees, tens of minutes, minutes, tenths, hundredths.
@@ -64,8 +65,8 @@ bool ReadMicE(DecodedPacket& packet) {
   // Longitude: degrees, minutes, hundredths in three characters.
   int minutes = Asc(info[2]) - 28;
   if (minutes >= 60) minutes -= 60;
-  const double longitude = LongitudeDegrees(Asc(info[1]), digit[4].Bit) + minutes / 60.0 +
-                           (Asc(info[3]) - 28) / 6000.0;
+  const double longitude =
+      LongitudeDegrees(Asc(info[1]), digit[4].Bit) + minutes / 60.0 + (Asc(info[3]) - 28) / 6000.0;
   packet.PacketLon = digit[5].Bit == 1 ? -longitude : longitude;
 
   packet.PacketSymbol = {info[8], info[7]};

@@ -23,7 +23,9 @@ void AppendTwoDigits(std::string& text, int value) {
   text += static_cast<char>('0' + held % 10);
 }
 
-int Number(std::string_view text) { return static_cast<int>(ToWhole(Val(text))); }
+int Number(std::string_view text) {
+  return static_cast<int>(ToWhole(Val(text)));
+}
 
 // Takes over what the header told and clears the rest.
 void Begin(AnalysedFrame& frame, DecodedPacket& packet) {
@@ -32,9 +34,9 @@ void Begin(AnalysedFrame& frame, DecodedPacket& packet) {
   std::swap(packet.PacketHeardVia, frame.PacketHeardVia);
   std::swap(packet.PacketInfo, frame.PacketInfo);
   packet.PacketType = frame.PacketType;
-  for (std::string* text : {&packet.PacketLatText, &packet.PacketLonText, &packet.PacketSymbol,
-                            &packet.PacketSymbolText, &packet.PacketDate, &packet.PacketTime,
-                            &packet.PacketInfoText}) {
+  for (std::string* text :
+       {&packet.PacketLatText, &packet.PacketLonText, &packet.PacketSymbol,
+        &packet.PacketSymbolText, &packet.PacketDate, &packet.PacketTime, &packet.PacketInfoText}) {
     text->clear();
   }
   packet.PacketLat = packet.PacketLon = 0.0;
@@ -70,8 +72,7 @@ void ReadTimeStamp(bool third_party, const DecodeContext& context, DecodedPacket
     return;
   }
   stamp.Hour += context.UtcOffsetHours;
-  packet.TimestampStale =
-      std::abs(MinutesOf(stamp) - MinutesOf(context.Now)) > kToleratedMinutes;
+  packet.TimestampStale = std::abs(MinutesOf(stamp) - MinutesOf(context.Now)) > kToleratedMinutes;
 }
 
 bool HoldsInColumns3To11(std::string_view info, char mark) {
@@ -88,7 +89,8 @@ bool ReadObject(DecodedPacket& packet) {
   // Kept: the name's end is looked for as "*" even in an item, which marks it with "!". So an item
   // has no end of name, and its decoding fails.
   const std::ptrdiff_t p = InStr(Left(info, 11), "*");
-  const bool complete = static_cast<std::ptrdiff_t>(info.size()) > p + 10 && InStr(info, ".") > p + 3;
+  const bool complete =
+      static_cast<std::ptrdiff_t>(info.size()) > p + 10 && InStr(info, ".") > p + 3;
   if (!complete) return true;
   if (p < 2) return false;
 
@@ -116,7 +118,8 @@ bool ReadPosition(DecodedPacket& packet) {
   const char type = packet.PacketType;
   if (IsPositionType(type) && !ReadPlainPosition(packet)) return false;
   if (type == '$') ReadNmeaPosition(packet);
-  if (HasNoPosition(packet) && IsPositionType(type) && !ReadCompressedPosition(packet)) return false;
+  if (HasNoPosition(packet) && IsPositionType(type) && !ReadCompressedPosition(packet))
+    return false;
   if (HasNoPosition(packet) && (type == '`' || type == '\'') && !ReadMicE(packet)) return false;
   return true;
 }
@@ -156,15 +159,23 @@ void SetDateAndTime(const LocalTime& now, DecodedPacket& packet) {
   AppendTwoDigits(packet.PacketTime, now.Minute);
 }
 
-DecodeResult Dropped(DropReason reason) { return {DecodeOutcome::Dropped, reason}; }
+DecodeResult Dropped(DropReason reason) {
+  return {DecodeOutcome::Dropped, reason};
+}
 
 }  // namespace
 
 std::string_view DropText(DropReason reason) {
-  constexpr std::array<std::string_view, kDropReasons> kTexts{
-      "own packet gated back", "header too short", "not marked as heard", "own echo", "message",
-      "information too short", "no position",      "near the equator",    "off the grid",
-      "no line feed before it"};
+  constexpr std::array<std::string_view, kDropReasons> kTexts{"own packet gated back",
+                                                              "header too short",
+                                                              "not marked as heard",
+                                                              "own echo",
+                                                              "message",
+                                                              "information too short",
+                                                              "no position",
+                                                              "near the equator",
+                                                              "off the grid",
+                                                              "no line feed before it"};
   return kTexts[static_cast<std::size_t>(reason)];
 }
 
@@ -177,7 +188,8 @@ std::string CleanComment(std::string_view text) {
   const std::size_t altitude = text.find(kAltitude);
   if (altitude != std::string_view::npos) {
     text.remove_prefix(altitude + kAltitude.size());
-    while (!text.empty() && IsDigit(text.front())) text.remove_prefix(1);
+    while (!text.empty() && IsDigit(text.front()))
+      text.remove_prefix(1);
   }
   return std::string(Trim(text));
 }

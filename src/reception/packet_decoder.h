@@ -19,12 +19,12 @@ enum class DropReason {
   HeaderTooShort,
   NotMarked,
   OwnEcho,
-  Message,             // went to the chat
-  TooShort,            // the information ends before its columns do
-  NoPosition,          // call, destination, latitude or longitude is empty
-  NearEquator,         // latitude of 0.02 degree or less
-  OffTheGrid,          // more than 9999 km from the origin of the map zone
-  NoLineFeed,          // a header with no beginning
+  Message,      // went to the chat
+  TooShort,     // the information ends before its columns do
+  NoPosition,   // call, destination, latitude or longitude is empty
+  NearEquator,  // latitude of 0.02 degree or less
+  OffTheGrid,   // more than 9999 km from the origin of the map zone
+  NoLineFeed,   // a header with no beginning
 };
 inline constexpr int kDropReasons = 10;
 

@@ -40,8 +40,8 @@ std::string NmeaField(std::string_view text, std::size_t comma) {
 }
 
 std::string_view SymbolOfSsid(std::string_view call) {
-  constexpr std::array<std::string_view, 16> kSymbols{"",   "/a", "/U", "/f", "/b", "/Y", "/X", "/'",
-                                                      "/s", "/>", "/<", "/O", "/j", "/R", "/k", "/v"};
+  constexpr std::array<std::string_view, 16> kSymbols{
+      "", "/a", "/U", "/f", "/b", "/Y", "/X", "/'", "/s", "/>", "/<", "/O", "/j", "/R", "/k", "/v"};
   const std::size_t hyphen = call.find('-');
   if (hyphen == std::string_view::npos) return {};
   const std::int64_t ssid = ToWhole(Val(call.substr(hyphen + 1)));
@@ -61,7 +61,9 @@ double Base91(std::string_view text, std::ptrdiff_t first) {
 
 }  // namespace
 
-bool IsPositionType(char type) { return type == '/' || type == '=' || type == '!' || type == '@'; }
+bool IsPositionType(char type) {
+  return type == '/' || type == '=' || type == '!' || type == '@';
+}
 
 double LatitudeOfText(std::string_view text) {
   const double degrees = Val(Mid(text, 1, 2)) + Val(Mid(text, 3, 5)) / 60.0;

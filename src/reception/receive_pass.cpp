@@ -72,6 +72,8 @@ ReceivePass::Next ReceivePass::TakeFrame() {
   }
   timer1_.Stop();
   ++counts_.Frames;
+  reception_.PacketInfoText.clear();
+  reception_.TimestampStale = 0;
   own_echo_ = false;
   const std::optional<FrameLevel> level = Decode();
   if (!level) return Recover();
@@ -179,8 +181,8 @@ ReceivePass::Next ReceivePass::LeaveWithoutFrame() {
   return Next::Leave;
 }
 
-// Nothing came of the last frame: the cycle goes on, and a map that is behind (the GPS has moved) is
-// painted.
+// Nothing came of the last frame: the cycle goes on, and a map that is behind (the GPS has moved)
+// is painted.
 ReceivePass::Next ReceivePass::LeaveAfterNothing() {
   constexpr int kFewColours = 16;
   timer1_.Enable();

@@ -1,5 +1,5 @@
-// The receive pass: run by each tick, it collects what the radio link has delivered, cuts frames out
-// of it, decodes them and stores what they tell.
+// The receive pass: run by each tick, it collects what the radio link has delivered, cuts frames
+// out of it, decodes them and stores what they tell.
 #pragma once
 
 #include <array>
@@ -37,14 +37,14 @@ namespace zepril {
 // What a frame has led to, rising in importance.
 enum class FrameLevel {
   Nothing = 0,
-  MoniAll = 1,    // stored among all stations
-  Moni1 = 2,      // a position of the followed station
+  MoniAll = 1,  // stored among all stations
+  Moni1 = 2,    // a position of the followed station
   Emergency = 3,
 };
 
 // What the passes have done since the program began.
 struct ReceptionCounts {
-  std::int64_t Frames = 0;   // cut out of the buffer
+  std::int64_t Frames = 0;  // cut out of the buffer
   std::int64_t Stored = 0;
   std::int64_t Repeats = 0;
   std::int64_t Recoveries = 0;

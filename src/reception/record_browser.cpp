@@ -105,9 +105,11 @@ void RecordBrowser::DeletePositions(bool older) {
   const StationRecord record = SelectedStore().At(stores_.SelectedRecordIndex);
   const std::string side = older ? "OLDER" : "NEWER";
   const std::string title = "ZEP RIL         DELETE " + side + " POSITIONS";
-  const std::string text = "DELETE ALL POSITIONS " + side + " THAN THIS ONE:  " +
-                           std::string(record.Columns(1, kTimeAndPlace)) + "  ?";
-  if (dialogs_.Ask(title, text, DialogButtons::YesNo, DialogAnswer::No) != DialogAnswer::Yes) return;
+  const std::string text = "DELETE ALL POSITIONS " + side +
+                           " THAN THIS ONE:  " + std::string(record.Columns(1, kTimeAndPlace)) +
+                           "  ?";
+  if (dialogs_.Ask(title, text, DialogButtons::YesNo, DialogAnswer::No) != DialogAnswer::Yes)
+    return;
   if (!HasSelection() || !SelectedIsFollowed()) return;
 
   StationStore& history = stores_.Moni1Records;

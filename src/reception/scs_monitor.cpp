@@ -58,7 +58,8 @@ ScsHeader ReadHeader(std::string_view line) {
     const std::size_t path = via + kVia.size();
     header.Path = line.substr(path, control > path ? control - path : 0);
   } else {
-    header.Destination = line.substr(destination, control > destination ? control - destination : 0);
+    header.Destination =
+        line.substr(destination, control > destination ? control - destination : 0);
   }
   header.Taken = true;
   return header;
@@ -72,7 +73,8 @@ void AppendNormalFrame(const ScsHeader& header, std::string_view information,
   if (!header.Path.empty() && header.Path.find('*') == kNone) collected += '*';
   collected += '>';
   if (!header.Path.empty()) {
-    for (char c : header.Path) collected += c == ' ' ? '>' : c;
+    for (char c : header.Path)
+      collected += c == ' ' ? '>' : c;
     collected += '>';
   }
   collected += header.Destination;

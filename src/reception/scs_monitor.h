@@ -17,9 +17,9 @@ enum class ScsDialect {
 };
 
 // Appends the complete frames at the front of `text` to `collected` and returns how many characters
-// of `text` they took; what lies behind is kept by the caller until more has come. At most 10 frames
-// are taken. A header that is no unnumbered frame of pid F0 ends the taking; it is passed over, so
-// that the frames behind it come next time.
+// of `text` they took; what lies behind is kept by the caller until more has come. At most 10
+// frames are taken. A header that is no unnumbered frame of pid F0 ends the taking; it is passed
+// over, so that the frames behind it come next time.
 std::size_t TakeScsFrames(std::string_view text, ScsDialect dialect, std::string& collected);
 
 }  // namespace zepril

@@ -19,8 +19,8 @@ class StationLogs {
   // Collected text of a pass as it came, no line end added. Each returns false when its file can't
   // be written.
   bool AppendRaw(std::string_view collected);
-  // A new record: the short line (columns 1-58, a blank, 90 to the end) to "_LOG_.TXT" and the whole
-  // record to "_LOGL_.TXT".
+  // A new record: the short line (columns 1-58, a blank, 90 to the end) to "_LOG_.TXT" and the
+  // whole record to "_LOGL_.TXT".
   bool AppendRecord(const StationRecord& record);
   // The block of seven lines of a station in emergency; `position_label` opens its fourth line.
   bool AppendEmergency(const AlarmState& alarm, std::string_view position_label = "GLL     : ");
@@ -37,8 +37,8 @@ class StationLogs {
 // Short line of a record, without its line end: 90 characters.
 std::string ShortLogLine(const StationRecord& record);
 
-// File of the history of `call` in the LOG folder of the map zone. Characters that a file name can't
-// hold, and a leading "_" that would make it one of the program's own logs, become "-".
+// File of the history of `call` in the LOG folder of the map zone. Characters that a file name
+// can't hold, and a leading "_" that would make it one of the program's own logs, become "-".
 std::string HistoryPath(const IdentityState& identity, std::string_view call);
 
 }  // namespace zepril

@@ -19,8 +19,8 @@ bool IsWholeText(std::string_view text) {
 Arguments::Arguments(std::span<const std::string_view> args, std::span<const ArgumentRule> rules) {
   for (std::size_t i = 0; i < args.size() && !Failed(); ++i) {
     const std::string_view name = args[i];
-    const auto rule =
-        std::find_if(rules.begin(), rules.end(), [&](const ArgumentRule& r) { return r.Name == name; });
+    const auto rule = std::find_if(rules.begin(), rules.end(),
+                                   [&](const ArgumentRule& r) { return r.Name == name; });
     if (rule == rules.end()) {
       Fail("unknown argument " + std::string(name));
     } else if (Has(name)) {
@@ -33,7 +33,9 @@ Arguments::Arguments(std::span<const std::string_view> args, std::span<const Arg
   }
 }
 
-bool Arguments::Has(std::string_view name) const { return Value(name).has_value(); }
+bool Arguments::Has(std::string_view name) const {
+  return Value(name).has_value();
+}
 
 std::optional<std::string_view> Arguments::Value(std::string_view name) const {
   for (const auto& [given, value] : values_) {

@@ -26,8 +26,8 @@ class Arguments {
 
   bool Has(std::string_view name) const;
   std::optional<std::string_view> Value(std::string_view name) const;
-  // A whole number in [lowest, highest]; `otherwise` when the name is not given. Anything else is an
-  // error.
+  // A whole number in [lowest, highest]; `otherwise` when the name is not given. Anything else is
+  // an error.
   int Whole(std::string_view name, int lowest, int highest, int otherwise);
 
   void Fail(std::string error);

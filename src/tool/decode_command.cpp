@@ -109,7 +109,8 @@ class LineDecoder {
       const std::size_t length = std::fread(block.data(), 1, block.size(), stdin);
       if (length == 0) break;
       std::string_view rest(block.data(), length);
-      for (std::size_t end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {
+      for (std::size_t end = rest.find('\n'); end != std::string_view::npos;
+           end = rest.find('\n')) {
         if (pending.empty()) {
           Take(rest.substr(0, end));
         } else {

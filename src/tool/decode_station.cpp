@@ -80,7 +80,9 @@ class LogKeeper final : public Files {
   bool Rename(const std::string&, const std::string&) override { return true; }
   bool MakeFolder(const std::string&) override { return true; }
   std::optional<FileStamp> Stamp(const std::string&) const override { return {}; }
-  std::vector<FolderEntry> List(const std::string&, const std::string&) const override { return {}; }
+  std::vector<FolderEntry> List(const std::string&, const std::string&) const override {
+    return {};
+  }
 
   std::string LongLog;
 };
@@ -202,8 +204,12 @@ void DecodeStation::Drain() {
   } while (station_->Waiting() != waiting);
 }
 
-std::string& DecodeStation::LongLog() { return station_->Logs.LongLog; }
+std::string& DecodeStation::LongLog() {
+  return station_->Logs.LongLog;
+}
 
-const ReceptionCounts& DecodeStation::Counts() const { return station_->Pass.Counts(); }
+const ReceptionCounts& DecodeStation::Counts() const {
+  return station_->Pass.Counts();
+}
 
 }  // namespace zepril

@@ -1,6 +1,6 @@
-// A receiving station without windows, for batch decoding: the program's own receive pass over links
-// that are fed from memory. The clock stands, nothing is drawn, and of the logs only the long one is
-// kept, in memory.
+// A receiving station without windows, for batch decoding: the program's own receive pass over
+// links that are fed from memory. The clock stands, nothing is drawn, and of the logs only the long
+// one is kept, in memory.
 #pragma once
 
 #include <cstddef>
@@ -14,8 +14,8 @@
 namespace zepril {
 
 struct DecodeSettings {
-  int RadioMode = 1;    // dialect of the text: 0, 1, 3, 5 or 6
-  int Zone = 33;        // UTM zone of the map grid
+  int RadioMode = 1;  // dialect of the text: 0, 1, 3, 5 or 6
+  int Zone = 33;      // UTM zone of the map grid
   LocalTime Now;
   int UtcOffsetHours = 0;
   std::string MyCallFull;

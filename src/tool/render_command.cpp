@@ -30,9 +30,9 @@ constexpr double kSmallestZoom = 0.25;
 constexpr double kLargestZoom = 8.0;
 
 constexpr ArgumentRule kRules[] = {
-    {"--folder", true}, {"-o", true},      {"--records", true},    {"--centre", true},
-    {"--tile", true},   {"--zoom", true},  {"--level", true},      {"--size", true},
-    {"--moni1", true},  {"--own", true},   {"--style", true},      {"--brightness", true},
+    {"--folder", true}, {"-o", true},      {"--records", true}, {"--centre", true},
+    {"--tile", true},   {"--zoom", true},  {"--level", true},   {"--size", true},
+    {"--moni1", true},  {"--own", true},   {"--style", true},   {"--brightness", true},
     {"--ink", true},    {"--fonts", true}, {"--frames", false},
 };
 
@@ -135,12 +135,13 @@ int Paint(const Arguments& arguments, Files& files, RuntimeState& state, const Q
   Timer timer1(6000);
   MainWindowControls controls;
   controls.Record.Frame1.Visible = false;
-  MapRoom room({state.Map, state.Stores, state.Followed, state.Gps, state.Transmission,
-                state.Identity},
-               controls, {files, clock, map, base}, overlays, timer1);
+  MapRoom room(
+      {state.Map, state.Stores, state.Followed, state.Gps, state.Transmission, state.Identity},
+      controls, {files, clock, map, base}, overlays, timer1);
   room.Library.MapLibraryScan();
   ZoneOfMap(room.ReadoutTexts.Values(), state.Identity, state.Map);
-  for (CheckBox& box : controls.Scales.FrameBox) box.Value = arguments.Has("--frames") ? 1 : 0;
+  for (CheckBox& box : controls.Scales.FrameBox)
+    box.Value = arguments.Has("--frames") ? 1 : 0;
   room.Redrawer.MapRedraw();
   if (map.Picture().save(QString::fromStdString(TextOf(arguments, "-o", "")))) return 0;
   std::fputs("zepril-tool render: can't write the picture\n", stderr);
@@ -173,9 +174,9 @@ int RunRender(std::span<const std::string_view> args) {
   char name[] = "zepril-tool";
   char* argv[] = {name, nullptr};
   const QGuiApplication application(argc, argv);
-  return Paint(arguments, files, state,
-               QString::fromStdString(
-                   TextOf(arguments, "--fonts", files.NativePath(folder + "\\fonts"))));
+  return Paint(
+      arguments, files, state,
+      QString::fromStdString(TextOf(arguments, "--fonts", files.NativePath(folder + "\\fonts"))));
 }
 
 }  // namespace zepril

@@ -19,7 +19,8 @@ bool Tnc2ToNormal(std::string_view line, std::string& normal) {
   if (path.find('*') == std::string_view::npos && !normal.ends_with('*')) normal += '*';
   normal += '>';
   if (!path.empty()) {
-    for (char c : path) normal += c == ',' ? '>' : c;
+    for (char c : path)
+      normal += c == ',' ? '>' : c;
     normal += '>';
   }
   normal += destination;

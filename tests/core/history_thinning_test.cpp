@@ -24,13 +24,15 @@ StationRecord At(int north_metres, const std::string& date = "240115") {
 
 std::vector<StationRecord> Row(int count, int step_metres) {
   std::vector<StationRecord> records;
-  for (int i = 0; i < count; ++i) records.push_back(At(i * step_metres));
+  for (int i = 0; i < count; ++i)
+    records.push_back(At(i * step_metres));
   return records;
 }
 
 std::vector<std::string> Norths(const std::vector<StationRecord>& records) {
   std::vector<std::string> norths;
-  for (const StationRecord& record : records) norths.emplace_back(Trim(record.NorthText()));
+  for (const StationRecord& record : records)
+    norths.emplace_back(Trim(record.NorthText()));
   return norths;
 }
 
@@ -99,7 +101,8 @@ std::vector<StationRecord> ThinnedByDefinition(std::vector<StationRecord> record
   for (int round = 0; round < 64 && count() > enough; ++round, threshold *= 2.0) {
     for (const auto& part : parts) {
       if (count() <= enough) continue;
-      for (int i = 1; i < count() * part[0] / part[1] && i < static_cast<int>(records.size()); ++i) {
+      for (int i = 1; i < count() * part[0] / part[1] && i < static_cast<int>(records.size());
+           ++i) {
         const StationRecord& a = records[static_cast<std::size_t>(i - 1)];
         const StationRecord& b = records[static_cast<std::size_t>(i)];
         const double km = part[2] * threshold;

@@ -26,13 +26,13 @@ class MemoryFiles final : public Files {
   bool ReadLines(const std::string& path, const LineReader& line) const override {
     const auto found = Contents.find(path);
     if (found == Contents.end()) return false;
+    // Lines end with CR LF, LF or CR, as in real files.
     std::string_view rest = found->second;
     while (!rest.empty()) {
-      const std::size_t end = rest.find('\n');
-      std::string_view one = rest.substr(0, end);
-      if (one.ends_with('\r')) one.remove_suffix(1);
-      if (!line(one)) break;
-      rest = end == std::string_view::npos ? std::string_view{} : rest.substr(end + 1);
+      const std::size_t end = std::min(rest.find_first_of("\r\n"), rest.size());
+      if (!line(rest.substr(0, end))) break;
+      rest.remove_prefix(end);
+      rest.remove_prefix(rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, rest.size()));
     }
     return true;
   }
@@ -41,7 +41,9 @@ class MemoryFiles final : public Files {
     Contents[path] += text;
     return true;
   }
-  bool Write(const std::string& path, std::string_view text) override { return Replace(path, text); }
+  bool Write(const std::string& path, std::string_view text) override {
+    return Replace(path, text);
+  }
   bool Replace(const std::string& path, std::string_view text) override {
     if (Refused(path)) return false;
     Contents[path] = text;
@@ -54,7 +56,9 @@ class MemoryFiles final : public Files {
     if (!Contents.contains(path)) return std::nullopt;
     return FileStamp{};
   }
-  std::vector<FolderEntry> List(const std::string&, const std::string&) const override { return {}; }
+  std::vector<FolderEntry> List(const std::string&, const std::string&) const override {
+    return {};
+  }
 
   std::string Of(const std::string& path) const {
     const auto found = Contents.find(path);

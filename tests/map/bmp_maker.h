@@ -31,18 +31,21 @@ struct BmpMaker {
     Put(file, 0, 4);
     Put(file, Palette.size(), 4);
     Put(file, 0, 4);
-    for (std::uint32_t colour : Palette) Put(file, colour, 4);
+    for (std::uint32_t colour : Palette)
+      Put(file, colour, 4);
     return file + Rows;
   }
 
   static void Put(std::string& file, std::uint64_t value, int bytes) {
-    for (int i = 0; i < bytes; ++i) file += static_cast<char>(value >> (8 * i) & 0xFF);
+    for (int i = 0; i < bytes; ++i)
+      file += static_cast<char>(value >> (8 * i) & 0xFF);
   }
 };
 
 inline std::vector<std::uint32_t> TestPalette(std::size_t entries) {
   std::vector<std::uint32_t> palette;
-  for (std::uint32_t i = 0; i < entries; ++i) palette.push_back(i * 0x10305u & 0xFFFFFFu);
+  for (std::uint32_t i = 0; i < entries; ++i)
+    palette.push_back(i * 0x10305u & 0xFFFFFFu);
   return palette;
 }
 
@@ -58,7 +61,8 @@ inline std::string FourBitTile(int ink = -1) {
 // A tile of 256 colours, 1001078 bytes.
 inline std::string EightBitTile() {
   std::string rows(1000000, '\0');
-  for (std::size_t i = 0; i < rows.size(); ++i) rows[i] = static_cast<char>(i % 253);
+  for (std::size_t i = 0; i < rows.size(); ++i)
+    rows[i] = static_cast<char>(i % 253);
   return BmpMaker{1000, 1000, 8, TestPalette(256), rows}.Bytes();
 }
 

@@ -61,7 +61,8 @@ TEST(ReadBmp, RefusesWhatCannotBeDrawnWhole) {
   EXPECT_FALSE(ReadBmp("XX" + good.substr(2)));
   const auto with = [&](std::size_t at, std::uint32_t value) {
     std::string bytes = good;
-    for (std::size_t i = 0; i < 4; ++i) bytes[at + i] = static_cast<char>(value >> (8 * i));
+    for (std::size_t i = 0; i < 4; ++i)
+      bytes[at + i] = static_cast<char>(value >> (8 * i));
     return bytes;
   };
   EXPECT_FALSE(ReadBmp(with(10, 0xFFFFFFFFu)));  // pixels beyond the file
@@ -89,10 +90,11 @@ TEST(ReadBmp, EveryCutAndEveryChangedHeaderByteIsSurvived) {
   std::mt19937 random(5);
   for (int i = 0; i < 20000; ++i) {
     std::string bytes = good;
-    for (int k = 0; k < 3; ++k) bytes[random() % 54] = static_cast<char>(random());
+    for (int k = 0; k < 3; ++k)
+      bytes[random() % 54] = static_cast<char>(random());
     if (const auto bitmap = ReadBmp(bytes)) {
-      const auto pixels = static_cast<std::size_t>(bitmap->Width) *
-                          static_cast<std::size_t>(bitmap->Height);
+      const auto pixels =
+          static_cast<std::size_t>(bitmap->Width) * static_cast<std::size_t>(bitmap->Height);
       ASSERT_EQ(bitmap->HasPalette() ? bitmap->Indexed.size() : bitmap->Pixels.size(), pixels);
     }
   }

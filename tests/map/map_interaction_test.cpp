@@ -66,9 +66,7 @@ struct InteractionWorld : MapWorld {
     Redraw();
     Timer1.Enable();
   }
-  void Press(int button, double x, double y) {
-    Controls.Map.Picture1.MouseDown({button, 0, x, y});
-  }
+  void Press(int button, double x, double y) { Controls.Map.Picture1.MouseDown({button, 0, x, y}); }
   void Key(int code, int shift = 0) { Controls.Map.Picture1.KeyDown({code, shift}); }
 
   Joins Join;
@@ -100,7 +98,8 @@ TEST(ScaleButtons, StepAlongTheChainAndStopAtItsEnds) {
 
 TEST(ZoomButtons, DoubleAndHalveBetweenAQuarterAndEight) {
   InteractionWorld world;
-  for (int i = 0; i < 3; ++i) world.Controls.Map.Command7.Click();
+  for (int i = 0; i < 3; ++i)
+    world.Controls.Map.Command7.Click();
   EXPECT_EQ(world.View().ZoomFactor, 8.0);
   world.Join.Calls.clear();
   world.Controls.Map.Command7.Click();
@@ -108,7 +107,8 @@ TEST(ZoomButtons, DoubleAndHalveBetweenAQuarterAndEight) {
   EXPECT_THAT(world.Join.Calls, IsEmpty());
   world.Controls.Map.Command9.Click();
   EXPECT_EQ(world.View().ZoomFactor, 1.0);
-  for (int i = 0; i < 3; ++i) world.Controls.Map.Command8.Click();
+  for (int i = 0; i < 3; ++i)
+    world.Controls.Map.Command8.Click();
   EXPECT_EQ(world.View().ZoomFactor, 0.25);
   EXPECT_EQ(world.View().MapTileKm, 50.0);
 }
@@ -151,9 +151,11 @@ TEST(FolderFields, ChoosingAnotherFolderMakesItsScaleActive) {
 TEST(ScalePanel, AllBoxesOnAndOffAndANewScan) {
   InteractionWorld world;
   world.Controls.Scales.Command5.Click();
-  for (const CheckBox& box : world.Controls.Scales.FrameBox) EXPECT_EQ(box.Value, 1);
+  for (const CheckBox& box : world.Controls.Scales.FrameBox)
+    EXPECT_EQ(box.Value, 1);
   world.Controls.Scales.Command6.Click();
-  for (const CheckBox& box : world.Controls.Scales.FrameBox) EXPECT_EQ(box.Value, 0);
+  for (const CheckBox& box : world.Controls.Scales.FrameBox)
+    EXPECT_EQ(box.Value, 0);
   world.AddTile("M0002", "58000400.BMP", "x");
   world.Controls.Scales.Command37.Click();
   EXPECT_EQ(world.Controls.Scales.Folder[5].Selected(), "M0002");

@@ -47,7 +47,8 @@ TEST(MapLibraryScan, AMissingMapsFolderLeavesAllListsEmpty) {
   MapWorld world;
   world.State.Identity.MapsPath = R"(C:\NOWHERE)";
   world.Scan();
-  for (const ComboBox& field : world.Controls.Scales.Folder) EXPECT_THAT(field.Items, IsEmpty());
+  for (const ComboBox& field : world.Controls.Scales.Folder)
+    EXPECT_THAT(field.Items, IsEmpty());
   EXPECT_EQ(world.Disk.ReadAll(R"(C:\Z\TEMP\ALLMDIRS.DIR)", 1000), "");
 }
 
@@ -152,8 +153,7 @@ TEST(DeleteIndexFiles, TakesOnlyWhatThisRunMade) {
 // ---- Coverage -------------------------------------------------------------------------------
 
 void MarkCoverage(MapWorld& world) {
-  TileCoverageMarks(world.View(), world.Room.Library, world.Controls.Scales,
-                    world.Controls.Record);
+  TileCoverageMarks(world.View(), world.Room.Library, world.Controls.Scales, world.Controls.Record);
 }
 
 TEST(TileCoverageMarks, TellsWhichScalesHaveATileUnderTheCentre) {
@@ -213,8 +213,8 @@ TEST(TileFrames, FramesTheTilesOfTheIndexAndDrawsTheBoundaries) {
   TileFrames(world.Surface, world.View(), world.Room.Library, world.Controls.Scales);
   const auto boxes = world.Surface.Of("box");
   ASSERT_EQ(boxes.size(), 1u);
-  EXPECT_EQ(boxes[0], (RecorderSurface::Operation{"box", -100, -200, 899, 799, 0x4040E0, {},
-                                                  FontFace::Text, {}}));
+  EXPECT_EQ(boxes[0], (RecorderSurface::Operation{
+                          "box", -100, -200, 899, 799, 0x4040E0, {}, FontFace::Text, {}}));
   // One boundary of each kind lies at the tile's edge, 100 pixels to the left and 799 down.
   int at_west_edge = 0;
   int at_south_edge = 0;

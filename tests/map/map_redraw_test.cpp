@@ -110,8 +110,8 @@ TEST(MapRedraw, LayersStandInTheirOrder) {
   world.Redraw();
   EXPECT_THAT(Story(world.Surface),
               ElementsAre("clear", "image", "grid 0", "grid 1", "grid 2", "grid 3", "grid 4",
-                          "circles", "line black", "box",        // tile frames, and on:
-                          "filled", "N0CALL",                    // all stations
+                          "circles", "line black", "box",  // tile frames, and on:
+                          "filled", "N0CALL",              // all stations
                           "pictures", "tracks", "places",
                           "line coloured",                       // centre
                           "box", "filled", "QX7KB",              // monitored station
@@ -274,7 +274,8 @@ TEST(CentreMark, IsNotDrawnWhileSomethingIsFollowed) {
   MapWorld world;
   world.View().CentreFollow = 2;
   world.Redraw();
-  for (const Operation& line : world.Surface.Of("line")) EXPECT_NE(line.X1, 391);
+  for (const Operation& line : world.Surface.Of("line"))
+    EXPECT_NE(line.X1, 391);
 }
 
 TEST(OwnPosition, IsARingOfBoxesWithTicksInTheColourOfItsSource) {

@@ -54,7 +54,9 @@ struct MapWorld {
   // The view of the worked examples: 800 x 600, 50 km tiles, centre 5825 / 425.
   MapWorld() : MapWorld(Standing()) {}
   explicit MapWorld(OverlayLayers& overlays)
-      : Disk(Folder.Path()), Surface(kWidth, kHeight), Base(kWidth, kHeight),
+      : Disk(Folder.Path()),
+        Surface(kWidth, kHeight),
+        Base(kWidth, kHeight),
         Room({State.Map, State.Stores, State.Followed, State.Gps, State.Transmission,
               State.Identity},
              Controls, {Disk, Clock, Surface, Base}, overlays, Timer1) {

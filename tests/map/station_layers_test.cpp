@@ -207,7 +207,8 @@ TEST(AllStationsDraw, DirectlyHeardOnlyLeavesOutRecordsWithASource) {
   world.Hear(StationWorld::At(300, 300));
   world.Draw(2);
   EXPECT_EQ(world.Surface.Of("text").size(), 1u);
-  for (const Operation& line : world.Surface.Of("line")) EXPECT_GT(line.X1, 250);
+  for (const Operation& line : world.Surface.Of("line"))
+    EXPECT_GT(line.X1, 250);
 }
 
 TEST(AllStationsDraw, AHiddenClassIsLeftOutAltogether) {
@@ -385,7 +386,8 @@ TEST(AllStationsDraw, RecordsOfRandomBytesAreSurvived) {
   StationWorld world;
   for (int i = 0; i < 2000; ++i) {
     std::string bytes(120, ' ');
-    for (char& c : bytes) c = static_cast<char>(random());
+    for (char& c : bytes)
+      c = static_cast<char>(random());
     world.State.Stores.MoniAllRecords.Append(StationRecord(bytes));
     world.State.Stores.Moni1Records.Append(StationRecord(bytes));
   }
@@ -405,8 +407,8 @@ struct FollowedWorld : StationWorld {
   void DrawFollowed() {
     Surface.Operations.clear();
     Room.Sheets.BeginRedraw();
-    Moni1Draw(Surface, View(), State.Followed, State.Stores.Moni1Records, Room.Symbols,
-              Room.Sheets, Clock.Now(), Controls.Moni1);
+    Moni1Draw(Surface, View(), State.Followed, State.Stores.Moni1Records, Room.Symbols, Room.Sheets,
+              Clock.Now(), Controls.Moni1);
   }
   void Add(int x, int y, const std::string& stamp = "240115 1234") {
     RecordMaker maker = At(x, y, "QX7KB");
@@ -509,7 +511,8 @@ TEST(Moni1Draw, TrackStylesLeaveOutWhatTheyShould) {
   EXPECT_THAT(lines_of(1), testing::Not(testing::Contains(Line(101, 200, 100, 199, kBlack))));
   EXPECT_THAT(lines_of(0), testing::Contains(Line(101, 200, 100, 199, kBlack)));
   EXPECT_THAT(lines_of(2), testing::Contains(core));
-  EXPECT_THAT(lines_of(2), testing::Not(testing::Contains(Line(99, 200, 149, 220, ColourTrackOld))));
+  EXPECT_THAT(lines_of(2),
+              testing::Not(testing::Contains(Line(99, 200, 149, 220, ColourTrackOld))));
   EXPECT_THAT(lines_of(6), testing::Not(testing::Contains(core)));
   EXPECT_FALSE(lines_of(6).empty());  // the last mark
 }
@@ -591,9 +594,9 @@ TEST(SymbolCells, LieInSixteenColumnsAndSixRows) {
   struct Row {
     int Index, Sheet, X, Y;
   };
-  for (const Row& row : {Row{1, 0, 0, 0}, Row{16, 0, 315, 0}, Row{17, 0, 0, 21},
-                         Row{37, 0, 84, 42}, Row{94, 0, 273, 105}, Row{101, 1, 0, 0},
-                         Row{194, 1, 273, 105}, Row{0, 0, 0, 0}, Row{100, 1, 0, 105}}) {
+  for (const Row& row : {Row{1, 0, 0, 0}, Row{16, 0, 315, 0}, Row{17, 0, 0, 21}, Row{37, 0, 84, 42},
+                         Row{94, 0, 273, 105}, Row{101, 1, 0, 0}, Row{194, 1, 273, 105},
+                         Row{0, 0, 0, 0}, Row{100, 1, 0, 105}}) {
     const SymbolCell cell = CellOfSymbol(row.Index);
     EXPECT_EQ(cell.Sheet, row.Sheet) << row.Index;
     EXPECT_EQ(cell.X, row.X) << row.Index;

@@ -38,9 +38,15 @@ TEST(TilePlaces, RunSouthToNorthAndWestToEast) {
   ForEachTileInView(world.View(), [&](const TilePlace& place) {
     visited.emplace_back(place.SouthKm, place.WestKm);
   });
-  EXPECT_EQ(visited, (std::vector<std::pair<double, double>>{
-                         {5750, 350}, {5750, 400}, {5750, 450}, {5800, 350}, {5800, 400},
-                         {5800, 450}, {5850, 350}, {5850, 400}, {5850, 450}}));
+  EXPECT_EQ(visited, (std::vector<std::pair<double, double>>{{5750, 350},
+                                                             {5750, 400},
+                                                             {5750, 450},
+                                                             {5800, 350},
+                                                             {5800, 400},
+                                                             {5800, 450},
+                                                             {5850, 350},
+                                                             {5850, 400},
+                                                             {5850, 450}}));
 }
 
 TEST(PaletteWork, BrightnessRoundsHalfToEvenAndStopsAtWhite) {
@@ -73,12 +79,13 @@ TEST(Tiles, AMissingOneIsGreyAndWhiteOnceTheMapWasSaved) {
   world.Redraw();
   auto filled = world.Surface.Of("filled");
   ASSERT_FALSE(filled.empty());
-  EXPECT_EQ(filled[0], (RecorderSurface::Operation{"filled", -100, -200, 899, 799, 0x505050, {},
-                                                   FontFace::Text, {}}));
+  EXPECT_EQ(filled[0], (RecorderSurface::Operation{
+                           "filled", -100, -200, 899, 799, 0x505050, {}, FontFace::Text, {}}));
   world.View().MapSavedThisRun = true;
   world.View().CentreNorthKm = 7000.0;  // never seen before
   world.Redraw();
-  for (const auto& box : world.Surface.Of("filled")) EXPECT_EQ(box.Ink, 0xFFFFFFu);
+  for (const auto& box : world.Surface.Of("filled"))
+    EXPECT_EQ(box.Ink, 0xFFFFFFu);
 }
 
 TEST(Tiles, ADamagedOneIsTreatedAsMissing) {
@@ -100,7 +107,8 @@ TEST(Tiles, OutsideTheGridAreGreySquares) {
   EXPECT_EQ(world.Surface.Of("image").size(), 1u);
   const auto grey = world.Surface.Of("filled");
   ASSERT_FALSE(grey.empty());
-  for (const auto& box : grey) EXPECT_EQ(box.Ink, 0x505050u);
+  for (const auto& box : grey)
+    EXPECT_EQ(box.Ink, 0x505050u);
 }
 
 TEST(Tiles, AreReadOnceAndAgainWhenTheFileChanges) {

@@ -61,7 +61,8 @@ TEST(WxGauge, ACalmOrUnknownWindHasNoArrow) {
   StationRecord record;
   record.Put(43, 89, "000/000g000t077r000p000P000h50");
   WxGaugeDraw(surface, 200, 200, record);
-  for (const auto& line : surface.Of("line")) EXPECT_LE(line.X1, 214);
+  for (const auto& line : surface.Of("line"))
+    EXPECT_LE(line.X1, 214);
 }
 
 TEST(WxGauge, AnyTextIsSurvived) {
@@ -69,7 +70,8 @@ TEST(WxGauge, AnyTextIsSurvived) {
   RecorderSurface surface(400, 400);
   for (int i = 0; i < 2000; ++i) {
     std::string text(47, ' ');
-    for (char& c : text) c = "0123456789-/cstgrpPhb "[random() % 22];
+    for (char& c : text)
+      c = "0123456789-/cstgrpPhb "[random() % 22];
     StationRecord record;
     record.Put(43, 89, text);
     surface.Operations.clear();

@@ -33,7 +33,8 @@ TEST(AgwMonitor, WordsInTheInformationDoNotDisturb) {
 }
 
 TEST(AgwMonitor, MarkerIsTheFirstWordOfTheDetails) {
-  EXPECT_EQ(Normal("1:Fm N0CALL To APRS <I S R=3 >[12:00:00]\rx\r\r"), "N0CALL*>APRS <I>:\r\nx\r\n");
+  EXPECT_EQ(Normal("1:Fm N0CALL To APRS <I S R=3 >[12:00:00]\rx\r\r"),
+            "N0CALL*>APRS <I>:\r\nx\r\n");
 }
 
 TEST(AgwMonitor, LineWithoutDestinationOrDetailsIsNoFrame) {

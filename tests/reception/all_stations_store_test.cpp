@@ -8,7 +8,9 @@
 namespace zepril {
 namespace {
 
-std::string Place(int metres) { return PadLeft(WholeNumber(metres), 5) + ".000"; }
+std::string Place(int metres) {
+  return PadLeft(WholeNumber(metres), 5) + ".000";
+}
 
 StationRecord At(const std::string& time, const std::string& call, const std::string& via,
                  const std::string& info = "Test") {
@@ -67,7 +69,8 @@ TEST(AllStationsStore, OverlongListLosesAQuarterFromTheSecondRecordOn) {
   StationStore list(3000);
   list.Limit = 666;
   AllStationsStore store(list);
-  for (int i = 1; i <= 667; ++i) store.Append(RecordOf("N0A", "240115 1200", Place(i)));
+  for (int i = 1; i <= 667; ++i)
+    store.Append(RecordOf("N0A", "240115 1200", Place(i)));
   store.KeepLimit();
   EXPECT_EQ(list.Count(), 501);
   EXPECT_EQ(list.At(1).NorthText(), Place(1));
@@ -79,7 +82,8 @@ TEST(AllStationsStore, SmallestLimitLosesTwelve) {
   StationStore list(3000);
   list.Limit = 50;
   AllStationsStore store(list);
-  for (int i = 1; i <= 51; ++i) store.Append(RecordOf("N0A", "240115 1200", Place(i)));
+  for (int i = 1; i <= 51; ++i)
+    store.Append(RecordOf("N0A", "240115 1200", Place(i)));
   store.KeepLimit();
   EXPECT_EQ(list.Count(), 39);
 }
@@ -101,7 +105,8 @@ TEST(AllStationsStore, ListAtItsLimitIsLeftAlone) {
   StationStore list(3000);
   list.Limit = 50;
   AllStationsStore store(list);
-  for (int i = 0; i < 50; ++i) store.Append(RecordOf("N0A", "240115 1200", Place(7)));
+  for (int i = 0; i < 50; ++i)
+    store.Append(RecordOf("N0A", "240115 1200", Place(7)));
   store.KeepLimit();
   EXPECT_EQ(list.Count(), 50);
 }
@@ -116,8 +121,9 @@ TEST(AllStationsStore, IndexAgreesWithTheScanOnRandomTraffic) {
   AllStationsStore store(list);
   int repeats = 0;
   for (int i = 0; i < 20000; ++i) {
-    StationRecord record = RecordOf("N0" + WholeNumber(pick(5)), "240115 12" + ZeroPadded(pick(60), 2),
-                                    Place(pick(30)), "  391.394", "DIGI" + WholeNumber(pick(3)));
+    StationRecord record =
+        RecordOf("N0" + WholeNumber(pick(5)), "240115 12" + ZeroPadded(pick(60), 2),
+                 Place(pick(30)), "  391.394", "DIGI" + WholeNumber(pick(3)));
     if (pick(50) == 0) record.Put(32, 32, "'");
     if (pick(500) == 0 && list.Count() > 0) list.Set(1 + pick(list.Count()), record);
     const bool repeat = store.IsRepeat(record);

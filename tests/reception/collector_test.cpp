@@ -141,7 +141,8 @@ TEST(Collector, OtherModesCollectNothing) {
   Reception station;
   station.Engine.Texts = {kAgw};
   station.Modem.Reads = {kNormal};
-  for (int mode : {2, 4, 7, -1}) EXPECT_EQ(CollectIn(station, mode), "");
+  for (int mode : {2, 4, 7, -1})
+    EXPECT_EQ(CollectIn(station, mode), "");
   EXPECT_EQ(station.Radio.LastDataSeconds, -1.0);
 }
 

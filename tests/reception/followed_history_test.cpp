@@ -8,14 +8,18 @@ namespace {
 
 const std::string kPath = R"(C:\ZEPRIL\U33\LOG\QX7KB.TXT)";
 
-std::string Place(int metres) { return PadLeft(WholeNumber(metres), 5) + ".000"; }
+std::string Place(int metres) {
+  return PadLeft(WholeNumber(metres), 5) + ".000";
+}
 
 StationRecord Position(int place, const std::string& date_time = "240115 1234",
                        const std::string& info = "Test") {
   return RecordOf("QX7KB", date_time, Place(place), "  391.394", "", info);
 }
 
-std::string LineOf(const StationRecord& record) { return std::string(record.RightTrimmed()) + "\r\n"; }
+std::string LineOf(const StationRecord& record) {
+  return std::string(record.RightTrimmed()) + "\r\n";
+}
 
 TEST(FollowedHistory, NewPositionGoesToListFileAndMonitorValues) {
   Reception station;
@@ -53,7 +57,8 @@ TEST(FollowedHistory, SamePlaceAndTextOnlyRenewsTheTime) {
 
 TEST(FollowedHistory, FullHistoryLosesAThousandAtOnce) {
   Reception station;
-  for (int i = 0; i < 9998; ++i) station.Stores.Moni1Records.Append(Position(i % 9000));
+  for (int i = 0; i < 9998; ++i)
+    station.Stores.Moni1Records.Append(Position(i % 9000));
   station.History.Enter(Position(9990));
   EXPECT_EQ(station.Stores.Moni1Records.Count(), 8999);
   EXPECT_EQ(station.Stores.Moni1Records.At(1).NorthText(), Place(1000));
@@ -64,7 +69,8 @@ TEST(FollowedHistory, ThinningStartsAboveOneAndATenthOfTheLimit) {
   station.Followed.Moni1ThinningOn = 1;
   station.Stores.Moni1Records.Limit = 100;
   for (int i = 0; i < 109; ++i) {
-    station.Stores.Moni1Records.Append(RecordOf("QX7KB", "240115 1234", " 5817.86" + WholeNumber(i % 10)));
+    station.Stores.Moni1Records.Append(
+        RecordOf("QX7KB", "240115 1234", " 5817.86" + WholeNumber(i % 10)));
   }
   station.History.Enter(Position(1));
   EXPECT_EQ(station.Stores.Moni1Records.Count(), 110);
@@ -76,7 +82,8 @@ TEST(FollowedHistory, ThinningStartsAboveOneAndATenthOfTheLimit) {
 TEST(FollowedHistory, WithoutThinningTheHistoryGrows) {
   Reception station;
   station.Stores.Moni1Records.Limit = 10;
-  for (int i = 0; i < 50; ++i) station.History.Enter(Position(i));
+  for (int i = 0; i < 50; ++i)
+    station.History.Enter(Position(i));
   EXPECT_EQ(station.Stores.Moni1Records.Count(), 50);
 }
 
@@ -104,8 +111,8 @@ TEST(FollowedHistory, FileThatCannotBeWrittenIsAFailure) {
 TEST(FollowedHistory, LoadingSkipsLinesThatAreNoRecords) {
   Reception station;
   const std::string line(Position(1).RightTrimmed());
-  station.Disk.Contents[kPath] = line.substr(0, 102) + "\r\n" + line.substr(0, 103) + "\r\n" + line +
-                                 std::string(120 - line.size(), 'x') + "\r\n" + line +
+  station.Disk.Contents[kPath] = line.substr(0, 102) + "\r\n" + line.substr(0, 103) + "\r\n" +
+                                 line + std::string(120 - line.size(), 'x') + "\r\n" + line +
                                  std::string(121 - line.size(), 'x') + "\r\n\r\n";
   station.History.LoadAtStart();
   EXPECT_EQ(station.Stores.Moni1Records.Count(), 2);
@@ -114,7 +121,8 @@ TEST(FollowedHistory, LoadingSkipsLinesThatAreNoRecords) {
 TEST(FollowedHistory, LoadingStopsAtTheMostLines) {
   Reception station;
   std::string text;
-  for (int i = 0; i < 10050; ++i) text += LineOf(Position(i % 9000));
+  for (int i = 0; i < 10050; ++i)
+    text += LineOf(Position(i % 9000));
   station.Disk.Contents[kPath] = text;
   station.History.LoadAtStart();
   EXPECT_EQ(station.Stores.Moni1Records.Count(), 9998);
@@ -139,6 +147,18 @@ TEST(FollowedHistory, GapOfMoreThanThirtyDaysCutsAtStartAndKeepsACopy) {
   EXPECT_EQ(station.Stores.Moni1Records.At(1).Date(), "240202");
   EXPECT_EQ(station.Disk.LineCount(kPath), 2);
   EXPECT_EQ(station.Disk.Of(kPath + ".BAK"), old);
+}
+
+TEST(FollowedHistory, AfterACutTheHistoryIsWhatItsFileGivesBack) {
+  Reception station;
+  StationRecord short_line = Position(3, "240203 1200");
+  short_line.Put(100, 120, "");
+  station.Disk.Contents[kPath] = LineOf(Position(1, "240101 1200")) +
+                                 LineOf(Position(2, "240202 1200")) +
+                                 std::string(short_line.Text()) + "\r\n";
+  station.History.LoadAtStart();
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 1);
+  EXPECT_EQ(station.Disk.LineCount(kPath), 2);
 }
 
 TEST(FollowedHistory, GapOfThirtyDaysIsKept) {
@@ -188,7 +208,8 @@ TEST(FollowedHistory, ChangeOfStationTakesWhatWasHeardSince) {
 
 TEST(FollowedHistory, EmptyInternetRecordsStayOutWhileTheInternetIsAsked) {
   Reception station;
-  station.Stores.MoniAllRecords.Append(RecordOf("N0NEW", "240115 1200", Place(1), "  391.394", "inet", ""));
+  station.Stores.MoniAllRecords.Append(
+      RecordOf("N0NEW", "240115 1200", Place(1), "  391.394", "inet", ""));
   station.Stores.MoniAllRecords.Append(
       RecordOf("N0NEW", "240115 1201", Place(2), "  391.394", "inet", "text"));
   station.Controls.Moni1.Check22.Value = 1;

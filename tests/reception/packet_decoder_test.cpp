@@ -47,7 +47,9 @@ Decoded DecodeMicE(const std::string& destination, const std::string& informatio
   return DecodeFrame(std::move(frame));
 }
 
-bool IsPacket(const Decoded& decoded) { return decoded.Result.Outcome == DecodeOutcome::Packet; }
+bool IsPacket(const Decoded& decoded) {
+  return decoded.Result.Outcome == DecodeOutcome::Packet;
+}
 
 bool IsDropped(const Decoded& decoded, DropReason reason) {
   return decoded.Result.Outcome == DecodeOutcome::Dropped && decoded.Result.Reason == reason;
@@ -148,8 +150,9 @@ TEST(NmeaPosition, SymbolFollowsTheSsid) {
   const char* symbols[] = {"/\"", "/a", "/U", "/f", "/b", "/Y", "/X", "/'", "/s",
                            "/>",  "/<", "/O", "/j", "/R", "/k", "/v", "/\""};
   for (int ssid = 0; ssid <= 16; ++ssid) {
-    EXPECT_EQ(DecodeNmea("N0CALL-" + WholeNumber(ssid), "$X,4903.50,N,07201.75,E,1").Packet.PacketSymbol,
-              symbols[ssid])
+    EXPECT_EQ(
+        DecodeNmea("N0CALL-" + WholeNumber(ssid), "$X,4903.50,N,07201.75,E,1").Packet.PacketSymbol,
+        symbols[ssid])
         << ssid;
   }
 }
@@ -231,8 +234,8 @@ TEST(MicE, OffsetBringsLongitudesFromAHundredOn) {
     return packet.PacketLon;
   };
   EXPECT_NEAR(degrees(28 + 12, "S32U60"), 12.0, 1e-9);
-  EXPECT_NEAR(degrees(28 + 12, "S32UV0"), 112.0, 1e-9);   // offset bit
-  EXPECT_NEAR(degrees(28 + 80, "S32UV0"), 100.0, 1e-9);   // 180 to 189: minus 80
+  EXPECT_NEAR(degrees(28 + 12, "S32UV0"), 112.0, 1e-9);  // offset bit
+  EXPECT_NEAR(degrees(28 + 80, "S32UV0"), 100.0, 1e-9);  // 180 to 189: minus 80
   EXPECT_NEAR(degrees(28 + 89, "S32UV0"), 109.0, 1e-9);
   EXPECT_NEAR(degrees(118, "S32UV0"), 0.0, 1e-9);
   EXPECT_NEAR(degrees(127, "S32U60"), 9.0, 1e-9);

@@ -7,7 +7,10 @@ namespace {
 
 TEST(RawList, ControlCharactersUpToCode27AreNotStored) {
   ReceptionState reception;
-  AddRawText("AB\x1B" "C\x1C\r\n", reception);
+  AddRawText(
+      "AB\x1B"
+      "C\x1C\r\n",
+      reception);
   EXPECT_EQ(reception.RawLines[0], "ABC\x1C");
   EXPECT_EQ(reception.RawLineCount, 1);
 }
@@ -22,7 +25,8 @@ TEST(RawList, LineGrowsOverSeveralTexts) {
 
 TEST(RawList, OldestLineGoesBeyondFourHundred) {
   ReceptionState reception;
-  for (int i = 0; i < 400; ++i) AddRawText("line\n", reception);
+  for (int i = 0; i < 400; ++i)
+    AddRawText("line\n", reception);
   EXPECT_EQ(reception.RawLineCount, 400);
   reception.RawLines[0] = "oldest";
   reception.RawLines[1] = "second";
@@ -36,7 +40,8 @@ TEST(RawList, OldestLineGoesBeyondFourHundred) {
 TEST(RawList, LineWithoutEndDoesNotGrowForEver) {
   ReceptionState reception;
   const std::string block(60000, 'x');
-  for (int i = 0; i < 3; ++i) AddRawText(block, reception);
+  for (int i = 0; i < 3; ++i)
+    AddRawText(block, reception);
   EXPECT_EQ(reception.RawLines[0].size(), 65536u);
 }
 

@@ -50,9 +50,11 @@ TEST(ReceivePass, MapThatIsBehindIsRedrawnAfterAnUndecodedPacket) {
 TEST(ReceivePass, AllFramesOfOneReadAreDecodedInTime) {
   Reception station;
   std::string text;
-  for (int i = 0; i < 3; ++i) text += Reception::Frame(kPosition + WholeNumber(i));
+  for (int i = 0; i < 3; ++i)
+    text += Reception::Frame(kPosition + WholeNumber(i));
   station.Modem.Reads.push_back(text);
-  for (int pass = 0; pass < 3; ++pass) station.Pass.Run();
+  for (int pass = 0; pass < 3; ++pass)
+    station.Pass.Run();
   EXPECT_EQ(station.Heard(), 3);
 }
 
@@ -247,6 +249,17 @@ TEST(ReceivePass, DistanceAlarmIsTestedForNewRecordsOnly) {
   station.Controls.Status.Frame12.Visible = false;
   station.HearPacket(kPosition);
   EXPECT_FALSE(station.Controls.Status.Frame12.Visible);
+}
+
+TEST(ReceivePass, FieldsOfThePacketAreClearedForEachFrame) {
+  Reception station;
+  station.HearPacket("@010101z5230.00N/01324.00E>Test");
+  EXPECT_EQ(station.Received.PacketInfoText, "Test");
+  EXPECT_EQ(station.Received.TimestampStale, 1);
+  EXPECT_EQ(station.Received.SymbolIndex, 30);
+  station.HearPacket("x", "N0CALL>APRS");
+  EXPECT_EQ(station.Received.PacketInfoText, "");
+  EXPECT_EQ(station.Received.TimestampStale, 0);
 }
 
 TEST(ReceivePass, RawListShowsWhatWasCollected) {

@@ -148,8 +148,8 @@ class Reception {
 // A record of `call` at a place, by the columns.
 inline StationRecord RecordOf(const std::string& call, const std::string& date_time = "240115 1234",
                               const std::string& north = " 5817.860",
-                              const std::string& east = "  391.394",
-                              const std::string& via = "", const std::string& info = "Test") {
+                              const std::string& east = "  391.394", const std::string& via = "",
+                              const std::string& info = "Test") {
   StationRecord record;
   record.Put(1, 11, date_time);
   record.Put(13, 13, {&StationRecord::kKeyMark, 1});

@@ -6,7 +6,9 @@
 namespace zepril {
 namespace {
 
-std::string Place(int metres) { return PadLeft(WholeNumber(metres), 5) + ".000"; }
+std::string Place(int metres) {
+  return PadLeft(WholeNumber(metres), 5) + ".000";
+}
 
 class RecordBrowserTest : public ::testing::Test {
  protected:
@@ -58,8 +60,8 @@ TEST_F(RecordBrowserTest, OlderPositionsGoAfterTheQuestion) {
   station.Browser.Open("QX7KB", 3, 0.0, 0.0);
   const std::string key(1, StationRecord::kKeyMark);
   station.Boxes.Expect("ZEP RIL         DELETE OLDER POSITIONS",
-                       "DELETE ALL POSITIONS OLDER THAN THIS ONE:  240115 1203 " + key + "  103.000" +
-                           "  391.394  ?",
+                       "DELETE ALL POSITIONS OLDER THAN THIS ONE:  240115 1203 " + key +
+                           "  103.000" + "  391.394  ?",
                        DialogAnswer::Yes);
   station.Controls.Map.Command12.Caption = "MAP L";
   station.Map.MapLockedOnRecord = 1;
@@ -80,8 +82,8 @@ TEST_F(RecordBrowserTest, NewerPositionsGoAfterTheQuestion) {
   station.Browser.Open("QX7KB", 3, 0.0, 0.0);
   const std::string key(1, StationRecord::kKeyMark);
   station.Boxes.Expect("ZEP RIL         DELETE NEWER POSITIONS",
-                       "DELETE ALL POSITIONS NEWER THAN THIS ONE:  240115 1203 " + key + "  103.000" +
-                           "  391.394  ?",
+                       "DELETE ALL POSITIONS NEWER THAN THIS ONE:  240115 1203 " + key +
+                           "  103.000" + "  391.394  ?",
                        DialogAnswer::Yes);
   station.Browser.Command19Click();
   ASSERT_EQ(History().Count(), 3);
@@ -93,8 +95,8 @@ TEST_F(RecordBrowserTest, NoChangesNothing) {
   station.Browser.Open("QX7KB", 3, 0.0, 0.0);
   const std::string key(1, StationRecord::kKeyMark);
   station.Boxes.Expect("ZEP RIL         DELETE OLDER POSITIONS",
-                       "DELETE ALL POSITIONS OLDER THAN THIS ONE:  240115 1203 " + key + "  103.000" +
-                           "  391.394  ?",
+                       "DELETE ALL POSITIONS OLDER THAN THIS ONE:  240115 1203 " + key +
+                           "  103.000" + "  391.394  ?",
                        DialogAnswer::No);
   station.Browser.Command18Click();
   EXPECT_EQ(History().Count(), 4);

@@ -32,6 +32,14 @@ TEST(RecordBuilder, MarksStandInTheirColumns) {
   EXPECT_EQ(history.EmergencyMark(), ' ');
 }
 
+TEST(RecordBuilder, ReturnInAForeignCallDoesNotBreakTheLine) {
+  Reception station;
+  station.HearPacket("!5230.00N/01324.00E>Test", "N0\rCALL>DI\rG1*>APRS");
+  ASSERT_EQ(station.Heard(), 1);
+  EXPECT_EQ(station.Last().Call(), "N0 CALL");
+  EXPECT_EQ(station.Last().HeardViaField(), "DI G1");
+}
+
 TEST(RecordBuilder, LongFieldsAreCutToTheirColumns) {
   DecodedPacket packet;
   packet.PacketCall = "LONGNAMEXYZ";

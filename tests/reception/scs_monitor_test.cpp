@@ -33,8 +33,8 @@ TEST(ScsMonitor, FrameWithoutDigipeatersIsLeftUnmarked) {
 }
 
 TEST(ScsMonitor, UnfinishedFrameIsLeft) {
-  for (const std::string text : {"fm N0CALL to APRS ctl UI pid F0\r\n!ts", "fm N0CALL to APRS ctl U",
-                                 "no frame at all\r\n", ""}) {
+  for (const std::string text : {"fm N0CALL to APRS ctl UI pid F0\r\n!ts",
+                                 "fm N0CALL to APRS ctl U", "no frame at all\r\n", ""}) {
     const Taken taken = Take(text);
     EXPECT_EQ(taken.Normal, "");
     EXPECT_EQ(taken.Rest, text);
@@ -57,10 +57,12 @@ TEST(ScsMonitor, ConnectedFramesInBetweenDoNotBlock) {
 
 TEST(ScsMonitor, FollowingFramesAreTakenUpToTen) {
   std::string text;
-  for (int i = 0; i < 11; ++i) text += "fm N0CALL to APRS ctl UI pid F0\r\n!tst\r\n";
+  for (int i = 0; i < 11; ++i)
+    text += "fm N0CALL to APRS ctl UI pid F0\r\n!tst\r\n";
   const Taken taken = Take(text);
   std::string ten;
-  for (int i = 0; i < 10; ++i) ten += "N0CALL>APRS <UI>:\r\n!tst\r\n";
+  for (int i = 0; i < 10; ++i)
+    ten += "N0CALL>APRS <UI>:\r\n!tst\r\n";
   EXPECT_EQ(taken.Normal, ten);
   EXPECT_EQ(Take(taken.Rest).Normal, "N0CALL>APRS <UI>:\r\n!tst\r\n");
 }

@@ -54,11 +54,12 @@ TEST(StationLogs, EmergencyBlockHasSevenLines) {
   alarm.AlarmInfo = "Help";
   EXPECT_TRUE(logs.AppendEmergency(alarm));
   const std::string rule(60, '-');
-  EXPECT_EQ(station.Disk.Of(Reception::Log("_ALARM_.TXT")),
-            rule +
-                "\r\nSTATION : N0CALL\r\nTIME    : 2024-01-15 12:34\r\nGLL     :  52:30.00  13:24.00"
-                "\r\nUTM(Z33):  5817.860   391.394\r\nINFO    : Help\r\n" +
-                rule + "\r\n");
+  EXPECT_EQ(
+      station.Disk.Of(Reception::Log("_ALARM_.TXT")),
+      rule +
+          "\r\nSTATION : N0CALL\r\nTIME    : 2024-01-15 12:34\r\nGLL     :  52:30.00  13:24.00"
+          "\r\nUTM(Z33):  5817.860   391.394\r\nINFO    : Help\r\n" +
+          rule + "\r\n");
 }
 
 TEST(StationLogs, HistoryFileCanNeitherLeaveTheFolderNorBeALog) {

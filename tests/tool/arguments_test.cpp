@@ -9,7 +9,9 @@ namespace {
 
 constexpr std::array<ArgumentRule, 2> kRules{{{"--zone", true}, {"--stats", false}}};
 
-Arguments Read(std::vector<std::string_view> args) { return {args, kRules}; }
+Arguments Read(std::vector<std::string_view> args) {
+  return {args, kRules};
+}
 
 TEST(Arguments, NamesAndValuesAreReadInAnyOrder) {
   const Arguments arguments = Read({"--stats", "--zone", "U32"});
@@ -41,7 +43,9 @@ TEST(Arguments, WholeNumbersMustBeWholeAndInRange) {
   EXPECT_EQ(none.Whole("--zone", 0, 10, 3), 3);
 }
 
-TEST(Arguments, WrongCallExitsWithTwo) { EXPECT_EQ(Read({"--other"}).Report("decode"), 2); }
+TEST(Arguments, WrongCallExitsWithTwo) {
+  EXPECT_EQ(Read({"--other"}).Report("decode"), 2);
+}
 
 TEST(Arguments, ZoneIsReadWithOrWithoutItsLetter) {
   EXPECT_EQ(ZoneNumber("U33"), 33);

@@ -6,9 +6,10 @@ namespace zepril {
 namespace {
 
 TEST(CoordsCommand, LineHoldsEveryGrid) {
-  EXPECT_EQ(CoordsLine(13.4, 52.5, 33),
-            "391390.7313\t5817855.2407\t4\t4595177.7632\t5819456.5651\t33\t391390.7313\t5817855.2407\t"
-            "1336664.5983\t5821067.5302\tJO62QM\t 52:30.00\t 13:24.00");
+  EXPECT_EQ(
+      CoordsLine(13.4, 52.5, 33),
+      "391390.7313\t5817855.2407\t4\t4595177.7632\t5819456.5651\t33\t391390.7313\t5817855.2407\t"
+      "1336664.5983\t5821067.5302\tJO62QM\t 52:30.00\t 13:24.00");
 }
 
 TEST(CoordsCommand, MapZoneMayDifferFromThatOfThePosition) {

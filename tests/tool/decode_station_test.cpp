@@ -58,7 +58,8 @@ TEST(DecodeStation, ReviewedPacketsGiveTheirRecords) {
 // The records of `text` arriving in pieces of `piece` bytes.
 std::string LogOf(int mode, const std::string& text, std::size_t piece) {
   DecodeStation station(SettingsFor(mode));
-  for (std::size_t at = 0; at < text.size(); at += piece) station.Receive(text.substr(at, piece));
+  for (std::size_t at = 0; at < text.size(); at += piece)
+    station.Receive(text.substr(at, piece));
   station.Drain();
   return station.LongLog();
 }
@@ -76,9 +77,11 @@ std::vector<Traffic> AllDialects() {
   std::string ptc;
   for (int i = 0; i < 12; ++i) {
     const std::string information = "!52" + ZeroPadded(i, 2) + ".00N/01324.00E>Test";
-    agw += "1:Fm N0CALL To APRS Via WIDE1-1* <UI pid=F0 Len=30 >[12:00:00]\r" + information + "\r\r";
+    agw +=
+        "1:Fm N0CALL To APRS Via WIDE1-1* <UI pid=F0 Len=30 >[12:00:00]\r" + information + "\r\r";
     normal += "N0CALL>WIDE1-1*>APRS <UI>:\r\n" + information + "\r\n";
-    const std::string fm = "fm N0CALL to APRS via WIDE1-1* ctl UI pid F0\r\n" + information + "\r\n";
+    const std::string fm =
+        "fm N0CALL to APRS via WIDE1-1* ctl UI pid F0\r\n" + information + "\r\n";
     scs += fm;
     ptc += "1:" + fm;
   }
