@@ -21,9 +21,9 @@ struct ConfigField {
 using ConfigFields = std::vector<ConfigField>;
 
 // Makers of the usual fields. The reference must outlive the field.
-ConfigField PlainTextField(std::string key, std::string& held);    // trimmed
-ConfigField UpperTextField(std::string key, std::string& held);    // trimmed, upper case
-ConfigField FolderField(std::string key, std::string& held);       // trimmed, one "\" at its end cut
+ConfigField PlainTextField(std::string key, std::string& held);  // trimmed
+ConfigField UpperTextField(std::string key, std::string& held);  // trimmed, upper case
+ConfigField FolderField(std::string key, std::string& held);     // trimmed, one "\" at its end cut
 ConfigField ByteField(std::string key, int& held);
 ConfigField IntField(std::string key, int& held);
 ConfigField RealField(std::string key, double& held);

@@ -9,7 +9,9 @@ constexpr std::size_t kMostLinesToEdit = 10000;
 
 }  // namespace
 
-std::string ConfigPath(const std::string& program_folder) { return program_folder + "\\ZEPRIL.INI"; }
+std::string ConfigPath(const std::string& program_folder) {
+  return program_folder + "\\ZEPRIL.INI";
+}
 
 std::optional<std::vector<std::string>> ReadTrimmedLines(const Files& files,
                                                          const std::string& path,
@@ -27,7 +29,8 @@ std::optional<std::vector<std::string>> ReadTrimmedLines(const Files& files,
 
 std::string JoinLines(const std::vector<std::string>& lines) {
   std::string text;
-  for (const std::string& line : lines) text += line + "\r\n";
+  for (const std::string& line : lines)
+    text += line + "\r\n";
   return text;
 }
 

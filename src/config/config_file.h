@@ -12,8 +12,8 @@ namespace zepril {
 // The file's path in the program folder.
 std::string ConfigPath(const std::string& program_folder);
 
-// The lines of the file, each trimmed; nothing when it can't be read, has more than `limit` lines or
-// a line so long that it could not be written back whole.
+// The lines of the file, each trimmed; nothing when it can't be read, has more than `limit` lines
+// or a line so long that it could not be written back whole.
 std::optional<std::vector<std::string>> ReadTrimmedLines(const Files& files,
                                                          const std::string& path,
                                                          std::size_t limit);

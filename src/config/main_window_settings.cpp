@@ -11,14 +11,15 @@ namespace zepril {
 namespace {
 
 constexpr std::size_t kMostMergedLines = 100;
-constexpr std::array<std::string_view, 6> kScaleKeys = {"M5000=", "M1000=", "M0200=",
-                                                        "M0050=", "M0010=", "M0002="};
+constexpr std::array<std::string_view, 6> kScaleKeys = {
+    "M5000=", "M1000=", "M0200=", "M0050=", "M0010=", "M0002="};
 
 template <typename Values, typename Make>
 void AddNumbered(ConfigFields& fields, const std::string& before, const std::string& after,
                  Values& values, Make make) {
   for (std::size_t at = 0; at < values.size(); ++at) {
-    fields.push_back(make(before + WholeNumber(static_cast<std::int64_t>(at) + 1) + after, values[at]));
+    fields.push_back(
+        make(before + WholeNumber(static_cast<std::int64_t>(at) + 1) + after, values[at]));
   }
 }
 

@@ -12,7 +12,8 @@ namespace {
 void AddNumbered(ConfigFields& fields, const std::string& before, const std::string& after,
                  auto& values, auto make) {
   for (std::size_t at = 0; at < values.size(); ++at) {
-    fields.push_back(make(before + WholeNumber(static_cast<std::int64_t>(at) + 1) + after, values[at]));
+    fields.push_back(
+        make(before + WholeNumber(static_cast<std::int64_t>(at) + 1) + after, values[at]));
   }
 }
 

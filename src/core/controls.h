@@ -1,6 +1,6 @@
 // The windows' controls as plain values. Logic reads and writes these and never sees a widget; the
-// desktop copies them to widgets and raises the events. Only what the operator does raises an event;
-// an assignment never does. Texts are code page 1252.
+// desktop copies them to widgets and raises the events. Only what the operator does raises an
+// event; an assignment never does. Texts are code page 1252.
 #pragma once
 
 #include <cstdint>
@@ -27,15 +27,15 @@ struct MousePress {
 
 enum class PointerShape { Default, Hourglass };
 
-// What every control has. Colours are state values 0xBBGGRR; the desktop maps each to a shade of the
-// palette in use. Nothing set: the control's usual colour.
+// What every control has. Colours are state values 0xBBGGRR; the desktop maps each to a shade of
+// the palette in use. Nothing set: the control's usual colour.
 struct Control {
   bool Visible = true;
   bool Enabled = true;
   std::string ToolTip;
   std::optional<std::uint32_t> BackColour;
   std::optional<std::uint32_t> ForeColour;
-  int WidthPx = 0;         // 0: by layout
+  int WidthPx = 0;           // 0: by layout
   bool FocusWanted = false;  // taken and cleared by the desktop
   bool HasFocus = false;     // set by the desktop
 
@@ -69,10 +69,10 @@ struct TextBox : Control {
 };
 
 struct ComboBox : Control {
-  std::string Text;                // of an editable field, or of the selected entry
+  std::string Text;  // of an editable field, or of the selected entry
   std::vector<std::string> Items;
-  int ListIndex = -1;              // 0-based, -1 none
-  Event Change;                    // text typed or an entry chosen
+  int ListIndex = -1;  // 0-based, -1 none
+  Event Change;        // text typed or an entry chosen
   std::function<void(KeyPress)> KeyDown;
 
   // The selected entry, or an empty text.

@@ -104,7 +104,8 @@ void MainCycle::RenewTitle() {
     PutInTitle(title, 76, internet.IGateOn == 1 ? "IGate connected" : "      connected");
     // Recently gated lines age by one place.
     auto& lines = internet.RecentlyGated;
-    for (std::size_t at = 0; at + 1 < lines.size(); ++at) lines[at] = lines[at + 1];
+    for (std::size_t at = 0; at + 1 < lines.size(); ++at)
+      lines[at] = lines[at + 1];
     lines.back() = {};
   }
 }

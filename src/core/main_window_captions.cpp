@@ -24,19 +24,27 @@ void SetMapToolTips(MainWindowControls& c, const char* (*pick)(const char*)) {
       {c.Map.Command9, "Zoom factor 1"},
       {c.Map.Command12, "Centers map to the record shown / Rclick: Next scale level"},
       {c.Map.Picture1, "POI, TRK, PIC, STN, SUN"},
-      {c.Readouts.Label1, "Shows map center coordinates / Lclick switches different coordinate systems"},
-      {c.Readouts.Label2, "Shows map center coordinates / Lclick switches different coordinate systems"},
-      {c.Readouts.Label3, "Shows cursor coordinates / Lclick switches different coordinate systems"},
-      {c.Readouts.Label4, "Shows cursor coordinates / Lclick switches different coordinate systems"},
-      {c.Readouts.Label7, "Shows MONI 1 coordinates / Lclick switches different coordinate systems / Rclick: Records"},
-      {c.Readouts.Label8, "Shows MONI 1 coordinates / Lclick switches different coordinate systems / Rclick: Records"},
+      {c.Readouts.Label1,
+       "Shows map center coordinates / Lclick switches different coordinate systems"},
+      {c.Readouts.Label2,
+       "Shows map center coordinates / Lclick switches different coordinate systems"},
+      {c.Readouts.Label3,
+       "Shows cursor coordinates / Lclick switches different coordinate systems"},
+      {c.Readouts.Label4,
+       "Shows cursor coordinates / Lclick switches different coordinate systems"},
+      {c.Readouts.Label7,
+       "Shows MONI 1 coordinates / Lclick switches different coordinate systems / Rclick: Records"},
+      {c.Readouts.Label8,
+       "Shows MONI 1 coordinates / Lclick switches different coordinate systems / Rclick: Records"},
       {c.Readouts.Label11, "Distance, direction, speed and path of MONI 1"},
       {c.Scales.Command5, "Show tile frames of all scales"},
       {c.Scales.Command6, "Hide all tile frames"},
       {c.Scales.Command37, "Scan the map folders again"},
   };
-  for (const ToolTipRow& row : rows) row.Subject.ToolTip = pick(row.English);
-  for (ComboBox& folder : c.Scales.Folder) folder.ToolTip = pick("Select the map folder of this scale");
+  for (const ToolTipRow& row : rows)
+    row.Subject.ToolTip = pick(row.English);
+  for (ComboBox& folder : c.Scales.Folder)
+    folder.ToolTip = pick("Select the map folder of this scale");
   for (CheckBox& box : c.Scales.FrameBox) {
     box.ToolTip = pick("Show tile frames / filled: a tile lies under the map center");
   }
@@ -78,7 +86,8 @@ void SetStationToolTips(MainWindowControls& c, const char* (*pick)(const char*))
       {c.Qth.TextQthNorth, "North in km / Enter: center the map there"},
       {c.Qth.TextQthEast, "East in km / Enter: center the map there"},
   };
-  for (const ToolTipRow& row : rows) row.Subject.ToolTip = pick(row.English);
+  for (const ToolTipRow& row : rows)
+    row.Subject.ToolTip = pick(row.English);
 }
 
 void HidePanels(MainWindowControls& c) {
@@ -93,12 +102,12 @@ void HidePanels(MainWindowControls& c) {
 // What a later capability brings has its place in the logic already, and none on the window yet.
 void HideWhatIsNotThereYet(MainWindowControls& c) {
   for (Control* control : std::initializer_list<Control*>{
-           &c.Map.Check4, &c.Map.Check9, &c.Map.Check12, &c.Map.Check14, &c.Map.Command73,
-           &c.Map.Command59, &c.Moni1.Check22, &c.Moni1.Check27, &c.MoniAll.Check23,
-           &c.Record.Command10, &c.Record.Command41, &c.Record.Command40, &c.Transmit.Check6,
-           &c.Transmit.Check18, &c.Transmit.Check7, &c.Transmit.Check8, &c.Transmit.Check16,
-           &c.Transmit.Check15, &c.Transmit.Check2, &c.Transmit.Text2, &c.Transmit.Text3,
-           &c.Status.IonoLabel}) {
+           &c.Map.Check4,       &c.Map.Check9,       &c.Map.Check12,      &c.Map.Check14,
+           &c.Map.Command73,    &c.Map.Command59,    &c.Moni1.Check22,    &c.Moni1.Check27,
+           &c.MoniAll.Check23,  &c.Record.Command10, &c.Record.Command41, &c.Record.Command40,
+           &c.Transmit.Check6,  &c.Transmit.Check18, &c.Transmit.Check7,  &c.Transmit.Check8,
+           &c.Transmit.Check16, &c.Transmit.Check15, &c.Transmit.Check2,  &c.Transmit.Text2,
+           &c.Transmit.Text3,   &c.Status.IonoLabel}) {
     control->Visible = false;
   }
 }

@@ -1,4 +1,5 @@
-// Captions and tool tips of the main window, and which controls are hidden before anything happened.
+// Captions and tool tips of the main window, and which controls are hidden before anything
+// happened.
 #pragma once
 
 #include "core/main_window_controls.h"

@@ -43,11 +43,11 @@ struct MapControls {
 
 // The three read-outs and the station line.
 struct ReadoutControls {
-  Label Label1;   // centre, upper caption
-  Label Label2;   // centre, lower caption
-  Label Label3;   // cursor
+  Label Label1;  // centre, upper caption
+  Label Label2;  // centre, lower caption
+  Label Label3;  // cursor
   Label Label4;
-  Label Label7;   // monitored station
+  Label Label7;  // monitored station
   Label Label8;
   Label Label11;  // station line
 };
@@ -137,10 +137,10 @@ struct TransmitControls {
 
 // Raw list.
 struct RawListControls {
-  Button Command57;   // opens and closes it
+  Button Command57;  // opens and closes it
   ListBox RawList;
-  TextBox Text14;     // text to search
-  Button Command38;   // search
+  TextBox Text14;    // text to search
+  Button Command38;  // search
 };
 
 // Status line, banner, alarms.

@@ -17,7 +17,9 @@ int TxAllowedOf(std::string_view call) {
   return !third.empty() && IsDigit(third.front()) ? 1 : 0;
 }
 
-bool IsPicturePlace(double km) { return Right(ShortNumber(km), 4) == ".499"; }
+bool IsPicturePlace(double km) {
+  return Right(ShortNumber(km), 4) == ".499";
+}
 
 MainWindowStart::MainWindowStart(RuntimeState& state, MainWindowControls& controls, Clock& clock,
                                  Timer& timer1, StartActions& actions)

@@ -12,15 +12,15 @@ class StopActions {
  public:
   virtual ~StopActions() = default;
   virtual void CloseSound() = 0;
-  virtual void StopPageLoading() = 0;    // the internet page is left blank
+  virtual void StopPageLoading() = 0;  // the internet page is left blank
   virtual void StopPicturePanel() = 0;
-  virtual void CloseLocalEngine() = 0;   // mode 0, with the digipeater companion
-  virtual void LeaveSerialModem() = 0;   // exit sequence of modes 1, 5, 6
-  virtual void DisconnectAgw() = 0;      // mode 3
-  virtual void ClosePorts() = 0;         // both serial ports, the APRS-IS socket
+  virtual void CloseLocalEngine() = 0;  // mode 0, with the digipeater companion
+  virtual void LeaveSerialModem() = 0;  // exit sequence of modes 1, 5, 6
+  virtual void DisconnectAgw() = 0;     // mode 3
+  virtual void ClosePorts() = 0;        // both serial ports, the APRS-IS socket
   virtual void WriteNavigationFiles() = 0;
   virtual void MergeConfigAtExit() = 0;
-  virtual void DeleteRunFiles() = 0;     // index files of the map library of this run
+  virtual void DeleteRunFiles() = 0;  // index files of the map library of this run
 };
 
 class MainWindowStop {

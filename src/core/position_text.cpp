@@ -28,7 +28,9 @@ std::string RecordNorthText(double north_metres) {
   return MetresText(std::min(HeldWhole(Fix(north_metres)), kHighestNorthMetres));
 }
 
-std::string RecordEastText(double east_metres) { return MetresText(HeldWhole(Int(east_metres))); }
+std::string RecordEastText(double east_metres) {
+  return MetresText(HeldWhole(Int(east_metres)));
+}
 
 double PositionTextKm(std::string_view text) {
   const std::size_t point = text.find('.');

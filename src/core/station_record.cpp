@@ -23,27 +23,49 @@ void StationRecord::Put(std::size_t first, std::size_t last, std::string_view te
   }
 }
 
-bool StationRecord::IsBlank() const { return Trimmed().empty(); }
+bool StationRecord::IsBlank() const {
+  return Trimmed().empty();
+}
 
-std::string_view StationRecord::Trimmed() const { return Trim(Text()); }
+std::string_view StationRecord::Trimmed() const {
+  return Trim(Text());
+}
 
-std::string_view StationRecord::RightTrimmed() const { return TrimRight(Text()); }
+std::string_view StationRecord::RightTrimmed() const {
+  return TrimRight(Text());
+}
 
-double StationRecord::NorthKm() const { return PositionTextKm(NorthText()); }
+double StationRecord::NorthKm() const {
+  return PositionTextKm(NorthText());
+}
 
-double StationRecord::EastKm() const { return PositionTextKm(EastText()); }
+double StationRecord::EastKm() const {
+  return PositionTextKm(EastText());
+}
 
-std::string_view StationRecord::Call() const { return Trim(Columns(33, 41)); }
+std::string_view StationRecord::Call() const {
+  return Trim(Columns(33, 41));
+}
 
-std::string_view StationRecord::Info() const { return Trim(Columns(43, 89)); }
+std::string_view StationRecord::Info() const {
+  return Trim(Columns(43, 89));
+}
 
-std::string_view StationRecord::HeardViaKey() const { return Trim(Columns(91, 99)); }
+std::string_view StationRecord::HeardViaKey() const {
+  return Trim(Columns(91, 99));
+}
 
-std::string_view StationRecord::HeardViaField() const { return Trim(Columns(91, 100)); }
+std::string_view StationRecord::HeardViaField() const {
+  return Trim(Columns(91, 100));
+}
 
-std::string_view StationRecord::Symbol() const { return Trim(Columns(101, 103)); }
+std::string_view StationRecord::Symbol() const {
+  return Trim(Columns(101, 103));
+}
 
-std::string_view StationRecord::SymbolText() const { return Trim(Columns(105, 120)); }
+std::string_view StationRecord::SymbolText() const {
+  return Trim(Columns(105, 120));
+}
 
 int StationRecord::ClassDigit() const {
   const std::string_view text = SymbolText();

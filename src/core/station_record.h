@@ -63,10 +63,10 @@ class StationRecord {
   char EmergencyMark() const { return text_[41]; }
   std::string_view Info() const;  // columns 43-89, trimmed
   char ObjectMark() const { return text_[89]; }
-  std::string_view HeardViaKey() const;   // columns 91-99, trimmed: what repeats are told by
+  std::string_view HeardViaKey() const;    // columns 91-99, trimmed: what repeats are told by
   std::string_view HeardViaField() const;  // columns 91-100, trimmed
-  std::string_view Symbol() const;        // columns 101-103, trimmed
-  std::string_view SymbolText() const;    // columns 105-120, trimmed
+  std::string_view Symbol() const;         // columns 101-103, trimmed
+  std::string_view SymbolText() const;     // columns 105-120, trimmed
   // Class digit: the last character of the symbol text, read as a number.
   int ClassDigit() const;
   // Minutes of the day of columns 8-11.

@@ -44,8 +44,8 @@ StoreLimits LimitsOfSpeed(std::int64_t loops_per_second) {
   constexpr std::int64_t kHighestCount = 3'000'000;
   constexpr std::int64_t kLoopsPerRecord = 4500;
   constexpr int kLowestLimit = 50;
-  const auto measured = static_cast<int>(std::clamp<std::int64_t>(loops_per_second, 0, kHighestCount) /
-                                         kLoopsPerRecord);
+  const auto measured = static_cast<int>(
+      std::clamp<std::int64_t>(loops_per_second, 0, kHighestCount) / kLoopsPerRecord);
   const int all = std::max(measured, kLowestLimit);
   return {all, all * 5};
 }

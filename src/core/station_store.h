@@ -1,7 +1,8 @@
 // A chronological list of station records, newest last, counted from 1 as the program does.
 //
 // Both stores are such lists: all stations heard (`MoniAllRecords`) and the position history of the
-// followed station (`Moni1Records`). Nothing is keyed by call; a station's place is its last record.
+// followed station (`Moni1Records`). Nothing is keyed by call; a station's place is its last
+// record.
 #pragma once
 
 #include <cstdint>

@@ -52,7 +52,8 @@ DecimalForm ToDecimal(double magnitude) {
   std::array<char, 64> buffer{};
   const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
                                     std::chars_format::scientific, kSignificantDigits - 1);
-  const std::string_view printed(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data()));
+  const std::string_view printed(buffer.data(),
+                                 static_cast<std::size_t>(result.ptr - buffer.data()));
   const std::size_t e = printed.find('e');
   DecimalForm form;
   for (char c : printed.substr(0, e)) {
@@ -63,7 +64,8 @@ DecimalForm ToDecimal(double magnitude) {
   if (!exponent_text.empty() && exponent_text.front() == '+') exponent_text.remove_prefix(1);
   std::from_chars(exponent_text.data(), exponent_text.data() + exponent_text.size(), exponent);
   form.Exponent = exponent + 1;
-  while (form.Digits.size() > 1 && form.Digits.back() == '0') form.Digits.pop_back();
+  while (form.Digits.size() > 1 && form.Digits.back() == '0')
+    form.Digits.pop_back();
   return form;
 }
 
@@ -78,7 +80,8 @@ std::string MagnitudeText(double magnitude) {
     text += exponent < 0 ? "E-" : "E+";
     return text + ZeroPadded(std::abs(exponent), 2);
   }
-  if (form.Exponent <= 0) return "." + std::string(static_cast<std::size_t>(-form.Exponent), '0') + form.Digits;
+  if (form.Exponent <= 0)
+    return "." + std::string(static_cast<std::size_t>(-form.Exponent), '0') + form.Digits;
   if (form.Exponent >= count) {
     return form.Digits + std::string(static_cast<std::size_t>(form.Exponent - count), '0');
   }
@@ -89,7 +92,8 @@ std::string MagnitudeText(double magnitude) {
 }  // namespace
 
 double Val(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  while (!text.empty() && text.front() == ' ')
+    text.remove_prefix(1);
   std::size_t length = NumberLength(text);
   if (length == 0) return 0.0;
   bool negative = text.front() == '-';
@@ -120,8 +124,7 @@ std::optional<std::int32_t> WholeVal(std::string_view text, std::int32_t lowest,
 
 bool IsNumericField(std::string_view text) {
   const std::string_view trimmed = Trim(text);
-  return std::all_of(trimmed.begin(), trimmed.end(),
-                     [](char c) { return IsDigit(c) || c == '.'; });
+  return std::all_of(trimmed.begin(), trimmed.end(), [](char c) { return IsDigit(c) || c == '.'; });
 }
 
 std::string Str(double value) {
@@ -158,9 +161,13 @@ std::string ZeroPadded(std::int64_t value, std::size_t width) {
   return text;
 }
 
-double Int(double value) { return std::floor(value); }
+double Int(double value) {
+  return std::floor(value);
+}
 
-double Fix(double value) { return std::trunc(value); }
+double Fix(double value) {
+  return std::trunc(value);
+}
 
 double RoundHalfEven(double value) {
   const double down = std::floor(value);
@@ -240,9 +247,13 @@ std::string_view TrimRight(std::string_view text) {
   return last == std::string_view::npos ? std::string_view{} : text.substr(0, last + 1);
 }
 
-std::string_view Trim(std::string_view text) { return TrimLeft(TrimRight(text)); }
+std::string_view Trim(std::string_view text) {
+  return TrimLeft(TrimRight(text));
+}
 
-char UpperChar(char c) { return FoldedChar(c); }
+char UpperChar(char c) {
+  return FoldedChar(c);
+}
 
 char LowerChar(char c) {
   const int code = Asc(c);

@@ -78,8 +78,12 @@ std::ptrdiff_t InStr(std::string_view text, std::string_view wanted);
 std::ptrdiff_t InStrBack(std::string_view text, std::string_view wanted, std::ptrdiff_t end);
 
 // Code of a character, 0 to 255.
-inline int Asc(char c) { return static_cast<unsigned char>(c); }
-inline char Chr(int code) { return static_cast<char>(static_cast<unsigned char>(code & 0xFF)); }
+inline int Asc(char c) {
+  return static_cast<unsigned char>(c);
+}
+inline char Chr(int code) {
+  return static_cast<char>(static_cast<unsigned char>(code & 0xFF));
+}
 
 // ---- Blanks, case, padding ------------------------------------------------------------------
 
@@ -99,7 +103,9 @@ std::string PadRight(std::string_view text, std::size_t width);
 // Blanks added on the right up to `width`; a longer text is cut.
 std::string Field(std::string_view text, std::size_t width);
 
-inline bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+inline bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 // Pieces between separators; "a,,b" has three, an empty text has one.
 std::vector<std::string_view> Split(std::string_view text, char separator);

@@ -1,5 +1,5 @@
-// A repeating timer of the program's one thread. It only keeps its state; whoever owns the loop (the
-// window system in the program, the virtual clock in tests) drives it.
+// A repeating timer of the program's one thread. It only keeps its state; whoever owns the loop
+// (the window system in the program, the virtual clock in tests) drives it.
 #pragma once
 
 #include <cstdint>

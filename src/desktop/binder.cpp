@@ -56,7 +56,12 @@ void ShowCommon(QWidget* widget, Control& control, Shown& shown, const Look& loo
     control.FocusWanted = false;
     widget->setFocus(Qt::OtherFocusReason);
   }
-  shown = {true, control.Visible, control.Enabled, control.ToolTip, control.BackColour, control.ForeColour};
+  shown = {true,
+           control.Visible,
+           control.Enabled,
+           control.ToolTip,
+           control.BackColour,
+           control.ForeColour};
 }
 
 // "&" in a caption reads as itself on our widgets; the logic's doubled ones become single again.
@@ -195,7 +200,8 @@ void Binder::Bind(QComboBox* widget, ComboBox& control) {
     if (items != control.Items) {
       items = control.Items;
       widget->clear();
-      for (const std::string& item : items) widget->addItem(ToQt(item));
+      for (const std::string& item : items)
+        widget->addItem(ToQt(item));
     }
     if (widget->isEditable()) {
       const QString text = ToQt(control.Text);
@@ -217,27 +223,30 @@ void Binder::Bind(QListView* widget, QStringListModel* model, ListBox& control) 
     control.ListIndex = index.row();
     Raise(control.DoubleClick ? control.DoubleClick : control.Click);
   });
-  outs_.push_back([widget, model, &control, revision = ~std::uint64_t{0}, row = -1, top = -1]() mutable {
-    if (!control.Visible || !widget->isVisible()) return;
-    if (revision != control.Revision || model->rowCount() != static_cast<int>(control.Items.size())) {
-      revision = control.Revision;
-      QStringList lines;
-      lines.reserve(static_cast<qsizetype>(control.Items.size()));
-      for (const std::string& item : control.Items) lines.append(ToQt(item));
-      model->setStringList(lines);
-      row = -1;
-      top = -1;
-    }
-    if (row == control.ListIndex && top == control.TopIndex) return;
-    row = control.ListIndex;
-    const QModelIndex index = model->index(row, 0);
-    if (index.isValid()) widget->setCurrentIndex(index);
-    if (top != control.TopIndex) {
-      top = control.TopIndex;
-      const QModelIndex shown = model->index(std::min(top, model->rowCount() - 1), 0);
-      if (shown.isValid()) widget->scrollTo(shown, QAbstractItemView::EnsureVisible);
-    }
-  });
+  outs_.push_back(
+      [widget, model, &control, revision = ~std::uint64_t{0}, row = -1, top = -1]() mutable {
+        if (!control.Visible || !widget->isVisible()) return;
+        if (revision != control.Revision ||
+            model->rowCount() != static_cast<int>(control.Items.size())) {
+          revision = control.Revision;
+          QStringList lines;
+          lines.reserve(static_cast<qsizetype>(control.Items.size()));
+          for (const std::string& item : control.Items)
+            lines.append(ToQt(item));
+          model->setStringList(lines);
+          row = -1;
+          top = -1;
+        }
+        if (row == control.ListIndex && top == control.TopIndex) return;
+        row = control.ListIndex;
+        const QModelIndex index = model->index(row, 0);
+        if (index.isValid()) widget->setCurrentIndex(index);
+        if (top != control.TopIndex) {
+          top = control.TopIndex;
+          const QModelIndex shown = model->index(std::min(top, model->rowCount() - 1), 0);
+          if (shown.isValid()) widget->scrollTo(shown, QAbstractItemView::EnsureVisible);
+        }
+      });
 }
 
 void Binder::Bind(FillBarWidget* widget, FillBar& control) {
@@ -247,10 +256,13 @@ void Binder::Bind(FillBarWidget* widget, FillBar& control) {
   });
 }
 
-void Binder::Bind(QWidget* widget, Frame& control) { BindCommon(widget, control, true); }
+void Binder::Bind(QWidget* widget, Frame& control) {
+  BindCommon(widget, control, true);
+}
 
 void Binder::ControlsOut() {
-  for (const auto& out : outs_) out();
+  for (const auto& out : outs_)
+    out();
 }
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {

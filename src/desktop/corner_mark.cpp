@@ -18,7 +18,9 @@ CornerMark::CornerMark(QWidget* owner) : QWidget(owner) {
   Place();
 }
 
-void CornerMark::Place() { move(parentWidget()->width() - kSize - 2, 2); }
+void CornerMark::Place() {
+  move(parentWidget()->width() - kSize - 2, 2);
+}
 
 bool CornerMark::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize) Place();

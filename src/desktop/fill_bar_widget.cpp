@@ -6,7 +6,9 @@
 
 namespace zepril {
 
-FillBarWidget::FillBarWidget(QWidget* parent) : QWidget(parent) { setFixedHeight(6); }
+FillBarWidget::FillBarWidget(QWidget* parent) : QWidget(parent) {
+  setFixedHeight(6);
+}
 
 void FillBarWidget::Show(int filled, int full, const QColor& colour) {
   if (filled == filled_ && full == full_ && colour == colour_) return;

@@ -12,7 +12,8 @@ constexpr int kScale = 3;  // drawn large, so that scaled screens have enough pi
 const QColor kStationFill(0xB0, 0x50, 0xD0);
 
 void DrawLines(QPainter& p, std::initializer_list<QLineF> lines) {
-  for (const QLineF& line : lines) p.drawLine(line);
+  for (const QLineF& line : lines)
+    p.drawLine(line);
 }
 
 void DrawGlass(QPainter& p) {
@@ -53,8 +54,12 @@ void Draw(QPainter& p, Picture picture, const QColor& ink) {
       DrawLines(p, {{4.8, 7, 9.2, 7}, {7, 4.8, 7, 9.2}});
       return;
     case Picture::ZoomOne:
-      DrawLines(p, {{3, 5, 4.5, 3.5}, {4.5, 3.5, 4.5, 12.5}, {10, 5, 11.5, 3.5}, {11.5, 3.5, 11.5, 12.5},
-                    {8, 6, 8, 6.3}, {8, 10, 8, 10.3}});
+      DrawLines(p, {{3, 5, 4.5, 3.5},
+                    {4.5, 3.5, 4.5, 12.5},
+                    {10, 5, 11.5, 3.5},
+                    {11.5, 3.5, 11.5, 12.5},
+                    {8, 6, 8, 6.3},
+                    {8, 10, 8, 10.3}});
       return;
     case Picture::Centre:
       p.drawEllipse(QPointF(8, 8), 4.5, 4.5);

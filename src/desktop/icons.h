@@ -7,8 +7,8 @@
 namespace zepril {
 
 enum class Picture {
-  Coarser,     // chevron to the left
-  Finer,       // chevron to the right
+  Coarser,  // chevron to the left
+  Finer,    // chevron to the right
   ZoomOut,
   ZoomOne,
   ZoomIn,

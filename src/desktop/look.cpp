@@ -89,7 +89,8 @@ QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
 }
 
 QColor PlainColour(std::uint32_t state_colour) {
-  return QColor(static_cast<int>(state_colour & 0xFFU), static_cast<int>((state_colour >> 8) & 0xFFU),
+  return QColor(static_cast<int>(state_colour & 0xFFU),
+                static_cast<int>((state_colour >> 8) & 0xFFU),
                 static_cast<int>((state_colour >> 16) & 0xFFU));
 }
 

@@ -1,4 +1,5 @@
-// zepril: the station program. The start window takes the settings, the main window runs the station.
+// zepril: the station program. The start window takes the settings, the main window runs the
+// station.
 #include <QApplication>
 #include <QDir>
 #include <QStyleFactory>
@@ -31,7 +32,9 @@ namespace {
 constexpr int kFirstMapWidth = 880;
 constexpr int kFirstMapHeight = 700;
 
-std::string NativeText(const QString& path) { return path.toUtf8().toStdString(); }
+std::string NativeText(const QString& path) {
+  return path.toUtf8().toStdString();
+}
 
 // One run of the program from the start window to the end.
 class Desktop {
@@ -77,7 +80,8 @@ class Desktop {
     const std::string target = places_.ProgramFolder + "\\U33";
     if (!files_.List(target, "M*.*").empty() || panel_->Controls.Text1.Text.empty()) return;
     files_.MakeFolder(target);
-    worker_ = std::make_unique<SampleMapWorker>(places_.DataFolder + "/maps", files_.NativePath(target));
+    worker_ =
+        std::make_unique<SampleMapWorker>(places_.DataFolder + "/maps", files_.NativePath(target));
     worker_->Progress = [this](int done, int total) {
       if (start_window_) start_window_->ShowMapProgress(done, total);
       panel_->Controls.Command1.Enabled = done >= total;

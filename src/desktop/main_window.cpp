@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QToolButton>
@@ -33,6 +34,9 @@ constexpr int kFoldLeftBelow = 700;
 constexpr int kGap = 4;
 constexpr int kControlHeight = 26;
 constexpr int kOverlayMargin = 8;
+constexpr int kRecordWidth = 984;  // 120 columns of 8 pixels and a frame
+constexpr int kLowestMap = 120;
+constexpr int kLowestDrawer = 140;
 
 QLabel* GroupCaption(const char* text) {
   auto* label = new QLabel(QString::fromLatin1(text));
@@ -45,6 +49,19 @@ QBoxLayout* TightBox(QBoxLayout::Direction direction, QWidget* parent = nullptr)
   box->setContentsMargins(0, 0, 0, 0);
   box->setSpacing(kGap);
   return box;
+}
+
+// A column that scrolls where the window is too low for it.
+QWidget* Scrolling(QWidget* column, int width) {
+  auto* area = new QScrollArea;
+  area->setWidget(column);
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setFixedWidth(width);
+  area->setMinimumHeight(0);
+  return area;
 }
 
 QPushButton* NamedButton(const char* name, QWidget* parent = nullptr) {
@@ -74,10 +91,11 @@ MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fo
   map_->Resized = [this](int width, int height) {
     loop_.RunStep([&] { program_.MapResized(width, height); });
   };
+  map_->setMinimumHeight(kLowestMap);
   map_->PlaceOverlays = [this] { PlaceOverlays(); };
 
-  left_column_ = MakeLeftColumn();
-  right_column_ = MakeRightColumn();
+  left_column_ = Scrolling(MakeLeftColumn(), kLeftWidth);
+  right_column_ = Scrolling(MakeRightColumn(), kRightWidth);
   auto* middle = new QWidget;
   middle_ = TightBox(QBoxLayout::LeftToRight, middle);
   middle_->addWidget(left_column_);
@@ -173,7 +191,6 @@ QWidget* MainWindow::MakeMapBar() {
 
 QWidget* MainWindow::MakeLeftColumn() {
   auto* column = new QWidget;
-  column->setFixedWidth(kLeftWidth);
   auto* box = TightBox(QBoxLayout::TopToBottom, column);
   box->setContentsMargins(8, 8, 4, 8);
   box->setSpacing(8);
@@ -223,7 +240,8 @@ QWidget* MainWindow::MakeScales() {
   group->setObjectName(QStringLiteral("ScalePanel"));
   auto* box = TightBox(QBoxLayout::TopToBottom, group);
   box->addWidget(GroupCaption("SCALES"));
-  static constexpr const char* kNames[] = {"Combo3", "Combo4", "Combo5", "Combo6", "Combo7", "Combo8"};
+  static constexpr const char* kNames[] = {"Combo3", "Combo4", "Combo5",
+                                           "Combo6", "Combo7", "Combo8"};
   for (std::size_t at = 0; at < controls_.Scales.Folder.size(); ++at) {
     auto* row = new ScaleRow(QString::fromLatin1(kNames[at]), look_);
     box->addWidget(row);
@@ -238,9 +256,9 @@ QWidget* MainWindow::MakeScales() {
     const char* Name;
     Button& Control;
   };
-  for (const Tool& tool : {Tool{"Command5", controls_.Scales.Command5},
-                           Tool{"Command6", controls_.Scales.Command6},
-                           Tool{"Command37", controls_.Scales.Command37}}) {
+  for (const Tool& tool :
+       {Tool{"Command5", controls_.Scales.Command5}, Tool{"Command6", controls_.Scales.Command6},
+        Tool{"Command37", controls_.Scales.Command37}}) {
     QPushButton* button = NamedButton(tool.Name);
     button->setStyleSheet(QStringLiteral("padding: 2px 2px;"));
     buttons->addWidget(button, 1);
@@ -255,7 +273,6 @@ QWidget* MainWindow::MakeScales() {
 
 QWidget* MainWindow::MakeRightColumn() {
   auto* column = new QWidget;
-  column->setFixedWidth(kRightWidth);
   auto* box = TightBox(QBoxLayout::TopToBottom, column);
   box->setContentsMargins(4, 8, 8, 8);
   box->setSpacing(12);
@@ -297,7 +314,7 @@ QWidget* MainWindow::MakeMoni1() {
   for (auto& [name, control] : {std::pair<const char*, Label&>{"Label9", m.Label9},
                                 std::pair<const char*, Label&>{"Label10", m.Label10}}) {
     QLabel* label = MakeFixedLabel(name);
-    label->setWordWrap(true);
+    label->setWordWrap(&control == &m.Label10);  // the time stays on its line
     label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     label->setMinimumWidth(0);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
@@ -400,6 +417,7 @@ QWidget* MainWindow::MakeBottomLine() {
   QLabel* status = MakeFixedLabel("Label15");
   lamp_ = new LampWidget;
   row->addWidget(station, 1);
+  row->addSpacing(12);
   row->addWidget(status);
   row->addSpacing(8);
   row->addWidget(lamp_);
@@ -412,6 +430,7 @@ QWidget* MainWindow::MakeDrawer() {
   drawer_ = new QTabWidget;
   drawer_->setObjectName(QStringLiteral("Drawer"));
   drawer_->setVisible(false);
+  drawer_->setMinimumHeight(kLowestDrawer);
   raw_page_ = new QWidget;
   auto* box = TightBox(QBoxLayout::TopToBottom, raw_page_);
   box->setContentsMargins(4, 4, 4, 4);
@@ -576,11 +595,12 @@ void MainWindow::PlaceOverlays() {
   const int width = map_->width();
   const int height = map_->height();
   const int inner = std::max(width - 2 * kOverlayMargin, 100);
-  const int record_width = std::min(inner, 760);
+  const int record_width = std::min(inner, kRecordWidth);
   record_text_->setFixedWidth(record_width - 18);
   record_panel_->setFixedWidth(record_width);
   record_panel_->adjustSize();
-  record_panel_->move((width - record_width) / 2, height - record_panel_->height() - kOverlayMargin);
+  record_panel_->move((width - record_width) / 2,
+                      height - record_panel_->height() - kOverlayMargin);
   alarm_panel_->adjustSize();
   alarm_panel_->move((width - alarm_panel_->width()) / 2, kOverlayMargin);
   qth_panel_->setFixedWidth(std::min(260, inner));
@@ -603,16 +623,25 @@ void MainWindow::Arrange() {
     const bool in_drawer = drawer_->indexOf(column) >= 0;
     if (folded == in_drawer) return;
     if (folded) {
+      column->setMaximumWidth(QWIDGETSIZE_MAX);
       drawer_->addTab(column, QString::fromLatin1(title));
     } else {
+      column->setFixedWidth(column == left_column_ ? kLeftWidth : kRightWidth);
       drawer_->removeTab(drawer_->indexOf(column));
       middle_->insertWidget(place, column);
       column->show();
     }
   };
+  const int pages = drawer_->count();
   fold(right_column_, width() < kFoldRightBelow, "STATIONS", 2);
   fold(left_column_, width() < kFoldLeftBelow, "POSITION", 0);
   ShowDrawer();
+  if (drawer_->count() != pages) ShareHeight();
+}
+
+// The map keeps two thirds of the height.
+void MainWindow::ShareHeight() {
+  split_->setSizes({2 * split_->height() / 3, split_->height() / 3});
 }
 
 void MainWindow::ShowDrawer() {
@@ -622,7 +651,7 @@ void MainWindow::ShowDrawer() {
   drawer_->setVisible(raw || folded);
   if (raw && !raw_shown_) {
     drawer_->setCurrentWidget(raw_page_);
-    split_->setSizes({2 * split_->height() / 3, split_->height() / 3});
+    ShareHeight();
   }
   raw_shown_ = raw;
 }
@@ -641,7 +670,8 @@ void MainWindow::ControlsOut() {
   }
   const bool busy = controls_.Window.Pointer == PointerShape::Hourglass;
   setCursor(busy ? Qt::WaitCursor : Qt::ArrowCursor);
-  if (record_panel_ != nullptr && (record_was_hidden || !record_panel_->isHidden())) PlaceOverlays();
+  if (record_panel_ != nullptr && (record_was_hidden || !record_panel_->isHidden()))
+    PlaceOverlays();
 }
 
 // ---- Window events --------------------------------------------------------------------------
@@ -674,8 +704,8 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
   };
   // Typing belongs to the field that has the focus.
   QWidget* focused = focusWidget();
-  const bool typing = qobject_cast<QLineEdit*>(focused) != nullptr ||
-                      qobject_cast<QComboBox*>(focused) != nullptr;
+  const bool typing =
+      qobject_cast<QLineEdit*>(focused) != nullptr || qobject_cast<QComboBox*>(focused) != nullptr;
   if (event->modifiers().testFlag(Qt::ControlModifier)) {
     if (event->key() == Qt::Key_F) return focus("Text15");
     if (event->key() == Qt::Key_R) return press(controls_.Raw.Command57);

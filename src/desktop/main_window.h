@@ -62,6 +62,7 @@ class MainWindow final : public QWidget {
   void PlaceOverlays();
   void Arrange();
   void ShowDrawer();
+  void ShareHeight();
 
   QToolButton* MakeTool(const char* name, int picture, bool caption);
   QLabel* MakeFixedLabel(const char* name);

@@ -30,7 +30,8 @@ void MapWidget::ControlsOut() {
     map_.FocusWanted = false;
     setFocus(Qt::OtherFocusReason);
   }
-  if (toolTip().isEmpty() != map_.ToolTip.empty()) setToolTip(QString::fromLatin1(map_.ToolTip.c_str()));
+  if (toolTip().isEmpty() != map_.ToolTip.empty())
+    setToolTip(QString::fromLatin1(map_.ToolTip.c_str()));
   if (shown_revision_ == map_.Revision && shown_visible_ == map_.Visible) return;
   shown_revision_ = map_.Revision;
   shown_visible_ = map_.Visible;

@@ -1,6 +1,6 @@
-// The map on the window: shows what was painted on the map surface and hands presses, moves and keys
-// to the map's control. On a screen of a higher scale each pixel of the map becomes a block, so that
-// nothing is blurred. Panels that belong to the map lie over it as children.
+// The map on the window: shows what was painted on the map surface and hands presses, moves and
+// keys to the map's control. On a screen of a higher scale each pixel of the map becomes a block,
+// so that nothing is blurred. Panels that belong to the map lie over it as children.
 #pragma once
 
 #include <QWidget>

@@ -15,7 +15,9 @@ bool QtDesktopActions::MainWindowActive() const {
 }
 
 // Windows of other programs can't be asked for on every system: none is found.
-bool QtDesktopActions::WindowExists(const std::string&) const { return false; }
+bool QtDesktopActions::WindowExists(const std::string&) const {
+  return false;
+}
 
 void QtDesktopActions::Open(const std::string& path_or_address) {
   QDesktopServices::openUrl(QUrl::fromUserInput(ToQt(path_or_address)));

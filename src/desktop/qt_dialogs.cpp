@@ -55,7 +55,8 @@ DialogAnswer QtDialogs::Ask(const std::string& title, const std::string& text,
   box.setEscapeButton(ButtonOf(HarmlessOf(buttons)));
   int pressed = QMessageBox::NoButton;
   loop_.Hold([&] { pressed = box.exec(); });
-  for (DialogAnswer answer : {DialogAnswer::Ok, DialogAnswer::Cancel, DialogAnswer::Yes, DialogAnswer::No}) {
+  for (DialogAnswer answer :
+       {DialogAnswer::Ok, DialogAnswer::Cancel, DialogAnswer::Yes, DialogAnswer::No}) {
     if (pressed == ButtonOf(answer)) return answer;
   }
   return HarmlessOf(buttons);

@@ -10,7 +10,8 @@
 namespace zepril {
 namespace {
 
-// A signal handler may do little more than write a byte: one end of a pair of sockets is all it has.
+// A signal handler may do little more than write a byte: one end of a pair of sockets is all it
+// has.
 std::array<int, 2> signal_pair{-1, -1};
 
 void OnSignal(int) {
@@ -28,11 +29,13 @@ SessionEnd::SessionEnd(std::function<void()> end) {
     [[maybe_unused]] const auto got = ::read(signal_pair[1], &byte, 1);
     end();
   });
-  for (int signal : {SIGTERM, SIGINT, SIGHUP}) std::signal(signal, OnSignal);
+  for (int signal : {SIGTERM, SIGINT, SIGHUP})
+    std::signal(signal, OnSignal);
 }
 
 SessionEnd::~SessionEnd() {
-  for (int signal : {SIGTERM, SIGINT, SIGHUP}) std::signal(signal, SIG_DFL);
+  for (int signal : {SIGTERM, SIGINT, SIGHUP})
+    std::signal(signal, SIG_DFL);
   notifier_.reset();
   for (int& end : signal_pair) {
     if (end >= 0) ::close(end);

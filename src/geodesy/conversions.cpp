@@ -10,29 +10,29 @@ namespace zepril {
 namespace {
 
 struct Ellipsoid {
-  double A;                   // semi-major axis, m
+  double A;  // semi-major axis, m
   double InverseFlattening;
-  double E2;                  // first eccentricity squared
+  double E2;  // first eccentricity squared
   double OneMinusE2;
-  double AE2;                 // A x E2, m
-  double Scale;               // of its grid on the central meridian
-  double MeridianWrap;        // m, to the far side of the pole
+  double AE2;           // A x E2, m
+  double Scale;         // of its grid on the central meridian
+  double MeridianWrap;  // m, to the far side of the pole
 };
 
-constexpr Ellipsoid kBessel{6377397.15508,  299.1528128, 0.0066743722318, 0.9933256277682,
-                            42565.122483026265, 1.0, 20001712.0};
-constexpr Ellipsoid kGrs80{6378137.0, 298.257222101, 0.0066943800229, 0.9933056199771,
-                           42697.672916119336, 0.9996, 19995930.0};
+constexpr Ellipsoid kBessel{6377397.15508,      299.1528128, 0.0066743722318, 0.9933256277682,
+                            42565.122483026265, 1.0,         20001712.0};
+constexpr Ellipsoid kGrs80{6378137.0,          298.257222101, 0.0066943800229, 0.9933056199771,
+                           42697.672916119336, 0.9996,        19995930.0};
 
 constexpr double kDegree = kConversionPi / 180.0;
 
 // What the series needs of an ellipsoid. The powers of n are worked out once each.
 struct Series {
-  double A, B, C, D;                      // geodetic to conformal latitude
-  double InvA, InvB, InvC, InvD;          // and back
-  double RectifyingRadius;                // m
-  std::array<double, 4> Beta;             // forward
-  std::array<double, 4> Delta;            // inverse
+  double A, B, C, D;              // geodetic to conformal latitude
+  double InvA, InvB, InvC, InvD;  // and back
+  double RectifyingRadius;        // m
+  std::array<double, 4> Beta;     // forward
+  std::array<double, 4> Delta;    // inverse
 };
 
 Series MakeSeries(const Ellipsoid& ellipsoid) {
@@ -59,8 +59,8 @@ Series MakeSeries(const Ellipsoid& ellipsoid) {
             13.0 * n2 / 48.0 - 3.0 * n3 / 5.0 + 557.0 * n4 / 1440.0,
             61.0 * n3 / 240.0 - 103.0 * n4 / 140.0, 49561.0 * n4 / 161280.0};
   s.Delta = {n / 2.0 - 2.0 * n2 / 3.0 + 37.0 * n3 / 96.0 - n4 / 360.0,
-             n2 / 48.0 + n3 / 15.0 - 437.0 * n4 / 1440.0,
-             17.0 * n3 / 480.0 - 37.0 * n4 / 840.0, 4397.0 * n4 / 161280.0};
+             n2 / 48.0 + n3 / 15.0 - 437.0 * n4 / 1440.0, 17.0 * n3 / 480.0 - 37.0 * n4 / 840.0,
+             4397.0 * n4 / 161280.0};
   return s;
 }
 
@@ -141,8 +141,10 @@ GridMetres Forward(const Ellipsoid& ellipsoid, const Series& s, double lon, doub
 double WithinHalfTurn(double lon) {
   if (!std::isfinite(lon)) return lon;
   if (std::fabs(lon) > 1e6) lon = std::fmod(lon, 360.0);
-  while (lon < -180.0) lon += 360.0;
-  while (lon > 180.0) lon -= 360.0;
+  while (lon < -180.0)
+    lon += 360.0;
+  while (lon > 180.0)
+    lon -= 360.0;
   return lon;
 }
 
@@ -168,9 +170,8 @@ Geodetic Inverse(const Ellipsoid& ellipsoid, const Series& s, double central_mer
   const double lat = (conformal + std::sin(conformal) * std::cos(conformal) *
                                       (s.InvA + q * (s.InvB + q * (s.InvC + q * s.InvD)))) *
                      180.0 / kConversionPi;
-  double lon =
-      std::atan(TaylorSinh(eta_sphere) / std::cos(xi_sphere)) * 180.0 / kConversionPi +
-      central_meridian;
+  double lon = std::atan(TaylorSinh(eta_sphere) / std::cos(xi_sphere)) * 180.0 / kConversionPi +
+               central_meridian;
 
   // Branch of the arc tangent, each test on the value that the one before left.
   if (easting > false_easting && lon < central_meridian) lon += 180.0;
@@ -244,13 +245,21 @@ Geodetic GaussBesselToGeodetic(double central_meridian, double easting, double n
   return Inverse(kBessel, kBesselSeries, central_meridian, easting, northing, false_easting);
 }
 
-Geocentric GeodeticToXyzBessel(double lon, double lat) { return ToXyz(kBessel, lon, lat); }
+Geocentric GeodeticToXyzBessel(double lon, double lat) {
+  return ToXyz(kBessel, lon, lat);
+}
 
-Geocentric GeodeticToXyzWgs84(double lon, double lat) { return ToXyz(kGrs80, lon, lat); }
+Geocentric GeodeticToXyzWgs84(double lon, double lat) {
+  return ToXyz(kGrs80, lon, lat);
+}
 
-Geodetic XyzToGeodeticBessel(const Geocentric& xyz) { return FromXyz(kBessel, xyz); }
+Geodetic XyzToGeodeticBessel(const Geocentric& xyz) {
+  return FromXyz(kBessel, xyz);
+}
 
-Geodetic XyzToGeodeticWgs84(const Geocentric& xyz) { return FromXyz(kGrs80, xyz); }
+Geodetic XyzToGeodeticWgs84(const Geocentric& xyz) {
+  return FromXyz(kGrs80, xyz);
+}
 
 Geocentric ShiftBesselToWgs84(const Geocentric& xyz) {
   return {xyz.X + kGermanShift.X, xyz.Y + kGermanShift.Y, xyz.Z + kGermanShift.Z};
@@ -260,9 +269,13 @@ Geocentric ShiftWgs84ToBessel(const Geocentric& xyz) {
   return {xyz.X - kGermanShift.X, xyz.Y - kGermanShift.Y, xyz.Z - kGermanShift.Z};
 }
 
-Geocentric HelmertRt90ToWgs84(const Geocentric& xyz) { return Helmert(xyz, 1.0); }
+Geocentric HelmertRt90ToWgs84(const Geocentric& xyz) {
+  return Helmert(xyz, 1.0);
+}
 
-Geocentric HelmertWgs84ToRt90(const Geocentric& xyz) { return Helmert(xyz, -1.0); }
+Geocentric HelmertWgs84ToRt90(const Geocentric& xyz) {
+  return Helmert(xyz, -1.0);
+}
 
 GridMetres Wgs84ToGaussKrueger(double lon, double lat, double central_meridian) {
   const Geocentric bessel = ShiftWgs84ToBessel(GeodeticToXyzWgs84(lon, lat));
@@ -289,27 +302,33 @@ Geodetic Rt90ToWgs84(double easting, double northing) {
   return XyzToGeodeticWgs84(HelmertRt90ToWgs84(GeodeticToXyzBessel(position.Lon, position.Lat)));
 }
 
-double UtmCentralMeridianOf(double lon) { return Int(Int(lon + 6.0) / 6.0) * 6.0 - 3.0; }
+double UtmCentralMeridianOf(double lon) {
+  return Int(Int(lon + 6.0) / 6.0) * 6.0 - 3.0;
+}
 
 int UtmZoneOfMeridian(double central_meridian) {
   return static_cast<int>(IntegerQuotient(central_meridian + 186.0, 6.0));
 }
 
-double GaussKruegerMeridianOf(double lon) { return Int(Int(lon + 1.5) / 3.0) * 3.0; }
+double GaussKruegerMeridianOf(double lon) {
+  return Int(Int(lon + 1.5) / 3.0) * 3.0;
+}
 
 double GaussKruegerFalseEasting(double central_meridian) {
   return Int(central_meridian / 3.0) * 1000000.0 + 500000.0;
 }
 
-double UtmMeridianOfZone(int zone) { return zone * 6.0 - 183.0; }
+double UtmMeridianOfZone(int zone) {
+  return zone * 6.0 - 183.0;
+}
 
 DistanceBearing StationDistanceBearing(double own_north_km, double own_east_km, double north_km,
                                        double east_km, double map_central_meridian,
                                        double map_false_easting) {
   const Geodetic own = UtmToGeodetic(map_central_meridian, own_east_km * 1000.0,
                                      own_north_km * 1000.0, map_false_easting);
-  const Geodetic station = UtmToGeodetic(map_central_meridian, east_km * 1000.0, north_km * 1000.0,
-                                         map_false_easting);
+  const Geodetic station =
+      UtmToGeodetic(map_central_meridian, east_km * 1000.0, north_km * 1000.0, map_false_easting);
   constexpr double kShortDegree = kShortPi / 180.0;
   const double phi1 = own.Lat * kShortDegree;
   const double phi2 = station.Lat * kShortDegree;

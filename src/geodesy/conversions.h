@@ -75,11 +75,11 @@ GridMetres Wgs84ToRt90(double lon, double lat);
 Geodetic Rt90ToWgs84(double easting, double northing);
 
 // Selection of strips by longitude.
-double UtmCentralMeridianOf(double lon);          // of the 6 degree zone
-int UtmZoneOfMeridian(double central_meridian);   // 1 to 61: exactly 180 degrees gives 61
-double GaussKruegerMeridianOf(double lon);        // of the 3 degree strip
+double UtmCentralMeridianOf(double lon);                   // of the 6 degree zone
+int UtmZoneOfMeridian(double central_meridian);            // 1 to 61: exactly 180 degrees gives 61
+double GaussKruegerMeridianOf(double lon);                 // of the 3 degree strip
 double GaussKruegerFalseEasting(double central_meridian);  // zone digit in front of 500 km
-double UtmMeridianOfZone(int zone);               // zone x 6 - 183
+double UtmMeridianOfZone(int zone);                        // zone x 6 - 183
 
 // Great circle on a sphere of 60 nautical miles to the degree.
 struct DistanceBearing {

@@ -28,19 +28,27 @@ std::string TextOfMetres(double metres, double km, LongForm long_form) {
   return text;
 }
 
-double MetresOf(double km) { return std::fabs(Int(km * 1000.0 + 0.01)); }
+double MetresOf(double km) {
+  return std::fabs(Int(km * 1000.0 + 0.01));
+}
 
 }  // namespace
 
-std::string KilometreText(double km) { return TextOfMetres(MetresOf(km), km, LongForm::Never); }
+std::string KilometreText(double km) {
+  return TextOfMetres(MetresOf(km), km, LongForm::Never);
+}
 
-std::string GridNorthText(double km) { return KilometreText(km >= kHighestKm ? kHighestKm : km); }
+std::string GridNorthText(double km) {
+  return KilometreText(km >= kHighestKm ? kHighestKm : km);
+}
 
 std::string GridEastText(double km) {
   return TextOfMetres(MetresOf(km), km, LongForm::FromTenThousandKm);
 }
 
-double RoundedToMetre(double km) { return Int((km + 0.0001) * 1000.0) / 1000.0; }
+double RoundedToMetre(double km) {
+  return Int((km + 0.0001) * 1000.0) / 1000.0;
+}
 
 std::string PointKilometreText(double km) {
   if (!(std::fabs(km) < kHighestKm)) return {};

@@ -8,9 +8,9 @@
 
 namespace zepril {
 
-// Kilometre text of nine characters: whole metres, padded on the left, a point before the last three.
-// No zero stands before the point, and the sign of a negative value is the first character, away
-// from the digits. Metres are rounded down (with 1 cm of grace for binary fractions).
+// Kilometre text of nine characters: whole metres, padded on the left, a point before the last
+// three. No zero stands before the point, and the sign of a negative value is the first character,
+// away from the digits. Metres are rounded down (with 1 cm of grace for binary fractions).
 //   5912.345 -> " 5912.345", 0 -> "    0.000", 0.1 -> "     .100", -12.345 -> "-  12.345"
 std::string KilometreText(double km);
 

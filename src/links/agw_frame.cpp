@@ -31,7 +31,8 @@ AgwFrameFields ReadAgwHeader(std::string_view bytes) {
   fields.From = CallText(bytes.substr(8, kCallField));
   fields.To = CallText(bytes.substr(18, kCallField));
   for (int at = 3; at >= 0; --at) {
-    fields.DataLength = (fields.DataLength << 8) | static_cast<std::uint32_t>(Asc(bytes[28 + static_cast<std::size_t>(at)]));
+    fields.DataLength = (fields.DataLength << 8) |
+                        static_cast<std::uint32_t>(Asc(bytes[28 + static_cast<std::size_t>(at)]));
   }
   fields.User = bytes.substr(32, 4);
   return fields;

@@ -37,8 +37,8 @@ AgwFrameFields ReadAgwHeader(std::string_view bytes);
 std::string MakeAgwFrame(int port, char kind, std::string_view from, std::string_view to,
                          std::string_view data);
 
-// Data of a "V" frame: count of digipeaters, each zero-padded to 10 bytes, and the text. `path` is a
-// comma list, upper case; an empty one has count 0 and no field.
+// Data of a "V" frame: count of digipeaters, each zero-padded to 10 bytes, and the text. `path` is
+// a comma list, upper case; an empty one has count 0 and no field.
 std::string AgwUnprotoData(std::string_view path, std::string_view text);
 
 // Port by the radio mode: "1200" takes 1; a mode that reads as 300 takes 0; any other keeps `held`.

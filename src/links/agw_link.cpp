@@ -43,7 +43,8 @@ void AgwLink::BeginConnection() {
   winsock1_.Close();
   stream_.Reset();
   radio_.AgwConnected = 0;
-  winsock1_.Connect(radio_.AgwHost, static_cast<int>(WholeVal(radio_.AgwTcpPort, 0, 65535).value_or(0)));
+  winsock1_.Connect(radio_.AgwHost,
+                    static_cast<int>(WholeVal(radio_.AgwTcpPort, 0, 65535).value_or(0)));
 }
 
 bool AgwLink::Fail(const char* text) {
@@ -69,7 +70,8 @@ bool AgwLink::ConnectAgw() {
   radio_.AgwFrame.clear();
   winsock1_.Send(RegisterFrame());
   const double start = clock_.MonotonicSeconds();
-  while (!Registered() && clock_.MonotonicSeconds() - start < kReplySeconds) clock_.HandOver();
+  while (!Registered() && clock_.MonotonicSeconds() - start < kReplySeconds)
+    clock_.HandOver();
   if (radio_.AgwFrame.size() != kReplyLength || radio_.AgwFrame[kReplyLength - 1] != 1) {
     return Fail(kEngineNotFound);
   }

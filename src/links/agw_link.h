@@ -56,8 +56,8 @@ class AgwLink {
   ProgramActions& program_;
   Timer& reopen_timer_;
   AgwStream stream_;
-  bool started_ = false;      // the first connection stood
-  bool reopening_ = false;    // registration of a re-opened link has not been sent yet
+  bool started_ = false;    // the first connection stood
+  bool reopening_ = false;  // registration of a re-opened link has not been sent yet
 };
 
 }  // namespace zepril

@@ -22,7 +22,8 @@ bool AgwLocal::AGWStartPoll(std::string_view /*application*/, std::string_view c
   stream_.Reset();
   socket_.Close();
   socket_.Connect("127.0.0.1", port_);
-  while (socket_.State() == SocketState::Connecting) clock_.HandOver();
+  while (socket_.State() == SocketState::Connecting)
+    clock_.HandOver();
   reopen_timer_.Arm(kReopenMilliseconds);
   if (socket_.State() != SocketState::Connected) return false;
   Register();

@@ -9,8 +9,8 @@ namespace zepril {
 namespace {
 
 bool Plausible(std::string_view header, const AgwFrameFields& fields) {
-  const bool kind_is_letter = (fields.Kind >= 'A' && fields.Kind <= 'Z') ||
-                              (fields.Kind >= 'a' && fields.Kind <= 'z');
+  const bool kind_is_letter =
+      (fields.Kind >= 'A' && fields.Kind <= 'Z') || (fields.Kind >= 'a' && fields.Kind <= 'z');
   return kind_is_letter && fields.DataLength <= AgwStream::kLongestData && header[1] == '\0' &&
          header[2] == '\0' && header[3] == '\0';
 }
@@ -48,9 +48,11 @@ void AgwStream::Feed(std::string_view bytes) {
 std::string WithMonitorEnding(std::string_view frame) {
   std::string_view data = frame.substr(kAgwHeaderLength);
   if (!IsMonitorText(data) || data.back() != '\0') return std::string(frame);
-  while (!data.empty() && data.back() == '\0') data.remove_suffix(1);
+  while (!data.empty() && data.back() == '\0')
+    data.remove_suffix(1);
   std::string text(data);
-  while (!text.ends_with("\r\r")) text += '\r';
+  while (!text.ends_with("\r\r"))
+    text += '\r';
   std::string mended(frame.substr(0, kAgwHeaderLength));
   mended[28] = Chr(static_cast<int>(text.size() % 256));
   mended[29] = Chr(static_cast<int>(text.size() / 256 % 256));

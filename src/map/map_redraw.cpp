@@ -46,6 +46,8 @@ void MapRedrawer::MapRedraw() {
   SetPointer(PointerShape::Hourglass);
   controls_.Map.Picture1.Visible = true;
 
+  ReadZone();
+
   // The own position, when it comes from GPS.
   if (OwnPositionFromGps()) {
     view.OwnNorthKm = sections_.Gps.GpsNorthKm;
@@ -65,8 +67,7 @@ void MapRedrawer::MapRedraw() {
   tools_.Tiles.BeginRedraw();
   tools_.Sheets.BeginRedraw();
   surface.Clear(kBlack);
-  const PixelPoint last_tile =
-      DrawActiveTiles(surface, tools_.Tiles, view, controls_.Palette);
+  const PixelPoint last_tile = DrawActiveTiles(surface, tools_.Tiles, view, controls_.Palette);
   DrawBaseMap();
 
   // Everything over the tiles.
@@ -80,6 +81,14 @@ void MapRedrawer::MapRedraw() {
   TileCoverageMarks(view, tools_.Library, controls_.Scales, controls_.Record);
 
   Finish();
+}
+
+// The first redraw, and one after a change of the zone, tells the read-outs its number and
+// meridian; the strips of the other systems start with it.
+void MapRedrawer::ReadZone() {
+  if (zone_read_ == sections_.Identity.MapZoneName) return;
+  zone_read_ = sections_.Identity.MapZoneName;
+  ZoneOfMap(tools_.ReadoutTexts.Values(), sections_.Identity, sections_.View);
 }
 
 bool MapRedrawer::OwnPositionFromGps() const {

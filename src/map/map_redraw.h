@@ -5,6 +5,8 @@
 // fill bars and the coverage marks are up to date, the map is marked as drawn, and `Timer1` runs.
 #pragma once
 
+#include <string>
+
 #include "core/main_window_controls.h"
 #include "core/state/followed_station.h"
 #include "core/state/gps.h"
@@ -67,6 +69,7 @@ class MapRedrawer {
   void MapRedraw();
 
  private:
+  void ReadZone();
   bool OwnPositionFromGps() const;
   void FollowCentre();
   void TakeFocus();
@@ -82,6 +85,7 @@ class MapRedrawer {
   MapRedrawSections sections_;
   MapRedrawControls controls_;
   MapRedrawTools tools_;
+  std::string zone_read_;  // zone of the maps that the read-outs know
 };
 
 }  // namespace zepril

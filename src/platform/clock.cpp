@@ -26,7 +26,9 @@ std::int64_t MinutesOf(const LocalTime& time) {
   return DaysOfDate(time.Year, time.Month, time.Day) * 1440 + time.Hour * 60LL + time.Minute;
 }
 
-std::int64_t SecondsOf(const LocalTime& time) { return MinutesOf(time) * 60 + time.Second; }
+std::int64_t SecondsOf(const LocalTime& time) {
+  return MinutesOf(time) * 60 + time.Second;
+}
 
 LocalTime TimeOfSeconds(std::int64_t seconds) {
   const std::int64_t days = FloorDiv(seconds, 86400);
@@ -37,10 +39,13 @@ LocalTime TimeOfSeconds(std::int64_t seconds) {
   time.Second = rest % 60;
   // The year is near days / 365.2425; step to the one that holds the day.
   auto year = static_cast<int>(1970 + FloorDiv(days * 10000, 3652425));
-  while (DaysOfDate(year + 1, 1, 1) <= days) ++year;
-  while (DaysOfDate(year, 1, 1) > days) --year;
+  while (DaysOfDate(year + 1, 1, 1) <= days)
+    ++year;
+  while (DaysOfDate(year, 1, 1) > days)
+    --year;
   int month = 1;
-  while (month < 12 && DaysOfDate(year, month + 1, 1) <= days) ++month;
+  while (month < 12 && DaysOfDate(year, month + 1, 1) <= days)
+    ++month;
   time.Year = year;
   time.Month = month;
   time.Day = static_cast<int>(days - DaysOfDate(year, month, 1)) + 1;

@@ -74,14 +74,16 @@ unsigned char ByteOfCodePoint(char32_t code_point, unsigned char otherwise) {
 std::string Utf8FromCodePage(std::string_view text) {
   std::string out;
   out.reserve(text.size());
-  for (char c : text) AppendUtf8(out, CodePointOfByte(static_cast<unsigned char>(c)));
+  for (char c : text)
+    AppendUtf8(out, CodePointOfByte(static_cast<unsigned char>(c)));
   return out;
 }
 
 std::string CodePageFromUtf8(std::string_view text) {
   std::string out;
   out.reserve(text.size());
-  while (!text.empty()) out += static_cast<char>(ByteOfCodePoint(NextCodePoint(text)));
+  while (!text.empty())
+    out += static_cast<char>(ByteOfCodePoint(NextCodePoint(text)));
   return out;
 }
 

@@ -1,5 +1,5 @@
-// Code page 1252 to UTF-8 and back. The five bytes that the code page leaves open (0x81, 0x8D, 0x8F,
-// 0x90, 0x9D) map to the control characters of the same number, so that every byte survives.
+// Code page 1252 to UTF-8 and back. The five bytes that the code page leaves open (0x81, 0x8D,
+// 0x8F, 0x90, 0x9D) map to the control characters of the same number, so that every byte survives.
 #pragma once
 
 #include <cstdint>

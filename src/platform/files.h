@@ -18,10 +18,10 @@ struct FolderEntry {
 };
 
 struct FileStamp {
-  std::int64_t Size = 0;          // bytes
-  std::int64_t ModifiedNs = 0;    // time of the last change, nanoseconds of the system's epoch
+  std::int64_t Size = 0;        // bytes
+  std::int64_t ModifiedNs = 0;  // time of the last change, nanoseconds of the system's epoch
   bool IsFolder = false;
-  bool IsRegular = false;         // an ordinary file: not a folder, not a device
+  bool IsRegular = false;  // an ordinary file: not a folder, not a device
   friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };
 

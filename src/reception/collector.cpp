@@ -33,7 +33,9 @@ void Collector::Collect(std::string& collected) {
 }
 
 void Collector::CollectFromEngine(std::string& collected) {
-  while (collected.size() <= kLongestReceiveBuffer) {
+  // An engine that delivers without end must not keep the pass for ever.
+  constexpr int kMostTexts = 4096;
+  for (int texts = 0; texts < kMostTexts && collected.size() <= kLongestReceiveBuffer; ++texts) {
     const std::string text = engine_.AGWGetData();
     if (text.empty()) return;
     DataCame();

@@ -1,5 +1,8 @@
 #include "reception/raw_list.h"
 
+#include <algorithm>
+#include <string>
+
 #include "core/state/radio.h"
 #include "core/text_fields.h"
 
@@ -14,18 +17,26 @@ void BeginLine(ReceptionState& reception) {
   }
 }
 
+// Characters that are not stored in a line; the line feed among them ends it.
+bool IsDropped(char c) {
+  constexpr int kHighestDropped = 27;
+  return Asc(c) <= kHighestDropped;
+}
+
+void AppendHeld(std::string& line, std::string_view run) {
+  line += run.substr(0, kLongestReceiveBuffer - std::min(line.size(), kLongestReceiveBuffer));
+}
+
 }  // namespace
 
 void AddRawText(std::string_view collected, ReceptionState& reception) {
-  constexpr int kHighestDropped = 27;
-  std::string* line = &reception.RawLines[reception.RawLineCount];
-  for (char c : collected) {
-    if (c == '\n') {
-      BeginLine(reception);
-      line = &reception.RawLines[reception.RawLineCount];
-    } else if (Asc(c) > kHighestDropped && line->size() < kLongestReceiveBuffer) {
-      *line += c;
-    }
+  while (!collected.empty()) {
+    const auto dropped = std::find_if(collected.begin(), collected.end(), IsDropped);
+    const auto run = static_cast<std::size_t>(dropped - collected.begin());
+    AppendHeld(reception.RawLines[reception.RawLineCount], collected.substr(0, run));
+    if (run == collected.size()) return;
+    if (collected[run] == '\n') BeginLine(reception);
+    collected.remove_prefix(run + 1);
   }
 }
 

@@ -13,9 +13,7 @@ constexpr int kEnterKey = 13;
 RawListSearch::RawListSearch(RawListControls& controls, const SettingsState& settings,
                              Timer& timer1)
     : controls_(controls), settings_(settings), timer1_(timer1) {
-  controls_.Command57.Click = [this] {
-    controls_.RawList.Visible = !controls_.RawList.Visible;
-  };
+  controls_.Command57.Click = [this] { controls_.RawList.Visible = !controls_.RawList.Visible; };
   controls_.RawList.Click = [this] { SlowDown(); };
   controls_.Text14.Change = [this] { SlowDown(); };
   controls_.Text14.KeyDown = [this](KeyPress key) {

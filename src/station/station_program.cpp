@@ -13,26 +13,48 @@ bool StationProgram::Start(const std::string& program_folder, int colour_depth_b
   return rooms_->Start(program_folder, colour_depth_bits);
 }
 
-void StationProgram::Stop(bool by_operator) { rooms_->Stop(by_operator); }
+void StationProgram::Stop(bool by_operator) {
+  rooms_->Stop(by_operator);
+}
 
-bool StationProgram::EndWanted() const { return rooms_->EndWanted; }
+bool StationProgram::EndWanted() const {
+  return rooms_->EndWanted;
+}
 
-void StationProgram::MapResized(int width, int height) { rooms_->MapResized(width, height); }
+void StationProgram::MapResized(int width, int height) {
+  rooms_->MapResized(width, height);
+}
 
-RuntimeState& StationProgram::State() { return rooms_->State; }
+RuntimeState& StationProgram::State() {
+  return rooms_->State;
+}
 
-MainWindowControls& StationProgram::Controls() { return rooms_->Controls; }
+MainWindowControls& StationProgram::Controls() {
+  return rooms_->Controls;
+}
 
-Timer& StationProgram::Timer1() { return rooms_->Timer1; }
+Timer& StationProgram::Timer1() {
+  return rooms_->Timer1;
+}
 
-Timer& StationProgram::Timer2() { return rooms_->Timer2; }
+Timer& StationProgram::Timer2() {
+  return rooms_->Timer2;
+}
 
-Timer& StationProgram::ReopenTimer() { return rooms_->ReopenTimer; }
+Timer& StationProgram::ReopenTimer() {
+  return rooms_->ReopenTimer;
+}
 
-bool StationProgram::InTick() const { return rooms_->Cycle().InTick(); }
+bool StationProgram::InTick() const {
+  return rooms_->Cycle().InTick();
+}
 
-LinkLamp StationProgram::Lamp() const { return rooms_->Lamp(); }
+LinkLamp StationProgram::Lamp() const {
+  return rooms_->Lamp();
+}
 
-void StationProgram::UseLocalEnginePort(int port) { rooms_->LocalEngine().UsePort(port); }
+void StationProgram::UseLocalEnginePort(int port) {
+  rooms_->LocalEngine().UsePort(port);
+}
 
 }  // namespace zepril

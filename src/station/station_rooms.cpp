@@ -24,12 +24,12 @@ StationRooms::StationRooms(StationPlatform machine)
       tiles_(machine.FileSystem, machine.LocalClock),
       sheets_(machine.FileSystem, State.Identity.ProgramFolder),
       readouts_(State.Map, State.Followed, State.Stores.Moni1Records, Controls.Readouts),
-      redrawer_({State.Map, State.Stores, State.Followed, State.Gps, State.Transmission,
-                 State.Identity},
-                {Controls.Window, Controls.Map, Controls.Scales, Controls.Palette, Controls.Moni1,
-                 Controls.MoniAll, Controls.Record, Controls.Transmit},
-                {machine.MapSurface, machine.BaseSurface, tiles_, library_, sheets_, symbols_,
-                 readouts_, overlays_, machine.LocalClock, Timer1}),
+      redrawer_(
+          {State.Map, State.Stores, State.Followed, State.Gps, State.Transmission, State.Identity},
+          {Controls.Window, Controls.Map, Controls.Scales, Controls.Palette, Controls.Moni1,
+           Controls.MoniAll, Controls.Record, Controls.Transmit},
+          {machine.MapSurface, machine.BaseSurface, tiles_, library_, sheets_, symbols_, readouts_,
+           overlays_, machine.LocalClock, Timer1}),
       interaction_(State.Map, State.Stores, State.Followed,
                    {Controls.Window, Controls.Map, Controls.Readouts, Controls.Scales,
                     Controls.Palette, Controls.Moni1, Controls.MoniAll, Controls.Record},
@@ -43,10 +43,10 @@ StationRooms::StationRooms(StationPlatform machine)
       heard_(State.Stores, Controls.MoniAll, browser_),
       collector_(State.Radio, State.Reception, State.Internet, machine.LocalClock, agw_local_,
                  machine.MSComm1, *this),
-      receive_pass_({State.Identity, State.Reception, State.Stores, State.Map, State.Alarms,
-                     State.Settings},
-                    {collector_, history_, browser_, distance_, *this, *this, *this}, symbols_,
-                    machine.LocalClock, machine.FileSystem, Timer1, &Controls.Raw.RawList),
+      receive_pass_(
+          {State.Identity, State.Reception, State.Stores, State.Map, State.Alarms, State.Settings},
+          {collector_, history_, browser_, distance_, *this, *this, *this}, symbols_,
+          machine.LocalClock, machine.FileSystem, Timer1, &Controls.Raw.RawList),
       cycle_(State, Controls, machine.LocalClock, machine.Desktop, Timer1, Timer2, *this, *this),
       raw_search_(Controls.Raw, State.Settings, Timer1) {
   SetInitialControls(Controls);
@@ -86,7 +86,9 @@ void StationRooms::ChangeFollowedStation() {
   FollowStation(Upper(Trim(Controls.Moni1.Combo9.Text)));
 }
 
-void StationRooms::RunReceivePass() { receive_pass_.Run(); }
+void StationRooms::RunReceivePass() {
+  receive_pass_.Run();
+}
 
 // ---- Start ----------------------------------------------------------------------------------
 
@@ -134,7 +136,9 @@ void StationRooms::OpenLocalEngine() {
   agw_local_.AGWStartPoll("ZEPRIL", name);
 }
 
-bool StationRooms::ConnectAgw() { return agw_link_.ConnectAgw(); }
+bool StationRooms::ConnectAgw() {
+  return agw_link_.ConnectAgw();
+}
 
 void StationRooms::ShowTitleMarkers() {
   if (State.Internet.IGateOn == 1) PutInTitle(State.Settings.TitleText, 76, "IGate");
@@ -153,9 +157,13 @@ void StationRooms::ShowAndDrawMap() {
 
 // ---- Stop -----------------------------------------------------------------------------------
 
-void StationRooms::CloseLocalEngine() { agw_local_.AGWClose(); }
+void StationRooms::CloseLocalEngine() {
+  agw_local_.AGWClose();
+}
 
-void StationRooms::DisconnectAgw() { agw_link_.DisconnectAgw(); }
+void StationRooms::DisconnectAgw() {
+  agw_link_.DisconnectAgw();
+}
 
 void StationRooms::ClosePorts() {
   ReopenTimer.Stop();
@@ -174,7 +182,9 @@ void StationRooms::MergeConfigAtExit() {
   zepril::MergeConfigAtExit(machine_.FileSystem, State.Identity.ProgramFolder, last);
 }
 
-void StationRooms::DeleteRunFiles() { library_.DeleteIndexFiles(); }
+void StationRooms::DeleteRunFiles() {
+  library_.DeleteIndexFiles();
+}
 
 // ---- Between rooms --------------------------------------------------------------------------
 
@@ -184,7 +194,9 @@ void StationRooms::MapRedraw() {
   Controls.Moni1.Command17.Caption = "TRACK " + WholeNumber(State.Followed.TrackStyle);
 }
 
-void StationRooms::MapRefresh() { ++Controls.Map.Picture1.Revision; }
+void StationRooms::MapRefresh() {
+  ++Controls.Map.Picture1.Revision;
+}
 
 void StationRooms::WriteConfigFromMainWindow() {
   zepril::WriteConfigFromMainWindow(machine_.FileSystem, State);
@@ -196,7 +208,9 @@ void StationRooms::ReplaceConfigLine(const std::string& key, const std::string& 
                             value);
 }
 
-void StationRooms::EndProgram() { EndWanted = true; }
+void StationRooms::EndProgram() {
+  EndWanted = true;
+}
 
 void StationRooms::OpenRecordPanel() {
   browser_.Open(State.Stores.SelectedStationCall, State.Stores.SelectedRecordIndex,
@@ -274,7 +288,8 @@ void StationRooms::ListFollowedCalls() {
   const std::string folder = State.Identity.MapSystemFolder + "\\LOG";
   for (const FolderEntry& entry : machine_.FileSystem.List(folder, "*.TXT")) {
     if (entry.IsFolder || entry.Name.starts_with("_")) continue;
-    field.Items.push_back(Upper(Left(entry.Name, static_cast<std::ptrdiff_t>(entry.Name.size()) - 4)));
+    field.Items.push_back(
+        Upper(Left(entry.Name, static_cast<std::ptrdiff_t>(entry.Name.size()) - 4)));
   }
   field.ListIndex = -1;
 }

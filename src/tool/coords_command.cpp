@@ -118,7 +118,7 @@ int RunCoords(std::span<const std::string_view> args) {
     std::fwrite(text.data(), 1, text.size(), stdout);
   });
   if (refused > 0) {
-    std::fprintf(stderr, "zepril-tool coords: %s lines are not two numbers\n",
+    std::fprintf(stderr, "zepril-tool coords: lines that are not two numbers: %s\n",
                  WholeNumber(refused).c_str());
   }
   return std::fflush(stdout) == 0 && refused == 0 ? 0 : 1;

@@ -139,7 +139,6 @@ int Paint(const Arguments& arguments, Files& files, RuntimeState& state, const Q
       {state.Map, state.Stores, state.Followed, state.Gps, state.Transmission, state.Identity},
       controls, {files, clock, map, base}, overlays, timer1);
   room.Library.MapLibraryScan();
-  ZoneOfMap(room.ReadoutTexts.Values(), state.Identity, state.Map);
   for (CheckBox& box : controls.Scales.FrameBox)
     box.Value = arguments.Has("--frames") ? 1 : 0;
   room.Redrawer.MapRedraw();
@@ -173,7 +172,8 @@ int RunRender(std::span<const std::string_view> args) {
   int argc = 1;
   char name[] = "zepril-tool";
   char* argv[] = {name, nullptr};
-  const QGuiApplication application(argc, argv);
+  std::optional<QGuiApplication> application;
+  if (QCoreApplication::instance() == nullptr) application.emplace(argc, argv);
   return Paint(
       arguments, files, state,
       QString::fromStdString(TextOf(arguments, "--fonts", files.NativePath(folder + "\\fonts"))));

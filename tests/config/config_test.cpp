@@ -52,7 +52,8 @@ TEST_F(ConfigTest, StartPanelWritesEightyKeysInTheOrderOfTheFile) {
       "LANG USER MSYS UMAPS M0002 M0010 M0050 M0200 M1000 M5000 TEMP NMEA NBAUD MODEM COM TBAUD "
       "SCOMP SBAUD HOSTC HOSTP HBAUD CALL DISA DIST UTCD SLOG LOGS TXID TXON TXTO TXPA TXPM1 TXPM2 "
       "TXPM3 TXPM4 TXTIM TXI1 TXI2 TXI3 TXI4 TXI5 TXI6 TXI1A TXI2A TXI3A TXI4A TXI5A TXI6A TXM1 "
-      "TXM2 TXM3 TXM4 TXM5 TXM6 TXAF TXAFC DIGI XBAUD TXSY TXSS UTN UTE UUN UUE ONAM OTXT OSYM OSYN "
+      "TXM2 TXM3 TXM4 TXM5 TXM6 TXAF TXAFC DIGI XBAUD TXSY TXSS UTN UTE UUN UUE ONAM OTXT OSYM "
+      "OSYN "
       "OUTN OUTE NOAT SSPT KIND IONA POIF TRKF AIPRT AISRV IGATE WVER";
   std::string written;
   for (const std::string& line : lines) {
@@ -83,7 +84,8 @@ TEST_F(ConfigTest, MainWindowWritesSeventyThreeKeysAndKeepsTheBlankOfTheInterval
   ASSERT_TRUE(WriteConfigFromMainWindow(files, state));
   EXPECT_EQ(IniLines().size(), 73U);
   EXPECT_TRUE(HasLine("TXON= 10"));
-  for (const char* gone : {"M0002=", "M0010=", "M0050=", "M0200=", "M1000=", "M5000=", "NOAT=", "FOO="}) {
+  for (const char* gone :
+       {"M0002=", "M0010=", "M0050=", "M0200=", "M1000=", "M5000=", "NOAT=", "FOO="}) {
     EXPECT_EQ(Ini().find(gone), std::string::npos) << gone;
   }
 }
@@ -150,20 +152,23 @@ TEST_F(ConfigTest, MergeKeepsUnknownLinesAndTheirOrder) {
   last.OwnNorthKm = 5378.123;
   last.OwnEastKm = 412.345;
   ASSERT_TRUE(MergeConfigAtExit(files, "C:", last));
-  EXPECT_EQ(Ini(),
-            "usER=qx7kb\r\nFOO=1\r\nM0050=TOPO\r\nUTN=6600\r\nM5000=\r\nM1000=\r\nM0200=\r\nM0010=\r\n"
-            "M0002=\r\nUTE=400\r\nUUN=5378.123\r\nUUE=412.345\r\n");
+  EXPECT_EQ(
+      Ini(),
+      "usER=qx7kb\r\nFOO=1\r\nM0050=TOPO\r\nUTN=6600\r\nM5000=\r\nM1000=\r\nM0200=\r\nM0010=\r\n"
+      "M0002=\r\nUTE=400\r\nUUN=5378.123\r\nUUE=412.345\r\n");
 }
 
 TEST_F(ConfigTest, MergeLeavesAFileOfMoreThanAHundredLinesAlone) {
   std::string text;
-  for (int line = 0; line < 101; ++line) text += "X" + WholeNumber(line) + "=1\r\n";
+  for (int line = 0; line < 101; ++line)
+    text += "X" + WholeNumber(line) + "=1\r\n";
   WriteIni(text);
   EXPECT_FALSE(MergeConfigAtExit(files, "C:", {}));
   EXPECT_EQ(Ini(), text);
   // One that would grow beyond a hundred lines stays too.
   text.clear();
-  for (int line = 0; line < 95; ++line) text += "X" + WholeNumber(line) + "=1\r\n";
+  for (int line = 0; line < 95; ++line)
+    text += "X" + WholeNumber(line) + "=1\r\n";
   WriteIni(text);
   EXPECT_FALSE(MergeConfigAtExit(files, "C:", {}));
   EXPECT_EQ(Ini(), text);

@@ -94,7 +94,8 @@ TEST_F(MainCycleTest, EveryStepComesInItsOrder) {
   state.Map.MapDrawn = false;
   state.Gps.NmeaSource = "3";
   controls.Transmit.Check7.Value = 1;
-  EXPECT_EQ(Tick(), (Names{"aprs-is", "second mode", "emergency", "redraw", "gps", "receive", "chat"}));
+  EXPECT_EQ(Tick(),
+            (Names{"aprs-is", "second mode", "emergency", "redraw", "gps", "receive", "chat"}));
   EXPECT_EQ(timer1.IntervalMs(), 12000);
   EXPECT_TRUE(timer1.Enabled());
 }
@@ -152,7 +153,8 @@ TEST_F(MainCycleTest, TitleTellsOfTheGate) {
 
 TEST_F(MainCycleTest, GatedLinesAgeWhileTheGateIsConnected) {
   for (int at = 0; at < 5; ++at) {
-    state.Internet.RecentlyGated[static_cast<std::size_t>(at)].Text = std::string(1, static_cast<char>('a' + at));
+    state.Internet.RecentlyGated[static_cast<std::size_t>(at)].Text =
+        std::string(1, static_cast<char>('a' + at));
   }
   Tick();
   EXPECT_EQ(state.Internet.RecentlyGated[0].Text, "a");

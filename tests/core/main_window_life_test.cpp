@@ -70,9 +70,8 @@ class StartTest : public ::testing::Test {
 
 TEST_F(StartTest, RunsItsStepsInOrder) {
   EXPECT_TRUE(Start());
-  EXPECT_EQ(recorder.Done,
-            (Names{"config", "names", "panels", "maps", "history 30", "agw", "gps", "restore", "title",
-                   "iono", "labels", "draw", "terminal"}));
+  EXPECT_EQ(recorder.Done, (Names{"config", "names", "panels", "maps", "history 30", "agw", "gps",
+                                  "restore", "title", "iono", "labels", "draw", "terminal"}));
   EXPECT_TRUE(timer1.Enabled());
   EXPECT_EQ(timer1.IntervalMs(), 6000);
   EXPECT_EQ(state.Reception.RxBuffer, "\n");
@@ -144,7 +143,9 @@ TEST_F(StartTest, APicturePlaceInBothCoordinatesOpensTheMapThere) {
     state.Map.CentreNorthKm = 6200.499;
     state.Map.CentreEastKm = 400.499;
   };
-  recorder.OnLoadHistory = [this] { state.Stores.Moni1Records.Append(StationRecord("240115 1234")); };
+  recorder.OnLoadHistory = [this] {
+    state.Stores.Moni1Records.Append(StationRecord("240115 1234"));
+  };
   Start();
   EXPECT_EQ(state.Map.CentreFollow, 0);
   EXPECT_FALSE(controls.Map.Option2.Value);
@@ -222,7 +223,8 @@ class StopTest : public ::testing::Test {
 };
 
 TEST_F(StopTest, RunsItsStepsInOrder) {
-  EXPECT_EQ(Stop(3, true), (Names{"sound", "sound", "agw", "ports", "navigation", "merge", "delete"}));
+  EXPECT_EQ(Stop(3, true),
+            (Names{"sound", "sound", "agw", "ports", "navigation", "merge", "delete"}));
   EXPECT_EQ(Stop(0, true)[2], "local engine");
   EXPECT_EQ(Stop(1, true)[2], "serial");
   EXPECT_EQ(Stop(5, true)[2], "serial");
@@ -237,7 +239,8 @@ TEST_F(StopTest, SettingsAreMergedOnACloseByTheOperatorOnly) {
 TEST_F(StopTest, LoadingPagesAreStopped) {
   controls.Moni1.Check22.Value = 1;
   controls.Record.Frame8.Visible = true;
-  EXPECT_EQ(Stop(4, true), (Names{"sound", "page", "picture", "sound", "ports", "navigation", "merge", "delete"}));
+  EXPECT_EQ(Stop(4, true),
+            (Names{"sound", "page", "picture", "sound", "ports", "navigation", "merge", "delete"}));
 }
 
 }  // namespace

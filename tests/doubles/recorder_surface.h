@@ -11,7 +11,8 @@ namespace zepril {
 class RecorderSurface final : public DrawingSurface {
  public:
   struct Operation {
-    std::string Kind;  // "clear", "line", "box", "filled", "circle", "arc", "point", "text", "image"
+    std::string
+        Kind;  // "clear", "line", "box", "filled", "circle", "arc", "point", "text", "image"
     int X1 = 0;
     int Y1 = 0;
     int X2 = 0;  // circle, arc: radius; image: width

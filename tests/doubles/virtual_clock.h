@@ -19,7 +19,8 @@ class VirtualClock final : public Clock {
   LocalTime Now() const override { return TimeOfSeconds(start_ + Whole()); }
   double SecondsSinceMidnight() const override {
     const std::int64_t seconds = start_ + Whole();
-    return static_cast<double>(((seconds % 86400) + 86400) % 86400) + (elapsed_ - static_cast<double>(Whole()));
+    return static_cast<double>(((seconds % 86400) + 86400) % 86400) +
+           (elapsed_ - static_cast<double>(Whole()));
   }
   double MonotonicSeconds() const override { return elapsed_; }
 

@@ -18,16 +18,20 @@ namespace {
 
 std::string Bytes(std::initializer_list<int> codes) {
   std::string text;
-  for (int code : codes) text += Chr(code);
+  for (int code : codes)
+    text += Chr(code);
   return text;
 }
 
-std::string MonitorFrameOf(std::string_view text) { return MakeAgwFrame(0, 'U', "QX1AB", "APRS", text); }
+std::string MonitorFrameOf(std::string_view text) {
+  return MakeAgwFrame(0, 'U', "QX1AB", "APRS", text);
+}
 
 TEST(AgwFrame, RegistrationHasThirtySixBytes) {
   EXPECT_EQ(MakeAgwFrame(0, 'X', "QX7KB", "APRS", {}),
-            Bytes({0, 0, 0, 0, 0x58, 0, 0, 0, 0x51, 0x58, 0x37, 0x4B, 0x42, 0, 0, 0, 0, 0,
-                   0x41, 0x50, 0x52, 0x53, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0x5A, 0x45, 0x50, 0x52}));
+            Bytes({0,    0, 0, 0, 0x58, 0, 0,    0,    0x51, 0x58, 0x37, 0x4B,
+                   0x42, 0, 0, 0, 0,    0, 0x41, 0x50, 0x52, 0x53, 0,    0,
+                   0,    0, 0, 0, 0,    0, 0,    0,    0x5A, 0x45, 0x50, 0x52}));
 }
 
 TEST(AgwFrame, UnprotoCarriesItsDigipeaters) {
@@ -168,7 +172,9 @@ TEST_F(AgwLinkTest, ConnectsRegistersAndMonitors) {
 }
 
 TEST_F(AgwLinkTest, ARefusedConnectionSaysSoAndEndsTheProgram) {
-  socket.OnConnect = [this] { clock.Schedule(1.0, [this] { socket.SetState(SocketState::Error); }); };
+  socket.OnConnect = [this] {
+    clock.Schedule(1.0, [this] { socket.SetState(SocketState::Error); });
+  };
   dialogs.Expect("ZEP RIL  TCP/IP AGWPE", "TCP/IP AGWPE HOST NOT FOUND !");
   EXPECT_FALSE(link.ConnectAgw());
   EXPECT_TRUE(program.Ended);
@@ -208,7 +214,8 @@ TEST_F(AgwLinkTest, AnEventOfTwoJoinedFramesAppendsEverythingBehindTheFirstHeade
 }
 
 TEST_F(AgwLinkTest, TheBufferDoesNotGrowWithoutBound) {
-  for (int at = 0; at < 20; ++at) link.FrameArrived(MonitorFrameOf(std::string(60000, 'x')));
+  for (int at = 0; at < 20; ++at)
+    link.FrameArrived(MonitorFrameOf(std::string(60000, 'x')));
   EXPECT_LE(radio.AgwRxBuffer.size(), kLongestReceiveBuffer);
 }
 
@@ -295,7 +302,8 @@ TEST_F(AgwLocalTest, PollsGiveOneMonitoredFrameEach) {
   engine.AGWStartPoll("ZEPRIL", "QX7KB");
   EXPECT_EQ(engine.AGWGetData(), "");
   const std::string text = "1:Fm A To B <UI >\r!\r\r";
-  socket.Deliver(MakeAgwFrame(0, 'X', "QX7KB", "", "\x01") + MonitorFrameOf(text) + MonitorFrameOf(text));
+  socket.Deliver(MakeAgwFrame(0, 'X', "QX7KB", "", "\x01") + MonitorFrameOf(text) +
+                 MonitorFrameOf(text));
   EXPECT_EQ(engine.AGWGetData(), text);
   EXPECT_EQ(engine.AGWGetData(), text);
   EXPECT_EQ(engine.AGWGetData(), "");
@@ -303,9 +311,11 @@ TEST_F(AgwLocalTest, PollsGiveOneMonitoredFrameEach) {
 
 TEST_F(AgwLocalTest, WaitingFramesAreBounded) {
   engine.AGWStartPoll("ZEPRIL", "QX7KB");
-  for (int at = 0; at < 2000; ++at) socket.Deliver(MonitorFrameOf("1:Fm A To B <UI >\r!\r\r"));
+  for (int at = 0; at < 2000; ++at)
+    socket.Deliver(MonitorFrameOf("1:Fm A To B <UI >\r!\r\r"));
   std::size_t frames = 0;
-  while (!engine.AGWGetData().empty()) ++frames;
+  while (!engine.AGWGetData().empty())
+    ++frames;
   EXPECT_EQ(frames, AgwLocal::kMostWaitingFrames);
 }
 

@@ -239,6 +239,19 @@ TEST(MapRedraw, ANegativeCentreFindsTilesWithLetters) {
   EXPECT_EQ(world.Surface.Of("image").size(), 1u);
 }
 
+TEST(MapRedraw, TheReadoutsKnowTheZoneOfTheMaps) {
+  MapWorld world;
+  world.State.Identity.MapZoneName = "U08";
+  world.View().MapCentralMeridian = -135.0;
+  world.Redraw();
+  EXPECT_EQ(world.Controls.Readouts.Label2.Caption, "08!135  425.000");
+  EXPECT_EQ(world.Room.ReadoutTexts.Values().UtmZoneText, " 8");
+  // Later redraws leave the strips that a caption has chosen.
+  world.Room.ReadoutTexts.Values().GkMeridianText = " 12";
+  world.Redraw();
+  EXPECT_EQ(world.Room.ReadoutTexts.Values().GkMeridianText, " 12");
+}
+
 TEST(MapRedraw, WithoutALibraryItIsAGreyFieldWithItsMarks) {
   MapWorld world;
   world.Redraw();

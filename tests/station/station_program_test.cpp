@@ -288,7 +288,8 @@ TEST(StationProgram, NoiseOnTheLinkHarmsNothing) {
   for (int round = 0; round < 200; ++round) {
     std::string noise;
     const std::size_t length = random() % 3000;
-    for (std::size_t at = 0; at < length; ++at) noise += Chr(static_cast<int>(random() % 256));
+    for (std::size_t at = 0; at < length; ++at)
+      noise += Chr(static_cast<int>(random() % 256));
     station.socket.Deliver(noise);
     station.Ticks(1);
     ASSERT_LE(station.State().Radio.AgwRxBuffer.size(), kLongestReceiveBuffer);

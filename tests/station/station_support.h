@@ -29,10 +29,12 @@ class StationHarness {
  public:
   explicit StationHarness(const std::string& extra_settings = {}) {
     files.MakeFolder(kFolder);
-    files.Write(std::string(kFolder) + "\\ZEPRIL.INI",
-                "USER=QX7KB\r\nMSYS=U33\r\nUMAPS=C:\\ZEPRIL\\U33\r\nTEMP=C:\\ZEPRIL\\TEMP\r\nMODEM=3\r\n"
-                "HOSTC=engine\r\nHOSTP=8000\r\nCALL=QX1AB-9\r\nLOGS=1\r\nIONA=0\r\nUTN=5800\r\nUTE=400\r\n"
-                "UUN=5817.860\r\nUUE=391.394\r\nFOO=1\r\n" + extra_settings);
+    files.Write(
+        std::string(kFolder) + "\\ZEPRIL.INI",
+        "USER=QX7KB\r\nMSYS=U33\r\nUMAPS=C:\\ZEPRIL\\U33\r\nTEMP=C:\\ZEPRIL\\TEMP\r\nMODEM=3\r\n"
+        "HOSTC=engine\r\nHOSTP=8000\r\nCALL=QX1AB-9\r\nLOGS=1\r\nIONA=0\r\nUTN=5800\r\nUTE=400\r\n"
+        "UUN=5817.860\r\nUUE=391.394\r\nFOO=1\r\n" +
+            extra_settings);
     EngineAccepts();
     Make();
   }
@@ -96,8 +98,8 @@ class StationHarness {
  private:
   void Make() {
     program.reset();
-    program = std::make_unique<StationProgram>(StationPlatform{
-        files, clock, dialogs, desktop, socket, modem, map_surface, base_surface});
+    program = std::make_unique<StationProgram>(
+        StationPlatform{files, clock, dialogs, desktop, socket, modem, map_surface, base_surface});
     clock.ForgetTimers();
     clock.Drive(program->Timer1(), false);
     clock.Drive(program->Timer2(), true);

@@ -1,5 +1,5 @@
-// The map window: what is looked at and what is drawn over it. Kilometres are in the UTM zone of the
-// map library.
+// The map window: what is looked at and what is drawn over it. Kilometres are in the UTM zone of
+// the map library.
 #pragma once
 
 #include <array>
@@ -29,23 +29,24 @@ struct MapViewState {
   std::string ActiveFolderPath;
   std::string BaseFolderPath;
 
-  int CentreFollow = 0;  // 0 free, 1 monitored station, 2 own position, 3 one jump to typed position
+  int CentreFollow =
+      0;  // 0 free, 1 monitored station, 2 own position, 3 one jump to typed position
   int PictureMode = 0;
   bool GridOn = false;
   bool CirclesOn = false;
   bool PicturesOn = false;
   bool TracksOn = false;
-  int PoiLevel = 0;        // 0 to 2
-  int BrightnessStep = 0;  // 0 to 2
-  bool InkStateOn = false;  // the last tile worked on had the 16 inks
-  std::string SelectedInk;  // number of the chosen ink, or empty
+  int PoiLevel = 0;                       // 0 to 2
+  int BrightnessStep = 0;                 // 0 to 2
+  bool InkStateOn = false;                // the last tile worked on had the 16 inks
+  std::string SelectedInk;                // number of the chosen ink, or empty
   std::array<unsigned, 16> InkColours{};  // 0xBBGGRR, as the palette was last worked on
 
   int StationLabelLevel = 0;  // 0 to 5
   bool WxCaption = false;     // level 1 with the caption "WX"
   int StationClassMask = 31;  // bits 0 to 4: classes 2, 1, 0, 3, 4
   bool HideObjects = false;
-  bool MovedOnly = false;     // class 0 only if moved
+  bool MovedOnly = false;  // class 0 only if moved
   std::string FindCall;
 
   double OwnNorthKm = 0.0;
@@ -65,7 +66,7 @@ struct MapViewState {
   double ClickNorthKm = 0.0;
   double ClickEastKm = 0.0;
 
-  int CentreDisplayMode = 0;   // 0 to 4
+  int CentreDisplayMode = 0;  // 0 to 4
   int CursorDisplayMode = 0;
   int MonitorDisplayMode = 0;
   double CursorNorthKm = 0.0;

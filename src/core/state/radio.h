@@ -7,7 +7,7 @@
 namespace zepril {
 
 enum class RadioMode {
-  AgwLocal = 0,   // packet engine on this computer
+  AgwLocal = 0,  // packet engine on this computer
   Pk232 = 1,
   AgwRemote = 3,  // packet engine on another computer, TCP/IP
   None = 4,       // internet monitoring only
@@ -18,9 +18,9 @@ enum class RadioMode {
 struct RadioState {
   int RadioMode = 0;  // values of enum RadioMode; any other value collects nothing
 
-  int TncPort = 1;              // PK-232
+  int TncPort = 1;  // PK-232
   std::string TncBaud = "1200";
-  double ScsPort = 3;           // SCS TNC and SCS PTC
+  double ScsPort = 3;  // SCS TNC and SCS PTC
   std::string ScsBaud = "38400";
   std::string BaudMode = "300";  // "300", "300R", "1200", "9600", "19200"
   std::string BaudModeLabel = "300 Bd";

@@ -8,9 +8,9 @@
 namespace zepril {
 
 struct ReceptionState {
-  std::string OwnHeaderPattern;   // beginning of the own transmitted header; empty before it is set
-  std::string RxBuffer = "\n";    // monitor text in normal form awaiting decoding
-  std::string ScsRxBuffer;        // unfinished frames of a serial TNC
+  std::string OwnHeaderPattern;  // beginning of the own transmitted header; empty before it is set
+  std::string RxBuffer = "\n";   // monitor text in normal form awaiting decoding
+  std::string ScsRxBuffer;       // unfinished frames of a serial TNC
   static constexpr int kRawLines = 400;
   RawLineRing RawLines;  // index 0 to 400
   int RawLineCount = 0;

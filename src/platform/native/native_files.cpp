@@ -24,7 +24,8 @@ constexpr mode_t kNewFolder = 0777;
 // A file descriptor that closes itself.
 class Descriptor {
  public:
-  Descriptor(const std::string& path, int flags) : fd_(::open(path.c_str(), flags | O_CLOEXEC, kNewFile)) {}
+  Descriptor(const std::string& path, int flags)
+      : fd_(::open(path.c_str(), flags | O_CLOEXEC, kNewFile)) {}
   ~Descriptor() { Close(); }
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
@@ -125,7 +126,8 @@ void SyncFolder(const std::string& native_folder) {
 }  // namespace
 
 NativeFiles::NativeFiles(std::string drive_folder) : drive_folder_(std::move(drive_folder)) {
-  while (drive_folder_.size() > 1 && drive_folder_.back() == '/') drive_folder_.pop_back();
+  while (drive_folder_.size() > 1 && drive_folder_.back() == '/')
+    drive_folder_.pop_back();
 }
 
 std::string NativeFiles::NativePath(const std::string& path) const {
@@ -279,9 +281,10 @@ bool NativeFiles::Rename(const std::string& from, const std::string& to) {
   const std::string target = folder + "/" + name;
   struct stat info {};
   if (name.empty() || ::lstat(target.c_str(), &info) == 0) return false;
-  return ::link(source.c_str(), target.c_str()) == 0 ? ::unlink(source.c_str()) == 0
-                                                     : (errno == EPERM || errno == EOPNOTSUPP) &&
-                                                           ::rename(source.c_str(), target.c_str()) == 0;
+  return ::link(source.c_str(), target.c_str()) == 0
+             ? ::unlink(source.c_str()) == 0
+             : (errno == EPERM || errno == EOPNOTSUPP) &&
+                   ::rename(source.c_str(), target.c_str()) == 0;
 }
 
 bool NativeFiles::MakeFolder(const std::string& path) {
@@ -318,9 +321,8 @@ std::vector<FolderEntry> NativeFiles::List(const std::string& folder,
     const auto info = StatOf(native + "/" + std::string(name));
     entries.push_back({std::move(inside), info && S_ISDIR(info->st_mode)});
   });
-  std::sort(entries.begin(), entries.end(), [](const FolderEntry& a, const FolderEntry& b) {
-    return NameBefore(a.Name, b.Name);
-  });
+  std::sort(entries.begin(), entries.end(),
+            [](const FolderEntry& a, const FolderEntry& b) { return NameBefore(a.Name, b.Name); });
   return entries;
 }
 

@@ -32,7 +32,8 @@ LocalTime SystemClock::Now() const {
 double SystemClock::SecondsSinceMidnight() const {
   const auto now = std::chrono::system_clock::now();
   const std::time_t whole = std::chrono::system_clock::to_time_t(now);
-  const std::chrono::duration<double> fraction = now - std::chrono::system_clock::from_time_t(whole);
+  const std::chrono::duration<double> fraction =
+      now - std::chrono::system_clock::from_time_t(whole);
   const tm parts = LocalParts(whole);
   return parts.tm_hour * 3600.0 + parts.tm_min * 60.0 + parts.tm_sec + fraction.count();
 }

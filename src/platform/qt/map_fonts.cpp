@@ -12,7 +12,7 @@
 namespace zepril {
 namespace {
 
-constexpr int kCellPixels = 64;   // room for any glyph of the two faces
+constexpr int kCellPixels = 64;  // room for any glyph of the two faces
 constexpr int kCellMargin = 16;
 
 const QString kTextFamily = QStringLiteral("QX7_F6");
@@ -40,7 +40,8 @@ bool MapFonts::LoadFonts(const QString& folder) {
   for (const QString& file : fonts.entryList({QStringLiteral("*.ttf")}, QDir::Files)) {
     QFontDatabase::addApplicationFont(fonts.filePath(file));
   }
-  for (auto& face : glyphs_) face.fill(std::nullopt);
+  for (auto& face : glyphs_)
+    face.fill(std::nullopt);
   const QStringList families = QFontDatabase::families();
   const QString fallback = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
   const bool text_there = families.contains(kTextFamily);

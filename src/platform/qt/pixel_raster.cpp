@@ -10,7 +10,9 @@ namespace {
 
 constexpr int kHighestCoordinate = 1 << 20;
 
-int Held(int value) { return std::clamp(value, -kHighestCoordinate, kHighestCoordinate); }
+int Held(int value) {
+  return std::clamp(value, -kHighestCoordinate, kHighestCoordinate);
+}
 
 void Fill(const PixelRaster& raster, int x1, int y1, int x2, int y2, std::uint32_t pixel) {
   x1 = std::max(x1, 0);
@@ -27,8 +29,8 @@ void Fill(const PixelRaster& raster, int x1, int y1, int x2, int y2, std::uint32
 // A slanted line as steps along its longer axis; the other coordinate is rounded half up. Only the
 // steps inside the raster are made, and each lies where it would lie on an endless sheet.
 struct SlantedLine {
-  std::int64_t Steps;      // along the longer axis, at least 1
-  std::int64_t Rise;       // magnitude along the shorter one
+  std::int64_t Steps;  // along the longer axis, at least 1
+  std::int64_t Rise;   // magnitude along the shorter one
   int FirstLong, SignLong;
   int FirstShort, SignShort;
 };
@@ -166,8 +168,8 @@ void RasterImage(const PixelRaster& raster, const PixelRect& target, const Pixel
   if (std::abs(target.X) > kHighestCoordinate || std::abs(target.Y) > kHighestCoordinate) return;
   const int left = std::max(target.X, 0);
   const int top = std::max(target.Y, 0);
-  const int right = static_cast<int>(
-      std::min<std::int64_t>(std::int64_t{target.X} + target.Width, raster.Width));
+  const int right =
+      static_cast<int>(std::min<std::int64_t>(std::int64_t{target.X} + target.Width, raster.Width));
   const int bottom = static_cast<int>(
       std::min<std::int64_t>(std::int64_t{target.Y} + target.Height, raster.Height));
   if (left >= right || top >= bottom) return;
@@ -175,20 +177,21 @@ void RasterImage(const PixelRaster& raster, const PixelRect& target, const Pixel
   std::vector<int> column;
   if (!same_width) {
     for (int x = left; x < right; ++x) {
-      column.push_back(source.X + static_cast<int>(std::int64_t{x - target.X} * source.Width /
-                                                   target.Width));
+      column.push_back(source.X +
+                       static_cast<int>(std::int64_t{x - target.X} * source.Width / target.Width));
     }
   }
   for (int y = top; y < bottom; ++y) {
-    const int from = source.Y + static_cast<int>(std::int64_t{y - target.Y} * source.Height /
-                                                 target.Height);
-    const std::uint32_t* pixels =
-        image.Pixels.data() + static_cast<std::size_t>(from) * static_cast<std::size_t>(image.Width);
+    const int from =
+        source.Y + static_cast<int>(std::int64_t{y - target.Y} * source.Height / target.Height);
+    const std::uint32_t* pixels = image.Pixels.data() + static_cast<std::size_t>(from) *
+                                                            static_cast<std::size_t>(image.Width);
     std::uint32_t* row = raster.Row(y) + left;
     if (same_width) {
       std::copy_n(pixels + source.X + (left - target.X), right - left, row);
     } else {
-      for (int at : column) *row++ = pixels[at];
+      for (int at : column)
+        *row++ = pixels[at];
     }
   }
 }

@@ -15,7 +15,8 @@ constexpr double kHandOverSeconds = 0.002;
 QtLoop::QtLoop() = default;
 
 QtLoop::~QtLoop() {
-  for (const auto& driven : driven_) driven->Subject->Changed = nullptr;
+  for (const auto& driven : driven_)
+    driven->Subject->Changed = nullptr;
 }
 
 void QtLoop::Drive(Timer& timer, bool pumped) {
@@ -83,8 +84,9 @@ void QtLoop::Hold(const std::function<void()>& step) {
 void QtLoop::PumpFor(double seconds, bool user_events) {
   if (ControlsOut) ControlsOut();
   const double end = MonotonicSeconds() + seconds;
-  const auto flags = user_events ? QEventLoop::ProcessEventsFlags(QEventLoop::AllEvents)
-                                 : QEventLoop::ProcessEventsFlags(QEventLoop::ExcludeUserInputEvents);
+  const auto flags = user_events
+                         ? QEventLoop::ProcessEventsFlags(QEventLoop::AllEvents)
+                         : QEventLoop::ProcessEventsFlags(QEventLoop::ExcludeUserInputEvents);
   QTimer alarm;
   alarm.setSingleShot(true);
   alarm.setTimerType(Qt::PreciseTimer);
@@ -106,6 +108,8 @@ void QtLoop::WaitPumping(double seconds) {
   --pumping_;
 }
 
-void QtLoop::HandOver() { WaitPumping(kHandOverSeconds); }
+void QtLoop::HandOver() {
+  WaitPumping(kHandOverSeconds);
+}
 
 }  // namespace zepril

@@ -1,9 +1,10 @@
 // The program's one thread on Qt's event loop: the timers, the waits, and the pass that brings the
 // controls to the window after everything that may have changed them.
 //
-// In a plain wait sockets are served and the window is painted, no timer and no user event fires. In
-// a pumping wait and a hand-over user events and the pumped timers fire too; `Timer1` never does, so
-// that no tick runs inside another step. What fell due meanwhile fires when the outermost step ends.
+// In a plain wait sockets are served and the window is painted, no timer and no user event fires.
+// In a pumping wait and a hand-over user events and the pumped timers fire too; `Timer1` never
+// does, so that no tick runs inside another step. What fell due meanwhile fires when the outermost
+// step ends.
 #pragma once
 
 #include <QObject>

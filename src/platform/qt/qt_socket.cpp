@@ -17,13 +17,14 @@ QtSocket::QtSocket() {
   QObject::connect(&socket_, &QTcpSocket::disconnected, [this] {
     if (state_ == SocketState::Connected) state_ = SocketState::PeerClosed;
   });
-  QObject::connect(&socket_, &QTcpSocket::errorOccurred, [this](QAbstractSocket::SocketError error) {
-    patience_.stop();
-    if (state_ == SocketState::Closed) return;
-    ReadWaiting();
-    state_ = error == QAbstractSocket::RemoteHostClosedError ? SocketState::PeerClosed
-                                                             : SocketState::Error;
-  });
+  QObject::connect(
+      &socket_, &QTcpSocket::errorOccurred, [this](QAbstractSocket::SocketError error) {
+        patience_.stop();
+        if (state_ == SocketState::Closed) return;
+        ReadWaiting();
+        state_ = error == QAbstractSocket::RemoteHostClosedError ? SocketState::PeerClosed
+                                                                 : SocketState::Error;
+      });
   QObject::connect(&socket_, &QTcpSocket::readyRead, [this] { ReadWaiting(); });
   QObject::connect(&patience_, &QTimer::timeout, [this] {
     if (state_ != SocketState::Connecting) return;

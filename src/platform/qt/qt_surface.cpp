@@ -23,12 +23,15 @@ void QtSurface::Resize(int width, int height) {
   image_.fill(0xFF000000u);
 }
 
-void QtSurface::Clear(Colour colour) { image_.fill(PixelOfColour(colour)); }
+void QtSurface::Clear(Colour colour) {
+  image_.fill(PixelOfColour(colour));
+}
 
 void QtSurface::Lines(std::span<const PixelLine> lines, Colour colour) {
   const PixelRaster raster = RasterOf(image_);
   const std::uint32_t pixel = PixelOfColour(colour);
-  for (const PixelLine& line : lines) RasterLine(raster, line, pixel);
+  for (const PixelLine& line : lines)
+    RasterLine(raster, line, pixel);
 }
 
 void QtSurface::Box(int x1, int y1, int x2, int y2, Colour colour) {
@@ -50,7 +53,8 @@ void QtSurface::Arc(int x, int y, int radius, double start, double end, Colour c
 void QtSurface::Points(std::span<const PixelPoint> points, Colour colour) {
   const PixelRaster raster = RasterOf(image_);
   const std::uint32_t pixel = PixelOfColour(colour);
-  for (const PixelPoint& point : points) raster.Put(point.X, point.Y, pixel);
+  for (const PixelPoint& point : points)
+    raster.Put(point.X, point.Y, pixel);
 }
 
 void QtSurface::Text(int x, int y, std::string_view text, FontFace face, Colour colour) {
@@ -59,7 +63,8 @@ void QtSurface::Text(int x, int y, std::string_view text, FontFace face, Colour 
   for (char character : text) {
     if (x >= raster.Width) return;
     const MapGlyph& glyph = fonts_.Glyph(face, static_cast<unsigned char>(character));
-    for (const PixelPoint& point : glyph.Pixels) raster.Put(x + point.X, y + point.Y, pixel);
+    for (const PixelPoint& point : glyph.Pixels)
+      raster.Put(x + point.X, y + point.Y, pixel);
     x += glyph.Advance;
   }
 }

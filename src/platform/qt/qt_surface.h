@@ -1,4 +1,5 @@
-// The map window's drawing surface: an image of 32-bit pixels, drawn to the pixel and never smoothed.
+// The map window's drawing surface: an image of 32-bit pixels, drawn to the pixel and never
+// smoothed.
 #pragma once
 
 #include <QImage>

@@ -18,7 +18,8 @@ QString ToQt(std::string_view code_page_text) {
 std::string FromQt(const QString& text) {
   std::string result;
   result.reserve(static_cast<std::size_t>(text.size()));
-  for (char32_t c : text.toUcs4()) result += static_cast<char>(ByteOfCodePoint(c));
+  for (char32_t c : text.toUcs4())
+    result += static_cast<char>(ByteOfCodePoint(c));
   return result;
 }
 

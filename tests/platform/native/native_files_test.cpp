@@ -113,10 +113,12 @@ TEST_F(NativeFilesTest, RenameNeverOverwritesAndMayChangeTheCase) {
 }
 
 TEST_F(NativeFilesTest, ListsAreSortedByFoldedName) {
-  for (const char* name : {"b.TXT", "A.txt", "c.dir", "noext"}) Put(name, "");
+  for (const char* name : {"b.TXT", "A.txt", "c.dir", "noext"})
+    Put(name, "");
   std::filesystem::create_directory(folder.Sub("M0050"));
   std::vector<std::string> names;
-  for (const FolderEntry& entry : files.List("C:\\", "*.*")) names.push_back(entry.Name);
+  for (const FolderEntry& entry : files.List("C:\\", "*.*"))
+    names.push_back(entry.Name);
   EXPECT_EQ(names, (std::vector<std::string>{"A.txt", "b.TXT", "c.dir", "M0050", "noext"}));
   EXPECT_EQ(files.List("C:\\", "*.txt").size(), 2U);
   EXPECT_TRUE(files.List("C:\\", "m*.*").at(0).IsFolder);
@@ -152,7 +154,8 @@ TEST(Wildcards, FollowTheWindowsRules) {
 
 TEST(CodePage, EveryByteSurvives) {
   std::string all;
-  for (int code = 0; code < 256; ++code) all += static_cast<char>(code);
+  for (int code = 0; code < 256; ++code)
+    all += static_cast<char>(code);
   EXPECT_EQ(CodePageFromUtf8(Utf8FromCodePage(all)), all);
   EXPECT_EQ(Utf8FromCodePage("\xFE"), "\xC3\xBE");
   EXPECT_EQ(Utf8FromCodePage("\x96"), "\xE2\x80\x93");

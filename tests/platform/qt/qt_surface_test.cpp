@@ -15,7 +15,7 @@ void NeedApplication() {
   static char name[] = "platform_qt_test";
   static char* argv[] = {name, nullptr};
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  new QGuiApplication(argc, argv);
+  static QGuiApplication application(argc, argv);
 }
 
 const QString kFonts = QStringLiteral(ZEPRIL_SOURCE_DIR "/data/fonts");
