@@ -39,6 +39,8 @@ configure() {
   shift
   log=build/$preset-configure.log
   mkdir -p build
+  # Another checkout of the same sources profits from what was compiled here.
+  export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
   command -v ccache >/dev/null || set -- -DCMAKE_CXX_COMPILER_LAUNCHER= "$@"
   cmake --preset "$preset" "$@" >"$log" 2>&1 </dev/null || {
     cat "$log" >&2
