@@ -46,6 +46,11 @@ class Desktop {
         map_surface_(kFirstMapWidth, kFirstMapHeight, fonts_),
         base_surface_(kFirstMapWidth, kFirstMapHeight, fonts_) {}
 
+  // The program's timers go before the loop does.
+  ~Desktop() { loop_.ForgetTimers(); }
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
   bool LoadFonts() { return fonts_.LoadFonts(ToQt(places_.DataFolder + "/fonts")); }
 
   // The session ends: as if the operator closed the window that is open.
