@@ -2,27 +2,15 @@
 
 #include <QByteArray>
 #include <QFontDatabase>
-#include <QGuiApplication>
 #include <gtest/gtest.h>
 
 namespace zepril {
 namespace {
 
-// Fonts need an application; one serves all tests of this program.
-void NeedApplication() {
-  if (QCoreApplication::instance() != nullptr) return;
-  static int argc = 1;
-  static char name[] = "platform_qt_test";
-  static char* argv[] = {name, nullptr};
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  static QGuiApplication application(argc, argv);
-}
-
 const QString kFonts = QStringLiteral(ZEPRIL_SOURCE_DIR "/data/fonts");
 
 class QtSurfaceTest : public testing::Test {
  protected:
-  QtSurfaceTest() { NeedApplication(); }
   MapFonts fonts_;
 };
 
