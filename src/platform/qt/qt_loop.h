@@ -58,6 +58,7 @@ class QtLoop final : public SystemClock {
   void PumpFor(double seconds, bool user_events);
 
   std::vector<std::unique_ptr<Driven>> driven_;
+  QObject alive_;    // what is put off ends with the loop
   int depth_ = 0;    // steps under way
   int held_ = 0;     // no timer at all
   int pumping_ = 0;  // inside a pumping wait or hand-over
