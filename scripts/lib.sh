@@ -58,10 +58,10 @@ build() {
     fail "building $preset failed"
 }
 
-# built PRESET NAME: the path of a built program.
+# built FOLDER NAME: the path of a program built there.
 built() {
   local found
-  found=$(find "build/$1" -type f -name "$2" -perm -u+x -print -quit)
+  found=$(find "$1" -type f -name "$2" -perm -u+x -print -quit)
   [ -n "$found" ] || fail "$2 was not built"
   printf '%s\n' "$found"
 }
