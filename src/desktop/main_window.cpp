@@ -632,7 +632,8 @@ void MainWindow::Arrange() {
     } else {
       column->setFixedWidth(column == left_column_ ? kLeftWidth : kRightWidth);
       drawer_->removeTab(drawer_->indexOf(column));
-      middle_->insertWidget(place, column);
+      // The other column may be folded still.
+      middle_->insertWidget(std::min(place, middle_->count()), column);
       column->show();
     }
   };
