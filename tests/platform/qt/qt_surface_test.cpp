@@ -2,21 +2,12 @@
 
 #include <QByteArray>
 #include <QFontDatabase>
-#include <QGuiApplication>
 #include <gtest/gtest.h>
+
+#include "tests/platform/qt/application.h"
 
 namespace zepril {
 namespace {
-
-// Fonts need an application; one serves all tests of this program.
-void NeedApplication() {
-  if (QCoreApplication::instance() != nullptr) return;
-  static int argc = 1;
-  static char name[] = "platform_qt_test";
-  static char* argv[] = {name, nullptr};
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  static QGuiApplication application(argc, argv);
-}
 
 const QString kFonts = QStringLiteral(ZEPRIL_SOURCE_DIR "/data/fonts");
 
