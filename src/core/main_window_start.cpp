@@ -6,11 +6,6 @@
 #include "core/title_line.h"
 
 namespace zepril {
-namespace {
-
-constexpr int kHistoryGapDays = 30;
-
-}  // namespace
 
 int TxAllowedOf(std::string_view call) {
   const std::string_view third = Mid(call, 3, 1);
@@ -40,7 +35,7 @@ bool MainWindowStart::Run(const std::string& program_folder, int colour_depth_bi
   actions_.LayOutPanels();
   actions_.ScanMapLibrary();
   // History of the followed station, and where the map looks.
-  actions_.LoadHistory(kHistoryGapDays);
+  actions_.LoadHistory();
   SetView();
   // The rhythm, then the radio link.
   state_.Settings.TickMilliseconds = 6000;

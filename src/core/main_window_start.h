@@ -16,10 +16,10 @@ class StartActions {
   virtual void SetOwnNames() = 0;  // header pattern, passcode, navigation
   virtual void LayOutPanels() = 0;
   virtual void ScanMapLibrary() = 0;
-  virtual void LoadHistory(int gap_days) = 0;  // of the followed station; sets the monitor values
-  virtual void OpenLocalEngine() = 0;          // mode 0, with the digipeater companion
-  virtual void OpenSerialModem() = 0;          // modes 1, 5, 6
-  virtual bool ConnectAgw() = 0;               // mode 3; false: the program ends
+  virtual void LoadHistory() = 0;      // of the followed station; sets the monitor values
+  virtual void OpenLocalEngine() = 0;  // mode 0, with the digipeater companion
+  virtual void OpenSerialModem() = 0;  // modes 1, 5, 6
+  virtual bool ConnectAgw() = 0;       // mode 3; false: the program ends
   virtual void OpenGpsPort() = 0;
   virtual void RestoreTracksPlacesAndChat() = 0;
   virtual void ShowTitleMarkers() = 0;

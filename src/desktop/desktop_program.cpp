@@ -23,6 +23,8 @@ DesktopProgram::DesktopProgram(const ProgramPlaces& places)
 DesktopProgram::~DesktopProgram() {
   loop_.ControlsOut = nullptr;
   loop_.StepEnded = nullptr;
+  // The program's timers go before the loop does.
+  loop_.ForgetTimers();
 }
 
 bool DesktopProgram::LoadFonts() {

@@ -435,7 +435,8 @@ QWidget* MainWindow::MakeDrawer() {
   drawer_->setObjectName(QStringLiteral("Drawer"));
   drawer_->setVisible(false);
   drawer_->setMinimumHeight(kLowestDrawer);
-  raw_page_ = new QWidget;
+  raw_page_ = new QWidget(this);
+  raw_page_->hide();
   auto* box = TightBox(QBoxLayout::TopToBottom, raw_page_);
   box->setContentsMargins(4, 4, 4, 4);
   auto* list = new QListView;
@@ -454,7 +455,6 @@ QWidget* MainWindow::MakeDrawer() {
   search_row->addWidget(search);
   box->addWidget(list, 1);
   box->addLayout(search_row);
-  drawer_->addTab(raw_page_, QStringLiteral("RAW"));
   binder_.Bind(list, &raw_lines_, controls_.Raw.RawList);
   binder_.Bind(text, controls_.Raw.Text14);
   binder_.Bind(search, controls_.Raw.Command38);
@@ -651,14 +651,17 @@ void MainWindow::ShareHeight() {
 
 void MainWindow::ShowDrawer() {
   const bool raw = controls_.Raw.RawList.Visible;
-  const bool folded = drawer_->count() > 1;
-  drawer_->setTabVisible(drawer_->indexOf(raw_page_), raw);
-  drawer_->setVisible(raw || folded);
-  if (raw && !raw_shown_) {
-    drawer_->setCurrentWidget(raw_page_);
-    ShareHeight();
+  if (raw != (drawer_->indexOf(raw_page_) >= 0)) {
+    if (raw) {
+      drawer_->insertTab(0, raw_page_, QStringLiteral("RAW"));
+      drawer_->setCurrentWidget(raw_page_);
+    } else {
+      drawer_->removeTab(drawer_->indexOf(raw_page_));
+    }
   }
-  raw_shown_ = raw;
+  const bool was_open = !drawer_->isHidden();
+  drawer_->setVisible(drawer_->count() > 0);
+  if (!was_open && !drawer_->isHidden()) ShareHeight();
 }
 
 void MainWindow::ControlsOut() {

@@ -98,7 +98,6 @@ class MainWindow final : public QWidget {
   QLabel* banner_ = nullptr;
   QLabel* record_text_ = nullptr;
   bool close_asked_ = false;
-  bool raw_shown_ = false;
 };
 
 }  // namespace zepril

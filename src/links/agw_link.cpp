@@ -61,11 +61,11 @@ bool AgwLink::Registered() const {
 bool AgwLink::ConnectAgw() {
   radio_.AgwPort = AgwPortOf(radio_.BaudMode, radio_.AgwPort);
   BeginConnection();
-  // Until the socket says how it went; the platform ends a silent attempt in an error.
-  while (winsock1_.State() != SocketState::Connected) {
-    if (winsock1_.State() == SocketState::Error) return Fail(kHostNotFound);
+  // Until the socket says how it went; the platform ends a silent attempt in an error. A host that
+  // takes the connection and hangs up at once is none.
+  while (winsock1_.State() == SocketState::Connecting)
     clock_.HandOver();
-  }
+  if (winsock1_.State() != SocketState::Connected) return Fail(kHostNotFound);
   // The call is registered; the engine answers with a byte.
   radio_.AgwFrame.clear();
   winsock1_.Send(RegisterFrame());

@@ -15,10 +15,11 @@ constexpr double kNarrowestTilePx = 9.0;
 constexpr double kLineReachPx = 3000.0;
 constexpr std::size_t kTileNameLength = 12;
 
-// Rest of a pixel coordinate of the zone after whole tiles, by whole-number division.
+// Rest of a pixel coordinate of the zone after whole tiles. The count of tiles comes from a
+// whole-number division and may be one off or more; what is taken away are true sides, so that the
+// boundaries stand on the frames whatever the count.
 double TileOffset(double pixel, double side_px) {
-  return pixel - static_cast<double>(IntegerQuotient(pixel, side_px)) *
-                     static_cast<double>(ToWhole(side_px));
+  return pixel - static_cast<double>(IntegerQuotient(pixel, side_px)) * side_px;
 }
 
 void DrawBoundaries(DrawingSurface& surface, const MapViewState& view, double side_px) {

@@ -55,6 +55,10 @@ bool DistanceAlarm::IsOwnCall(std::string_view call) const {
   return call == own || call == identity_.MyCallFull || call.starts_with(own + "-");
 }
 
+std::array<Control*, 2> DistanceAlarm::Panel() {
+  return {&status_.Frame12, &status_.Label25};
+}
+
 void DistanceAlarm::TestAllStations(const StationRecord& record) {
   if (alarm_.MoniAllAlarmOn != 1 || map_.StationLabelLevel == 0) return;
   if (!ClassIsOn(record.ClassDigit(), map_.StationClassMask)) return;
@@ -63,8 +67,10 @@ void DistanceAlarm::TestAllStations(const StationRecord& record) {
   const double distance_km = PlaneDistanceKm(record, map_);
   if (!(distance_km < alarm_.AlarmDistanceKm)) return;
   Show("MONI ALL  <", record, distance_km);
-  status_.Label25.BackColour.reset();
-  status_.Label25.ForeColour.reset();
+  for (Control* part : Panel()) {
+    part->BackColour.reset();
+    part->ForeColour.reset();
+  }
   window_.MaximiseWanted = true;
 }
 
@@ -73,8 +79,10 @@ void DistanceAlarm::TestFollowed(const StationRecord& record) {
   const double distance_km = PlaneDistanceKm(record, map_);
   if (!(distance_km < alarm_.AlarmDistanceKm)) return;
   Show("MONI 1  <", record, distance_km);
-  status_.Label25.BackColour = kAlarmYellow;
-  status_.Label25.ForeColour = kAlarmBlack;
+  for (Control* part : Panel()) {
+    part->BackColour = kAlarmYellow;
+    part->ForeColour = kAlarmBlack;
+  }
 }
 
 void DistanceAlarm::Show(std::string_view opening, const StationRecord& record,

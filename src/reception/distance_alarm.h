@@ -1,6 +1,7 @@
 // The distance alarm: a station has come nearer to the operator than a set distance.
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -34,6 +35,7 @@ class DistanceAlarm {
 
  private:
   bool IsOwnCall(std::string_view call) const;
+  std::array<Control*, 2> Panel();
   void Show(std::string_view opening, const StationRecord& record, double distance_km);
 
   const AlarmState& alarm_;

@@ -107,9 +107,9 @@ void FollowedHistory::RefreshMonitorValues() {
   if (followed_.MonitorTime == "    ") followed_.MonitorTime.clear();
 }
 
-FollowedHistory::LoadedHistory FollowedHistory::Read() const {
+FollowedHistory::LoadedHistory FollowedHistory::Read() {
   LoadedHistory loaded;
-  files_.ReadLines(followed_.Moni1LogPath, [&loaded](std::string_view line) {
+  const bool opened = files_.ReadLines(followed_.Moni1LogPath, [&loaded](std::string_view line) {
     if (static_cast<int>(loaded.Records.size()) >= kMostHistoryLines) {
       loaded.LinesLeftOut = true;
       return false;
@@ -121,12 +121,15 @@ FollowedHistory::LoadedHistory FollowedHistory::Read() const {
     loaded.Records.emplace_back(line);
     return true;
   });
+  unread_ = !opened && files_.Exists(followed_.Moni1LogPath);
   return loaded;
 }
 
-// A station without a name has no file; its history is empty and valid.
+// A station without a name has no file; its history is empty and valid. A file that is there but
+// could not be read is never written over.
 bool FollowedHistory::WriteFile() const {
   if (Trim(followed_.Moni1Call).empty()) return true;
+  if (unread_) return false;
   return files_.Replace(followed_.Moni1LogPath, HistoryText(stores_.Moni1Records.All()));
 }
 
@@ -145,8 +148,10 @@ void FollowedHistory::LoadAtStart() {
     LoadedHistory loaded = Read();
     const bool cut = CutAtGap(loaded.Records, kMostGapDays);
     stores_.Moni1Records.Assign(std::move(loaded.Records));
-    // What is dropped stays in a copy; without one the file is left alone.
-    if (cut && KeepCopy() && WriteFile()) stores_.Moni1Records.Assign(Read().Records);
+    // What is dropped, now or with the next position, stays in a copy; without one the file is
+    // left alone.
+    const bool kept = (cut || loaded.LinesLeftOut) && KeepCopy();
+    if (cut && kept && WriteFile()) stores_.Moni1Records.Assign(Read().Records);
   }
   RefreshMonitorValues();
 }
@@ -154,6 +159,7 @@ void FollowedHistory::LoadAtStart() {
 void FollowedHistory::ChangeStation(const std::string& call) {
   followed_.Moni1Call = call;
   followed_.Moni1LogPath = HistoryPath(identity_, call);
+  unread_ = false;
   stores_.Moni1Records.Clear();
   if (!Trim(call).empty()) {
     if (!files_.Exists(followed_.Moni1LogPath)) files_.Append(followed_.Moni1LogPath, "");
@@ -191,7 +197,9 @@ bool FollowedHistory::IsEmptyInternetRecord(const StationRecord& record) const {
 bool FollowedHistory::WriteAndReadBack() {
   if (!WriteFile()) return false;
   if (Trim(followed_.Moni1Call).empty()) return true;
-  stores_.Moni1Records.Assign(Read().Records);
+  LoadedHistory back = Read();
+  if (unread_) return false;
+  stores_.Moni1Records.Assign(std::move(back.Records));
   RefreshMonitorValues();
   return true;
 }

@@ -38,7 +38,8 @@ class FollowedHistory {
   bool Enter(const StationRecord& record);
 
   // At the start of the program: path and history of `Moni1Call`. What lies before a gap of more
-  // than 30 days goes, after the file as it was has been kept beside it under the ending ".BAK".
+  // than 30 days goes, after the file as it was has been kept beside it under the ending ".BAK"; so
+  // is a file with lines that are no records.
   void LoadAtStart();
 
   // The operator follows another station: its history is loaded and completed from the list of all
@@ -57,7 +58,7 @@ class FollowedHistory {
     bool LinesLeftOut = false;
   };
 
-  LoadedHistory Read() const;
+  LoadedHistory Read();
   bool WriteFile() const;
   bool KeepCopy() const;
   void Thin();
@@ -76,6 +77,7 @@ class FollowedHistory {
   DistanceAlarm& alarm_;
   Files& files_;
   SettingsActions& settings_;
+  bool unread_ = false;  // the file is there and can't be read
 };
 
 // The lines of a history file: right-trimmed records with CR LF.

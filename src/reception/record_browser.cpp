@@ -75,6 +75,12 @@ void RecordBrowser::Close() {
   map_controls_.Command12.Caption = "MAP";
 }
 
+void RecordBrowser::FollowedStationChanged() {
+  if (!panel_.Frame1.Visible) return;
+  const std::string call = stores_.SelectedStationCall;
+  if (!OpenNewest(call)) Close();
+}
+
 void RecordBrowser::MoveToNewest(std::string_view call) {
   if (call.empty() || !EqualFolded(call, Trim(stores_.SelectedStationCall))) return;
   stores_.SelectedRecordIndex = SelectedStore().Count();

@@ -33,6 +33,10 @@ class RecordBrowser {
   // A record of `call` has been stored: when it is the selected station, the panel moves to it.
   void MoveToNewest(std::string_view call);
 
+  // Another station is followed now: an open panel goes to the newest record of its station in the
+  // list that holds it from here on, and its buttons with it; without one it closes.
+  void FollowedStationChanged();
+
   void Command18Click();  // "<" or "<X"
   void Command19Click();  // ">" or "X>"
 

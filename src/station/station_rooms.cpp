@@ -121,7 +121,7 @@ void StationRooms::ScanMapLibrary() {
   library_.MapLibraryScan();
 }
 
-void StationRooms::LoadHistory(int /*gap_days*/) {
+void StationRooms::LoadHistory() {
   history_.LoadAtStart();
   ListFollowedCalls();
   Controls.Moni1.Combo9.Text = State.Followed.Moni1Call;
@@ -208,6 +208,11 @@ void StationRooms::ReplaceConfigLine(const std::string& key, const std::string& 
                             value);
 }
 
+// Reception has stopped `Timer1`; the redraw starts it again and shows the station.
+void StationRooms::ShowEmergency() {
+  MapRedraw();
+}
+
 void StationRooms::EndProgram() {
   EndWanted = true;
 }
@@ -279,6 +284,7 @@ void StationRooms::FollowStation(const std::string& call) {
   history_.ChangeStation(call);
   ListFollowedCalls();
   Controls.Moni1.Combo9.Text = State.Followed.Moni1Call;
+  browser_.FollowedStationChanged();
   MapRedraw();
 }
 

@@ -84,7 +84,7 @@ class StationRooms final : public TickActions,
   void SetOwnNames() override;
   void LayOutPanels() override {}
   void ScanMapLibrary() override;
-  void LoadHistory(int gap_days) override;
+  void LoadHistory() override;
   void OpenLocalEngine() override;
   void OpenSerialModem() override {}
   bool ConnectAgw() override;
@@ -113,7 +113,7 @@ class StationRooms final : public TickActions,
   void MapRefresh() override;
   void WriteConfigFromMainWindow() override;
   void ReplaceConfigLine(const std::string& key, const std::string& value) override;
-  void ShowEmergency() override {}
+  void ShowEmergency() override;
   void GateMonitorBlock(std::string_view) override {}
   void MessageReceived(std::string_view, std::string_view, std::string_view) override {}
   void EndProgram() override;

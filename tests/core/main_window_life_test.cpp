@@ -23,8 +23,8 @@ class StartRecorder final : public StartActions {
   void SetOwnNames() override { Done.push_back("names"); }
   void LayOutPanels() override { Done.push_back("panels"); }
   void ScanMapLibrary() override { Done.push_back("maps"); }
-  void LoadHistory(int gap_days) override {
-    Done.push_back("history " + std::to_string(gap_days));
+  void LoadHistory() override {
+    Done.push_back("history");
     if (OnLoadHistory) OnLoadHistory();
   }
   void OpenLocalEngine() override { Done.push_back("local engine"); }
@@ -70,7 +70,7 @@ class StartTest : public ::testing::Test {
 
 TEST_F(StartTest, RunsItsStepsInOrder) {
   EXPECT_TRUE(Start());
-  EXPECT_EQ(recorder.Done, (Names{"config", "names", "panels", "maps", "history 30", "agw", "gps",
+  EXPECT_EQ(recorder.Done, (Names{"config", "names", "panels", "maps", "history", "agw", "gps",
                                   "restore", "title", "iono", "labels", "draw", "terminal"}));
   EXPECT_TRUE(timer1.Enabled());
   EXPECT_EQ(timer1.IntervalMs(), 6000);

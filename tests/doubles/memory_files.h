@@ -15,6 +15,7 @@ namespace zepril {
 class MemoryFiles final : public Files {
  public:
   std::optional<std::string> ReadAll(const std::string& path, std::size_t limit) const override {
+    if (Unreadable(path)) return std::nullopt;
     const auto found = Contents.find(path);
     if (found == Contents.end() || found->second.size() > limit) return std::nullopt;
     return found->second;
@@ -25,7 +26,7 @@ class MemoryFiles final : public Files {
   }
   bool ReadLines(const std::string& path, const LineReader& line) const override {
     const auto found = Contents.find(path);
-    if (found == Contents.end()) return false;
+    if (found == Contents.end() || Unreadable(path)) return false;
     // Lines end with CR LF, LF or CR, as in real files.
     std::string_view rest = found->second;
     while (!rest.empty()) {
@@ -70,9 +71,13 @@ class MemoryFiles final : public Files {
   }
 
   std::map<std::string, std::string> Contents;
-  std::string RefusedEnding;  // files whose path ends so can't be written
+  std::string RefusedEnding;     // files whose path ends so can't be written
+  std::string UnreadableEnding;  // nor can these be read
 
  private:
+  bool Unreadable(const std::string& path) const {
+    return !UnreadableEnding.empty() && path.ends_with(UnreadableEnding);
+  }
   bool Refused(const std::string& path) const {
     return !RefusedEnding.empty() && path.ends_with(RefusedEnding);
   }

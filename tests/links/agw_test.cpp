@@ -181,6 +181,15 @@ TEST_F(AgwLinkTest, ARefusedConnectionSaysSoAndEndsTheProgram) {
   EXPECT_EQ(socket.State(), SocketState::Closed);
 }
 
+TEST_F(AgwLinkTest, AHostThatHangsUpAtOnceDoesNotHoldTheStart) {
+  socket.OnConnect = [this] {
+    clock.Schedule(0.01, [this] { socket.SetState(SocketState::PeerClosed); });
+  };
+  dialogs.Expect("ZEP RIL  TCP/IP AGWPE", "TCP/IP AGWPE HOST NOT FOUND !");
+  EXPECT_FALSE(link.ConnectAgw());
+  EXPECT_TRUE(program.Ended);
+}
+
 TEST_F(AgwLinkTest, ASilentEngineIsGivenTenSeconds) {
   socket.OnConnect = [this] { socket.SetState(SocketState::Connected); };
   dialogs.Expect("ZEP RIL  TCP/IP AGWPE", "TCP/IP AGWPE NOT FOUND !");

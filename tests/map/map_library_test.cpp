@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "map/map_view.h"
 #include "map/scales.h"
 #include "map/tile_coverage.h"
@@ -237,6 +239,32 @@ TEST(TileFrames, LinesReachAcrossTheWholeWindow) {
     right_half += line.X1 == line.X2 && line.X1 > 400 && line.X1 < 800;
   }
   EXPECT_EQ(right_half, 2);
+}
+
+TEST(TileFrames, BoundariesStandOnTheFramesWhenATileIsNoWholeNumberOfPixels) {
+  MapWorld world;
+  world.View().MapTileKm = 200.0;
+  world.View().ZoomFactor = 8.0;
+  world.View().CentreEastKm = 2425.0;
+  world.View().CentreNorthKm = 7825.0;
+  ComputeViewEdges(world.View());
+  world.Controls.Scales.FrameBox[kRow50].Value = 1;  // 50 km are 31.25 pixels
+  TileFrames(world.Surface, world.View(), world.Room.Library, world.Controls.Scales);
+  const auto off_grid_px = [](double km, double pixels_per_km) {
+    return std::fabs(std::remainder(km, 50.0)) * pixels_per_km;
+  };
+  int upright = 0;
+  for (const auto& line : world.Surface.Of("line")) {
+    const MapViewState& view = world.View();
+    const bool is_upright = line.X1 == line.X2;
+    const int pixel = is_upright ? line.X1 : line.Y1;
+    if (pixel < 0 || pixel > 600) continue;
+    upright += is_upright ? 1 : 0;
+    const double km = is_upright ? view.ViewWestKm + pixel / view.PixelsPerKm
+                                 : view.ViewNorthKm - pixel / view.PixelsPerKm;
+    EXPECT_LE(off_grid_px(km, view.PixelsPerKm), 0.51) << pixel;
+  }
+  EXPECT_GE(upright, 19);
 }
 
 TEST(TileFrames, NarrowTilesGetNoBoundaries) {

@@ -79,6 +79,17 @@ TEST_F(DistanceAlarmTest, FollowedStationAlarmsInBlackOnYellow) {
   EXPECT_EQ(station.Controls.Status.Frame12.Caption, "MONI 1  < 10 km  ALARM   2024-01-15 12:34");
   EXPECT_EQ(station.Controls.Status.Label25.BackColour, 0x00FFFFu);
   EXPECT_EQ(station.Controls.Status.Label25.ForeColour, 0u);
+  EXPECT_EQ(station.Controls.Status.Frame12.BackColour, 0x00FFFFu);
+  EXPECT_EQ(station.Controls.Status.Frame12.ForeColour, 0u);
+}
+
+TEST_F(DistanceAlarmTest, AlarmOfAllStationsGoesBackToTheColoursOfThePanel) {
+  station.Distance.TestFollowed(North(" 5821.060"));
+  EXPECT_TRUE(Alarms(North(" 5821.060")));
+  EXPECT_FALSE(station.Controls.Status.Frame12.BackColour.has_value());
+  EXPECT_FALSE(station.Controls.Status.Frame12.ForeColour.has_value());
+  EXPECT_FALSE(station.Controls.Status.Label25.BackColour.has_value());
+  EXPECT_FALSE(station.Controls.Status.Label25.ForeColour.has_value());
 }
 
 }  // namespace

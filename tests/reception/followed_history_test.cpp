@@ -180,6 +180,32 @@ TEST(FollowedHistory, FileStaysWhenItsCopyCannotBeKept) {
   EXPECT_EQ(station.Stores.Moni1Records.Count(), 1);
 }
 
+TEST(FollowedHistory, FileThatCannotBeReadIsNotWrittenOver) {
+  Reception station;
+  const std::string old = LineOf(Position(1, "240101 1200"));
+  station.Disk.Contents[kPath] = old;
+  station.Disk.UnreadableEnding = "QX7KB.TXT";
+  station.History.LoadAtStart();
+  EXPECT_FALSE(station.History.Enter(Position(2)));
+  EXPECT_EQ(station.Disk.Of(kPath), old);
+  station.History.ChangeStation("QX7KB");
+  EXPECT_FALSE(station.History.Enter(Position(2)));
+  EXPECT_EQ(station.Disk.Of(kPath), old);
+  // Another station's file is not concerned.
+  station.History.ChangeStation("N0NEW");
+  EXPECT_TRUE(station.History.Enter(RecordOf("N0NEW")));
+}
+
+TEST(FollowedHistory, LinesThatAreNoRecordsStayInACopy) {
+  Reception station;
+  const std::string old = "my own note\r\n" + LineOf(Position(1, "240101 1200"));
+  station.Disk.Contents[kPath] = old;
+  station.History.LoadAtStart();
+  EXPECT_TRUE(station.History.Enter(Position(2)));
+  EXPECT_EQ(station.Disk.LineCount(kPath), 2);
+  EXPECT_EQ(station.Disk.Of(kPath + ".BAK"), old);
+}
+
 TEST(FollowedHistory, ChangeOfStationTakesWhatWasHeardSince) {
   Reception station;
   const std::string path = R"(C:\ZEPRIL\U33\LOG\N0NEW.TXT)";

@@ -29,6 +29,20 @@ TEST(StationProgram, AFrameBecomesAStationInTheTickThatReceivesIt) {
             "N0CALL>WIDE1-1*>APRS <UI>:\r\n=5230.00N/01324.00E>Test\r\n");
 }
 
+TEST(StationProgram, AnEmergencyReportLetsTheCycleGoOn) {
+  StationHarness station;
+  station.Start();
+  station.Hear("QX2CD", "!5230.00N\\01324.00E!Help");
+  station.map_surface.Operations.clear();
+  station.Ticks(1);
+  EXPECT_EQ(station.State().Alarms.AlarmCall, "QX2CD");
+  EXPECT_TRUE(station.program->Timer1().Enabled());
+  EXPECT_TRUE(station.DrewText("QX2CD"));
+  station.Hear("QX3EF", kBerlin);
+  station.Ticks(2);
+  EXPECT_EQ(station.State().Stores.MoniAllRecords.Count(), 2);
+}
+
 TEST(StationProgram, OneFrameATickWhenLittleIsLeft) {
   StationHarness station;
   station.Start();
@@ -197,8 +211,63 @@ TEST(StationProgram, AStationIsPickedFromTheListAndFollowed) {
   EXPECT_NE(controls.Record.Label20.Caption.find("QX2CD"), std::string::npos);
   controls.Record.Command11.Click();
   EXPECT_EQ(station.State().Followed.Moni1Call, "QX2CD");
+  controls.Map.Command12.Click();
+  EXPECT_EQ(station.State().Map.MapLockedOnRecord, 1);
+  EXPECT_EQ(controls.Map.Command12.Caption, "MAP L");
   controls.Record.Command23.Click();
   EXPECT_FALSE(controls.Record.Frame1.Visible);
+  EXPECT_EQ(station.State().Map.MapLockedOnRecord, 0);
+  EXPECT_EQ(controls.Map.Command12.Caption, "MAP");
+}
+
+TEST(StationProgram, ANewWindowShowsMarksAndCallsOfAllClasses) {
+  StationHarness station;
+  station.Start();
+  EXPECT_EQ(station.State().Map.StationLabelLevel, 2);
+  EXPECT_EQ(station.Controls().MoniAll.Label16.Caption, "2");
+  EXPECT_EQ(station.State().Map.StationClassMask, 31);
+  EXPECT_EQ(station.Controls().MoniAll.Check13.Value, 1);
+  EXPECT_EQ(station.Controls().MoniAll.Check25.Value, 1);
+  EXPECT_EQ(station.Controls().Window.Title, "ZEP RIL  V 8.08  QX7KB");
+}
+
+TEST(StationProgram, TheTitleTellsOfASwitchedOnGate) {
+  StationHarness station("IGATE=1\r\n");
+  station.State().Internet.AprsIsPasscode = "22513";
+  station.Start();
+  EXPECT_EQ(station.State().Settings.TitleText.substr(75, 15), "IGate          ");
+  // Not connected: the first tick leaves the word and blanks the rest.
+  station.Ticks(1);
+  EXPECT_EQ(station.State().Settings.TitleText.substr(75, 15), "IGate          ");
+}
+
+TEST(StationProgram, TheOpenRecordPanelGoesWithTheChangeOfTheFollowedStation) {
+  StationHarness station;
+  station.Start();
+  for (const char* minute : {"30", "31", "32"}) {
+    station.Hear("QX1AB-9", std::string("=52") + minute + ".00N/01324.00E>drive");
+    station.Ticks(1);
+  }
+  station.Hear("QX2CD", "=5240.00N/01324.00E>a");
+  station.Ticks(1);
+  MainWindowControls& controls = station.Controls();
+  controls.MoniAll.Command3.Click();
+  controls.MoniAll.HeardList.ListIndex = 0;
+  controls.MoniAll.HeardList.Click();
+  EXPECT_EQ(controls.Record.Command18.Caption, "<");
+  // Followed now: the buttons cut its own history, and say so.
+  controls.Record.Command11.Click();
+  EXPECT_EQ(controls.Record.Command18.Caption, "<X");
+  EXPECT_EQ(controls.Record.Label19.Caption, "DELETE");
+  EXPECT_EQ(station.State().Stores.SelectedRecordIndex, 1);
+  // No longer followed: they step through all stations again and ask nothing.
+  controls.Moni1.Combo9.Text = "QX1AB-9";
+  controls.Moni1.Combo9.KeyDown({13, 0});
+  EXPECT_EQ(station.State().Stores.Moni1Records.Count(), 3);
+  EXPECT_EQ(controls.Record.Command18.Caption, "<");
+  EXPECT_EQ(station.State().Stores.SelectedRecordIndex, 4);
+  controls.Record.Command18.Click();
+  EXPECT_EQ(station.State().Stores.Moni1Records.Count(), 3);
 }
 
 TEST(StationProgram, RightPressOnAStationOpensItsRecord) {

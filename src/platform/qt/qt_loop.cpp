@@ -15,9 +15,11 @@ constexpr double kHandOverSeconds = 0.002;
 
 QtLoop::QtLoop() = default;
 
-QtLoop::~QtLoop() {
-  for (const auto& driven : driven_)
-    driven->Subject->Changed = nullptr;
+QtLoop::~QtLoop() { ForgetTimers(); }
+
+void QtLoop::ForgetTimers() {
+  for (const auto& driven : driven_) driven->Subject->Changed = nullptr;
+  driven_.clear();
 }
 
 void QtLoop::Drive(Timer& timer, bool pumped) {

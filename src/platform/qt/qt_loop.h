@@ -28,8 +28,10 @@ class QtLoop final : public SystemClock {
   void WaitPumping(double seconds) override;
   void HandOver() override;
 
-  // Drives `timer` from now on; a pumped one also fires in pumping waits and hand-overs.
+  // Drives `timer` from now on; a pumped one also fires in pumping waits and hand-overs. The timer
+  // must outlive the loop or be forgotten before it goes.
   void Drive(Timer& timer, bool pumped);
+  void ForgetTimers();
 
   // Runs a step of the program: an event, a timer. Afterwards the controls go out.
   void RunStep(const std::function<void()>& step);

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "platform/qt/qt_socket.h"
-#include "tests/platform/qt/application.h"
+#include "tests/platform/qt/application_support.h"
 
 namespace zepril {
 namespace {
@@ -28,7 +28,6 @@ class PointerWindow final : public QWindow {
 class QtLoopTest : public ::testing::Test {
  protected:
   QtLoopTest() {
-    NeedApplication();
     Timer1.Elapsed = [this] { ++ticks; };
     Timer2.Elapsed = [this] { ++pumped; };
     loop = std::make_unique<QtLoop>();

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "tests/platform/qt/application.h"
+#include "tests/platform/qt/application_support.h"
 
 namespace zepril {
 namespace {
@@ -15,7 +15,6 @@ namespace {
 class QtSocketTest : public ::testing::Test {
  protected:
   QtSocketTest() {
-    NeedApplication();
     EXPECT_TRUE(server.listen(QHostAddress::LocalHost));
     socket = std::make_unique<QtSocket>();
     socket->DataArrived = [this](std::string_view bytes) { got += bytes; };

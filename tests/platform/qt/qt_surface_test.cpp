@@ -4,8 +4,6 @@
 #include <QFontDatabase>
 #include <gtest/gtest.h>
 
-#include "tests/platform/qt/application.h"
-
 namespace zepril {
 namespace {
 
@@ -13,7 +11,6 @@ const QString kFonts = QStringLiteral(ZEPRIL_SOURCE_DIR "/data/fonts");
 
 class QtSurfaceTest : public testing::Test {
  protected:
-  QtSurfaceTest() { NeedApplication(); }
   MapFonts fonts_;
 };
 
