@@ -1,5 +1,6 @@
 #include "platform/qt/qt_loop.h"
 
+#include <QCoreApplication>
 #include <QCursor>
 #include <QTcpServer>
 #include <QWindow>

@@ -1,5 +1,6 @@
 #include "platform/qt/qt_socket.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 #include <QTcpServer>
 #include <gtest/gtest.h>
