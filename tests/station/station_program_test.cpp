@@ -145,11 +145,11 @@ TEST(StationProgram, EnterInTheCallFieldFollowsAnotherStation) {
   station.Ticks(1);
   station.Controls().Moni1.Combo9.Text = "qx2cd";
   station.Controls().Moni1.Combo9.KeyDown({13, 0});
-  EXPECT_EQ(station.State().Followed.Moni1Call, "QX2CD");
+  EXPECT_EQ(station.State().Followed.Moni1Call, "qx2cd");
   EXPECT_EQ(station.State().Stores.Moni1Records.Count(), 1);
   EXPECT_EQ(station.State().Followed.MonitorInfo, "hello");
   const std::string ini = station.File("ZEPRIL.INI");
-  EXPECT_NE(ini.find("CALL=QX2CD\r\n"), std::string::npos);
+  EXPECT_NE(ini.find("CALL=qx2cd\r\n"), std::string::npos);
   EXPECT_NE(ini.find("FOO=1\r\n"), std::string::npos);
   EXPECT_TRUE(station.program->Timer1().Enabled());
   EXPECT_EQ(station.File("U33\\LOG\\QX2CD.TXT").substr(0, 12), "240115 1234 ");
