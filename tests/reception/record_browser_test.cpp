@@ -49,6 +49,15 @@ TEST_F(RecordBrowserTest, OpensWithTheCaptionsOfItsStation) {
   EXPECT_FALSE(station.Browser.OpenNewest("N0BODY"));
 }
 
+TEST_F(RecordBrowserTest, PanelOfAStationWithoutRecordsShowsNoneOfAnother) {
+  station.Stores.MoniAllRecords.Append(RecordOf("N0CALL"));
+  station.Browser.Open("N0CALL", 1, 0.0, 0.0);
+  EXPECT_FALSE(station.Controls.Record.Label20.Caption.empty());
+  station.Stores.Moni1Records.Clear();
+  station.Browser.Open("QX7KB", 0, 0.0, 0.0);
+  EXPECT_EQ(station.Controls.Record.Label20.Caption, "");
+}
+
 TEST_F(RecordBrowserTest, AmpersandIsDoubledForTheCaption) {
   station.Stores.MoniAllRecords.Append(
       RecordOf("N0CALL", "240115 1234", Place(1), "  391.394", "", "you & me"));
