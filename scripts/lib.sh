@@ -39,6 +39,8 @@ configure() {
   shift
   log=build/$preset-configure.log
   mkdir -p build
+  # Another checkout of the same sources profits from what was compiled here.
+  export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
   command -v ccache >/dev/null || set -- -DCMAKE_CXX_COMPILER_LAUNCHER= "$@"
   cmake --preset "$preset" "$@" >"$log" 2>&1 </dev/null || {
     cat "$log" >&2
@@ -56,10 +58,10 @@ build() {
     fail "building $preset failed"
 }
 
-# built PRESET NAME: the path of a built program.
+# built FOLDER NAME: the path of a program built there.
 built() {
   local found
-  found=$(find "build/$1" -type f -name "$2" -perm -u+x -print -quit)
+  found=$(find "$1" -type f -name "$2" -perm -u+x -print -quit)
   [ -n "$found" ] || fail "$2 was not built"
   printf '%s\n' "$found"
 }

@@ -35,13 +35,11 @@ void ShowColours(QWidget* widget, const Control& control, const Look& look) {
     return;
   }
   QString sheet;
-  if (control.BackColour) {
-    const QColor back = StateShade(*control.BackColour, look);
-    sheet += QStringLiteral("background: %1; color: %2;").arg(back.name(), TextOn(back).name());
-  }
-  if (control.ForeColour) {
-    sheet += QStringLiteral("color: %1;").arg(PlainColour(*control.ForeColour).name());
-  }
+  const QColor back = control.BackColour ? StateShade(*control.BackColour, look) : look.Window;
+  const QColor usual = control.BackColour ? TextOn(back) : look.Text;
+  if (control.BackColour) sheet += QStringLiteral("background: %1;").arg(back.name());
+  const QColor ink = control.ForeColour ? InkOn(*control.ForeColour, back, usual) : usual;
+  sheet += QStringLiteral("color: %1;").arg(ink.name());
   widget->setStyleSheet(sheet);
 }
 
@@ -179,37 +177,53 @@ void Binder::Bind(QLineEdit* widget, TextBox& control) {
 
 void Binder::Bind(QComboBox* widget, ComboBox& control) {
   BindCommon(widget, control);
-  connect(widget, &QComboBox::activated, this, [this, &control](int index) {
+  connect(widget, &QComboBox::activated, this, [this, widget, &control](int index) {
+    // A field that is left with the name of an entry in it was typed, not chosen.
+    const bool typed = widget->property("typed").toBool();
+    if (typed && control.Text == FromQt(widget->itemText(index))) return;
+    widget->setProperty("typed", false);
     control.Select(index);
     if (control.Change) Raise(control.Change);
     if (control.Click) Raise(control.Click);
   });
-  if (widget->isEditable()) {
-    connect(widget, &QComboBox::editTextChanged, this, [this, widget, &control] {
-      control.Text = FromQt(widget->currentText());
-      Raise(control.Change);
-    });
-    BindKeys(widget, [&control](KeyPress key) {
-      if (control.KeyDown) control.KeyDown(key);
-    });
-    watched_.push_back({widget->lineEdit(), &control, watched_.back().KeyDown, false});
-    widget->lineEdit()->installEventFilter(this);
-  }
+  if (widget->isEditable()) BindTyping(widget, control);
   outs_.push_back([widget, &control, items = std::vector<std::string>()]() mutable {
     const QSignalBlocker quiet(widget);
+    // A new list leaves the typing where it is.
+    const int caret = widget->isEditable() ? widget->lineEdit()->cursorPosition() : 0;
     if (items != control.Items) {
       items = control.Items;
       widget->clear();
       for (const std::string& item : items)
         widget->addItem(ToQt(item));
     }
-    if (widget->isEditable()) {
-      const QString text = ToQt(control.Text);
-      if (widget->currentText() != text) widget->setEditText(text);
-    } else if (widget->currentIndex() != control.ListIndex) {
-      widget->setCurrentIndex(control.ListIndex);
+    if (widget->currentIndex() != control.ListIndex) widget->setCurrentIndex(control.ListIndex);
+    if (!widget->isEditable()) return;
+    const QString text = ToQt(control.Text);
+    if (widget->currentText() != text) {
+      widget->setEditText(text);
+      widget->lineEdit()->setCursorPosition(control.HasFocus ? caret : 0);
     }
   });
+}
+
+void Binder::BindTyping(QComboBox* widget, ComboBox& control) {
+  // What is typed counts as it is: neither completed nor added to the list.
+  widget->setCompleter(nullptr);
+  widget->setInsertPolicy(QComboBox::NoInsert);
+  connect(widget->lineEdit(), &QLineEdit::textEdited, this,
+          [this, widget, &control](const QString& text) {
+            widget->setProperty("typed", true);
+            control.Text = FromQt(text);
+            Raise(control.Change);
+          });
+  // Keys come to the field first and from there to the list around it: they count once.
+  watched_.push_back({widget->lineEdit(), &control,
+                      [&control](KeyPress key) {
+                        if (control.KeyDown) control.KeyDown(key);
+                      },
+                      false});
+  widget->lineEdit()->installEventFilter(this);
 }
 
 void Binder::Bind(QListView* widget, QStringListModel* model, ListBox& control) {
@@ -286,11 +300,25 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
         Raise(control.Click);
         return true;
       case QEvent::KeyPress: {
+        const auto& pressed = *static_cast<QKeyEvent*>(event);
+        if (control.RightClick && IsRightClickKey(pressed)) {
+          Raise(control.RightClick);
+          return true;
+        }
+        if (row.PressIsClick && control.Click && IsClickKey(pressed)) {
+          Raise(control.Click);
+          return true;
+        }
         if (!row.KeyDown) break;
-        const KeyPress key = KeyPressOf(*static_cast<QKeyEvent*>(event));
+        const KeyPress key = KeyPressOf(pressed);
         loop_.RunStep([&] { row.KeyDown(key); });
         break;
       }
+      case QEvent::Wheel:
+        // A list under a scrolling hand keeps its choice.
+        if (qobject_cast<QComboBox*>(watched) == nullptr || control.HasFocus) break;
+        event->ignore();
+        return true;
       default:
         break;
     }

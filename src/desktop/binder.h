@@ -54,6 +54,7 @@ class Binder final : public QObject {
   };
 
   void BindCommon(QWidget* widget, Control& control, bool press_is_click = false);
+  void BindTyping(QComboBox* widget, ComboBox& control);
   void BindKeys(QWidget* widget, std::function<void(KeyPress)> key_down);
   void Raise(const Event& event);
 

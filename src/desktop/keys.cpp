@@ -1,6 +1,8 @@
 #include "desktop/keys.h"
 
+#include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
 
 namespace zepril {
 
@@ -33,6 +35,21 @@ KeyPress KeyPressOf(const QKeyEvent& event) {
   if (event.modifiers().testFlag(Qt::ControlModifier)) key.Shift += 2;
   if (event.modifiers().testFlag(Qt::AltModifier)) key.Shift += 4;
   return key;
+}
+
+bool IsClickKey(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter ||
+         event.key() == Qt::Key_Space;
+}
+
+bool IsTypedIn(const QWidget* widget) {
+  if (qobject_cast<const QLineEdit*>(widget) != nullptr) return true;
+  const auto* list = qobject_cast<const QComboBox*>(widget);
+  return list != nullptr && list->isEditable();
+}
+
+bool IsRightClickKey(const QKeyEvent& event) {
+  return event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier;
 }
 
 }  // namespace zepril

@@ -21,7 +21,7 @@ const Look& NightLook() {
   static const Look look{QColor(0x20, 0x26, 0x2B), QColor(0x2A, 0x31, 0x38),
                          QColor(0x17, 0x1C, 0x20), QColor(0x3A, 0x43, 0x4B),
                          QColor(0xE6, 0xE9, 0xEB), QColor(0x9A, 0xA4, 0xAB),
-                         QColor(0x3D, 0x6F, 0x94)};
+                         QColor(0x38, 0x69, 0x8D)};
   return look;
 }
 
@@ -103,11 +103,21 @@ QColor StateShade(std::uint32_t state_colour, const Look& look) {
   return QColor::fromHsl(plain.hslHue(), std::min(plain.hslSaturation(), 150), night ? 70 : 195);
 }
 
+double ContrastOf(const QColor& one, const QColor& other) {
+  const double first = Luminance(one) + 0.05;
+  const double second = Luminance(other) + 0.05;
+  return std::max(first, second) / std::min(first, second);
+}
+
+QColor InkOn(std::uint32_t state_colour, const QColor& ground, const QColor& otherwise) {
+  const QColor plain = PlainColour(state_colour);
+  return ContrastOf(plain, ground) >= kReadable ? plain : otherwise;
+}
+
 QColor TextOn(const QColor& back) {
-  const double luminance = Luminance(back);
-  const double with_white = 1.05 / (luminance + 0.05);
-  const double with_black = (luminance + 0.05) / 0.05;
-  return with_white >= with_black ? QColor(Qt::white) : QColor(Qt::black);
+  const QColor white(Qt::white);
+  const QColor black(Qt::black);
+  return ContrastOf(white, back) >= ContrastOf(black, back) ? white : black;
 }
 
 }  // namespace zepril

@@ -31,6 +31,11 @@ QString StyleSheetOf(const Look& look);
 QColor StateShade(std::uint32_t state_colour, const Look& look);
 // The colour itself, for fill bars and inks.
 QColor PlainColour(std::uint32_t state_colour);
+// Contrast of two colours, 1 to 21; text wants kReadable on its ground.
+double ContrastOf(const QColor& one, const QColor& other);
+inline constexpr double kReadable = 4.5;
+// The colour of a text where that is readable on `ground`, `otherwise` where it is not.
+QColor InkOn(std::uint32_t state_colour, const QColor& ground, const QColor& otherwise);
 // Black or white, whichever reads better on `back`.
 QColor TextOn(const QColor& back);
 

@@ -21,6 +21,7 @@
 #include "desktop/class_button.h"
 #include "desktop/fill_bar_widget.h"
 #include "desktop/icons.h"
+#include "desktop/keys.h"
 #include "desktop/scale_row.h"
 #include "platform/qt/text.h"
 
@@ -93,6 +94,9 @@ MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fo
   };
   map_->setMinimumHeight(kLowestMap);
   map_->PlaceOverlays = [this] { PlaceOverlays(); };
+  map_->Wheel = [this](int steps) {
+    Press(steps > 0 ? controls_.Map.Command8 : controls_.Map.Command7);
+  };
 
   left_column_ = Scrolling(MakeLeftColumn(), kLeftWidth);
   right_column_ = Scrolling(MakeRightColumn(), kRightWidth);
@@ -431,7 +435,8 @@ QWidget* MainWindow::MakeDrawer() {
   drawer_->setObjectName(QStringLiteral("Drawer"));
   drawer_->setVisible(false);
   drawer_->setMinimumHeight(kLowestDrawer);
-  raw_page_ = new QWidget;
+  raw_page_ = new QWidget(this);
+  raw_page_->hide();
   auto* box = TightBox(QBoxLayout::TopToBottom, raw_page_);
   box->setContentsMargins(4, 4, 4, 4);
   auto* list = new QListView;
@@ -450,7 +455,6 @@ QWidget* MainWindow::MakeDrawer() {
   search_row->addWidget(search);
   box->addWidget(list, 1);
   box->addLayout(search_row);
-  drawer_->addTab(raw_page_, QStringLiteral("RAW"));
   binder_.Bind(list, &raw_lines_, controls_.Raw.RawList);
   binder_.Bind(text, controls_.Raw.Text14);
   binder_.Bind(search, controls_.Raw.Command38);
@@ -628,7 +632,8 @@ void MainWindow::Arrange() {
     } else {
       column->setFixedWidth(column == left_column_ ? kLeftWidth : kRightWidth);
       drawer_->removeTab(drawer_->indexOf(column));
-      middle_->insertWidget(place, column);
+      // The other column may be folded still.
+      middle_->insertWidget(std::min(place, middle_->count()), column);
       column->show();
     }
   };
@@ -646,14 +651,17 @@ void MainWindow::ShareHeight() {
 
 void MainWindow::ShowDrawer() {
   const bool raw = controls_.Raw.RawList.Visible;
-  const bool folded = drawer_->count() > 1;
-  drawer_->setTabVisible(drawer_->indexOf(raw_page_), raw);
-  drawer_->setVisible(raw || folded);
-  if (raw && !raw_shown_) {
-    drawer_->setCurrentWidget(raw_page_);
-    ShareHeight();
+  if (raw != (drawer_->indexOf(raw_page_) >= 0)) {
+    if (raw) {
+      drawer_->insertTab(0, raw_page_, QStringLiteral("RAW"));
+      drawer_->setCurrentWidget(raw_page_);
+    } else {
+      drawer_->removeTab(drawer_->indexOf(raw_page_));
+    }
   }
-  raw_shown_ = raw;
+  const bool was_open = !drawer_->isHidden();
+  drawer_->setVisible(drawer_->count() > 0);
+  if (!was_open && !drawer_->isHidden()) ShareHeight();
 }
 
 void MainWindow::ControlsOut() {
@@ -695,48 +703,56 @@ void MainWindow::resizeEvent(QResizeEvent*) {
   Arrange();
 }
 
+void MainWindow::Press(const Button& control) {
+  if (control.Click) loop_.RunStep(control.Click);
+}
+
+// The field may lie on a page of the drawer that is not the shown one.
+void MainWindow::FocusOn(const char* name) {
+  auto* widget = findChild<QWidget*>(QString::fromLatin1(name));
+  if (widget == nullptr) return;
+  for (int page = 0; page < drawer_->count(); ++page) {
+    if (drawer_->widget(page)->isAncestorOf(widget)) drawer_->setCurrentIndex(page);
+  }
+  widget->setFocus();
+}
+
+// Keys act nowhere but outside of the fields, which Esc leaves.
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-  const auto press = [this](Button& control) {
-    if (control.Click) loop_.RunStep(control.Click);
-  };
-  const auto focus = [this](const char* name) {
-    if (auto* widget = findChild<QWidget*>(QString::fromLatin1(name))) widget->setFocus();
-  };
-  // Typing belongs to the field that has the focus.
-  QWidget* focused = focusWidget();
-  const bool typing =
-      qobject_cast<QLineEdit*>(focused) != nullptr || qobject_cast<QComboBox*>(focused) != nullptr;
+  if (IsTypedIn(focusWidget())) {
+    if (event->key() == Qt::Key_Escape) map_->setFocus();
+    return;
+  }
   if (event->modifiers().testFlag(Qt::ControlModifier)) {
-    if (event->key() == Qt::Key_F) return focus("Text15");
-    if (event->key() == Qt::Key_R) return press(controls_.Raw.Command57);
+    if (event->key() == Qt::Key_F) return FocusOn("Text15");
+    if (event->key() == Qt::Key_R) return Press(controls_.Raw.Command57);
   }
-  if (event->key() == Qt::Key_Escape) {
-    // The topmost open panel closes.
-    if (controls_.Record.Frame1.Visible) return press(controls_.Record.Command23);
-    if (controls_.MoniAll.HeardPanel.Visible) return press(controls_.MoniAll.Command3);
-    if (controls_.Palette.PalettePanel.Visible) return press(controls_.Palette.Command43);
-    if (controls_.Qth.Frame2.Visible) return press(controls_.Qth.Command22);
-    return map_->setFocus();
+  switch (event->key()) {
+    case Qt::Key_Escape:
+      return CloseTopmostPanel();
+    case Qt::Key_Plus:
+      return Press(controls_.Map.Command8);
+    case Qt::Key_Minus:
+      return Press(controls_.Map.Command7);
+    case Qt::Key_PageUp:
+      return Press(controls_.Map.Command1);
+    case Qt::Key_PageDown:
+      return Press(controls_.Map.Command2);
+    case Qt::Key_Home:
+      return Press(controls_.Map.Command12);
+    case Qt::Key_L:
+      return Press(controls_.MoniAll.Command13);
+    default:
+      QWidget::keyPressEvent(event);
   }
-  if (!typing) {
-    switch (event->key()) {
-      case Qt::Key_Plus:
-        return press(controls_.Map.Command8);
-      case Qt::Key_Minus:
-        return press(controls_.Map.Command7);
-      case Qt::Key_PageUp:
-        return press(controls_.Map.Command1);
-      case Qt::Key_PageDown:
-        return press(controls_.Map.Command2);
-      case Qt::Key_Home:
-        return press(controls_.Map.Command12);
-      case Qt::Key_L:
-        return press(controls_.MoniAll.Command13);
-      default:
-        break;
-    }
-  }
-  QWidget::keyPressEvent(event);
+}
+
+void MainWindow::CloseTopmostPanel() {
+  if (controls_.Record.Frame1.Visible) return Press(controls_.Record.Command23);
+  if (controls_.MoniAll.HeardPanel.Visible) return Press(controls_.MoniAll.Command3);
+  if (controls_.Palette.PalettePanel.Visible) return Press(controls_.Palette.Command43);
+  if (controls_.Qth.Frame2.Visible) return Press(controls_.Qth.Command22);
+  map_->setFocus();
 }
 
 }  // namespace zepril

@@ -63,6 +63,9 @@ class MainWindow final : public QWidget {
   void Arrange();
   void ShowDrawer();
   void ShareHeight();
+  void FocusOn(const char* name);
+  void Press(const Button& control);
+  void CloseTopmostPanel();
 
   QToolButton* MakeTool(const char* name, int picture, bool caption);
   QLabel* MakeFixedLabel(const char* name);
@@ -95,7 +98,6 @@ class MainWindow final : public QWidget {
   QLabel* banner_ = nullptr;
   QLabel* record_text_ = nullptr;
   bool close_asked_ = false;
-  bool raw_shown_ = false;
 };
 
 }  // namespace zepril

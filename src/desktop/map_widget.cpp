@@ -4,10 +4,17 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
 
 #include "desktop/keys.h"
+#include "platform/qt/text.h"
 
 namespace zepril {
+namespace {
+
+constexpr int kWheelStep = 120;  // eighths of a degree
+
+}  // namespace
 
 MapWidget::MapWidget(QtLoop& loop, PictureBox& map, PictureBox& base, QtSurface& map_surface,
                      QtSurface& base_surface, QWidget* parent)
@@ -26,16 +33,26 @@ MapWidget::MapWidget(QtLoop& loop, PictureBox& map, PictureBox& base, QtSurface&
 }
 
 void MapWidget::ControlsOut() {
-  if (map_.FocusWanted) {
-    map_.FocusWanted = false;
-    setFocus(Qt::OtherFocusReason);
-  }
-  if (toolTip().isEmpty() != map_.ToolTip.empty())
-    setToolTip(QString::fromLatin1(map_.ToolTip.c_str()));
+  TakeFocusUnlessTyping();
+  ShowPointer();
+  const QString tip = ToQt(map_.ToolTip);
+  if (toolTip() != tip) setToolTip(tip);
   if (shown_revision_ == map_.Revision && shown_visible_ == map_.Visible) return;
   shown_revision_ = map_.Revision;
   shown_visible_ = map_.Visible;
   update();
+}
+
+// Every redraw asks for the focus: it must not be taken from a field while the operator types.
+void MapWidget::TakeFocusUnlessTyping() {
+  if (!map_.FocusWanted) return;
+  map_.FocusWanted = false;
+  if (!IsTypedIn(window()->focusWidget())) setFocus(Qt::OtherFocusReason);
+}
+
+void MapWidget::ShowPointer() {
+  const auto shape = map_.Pointer == PointerShape::Hourglass ? Qt::WaitCursor : Qt::CrossCursor;
+  if (cursor().shape() != shape) setCursor(shape);
 }
 
 void MapWidget::paintEvent(QPaintEvent*) {
@@ -76,8 +93,17 @@ void MapWidget::mouseMoveEvent(QMouseEvent* event) {
   if (map_.MouseMove) loop_.RunStep([&] { map_.MouseMove(press); });
 }
 
+void MapWidget::wheelEvent(QWheelEvent* event) {
+  wheel_angle_ += event->angleDelta().y();
+  const int steps = wheel_angle_ / kWheelStep;
+  wheel_angle_ -= steps * kWheelStep;
+  event->accept();
+  if (steps != 0 && Wheel) Wheel(steps);
+}
+
 void MapWidget::keyPressEvent(QKeyEvent* event) {
   const KeyPress key = KeyPressOf(*event);
+  if (IsRightClickKey(*event)) return PressRightAtPointer();
   const bool ours = key.Code == 13 || (key.Code >= 37 && key.Code <= 40);
   if (!ours || !map_.KeyDown) {
     QWidget::keyPressEvent(event);
@@ -88,7 +114,10 @@ void MapWidget::keyPressEvent(QKeyEvent* event) {
 
 void MapWidget::contextMenuEvent(QContextMenuEvent* event) {
   // The mouse has had its press already; the Menu key looks up what lies at the pointer.
-  if (event->reason() != QContextMenuEvent::Keyboard) return;
+  if (event->reason() == QContextMenuEvent::Keyboard) PressRightAtPointer();
+}
+
+void MapWidget::PressRightAtPointer() {
   const QPoint at = mapFromGlobal(QCursor::pos());
   MousePress press;
   press.Button = 2;

@@ -22,6 +22,8 @@ class MapWidget final : public QWidget {
   std::function<void(int width, int height)> Resized;
   // Told after a resize, to place what lies over the map.
   std::function<void()> PlaceOverlays;
+  // Told of turns of the wheel: over 0 away from the operator.
+  std::function<void(int steps)> Wheel;
   // Shows the map or the plain form under it, as the controls say.
   void ControlsOut();
 
@@ -31,6 +33,7 @@ class MapWidget final : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
@@ -38,6 +41,9 @@ class MapWidget final : public QWidget {
 
  private:
   MousePress PressOf(const QMouseEvent& event) const;
+  void TakeFocusUnlessTyping();
+  void ShowPointer();
+  void PressRightAtPointer();
 
   QtLoop& loop_;
   PictureBox& map_;
@@ -46,6 +52,7 @@ class MapWidget final : public QWidget {
   QtSurface& base_surface_;
   std::uint64_t shown_revision_ = 0;
   bool shown_visible_ = true;
+  int wheel_angle_ = 0;  // eighths of a degree that are no whole step yet
 };
 
 }  // namespace zepril

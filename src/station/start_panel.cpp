@@ -33,7 +33,11 @@ StartPanel::StartPanel(Files& files, Dialogs& dialogs, std::string program_folde
 
 void StartPanel::Load() {
   files_.MakeFolder(program_folder_);
-  ReadConfigForStartPanel(files_, program_folder_, settings_);
+  const bool configured = ReadConfigForStartPanel(files_, program_folder_, settings_);
+  // A first run in another folder than the usual one finds the maps that come with it there.
+  if (!configured && !files_.Exists(settings_.MapsPath)) {
+    settings_.MapsPath = program_folder_ + "\\" + settings_.MapZoneName;
+  }
   DeleteRunLogs();
   ShowSettings();
 }

@@ -73,6 +73,15 @@ TEST_F(StartPanelTest, MapsPathGivesTheMapSystem) {
   EXPECT_TRUE(Has("MSYS=U08"));
 }
 
+TEST_F(StartPanelTest, AFirstRunInAnotherFolderLooksForItsMapsThere) {
+  EXPECT_EQ(StartPanel(files, dialogs, "C:\\Z", "").Controls.Text1.Text, "C:\\Z\\U33");
+  files.MakeFolder("C:\\ZEPRIL\\U33");
+  files.Remove("C:\\Z\\ZEPRIL.INI");
+  EXPECT_EQ(StartPanel(files, dialogs, "C:\\Z", "").Controls.Text1.Text, "C:\\ZEPRIL\\U33");
+  files.Write("C:\\Z\\ZEPRIL.INI", "TEMP=C:\\T\r\nUMAPS=C:\\MINE\\U33\r\n");
+  EXPECT_EQ(StartPanel(files, dialogs, "C:\\Z", "").Controls.Text1.Text, "C:\\MINE\\U33");
+}
+
 TEST_F(StartPanelTest, LogsOfTheLastRunGoAndTheOthersStay) {
   files.MakeFolder("C:\\Z\\U33\\LOG");
   for (const char* name : {"_LOG_", "_LOGL_", "_LOGRAW_", "_ALARM_", "_CHATLOG", "QX1AB"}) {

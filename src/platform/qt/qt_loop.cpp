@@ -14,9 +14,11 @@ constexpr double kHandOverSeconds = 0.002;
 
 QtLoop::QtLoop() = default;
 
-QtLoop::~QtLoop() {
-  for (const auto& driven : driven_)
-    driven->Subject->Changed = nullptr;
+QtLoop::~QtLoop() { ForgetTimers(); }
+
+void QtLoop::ForgetTimers() {
+  for (const auto& driven : driven_) driven->Subject->Changed = nullptr;
+  driven_.clear();
 }
 
 void QtLoop::Drive(Timer& timer, bool pumped) {
@@ -69,9 +71,10 @@ void QtLoop::RunStep(const std::function<void()>& step) {
   --depth_;
   if (ControlsOut) ControlsOut();
   if (depth_ > 0) return;
-  if (StepEnded) StepEnded();
+  // A copy: the end of a step may replace what follows it.
+  if (const auto ended = StepEnded) ended();
   // What fell due meanwhile comes from the loop, not from inside this step.
-  QTimer::singleShot(0, [this] { FireDue(); });
+  QTimer::singleShot(0, &alive_, [this] { FireDue(); });
 }
 
 void QtLoop::Hold(const std::function<void()>& step) {

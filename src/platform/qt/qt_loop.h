@@ -28,8 +28,10 @@ class QtLoop final : public SystemClock {
   void WaitPumping(double seconds) override;
   void HandOver() override;
 
-  // Drives `timer` from now on; a pumped one also fires in pumping waits and hand-overs.
+  // Drives `timer` from now on; a pumped one also fires in pumping waits and hand-overs. The timer
+  // must outlive the loop or be forgotten before it goes.
   void Drive(Timer& timer, bool pumped);
+  void ForgetTimers();
 
   // Runs a step of the program: an event, a timer. Afterwards the controls go out.
   void RunStep(const std::function<void()>& step);
@@ -56,6 +58,7 @@ class QtLoop final : public SystemClock {
   void PumpFor(double seconds, bool user_events);
 
   std::vector<std::unique_ptr<Driven>> driven_;
+  QObject alive_;    // what is put off ends with the loop
   int depth_ = 0;    // steps under way
   int held_ = 0;     // no timer at all
   int pumping_ = 0;  // inside a pumping wait or hand-over

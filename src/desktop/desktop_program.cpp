@@ -1,0 +1,124 @@
+#include "desktop/desktop_program.h"
+
+#include <cstdlib>
+
+#include "platform/qt/text.h"
+
+namespace zepril {
+namespace {
+
+constexpr int kFirstMapWidth = 880;
+constexpr int kFirstMapHeight = 700;
+constexpr int kColourDepthBits = 32;
+
+}  // namespace
+
+DesktopProgram::DesktopProgram(const ProgramPlaces& places)
+    : places_(places),
+      files_(DefaultDriveFolder()),
+      dialogs_(loop_),
+      map_surface_(kFirstMapWidth, kFirstMapHeight, fonts_),
+      base_surface_(kFirstMapWidth, kFirstMapHeight, fonts_) {}
+
+DesktopProgram::~DesktopProgram() {
+  loop_.ControlsOut = nullptr;
+  loop_.StepEnded = nullptr;
+  // The program's timers go before the loop does.
+  loop_.ForgetTimers();
+}
+
+bool DesktopProgram::LoadFonts() {
+  return fonts_.LoadFonts(ToQt(places_.DataFolder + "/fonts"));
+}
+
+void DesktopProgram::CloseAsOperator() {
+  if (window_) {
+    window_->close();
+  } else if (program_) {
+    // The station is starting: its end follows when the start has returned.
+    close_asked_ = true;
+  } else {
+    TellEnded();
+  }
+}
+
+void DesktopProgram::ShowStartWindow() {
+  const char* temp = std::getenv("TEMP");
+  FillProgramFolder(files_, places_);
+  panel_ = std::make_unique<StartPanel>(files_, dialogs_, places_.ProgramFolder,
+                                        temp != nullptr ? temp : "");
+  start_window_ = std::make_unique<StartWindow>(*panel_, loop_, fonts_);
+  dialogs_.SetOwner(start_window_.get());
+  loop_.ControlsOut = [this] { start_window_->ControlsOut(); };
+  loop_.StepEnded = [this] {
+    if (start_asked_) OpenMainWindow();
+  };
+  panel_->Started = [this] { start_asked_ = true; };
+  start_window_->Closed = [this] { CloseAsOperator(); };
+  start_window_->show();
+  DrawMissingSampleMaps();
+}
+
+// A first run without any map gets the sample library.
+void DesktopProgram::DrawMissingSampleMaps() {
+  const std::string target = places_.ProgramFolder + "\\U33";
+  if (!files_.List(target, "M*.*").empty() || panel_->Controls.Text1.Text.empty()) return;
+  files_.MakeFolder(target);
+  worker_ =
+      std::make_unique<SampleMapWorker>(places_.DataFolder + "/maps", files_.NativePath(target));
+  worker_->Progress = [this](int done, int total) {
+    start_window_->ShowMapProgress(done, total);
+    panel_->Controls.Command1.Enabled = done >= total;
+    start_window_->ControlsOut();
+  };
+  panel_->Controls.Command1.Enabled = false;
+  start_window_->ShowMapProgress(0, 1);
+  start_window_->ControlsOut();
+  worker_->Begin();
+}
+
+void DesktopProgram::OpenMainWindow() {
+  start_asked_ = false;
+  loop_.StepEnded = nullptr;
+  program_ = std::make_unique<StationProgram>(StationPlatform{
+      files_, loop_, dialogs_, desktop_, socket_, modem_, map_surface_, base_surface_});
+  loop_.Drive(program_->Timer1(), false);
+  loop_.Drive(program_->Timer2(), true);
+  loop_.Drive(program_->ReopenTimer(), true);
+  bool started = false;
+  // The start window stays until the link stands, so that its boxes have an owner.
+  loop_.RunStep([&] { started = program_->Start(places_.ProgramFolder, kColourDepthBits); });
+  if (!started || close_asked_) {
+    End(started);
+    return;
+  }
+  window_ = std::make_unique<MainWindow>(*program_, loop_, fonts_, map_surface_, base_surface_);
+  dialogs_.SetOwner(window_.get());
+  desktop_.SetWindows(window_.get(), window_->Map());
+  window_->Closed = [this] { End(true); };
+  loop_.ControlsOut = [this] { window_->ControlsOut(); };
+  loop_.StepEnded = [this] { window_->CloseWhenAsked(); };
+  window_->show();
+  start_window_->Closed = nullptr;
+  start_window_->close();
+}
+
+void DesktopProgram::End(bool by_operator) {
+  if (ending_) return;
+  ending_ = true;
+  loop_.ControlsOut = nullptr;
+  loop_.StepEnded = nullptr;
+  start_window_->Closed = nullptr;
+  if (window_) window_->hide();
+  start_window_->hide();
+  loop_.RunStep([&] { program_->Stop(by_operator && !program_->EndWanted()); });
+  TellEnded();
+}
+
+void DesktopProgram::TellEnded() {
+  if (ended_) return;
+  ended_ = true;
+  if (Ended) Ended();
+}
+
+}  // namespace zepril

@@ -1,0 +1,72 @@
+// One run of the program on the desktop: the start window, then the main window, to the end.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "desktop/main_window.h"
+#include "desktop/qt_desktop_actions.h"
+#include "desktop/qt_dialogs.h"
+#include "desktop/sample_map_worker.h"
+#include "desktop/start_window.h"
+#include "platform/absent_devices.h"
+#include "platform/native/native_files.h"
+#include "platform/native/program_folder.h"
+#include "platform/qt/map_fonts.h"
+#include "platform/qt/qt_loop.h"
+#include "platform/qt/qt_socket.h"
+#include "platform/qt/qt_surface.h"
+#include "station/start_panel.h"
+#include "station/station_program.h"
+
+namespace zepril {
+
+class DesktopProgram {
+ public:
+  explicit DesktopProgram(const ProgramPlaces& places);
+  ~DesktopProgram();
+  DesktopProgram(const DesktopProgram&) = delete;
+  DesktopProgram& operator=(const DesktopProgram&) = delete;
+
+  // False when the program's fonts are missing: a fixed font of the system stands in.
+  bool LoadFonts();
+  void ShowStartWindow();
+  // The session ends: as if the operator closed the window that is open.
+  void CloseAsOperator();
+  // The run is over and everything is stored. Called once.
+  std::function<void()> Ended;
+
+  QtLoop& Loop() { return loop_; }
+  StartWindow* Starting() { return start_window_.get(); }
+  // Null until START; the window follows when the start has gone well.
+  StationProgram* Station() { return program_.get(); }
+  MainWindow* Window() { return window_.get(); }
+
+ private:
+  void DrawMissingSampleMaps();
+  void OpenMainWindow();
+  void End(bool by_operator);
+  void TellEnded();
+
+  ProgramPlaces places_;
+  NativeFiles files_;
+  QtLoop loop_;
+  QtDialogs dialogs_;
+  QtDesktopActions desktop_;
+  QtSocket socket_;
+  AbsentSerialPort modem_;
+  MapFonts fonts_;
+  QtSurface map_surface_;
+  QtSurface base_surface_;
+  std::unique_ptr<StartPanel> panel_;
+  std::unique_ptr<StartWindow> start_window_;
+  std::unique_ptr<SampleMapWorker> worker_;
+  std::unique_ptr<StationProgram> program_;
+  std::unique_ptr<MainWindow> window_;
+  bool start_asked_ = false;
+  bool close_asked_ = false;  // while the station starts
+  bool ending_ = false;
+  bool ended_ = false;
+};
+
+}  // namespace zepril

@@ -1,0 +1,483 @@
+#include "desktop/binder.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QStringListModel>
+#include <QWheelEvent>
+#include <QtTest/QTest>
+#include <gtest/gtest.h>
+
+#include "desktop/fill_bar_widget.h"
+#include "tests/desktop/desktop_support.h"
+
+namespace zepril {
+namespace {
+
+// A shown window with one widget of each kind, all bound.
+class BinderTest : public ::testing::Test {
+ protected:
+  template <class Widget>
+  Widget* Place(Widget* widget) {
+    box_->addWidget(widget);
+    return widget;
+  }
+  void Show() {
+    loop.ControlsOut = [this] { binder.ControlsOut(); };
+    binder.ControlsOut();
+    window.resize(400, 400);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(PumpUntil([this] { return QApplication::activeWindow() == &window; }));
+  }
+  Event Counted(int& count) {
+    return [&count] { ++count; };
+  }
+
+  QtLoop loop;
+  QWidget window;
+  Binder binder{loop, NightLook()};
+
+ private:
+  QVBoxLayout* box_ = new QVBoxLayout(&window);
+};
+
+TEST_F(BinderTest, AButtonIsPressedByMouseAndBySpaceOnceEach) {
+  Button control;
+  int clicks = 0;
+  control.Click = Counted(clicks);
+  auto* widget = Place(new QPushButton);
+  binder.Bind(widget, control);
+  Show();
+  QTest::mouseClick(widget, Qt::LeftButton);
+  EXPECT_EQ(clicks, 1);
+  widget->setFocus();
+  QTest::keyClick(widget, Qt::Key_Space);
+  EXPECT_EQ(clicks, 2);
+  QTest::mouseClick(widget, Qt::RightButton);
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(BinderTest, ADisabledButtonIsDead) {
+  Button control;
+  int clicks = 0;
+  control.Click = Counted(clicks);
+  control.Enabled = false;
+  auto* widget = Place(new QPushButton);
+  binder.Bind(widget, control);
+  Show();
+  QTest::mouseClick(widget, Qt::LeftButton);
+  EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(BinderTest, ACheckBoxGoesBetweenOffAndOn) {
+  CheckBox control;
+  std::vector<int> seen;
+  control.Click = [&] { seen.push_back(control.Value); };
+  auto* widget = Place(new QPushButton);
+  binder.Bind(widget, control);
+  Show();
+  for (int press = 0; press < 3; ++press)
+    QTest::mouseClick(widget, Qt::LeftButton);
+  EXPECT_EQ(seen, (std::vector<int>{1, 0, 1}));
+  EXPECT_TRUE(widget->isChecked());
+}
+
+TEST_F(BinderTest, ACheckBoxOfThreeStatesGoesRound) {
+  CheckBox control;
+  std::vector<int> seen;
+  control.Click = [&] { seen.push_back(control.Value); };
+  auto* widget = Place(new QPushButton);
+  widget->setProperty("three_states", true);
+  binder.Bind(widget, control);
+  Show();
+  for (int press = 0; press < 2; ++press)
+    QTest::mouseClick(widget, Qt::LeftButton);
+  EXPECT_TRUE(widget->isChecked());
+  EXPECT_TRUE(widget->property("third_state").toBool());
+  QTest::mouseClick(widget, Qt::LeftButton);
+  EXPECT_EQ(seen, (std::vector<int>{1, 2, 0}));
+  EXPECT_FALSE(widget->isChecked());
+  EXPECT_FALSE(widget->property("third_state").toBool());
+}
+
+TEST_F(BinderTest, ASwitchWithoutAHandlerStillTakesItsValue) {
+  CheckBox control;
+  auto* widget = Place(new QPushButton);
+  binder.Bind(widget, control);
+  Show();
+  QTest::mouseClick(widget, Qt::LeftButton);
+  EXPECT_EQ(control.Value, 1);
+  EXPECT_TRUE(widget->isChecked());
+}
+
+TEST_F(BinderTest, AnOptionShowsWhatTheLogicMakesOfThePress) {
+  OptionButton first;
+  OptionButton second;
+  int clicks = 0;
+  first.Value = true;
+  second.Click = [&] {
+    ++clicks;
+    first.Value = false;
+  };
+  auto* one = Place(new QPushButton);
+  auto* two = Place(new QPushButton);
+  binder.Bind(one, first);
+  binder.Bind(two, second);
+  Show();
+  EXPECT_TRUE(one->isChecked());
+  QTest::mouseClick(two, Qt::LeftButton);
+  EXPECT_EQ(clicks, 1);
+  EXPECT_FALSE(one->isChecked());
+  EXPECT_TRUE(two->isChecked());
+  // A second press on it neither switches it off nor loses its mark.
+  QTest::mouseClick(two, Qt::LeftButton);
+  EXPECT_TRUE(second.Value);
+  EXPECT_TRUE(two->isChecked());
+}
+
+TEST_F(BinderTest, ALabelIsPressedByLeftRightAndKeys) {
+  Label control;
+  int left = 0;
+  int right = 0;
+  control.Click = Counted(left);
+  control.RightClick = Counted(right);
+  control.Caption = "caption";
+  auto* widget = Place(new QLabel);
+  widget->setFocusPolicy(Qt::TabFocus);
+  binder.Bind(widget, control);
+  Show();
+  QTest::mouseClick(widget, Qt::LeftButton);
+  EXPECT_EQ(left, 1);
+  EXPECT_EQ(right, 0);
+  AskForMenu(widget, false);
+  EXPECT_EQ(right, 1);
+  QTest::keyClick(widget, Qt::Key_Return);
+  QTest::keyClick(widget, Qt::Key_Space);
+  EXPECT_EQ(left, 3);
+}
+
+TEST_F(BinderTest, MenuKeyAndShiftF10AreTheRightClick) {
+  Button control;
+  int left = 0;
+  int right = 0;
+  control.Click = Counted(left);
+  control.RightClick = Counted(right);
+  auto* widget = Place(new QPushButton);
+  binder.Bind(widget, control);
+  Show();
+  widget->setFocus();
+  AskForMenu(widget, true);
+  EXPECT_EQ(right, 1);
+  QTest::keyClick(widget, Qt::Key_F10, Qt::ShiftModifier);
+  EXPECT_EQ(right, 2);
+  QTest::keyClick(widget, Qt::Key_F10);
+  EXPECT_EQ(right, 2);
+  EXPECT_EQ(left, 0);
+}
+
+TEST_F(BinderTest, TypingChangesTheTextAndEnterComesAsKey) {
+  TextBox control;
+  std::vector<std::string> texts;
+  std::vector<int> keys;
+  control.Change = [&] { texts.push_back(control.Text); };
+  control.KeyDown = [&](KeyPress key) { keys.push_back(key.Code); };
+  auto* widget = Place(new QLineEdit);
+  binder.Bind(widget, control);
+  Show();
+  widget->setFocus();
+  EXPECT_TRUE(control.HasFocus);
+  QTest::keyClicks(widget, QStringLiteral("qx7"));
+  EXPECT_EQ(texts, (std::vector<std::string>{"q", "qx", "qx7"}));
+  keys.clear();
+  QTest::keyClick(widget, Qt::Key_Return);
+  EXPECT_EQ(keys, (std::vector<int>{13}));
+  EXPECT_EQ(texts.size(), 3U);
+  widget->clearFocus();
+  EXPECT_FALSE(control.HasFocus);
+}
+
+TEST_F(BinderTest, LettersBeyondAsciiComeAsOneByteEach) {
+  TextBox control;
+  auto* widget = Place(new QLineEdit);
+  binder.Bind(widget, control);
+  Show();
+  widget->setFocus();
+  for (const char16_t letter : {u'\u00FE', u'\u00E4'}) {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(letter));
+    QApplication::sendEvent(widget, &press);
+  }
+  EXPECT_EQ(control.Text, "\xFE\xE4");
+}
+
+TEST_F(BinderTest, AChosenEntryRaisesItsEventsOnce) {
+  ComboBox control;
+  control.Items = {"M0050", "M0050 SAT"};
+  control.Select(0);
+  int changes = 0;
+  int clicks = 0;
+  control.Change = Counted(changes);
+  control.Click = Counted(clicks);
+  auto* widget = Place(new QComboBox);
+  binder.Bind(widget, control);
+  Show();
+  EXPECT_EQ(changes, 0);
+  widget->setFocus();
+  QTest::keyClick(widget, Qt::Key_Down);
+  EXPECT_EQ(control.ListIndex, 1);
+  EXPECT_EQ(control.Text, "M0050 SAT");
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(BinderTest, AnEditableListTellsWhatIsTypedAndWhatIsChosen) {
+  ComboBox control;
+  control.Items = {"QX1AB-9", "QX2CD"};
+  std::vector<std::string> texts;
+  std::vector<int> keys;
+  control.Change = [&] { texts.push_back(control.Text); };
+  control.KeyDown = [&](KeyPress key) { keys.push_back(key.Code); };
+  auto* widget = Place(new QComboBox);
+  widget->setEditable(true);
+  binder.Bind(widget, control);
+  Show();
+  widget->setFocus();
+  QTest::keyClicks(widget->lineEdit(), QStringLiteral("qx"));
+  // The half of a call is not completed to the whole of another one.
+  EXPECT_EQ(texts, (std::vector<std::string>{"q", "qx"}));
+  EXPECT_EQ(widget->currentText(), QStringLiteral("qx"));
+  keys.clear();
+  QTest::keyClick(widget->lineEdit(), Qt::Key_Return);
+  EXPECT_EQ(keys, (std::vector<int>{13}));
+  EXPECT_EQ(widget->count(), 2);
+  texts.clear();
+  QTest::keyClick(widget, Qt::Key_Down);
+  EXPECT_EQ(texts.size(), 1U);
+  EXPECT_EQ(control.Text, "QX1AB-9");
+  EXPECT_EQ(control.ListIndex, 0);
+}
+
+TEST_F(BinderTest, TheTypedNameOfAnEntryIsNoChoice) {
+  ComboBox control;
+  control.Items = {"QX1AB-9", "QX2CD"};
+  int chosen = 0;
+  int entered = 0;
+  control.Click = Counted(chosen);
+  control.KeyDown = [&](KeyPress key) { entered += key.Code == 13 ? 1 : 0; };
+  auto* widget = Place(new QComboBox);
+  widget->setEditable(true);
+  binder.Bind(widget, control);
+  Show();
+  widget->setFocus();
+  QTest::keyClicks(widget->lineEdit(), QStringLiteral("QX2CD"));
+  QTest::keyClick(widget->lineEdit(), Qt::Key_Return);
+  EXPECT_EQ(entered, 1);
+  EXPECT_EQ(chosen, 0);
+  EXPECT_EQ(control.Text, "QX2CD");
+}
+
+TEST_F(BinderTest, ANewListLeavesTheTypingWhereItIs) {
+  ComboBox control;
+  auto* widget = Place(new QComboBox);
+  widget->setEditable(true);
+  binder.Bind(widget, control);
+  Show();
+  widget->setFocus();
+  QTest::keyClicks(widget->lineEdit(), QStringLiteral("QX7KB"));
+  widget->lineEdit()->setCursorPosition(2);
+  loop.RunStep([&] { control.Items = {"QX1AB-9", "QX2CD"}; });
+  EXPECT_EQ(widget->count(), 2);
+  EXPECT_EQ(widget->currentText(), QStringLiteral("QX7KB"));
+  EXPECT_EQ(widget->lineEdit()->cursorPosition(), 2);
+}
+
+TEST_F(BinderTest, TheWheelChangesNoListThatHasNotTheFocus) {
+  ComboBox control;
+  control.Items = {"one", "two"};
+  control.Select(0);
+  int changes = 0;
+  control.Change = Counted(changes);
+  auto* other = Place(new QPushButton);
+  auto* widget = Place(new QComboBox);
+  binder.Bind(widget, control);
+  Show();
+  other->setFocus();
+  QWheelEvent turn(QPointF(5, 5), widget->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120),
+                   Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(widget, &turn);
+  EXPECT_EQ(changes, 0);
+  EXPECT_EQ(widget->currentIndex(), 0);
+}
+
+TEST_F(BinderTest, ARowOfAListIsPressed) {
+  ListBox control;
+  control.Items = {"first", "second", "third"};
+  int clicks = 0;
+  control.Click = Counted(clicks);
+  QStringListModel model;
+  auto* widget = Place(new QListView);
+  binder.Bind(widget, &model, control);
+  Show();
+  loop.RunStep([] {});
+  ASSERT_EQ(model.rowCount(), 3);
+  QTest::mouseClick(widget->viewport(), Qt::LeftButton, {},
+                    widget->visualRect(model.index(1, 0)).center());
+  EXPECT_EQ(control.ListIndex, 1);
+  EXPECT_EQ(clicks, 1);
+  loop.RunStep([&] {
+    control.Items.push_back("fourth");
+    ++control.Revision;
+    control.ListIndex = 3;
+    control.TopIndex = 3;
+  });
+  EXPECT_EQ(model.rowCount(), 4);
+  EXPECT_EQ(widget->currentIndex().row(), 3);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(BinderTest, ABarFillsByItsShare) {
+  FillBar control;
+  control.FilledPx = 60;
+  control.Colour = 0x0000FF;
+  auto* widget = Place(new FillBarWidget);
+  binder.Bind(widget, control);
+  Show();
+  QImage picture = widget->grab().toImage();
+  const int y = picture.height() / 2;
+  EXPECT_EQ(picture.pixelColor(1, y), QColor(255, 0, 0));
+  EXPECT_EQ(picture.pixelColor(picture.width() / 2 - 2, y), QColor(255, 0, 0));
+  EXPECT_NE(picture.pixelColor(picture.width() / 2 + 2, y), QColor(255, 0, 0));
+  loop.RunStep([&] { control.FilledPx = 1000; });  // more than full is full
+  picture = widget->grab().toImage();
+  EXPECT_EQ(picture.pixelColor(picture.width() - 1, y), QColor(255, 0, 0));
+}
+
+TEST_F(BinderTest, AFrameIsHiddenShownAndPressed) {
+  zepril::Frame control;
+  control.Visible = false;
+  int clicks = 0;
+  control.Click = Counted(clicks);
+  auto* widget = Place(new QWidget);
+  widget->setMinimumSize(40, 40);
+  binder.Bind(widget, control);
+  Show();
+  EXPECT_FALSE(widget->isVisible());
+  loop.RunStep([&] { control.Visible = true; });
+  EXPECT_TRUE(widget->isVisible());
+  QTest::mouseClick(widget, Qt::LeftButton);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(BinderTest, AssignmentsRaiseNothing) {
+  int raised = 0;
+  CheckBox box;
+  OptionButton option;
+  TextBox text;
+  ComboBox list;
+  ListBox rows;
+  box.Click = option.Click = text.Change = list.Change = list.Click = rows.Click = Counted(raised);
+  rows.DoubleClick = Counted(raised);
+  QStringListModel model;
+  binder.Bind(Place(new QPushButton), box);
+  binder.Bind(Place(new QPushButton), option);
+  binder.Bind(Place(new QLineEdit), text);
+  auto* editable = Place(new QComboBox);
+  editable->setEditable(true);
+  binder.Bind(editable, list);
+  binder.Bind(Place(new QListView), &model, rows);
+  Show();
+  for (int pass = 0; pass < 2; ++pass) {
+    loop.RunStep([&] {
+      box.Value = 1 - pass;
+      option.Value = pass == 0;
+      text.Text = pass == 0 ? "typed by the logic" : "";
+      list.Items = {"a", "b", "c"};
+      list.Select(pass);
+      rows.Items = {"x", "y"};
+      ++rows.Revision;
+      rows.ListIndex = pass;
+    });
+    Pump();
+  }
+  EXPECT_EQ(raised, 0);
+  EXPECT_EQ(editable->currentText(), QStringLiteral("b"));
+  EXPECT_EQ(list.Text, "b");
+}
+
+TEST_F(BinderTest, AllThatChangedGoesOutInOnePass) {
+  Button control;
+  control.Caption = "before";
+  auto* widget = Place(new QPushButton);
+  binder.Bind(widget, control);
+  Show();
+  loop.RunStep([&] {
+    control.Caption = "after";
+    control.Enabled = false;
+    control.ToolTip = "why  not";
+    control.BackColour = 0x00C000;
+  });
+  EXPECT_EQ(widget->text(), QStringLiteral("after"));
+  EXPECT_FALSE(widget->isEnabled());
+  EXPECT_EQ(widget->toolTip(), QStringLiteral("why  not"));
+  EXPECT_TRUE(widget->styleSheet().contains(StateShade(0x00C000, NightLook()).name()));
+  loop.RunStep([&] {
+    control.Visible = false;
+    control.BackColour.reset();
+  });
+  EXPECT_FALSE(widget->isVisible());
+  EXPECT_TRUE(widget->styleSheet().isEmpty());
+}
+
+TEST_F(BinderTest, FocusIsTakenOnceAndTheWishCleared) {
+  TextBox first;
+  TextBox second;
+  auto* one = Place(new QLineEdit);
+  auto* two = Place(new QLineEdit);
+  binder.Bind(one, first);
+  binder.Bind(two, second);
+  Show();
+  one->setFocus();
+  loop.RunStep([&] { second.FocusWanted = true; });
+  EXPECT_TRUE(two->hasFocus());
+  EXPECT_FALSE(second.FocusWanted);
+  one->setFocus();
+  loop.RunStep([] {});
+  EXPECT_TRUE(one->hasFocus());
+}
+
+TEST_F(BinderTest, CaptionsComeOutWhole) {
+  Label label;
+  Button button;
+  label.Caption = "<b>A & B</b>   12  km";
+  button.Caption = "SAVE & CLOSE";
+  auto* text = Place(new QLabel);
+  auto* press = Place(new QPushButton);
+  binder.Bind(text, label);
+  binder.Bind(press, button);
+  Show();
+  EXPECT_EQ(text->textFormat(), Qt::PlainText);
+  EXPECT_EQ(text->text(), QStringLiteral("<b>A & B</b>   12  km"));
+  EXPECT_EQ(press->text(), QStringLiteral("SAVE && CLOSE"));  // the toolkit shows one
+  EXPECT_EQ(press->accessibleName(), QStringLiteral("SAVE & CLOSE"));
+  EXPECT_TRUE(press->shortcut().isEmpty());
+}
+
+TEST_F(BinderTest, AnInkThatCouldNotBeReadGivesWay) {
+  Label control;
+  control.Caption = "SCALE";
+  control.BackColour = 0x00FFFF;
+  control.ForeColour = 0x000000;
+  auto* widget = Place(new QLabel);
+  binder.Bind(widget, control);
+  Show();
+  const QColor back = StateShade(0x00FFFF, NightLook());
+  EXPECT_FALSE(widget->styleSheet().contains(QColor(0, 0, 0).name()));
+  EXPECT_TRUE(widget->styleSheet().contains(TextOn(back).name()));
+}
+
+}  // namespace
+}  // namespace zepril

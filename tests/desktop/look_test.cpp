@@ -1,0 +1,74 @@
+#include "desktop/look.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace zepril {
+namespace {
+
+// The colours that the logic gives to controls, with what they say.
+const std::vector<std::pair<std::string, std::uint32_t>> kStateColours = {
+    {"collecting for MONI 1", 0x00C000},
+    {"collecting for MONI ALL", 0xFF80E0},
+    {"scale field", 0xC0C0C0},
+    {"active scale", 0x00E0E0},
+    {"scale without a tile", 0x808080},
+    {"scale with a tile", 0xC0C0A0},
+    {"map dark", 0x606046},
+    {"map bright", 0xFFFFD6},
+    {"distance alarm", 0x00FFFF}};
+
+class LookTest : public ::testing::TestWithParam<bool> {
+ protected:
+  const Look& look = GetParam() ? NightLook() : DayLook();
+};
+
+TEST(Contrast, OfBlackAndWhiteIsTwentyOneAndOfOneColourOne) {
+  EXPECT_NEAR(ContrastOf(QColor(Qt::black), QColor(Qt::white)), 21.0, 1e-9);
+  EXPECT_NEAR(ContrastOf(QColor(Qt::white), QColor(Qt::black)), 21.0, 1e-9);
+  EXPECT_EQ(ContrastOf(QColor(Qt::gray), QColor(Qt::gray)), 1.0);
+  EXPECT_NEAR(ContrastOf(QColor(0x77, 0x77, 0x77), QColor(Qt::white)), 4.48, 0.01);
+}
+
+TEST_P(LookTest, TextIsReadableOnEveryGround) {
+  for (const QColor& ground : {look.Window, look.Panel, look.Field}) {
+    EXPECT_GE(ContrastOf(look.Text, ground), kReadable) << ground.name().toStdString();
+    EXPECT_GE(ContrastOf(look.Dim, ground), kReadable) << ground.name().toStdString();
+  }
+  // A switch that is on, a selected row.
+  EXPECT_GE(ContrastOf(look.Text, look.Accent), kReadable);
+  EXPECT_GE(ContrastOf(PaletteOf(look).color(QPalette::HighlightedText),
+                       PaletteOf(look).color(QPalette::Highlight)),
+            kReadable);
+}
+
+TEST_P(LookTest, TextIsReadableOnEveryStateColour) {
+  for (const auto& [state, colour] : kStateColours) {
+    const QColor shade = StateShade(colour, look);
+    EXPECT_GE(ContrastOf(TextOn(shade), shade), kReadable) << state;
+    // Every ink that the logic may want there.
+    for (std::uint32_t ink : {0x000000U, 0xFFFFFFU, 0xC0C0C0U, 0x00FFFFU}) {
+      EXPECT_GE(ContrastOf(InkOn(ink, shade, TextOn(shade)), shade), kReadable) << state;
+    }
+  }
+}
+
+TEST_P(LookTest, StatesOfDifferentHueStayApart) {
+  EXPECT_NE(StateShade(0x00C000, look), StateShade(0xFF80E0, look));
+  EXPECT_NE(StateShade(0x00E0E0, look), StateShade(0xC0C0C0, look));
+  EXPECT_NE(StateShade(0x808080, look), StateShade(0xC0C0A0, look));
+}
+
+TEST_P(LookTest, AnInkKeepsItsColourWhereItIsReadable) {
+  EXPECT_EQ(InkOn(0x000000, QColor(Qt::white), look.Text), QColor(Qt::black));
+  EXPECT_EQ(InkOn(0xC0C0C0, QColor(Qt::white), look.Text), look.Text);
+}
+
+INSTANTIATE_TEST_SUITE_P(NightAndDay, LookTest, ::testing::Bool(),
+                         [](const auto& row) { return row.param ? "Night" : "Day"; });
+
+}  // namespace
+}  // namespace zepril
