@@ -123,6 +123,16 @@ TEST_F(RecordBrowserTest, ButtonsWithoutASelectionDoNothing) {
   EXPECT_EQ(History().Count(), 4);
 }
 
+TEST_F(RecordBrowserTest, ARecordAtTheToleranceIsNotNear) {
+  for (const auto& [north, east] : {std::pair{" 5800.500", "  400.000"}, {" 5800.000", "  400.500"},
+                                    {" 5800.000", "  400.000"}}) {
+    station.Stores.MoniAllRecords.Append(RecordOf("N0A", "240115 1234", north, east));
+  }
+  station.Browser.Open("N0A", 3, 5800.0, 400.0);
+  station.Browser.Command18Click();
+  EXPECT_EQ(station.Stores.SelectedRecordIndex, 3);
+}
+
 TEST_F(RecordBrowserTest, StepsGoByPlaceAndNotByCall) {
   const char* norths[] = {" 5817.860", " 5818.359", " 5818.361", " 5817.900", " 5817.861"};
   const char* calls[] = {"N0A", "N0B", "N0C", "N0D", "N0E"};
