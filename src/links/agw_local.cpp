@@ -40,9 +40,12 @@ void AgwLocal::FrameArrived(std::string_view frame) {
   radio_.LastDataSeconds = clock_.MonotonicSeconds();
   const std::string_view text =
       Mid(frame, static_cast<std::ptrdiff_t>(kAgwHeaderLength) + 1, kLongestText);
-  if (InStr(text, ":Fm ") == 0) return;  // an answer of the engine, no monitored frame
+  const std::ptrdiff_t from = InStr(text, ":Fm ");
+  if (from == 0) return;  // an answer of the engine, no monitored frame
   if (waiting_.size() >= kMostWaitingFrames) waiting_.pop_front();
-  waiting_.emplace_back(text);
+  // Some engines put a blank before the port, and ports have two digits from 10 on; the columns of
+  // the text are counted from its last digit.
+  waiting_.emplace_back(Mid(text, from - 1));
 }
 
 std::string AgwLocal::AGWGetData() {

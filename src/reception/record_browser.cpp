@@ -42,9 +42,10 @@ void RecordBrowser::SetButtons() {
 }
 
 void RecordBrowser::ShowSelected() {
-  if (!panel_.Frame1.Visible || !HasSelection()) return;
+  if (!panel_.Frame1.Visible) return;
   panel_.Label20.Caption =
-      DoubledAmpersands(SelectedStore().At(stores_.SelectedRecordIndex).Text());
+      HasSelection() ? DoubledAmpersands(SelectedStore().At(stores_.SelectedRecordIndex).Text())
+                     : std::string();
 }
 
 void RecordBrowser::Open(const std::string& call, int index, double north_km, double east_km) {

@@ -82,8 +82,9 @@ LinkLamp StationRooms::Lamp() const {
 
 // ---- Tick -----------------------------------------------------------------------------------
 
+// The call stays as typed, in the file too; everywhere it is compared without regard to case.
 void StationRooms::ChangeFollowedStation() {
-  FollowStation(Upper(Trim(Controls.Moni1.Combo9.Text)));
+  FollowStation(std::string(Trim(Controls.Moni1.Combo9.Text)));
 }
 
 void StationRooms::RunReceivePass() {

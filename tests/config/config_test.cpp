@@ -165,13 +165,16 @@ TEST_F(ConfigTest, MergeLeavesAFileOfMoreThanAHundredLinesAlone) {
   WriteIni(text);
   EXPECT_FALSE(MergeConfigAtExit(files, "C:", {}));
   EXPECT_EQ(Ini(), text);
-  // One that would grow beyond a hundred lines stays too.
+  // One that would grow beyond a hundred lines by the ten keys of the merge stays too.
   text.clear();
-  for (int line = 0; line < 95; ++line)
+  for (int line = 0; line < 91; ++line)
     text += "X" + WholeNumber(line) + "=1\r\n";
   WriteIni(text);
   EXPECT_FALSE(MergeConfigAtExit(files, "C:", {}));
   EXPECT_EQ(Ini(), text);
+  WriteIni(text.substr(text.find('\n') + 1));
+  EXPECT_TRUE(MergeConfigAtExit(files, "C:", {}));
+  EXPECT_EQ(IniLines().size(), 100U);
 }
 
 TEST_F(ConfigTest, FirstRunMarkIsTestedOnTheLineAsStored) {

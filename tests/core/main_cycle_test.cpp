@@ -32,7 +32,10 @@ class Recorder final : public TickActions, public MapActions, public DesktopActi
   void RunChatPass() override { Done.push_back("chat"); }
   void SendObjectReport() override { Done.push_back("object"); }
   void SendBeacon() override { Done.push_back("beacon"); }
-  void MapRedraw() override { Done.push_back("redraw"); }
+  void MapRedraw() override {
+    Done.push_back("redraw");
+    if (WhileRedrawing) WhileRedrawing();
+  }
   void MapRefresh() override { Done.push_back("refresh"); }
   bool MainWindowActive() const override { return Active; }
   bool WindowExists(const std::string& title) const override { return title == Window; }
@@ -48,6 +51,7 @@ class Recorder final : public TickActions, public MapActions, public DesktopActi
   bool Active = true;
   std::string Window;
   std::function<void()> WhileReceiving;
+  std::function<void()> WhileRedrawing;
 };
 
 class MainCycleTest : public ::testing::Test {
@@ -105,6 +109,16 @@ TEST_F(MainCycleTest, QuietTickOnlyReceives) {
   EXPECT_EQ(timer1.IntervalMs(), 6000);
   EXPECT_TRUE(state.Settings.WindowActive);
   EXPECT_EQ(clock.HandOvers, 1);
+}
+
+TEST_F(MainCycleTest, TheTimerStandsStillWhileTheMapIsDrawn) {
+  timer1.Arm(6000);
+  state.Map.MapDrawn = false;
+  bool enabled = true;
+  recorder.WhileRedrawing = [&] { enabled = timer1.Enabled(); };
+  EXPECT_EQ(Tick(), (Names{"redraw", "receive"}));
+  EXPECT_FALSE(enabled);
+  EXPECT_TRUE(timer1.Enabled());
 }
 
 TEST_F(MainCycleTest, NoTickRunsInsideATick) {
@@ -291,6 +305,14 @@ TEST_F(MainCycleTest, IonosphereIsUpdatedHourly) {
   EXPECT_EQ(Tick(), (Names{"iono"}));
   EXPECT_EQ(controls.Status.IonoLabel.Caption, "UPDATING...");
   EXPECT_EQ(Tick(), (Names{"receive"}));
+}
+
+TEST_F(MainCycleTest, IonosphereIsUpdatedEarlyWhenTheDayChanges) {
+  state.Internet.IonoAutoOn = 1;
+  clock.SetNow({2024, 1, 15, 0, 0, 10});
+  state.Internet.LastIonoTimer = 86390.0;
+  EXPECT_EQ(Tick(), (Names{"iono"}));
+  EXPECT_EQ(state.Internet.LastIonoTimer, clock.SecondsSinceMidnight());
 }
 
 TEST_F(MainCycleTest, Moni1IsCollectedEachMinuteAndEverySecondOneBesideMoniAll) {

@@ -124,10 +124,21 @@ TEST_F(StartTest, ADigitInTheThirdPlaceAllowsMessages) {
   EXPECT_EQ(controls.Transmit.Check8.Value, 1);
   EXPECT_FALSE(controls.Transmit.Check8.Enabled);
   EXPECT_FALSE(controls.Transmit.Check16.Visible);
+  EXPECT_FALSE(controls.Transmit.Text2.Visible);
   EXPECT_FALSE(controls.Transmit.Text3.Visible);
   EXPECT_EQ(controls.Transmit.Check15.Value, 0);
   EXPECT_FALSE(controls.Transmit.Check15.Enabled);
   EXPECT_TRUE(controls.Transmit.Check6.Visible);
+}
+
+TEST_F(StartTest, SwitchesShowWhatIsHeldAndHfDualFollowsItsBox) {
+  controls.Map.Option1.Value = true;
+  controls.Transmit.Check2.Value = 1;
+  state.Chat.AutoAnswerOn = 1;
+  Start();
+  EXPECT_FALSE(controls.Map.Option1.Value);
+  EXPECT_EQ(state.Radio.HfDualOn, 1);
+  EXPECT_EQ(controls.Transmit.Check16.Value, 1);
 }
 
 TEST_F(StartTest, WithoutAPasscodeThereIsNoGateSwitch) {

@@ -318,6 +318,16 @@ TEST_F(AgwLocalTest, PollsGiveOneMonitoredFrameEach) {
   EXPECT_EQ(engine.AGWGetData(), "");
 }
 
+TEST_F(AgwLocalTest, WhatAnEnginePutsBeforeThePortDigitIsLeftOut) {
+  engine.AGWStartPoll("ZEPRIL", "QX7KB");
+  const std::string text = "1:Fm A To B <UI >\r!\r\r";
+  socket.Deliver(MonitorFrameOf(" " + text) + MonitorFrameOf(" 1" + text) +
+                 MonitorFrameOf(text.substr(1)));
+  EXPECT_EQ(engine.AGWGetData(), text);
+  EXPECT_EQ(engine.AGWGetData(), text);
+  EXPECT_EQ(engine.AGWGetData(), text.substr(1));
+}
+
 TEST_F(AgwLocalTest, WaitingFramesAreBounded) {
   engine.AGWStartPoll("ZEPRIL", "QX7KB");
   for (int at = 0; at < 2000; ++at)

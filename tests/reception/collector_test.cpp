@@ -77,6 +77,14 @@ TEST(Collector, RemoteTextWaitsForItsPairOfReturns) {
   EXPECT_EQ(CollectIn(station, 3), kNormal);
 }
 
+TEST(Collector, RemoteTextOfTwentyCharactersIsTheShortestTaken) {
+  Reception station;
+  station.Radio.AgwRxBuffer = "1:Fm A To B <U\r!t\r\r";
+  EXPECT_EQ(CollectIn(station, 3), "");
+  station.Radio.AgwRxBuffer = "1:Fm A To B <U\r!ts\r\r";
+  EXPECT_EQ(CollectIn(station, 3), "A*>B <U>:\r\n!ts\r\n");
+}
+
 TEST(Collector, RemoteTextOfAClosedLinkIsLeft) {
   Reception station;
   station.Radio.AgwConnected = 0;

@@ -34,6 +34,11 @@ TEST(DirectMarking, ManyFramesAreMarkedToTheLast) {
   EXPECT_EQ(Marked(text), expected);
 }
 
+TEST(DirectMarking, MarkerStandsAtColumnFiveOrBeyond) {
+  EXPECT_EQ(Marked("A>B UI>:\r\n"), "A*>B UI>:\r\n");
+  EXPECT_EQ(Marked("A>BUI>:\r\n"), "A>BUI>:\r\n");
+}
+
 TEST(DirectMarking, TextWithoutHeaderStays) {
   EXPECT_EQ(Marked(""), "");
   EXPECT_EQ(Marked("UI>:\r\n"), "UI>:\r\n");

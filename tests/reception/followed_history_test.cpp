@@ -100,6 +100,10 @@ TEST(FollowedHistory, WithoutGpsTheMapFollowsTheStationAgain) {
   station.Map.CentreFollow = 0;
   station.History.Enter(Position(2));
   EXPECT_EQ(station.Map.CentreFollow, 0);
+  station.Gps.GpsFixValid = 0;
+  station.Gps.GpsFixValidBefore = 1;
+  station.History.Enter(Position(3));
+  EXPECT_EQ(station.Map.CentreFollow, 0);
 }
 
 TEST(FollowedHistory, FileThatCannotBeWrittenIsAFailure) {

@@ -115,6 +115,11 @@ TEST(HeaderAnalysis, ThirdPartyPacketNamesItsLastDigipeaterOrDestination) {
   EXPECT_EQ(Analyse("QX9GW*>APRS <UI>", "}N0CALL>APRS:TCPIP").Frame.PacketHeardVia, "APRS");
 }
 
+TEST(HeaderAnalysis, ThirdPartyAsteriskCountsBeyondColumnElevenOnly) {
+  EXPECT_EQ(Analyse("QX9GW*>APRS <UI>", "}N0C>APRS,A*:!x").Frame.PacketHeardVia, "APRS");
+  EXPECT_EQ(Analyse("QX9GW*>APRS <UI>", "}N0CA>APRS,A*:!x").Frame.PacketHeardVia, "A");
+}
+
 TEST(HeaderAnalysis, OwnPacketGatedBackIsDropped) {
   EXPECT_EQ(Analyse("QX7KB-9*>APRS <UI>", "}N0CALL>APRS:!x").Outcome, HeaderOutcome::OwnGatedBack);
   EXPECT_EQ(Analyse("N0CAL*>QX7KB>A <UI>", "}N0CALL>APRS:!x").Outcome, HeaderOutcome::OwnGatedBack);

@@ -49,6 +49,15 @@ TEST_F(RecordBrowserTest, OpensWithTheCaptionsOfItsStation) {
   EXPECT_FALSE(station.Browser.OpenNewest("N0BODY"));
 }
 
+TEST_F(RecordBrowserTest, PanelOfAStationWithoutRecordsShowsNoneOfAnother) {
+  station.Stores.MoniAllRecords.Append(RecordOf("N0CALL"));
+  station.Browser.Open("N0CALL", 1, 0.0, 0.0);
+  EXPECT_FALSE(station.Controls.Record.Label20.Caption.empty());
+  station.Stores.Moni1Records.Clear();
+  station.Browser.Open("QX7KB", 0, 0.0, 0.0);
+  EXPECT_EQ(station.Controls.Record.Label20.Caption, "");
+}
+
 TEST_F(RecordBrowserTest, AmpersandIsDoubledForTheCaption) {
   station.Stores.MoniAllRecords.Append(
       RecordOf("N0CALL", "240115 1234", Place(1), "  391.394", "", "you & me"));
@@ -112,6 +121,16 @@ TEST_F(RecordBrowserTest, ButtonsWithoutASelectionDoNothing) {
     station.Browser.Command19Click();
   }
   EXPECT_EQ(History().Count(), 4);
+}
+
+TEST_F(RecordBrowserTest, ARecordAtTheToleranceIsNotNear) {
+  for (const auto& [north, east] : {std::pair{" 5800.500", "  400.000"}, {" 5800.000", "  400.500"},
+                                    {" 5800.000", "  400.000"}}) {
+    station.Stores.MoniAllRecords.Append(RecordOf("N0A", "240115 1234", north, east));
+  }
+  station.Browser.Open("N0A", 3, 5800.0, 400.0);
+  station.Browser.Command18Click();
+  EXPECT_EQ(station.Stores.SelectedRecordIndex, 3);
 }
 
 TEST_F(RecordBrowserTest, StepsGoByPlaceAndNotByCall) {

@@ -145,11 +145,11 @@ TEST(StationProgram, EnterInTheCallFieldFollowsAnotherStation) {
   station.Ticks(1);
   station.Controls().Moni1.Combo9.Text = "qx2cd";
   station.Controls().Moni1.Combo9.KeyDown({13, 0});
-  EXPECT_EQ(station.State().Followed.Moni1Call, "QX2CD");
+  EXPECT_EQ(station.State().Followed.Moni1Call, "qx2cd");
   EXPECT_EQ(station.State().Stores.Moni1Records.Count(), 1);
   EXPECT_EQ(station.State().Followed.MonitorInfo, "hello");
   const std::string ini = station.File("ZEPRIL.INI");
-  EXPECT_NE(ini.find("CALL=QX2CD\r\n"), std::string::npos);
+  EXPECT_NE(ini.find("CALL=qx2cd\r\n"), std::string::npos);
   EXPECT_NE(ini.find("FOO=1\r\n"), std::string::npos);
   EXPECT_TRUE(station.program->Timer1().Enabled());
   EXPECT_EQ(station.File("U33\\LOG\\QX2CD.TXT").substr(0, 12), "240115 1234 ");
@@ -348,6 +348,57 @@ TEST(StationProgram, OwnFramesHeardBackAreNoStations) {
   station.socket.Deliver(MakeAgwFrame(0, 'U', "QX7KB", "ZEPR", text));
   station.Ticks(2);
   EXPECT_EQ(station.State().Stores.MoniAllRecords.Count(), 0);
+}
+
+TEST(StationProgram, TheOwnHeaderNamesEveryElementOfThePath) {
+  StationHarness two("TXID=9\r\nTXPA=wide1-1, WIDE2-1\r\nTXTO=zepr\r\n");
+  two.Start();
+  EXPECT_EQ(two.State().Reception.OwnHeaderPattern, "QX7KB-9*>WIDE1-1>WIDE2-1>ZEPR");
+  StationHarness none("TXPA=\r\n");
+  none.Start();
+  EXPECT_EQ(none.State().Reception.OwnHeaderPattern, "QX7KB*>ZEPR");
+  StationHarness nameless("USER=\r\n");
+  nameless.Start();
+  EXPECT_EQ(nameless.State().Reception.OwnHeaderPattern, "");
+}
+
+TEST(StationProgram, RecordsAndLogsBelongToTheZoneOfTheMaps) {
+  StationHarness station("MSYS=U32\r\nUMAPS=C:\\ZEPRIL\\U32\r\n");
+  station.Start();
+  EXPECT_EQ(station.State().Map.MapCentralMeridian, 9.0);
+  station.Hear("QX1AB-9", "=5230.00N/00900.00E>Test");
+  station.Ticks(1);
+  ASSERT_EQ(station.State().Stores.MoniAllRecords.Count(), 1);
+  // On the central meridian, but for the shift to the east.
+  EXPECT_EQ(station.State().Stores.MoniAllRecords.At(1).EastText(), "  500.003");
+  EXPECT_EQ(station.File("U32\\LOG\\QX1AB-9.TXT").substr(0, 6), "240115");
+  EXPECT_EQ(station.File("U32\\LOG\\_LOGL_.TXT").size(), 122U);
+}
+
+TEST(StationProgram, AlarmBoxesSwitchTheirAlarms) {
+  StationHarness station("DISA=0\r\n");
+  station.Start();
+  MainWindowControls& controls = station.Controls();
+  EXPECT_EQ(controls.Moni1.Check1.Value, 0);
+  station.Hear("QX2CD", kBerlin);
+  station.Ticks(1);
+  EXPECT_FALSE(controls.Status.Frame12.Visible);
+  controls.MoniAll.Check3.Value = 1;
+  controls.MoniAll.Check3.Click();
+  station.Hear("QX3EF", kBerlin);
+  station.Ticks(1);
+  EXPECT_TRUE(controls.Status.Frame12.Visible);
+  EXPECT_EQ(controls.Status.Label25.Caption.substr(0, 5), "QX3EF");
+  controls.Status.Frame12.Click();
+  EXPECT_FALSE(controls.Status.Frame12.Visible);
+  // The one of the followed station is a setting.
+  controls.Moni1.Check1.Value = 1;
+  controls.Moni1.Check1.Click();
+  EXPECT_NE(station.File("ZEPRIL.INI").find("DISA=1\r\n"), std::string::npos);
+  station.Hear("QX1AB-9", kBerlin);
+  station.Ticks(1);
+  EXPECT_TRUE(controls.Status.Frame12.Visible);
+  EXPECT_EQ(controls.Status.Label25.Caption.substr(0, 7), "QX1AB-9");
 }
 
 TEST(StationProgram, NoiseOnTheLinkHarmsNothing) {
