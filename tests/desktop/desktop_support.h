@@ -10,7 +10,7 @@
 namespace zepril {
 
 // Lets the event loop run until `done`, at most `milliseconds`. Returns what `done` says.
-bool PumpUntil(const std::function<bool()>& done, int milliseconds = 5000);
+bool PumpUntil(const std::function<bool()>& done, int milliseconds = 30000);
 // Lets everything that waits be done.
 void Pump();
 

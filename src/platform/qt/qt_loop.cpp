@@ -15,10 +15,13 @@ constexpr double kHandOverSeconds = 0.002;
 
 QtLoop::QtLoop() = default;
 
-QtLoop::~QtLoop() { ForgetTimers(); }
+QtLoop::~QtLoop() {
+  ForgetTimers();
+}
 
 void QtLoop::ForgetTimers() {
-  for (const auto& driven : driven_) driven->Subject->Changed = nullptr;
+  for (const auto& driven : driven_)
+    driven->Subject->Changed = nullptr;
   driven_.clear();
 }
 

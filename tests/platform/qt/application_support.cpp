@@ -36,7 +36,7 @@ bool PumpUntil(const std::function<bool()>& done) {
   QElapsedTimer spent;
   spent.start();
   while (!done()) {
-    if (spent.elapsed() > 2000) return false;
+    if (spent.elapsed() > 20000) return false;
     QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
   }
   return true;

@@ -5,7 +5,7 @@
 
 namespace zepril {
 
-// Lets the event loop run until `done`, at most two seconds. Returns what `done` says.
+// Lets the event loop run until `done`, at most twenty seconds. Returns what `done` says.
 bool PumpUntil(const std::function<bool()>& done);
 
 }  // namespace zepril

@@ -68,6 +68,22 @@ TEST_F(QtLoopTest, InAPlainWaitNoTimerFires) {
   EXPECT_TRUE(PumpUntil([this] { return ticks > 0 && pumped > 0; }));
 }
 
+TEST_F(QtLoopTest, AWaitOutsideOfStepsHoldsTheTimersToo) {
+  Arm();
+  loop->Wait(kShort);
+  EXPECT_EQ(ticks, 0);
+  EXPECT_EQ(pumped, 0);
+  Arm();
+  loop->Hold([this] {
+    const double start = loop->MonotonicSeconds();
+    while (loop->MonotonicSeconds() - start < kShort)
+      QCoreApplication::processEvents();
+  });
+  EXPECT_EQ(ticks, 0);
+  EXPECT_EQ(pumped, 0);
+  EXPECT_TRUE(PumpUntil([this] { return ticks > 0 && pumped > 0; }));
+}
+
 TEST_F(QtLoopTest, InAPumpingWaitTimer2FiresAndTimer1DoesNot) {
   loop->RunStep([this] {
     Arm();
