@@ -107,6 +107,15 @@ TEST(XyzToGeodeticWgs84, NegativeXFoldsTheLongitude) {
   EXPECT_NEAR(position.Lat, 60.26932, 1e-5);
 }
 
+TEST(UtmToGeodetic, PlacesBehindThePoleComeBack) {
+  for (double lon : {15.0 + 170.0, 15.0 - 170.0}) {
+    const GridMetres grid = GeodeticToUtm(lon, 80.0, 15.0, 500000.0);
+    const Geodetic place = UtmToGeodetic(15.0, grid.East, grid.North, 500000.0);
+    EXPECT_NEAR(place.Lon, lon > 180.0 ? lon - 360.0 : lon, 1e-4);
+    EXPECT_NEAR(place.Lat, 80.0, 1e-4);
+  }
+}
+
 TEST(UtmToGeodetic, LongitudeStaysWithinHalfATurn) {
   for (double meridian : {-177.0, 177.0, 183.0}) {
     for (double east = -3e6; east <= 4e6; east += 2.5e5) {
