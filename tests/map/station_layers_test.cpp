@@ -245,7 +245,8 @@ TEST(AllStationsDraw, AMovingStationThatStoodStillIsLeftOutWhenAsked) {
   EXPECT_FALSE(world.Draw(2).empty());
   // Standing again later does not take the movement back.
   world.Hear(StationWorld::At(110, 100, "STILL"));
-  EXPECT_FALSE(world.Draw(2).empty());
+  world.Draw(2);
+  EXPECT_FALSE(world.Surface.Of("filled").empty());
   StationWorld fixed;
   fixed.View().MovedOnly = true;
   fixed.Hear(StationWorld::At(100, 100, "HOME", "/-"));
