@@ -58,10 +58,10 @@ build() {
     fail "building $preset failed"
 }
 
-# built FOLDER NAME: the path of a program built there.
+# built FOLDER NAME: the path of a program built there, the newest of that name.
 built() {
   local found
-  found=$(find "$1" -type f -name "$2" -perm -u+x -print -quit)
+  found=$(find "$1" -type f -name "$2" -perm -u+x -printf '%T@ %p\n' | sort -rn | sed -n '1s/^[^ ]* //p')
   [ -n "$found" ] || fail "$2 was not built"
   printf '%s\n' "$found"
 }

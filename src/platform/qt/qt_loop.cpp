@@ -1,5 +1,6 @@
 #include "platform/qt/qt_loop.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QEventLoop>
 
@@ -103,6 +104,8 @@ void QtLoop::Wait(double seconds) {
   ++held_;
   PumpFor(seconds, false);
   --held_;
+  // User events that were passed over lie unnoticed until something wakes the dispatcher.
+  if (auto* dispatcher = QAbstractEventDispatcher::instance()) dispatcher->wakeUp();
 }
 
 void QtLoop::WaitPumping(double seconds) {
