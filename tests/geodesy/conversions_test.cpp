@@ -78,8 +78,9 @@ TEST(Rt90, StockholmAndTheResidueOfTheWayBack) {
   const Geodetic back = Rt90ToWgs84(grid.East, grid.North);
   EXPECT_NEAR(back.Lon, 18.0685003, 5e-8);
   EXPECT_NEAR(back.Lat, 59.3293000, 5e-8);
-  const double residue_m = std::hypot((back.Lon - 18.0685) * 111320 * std::cos(59.3293 * 0.01745329),
-                                      (back.Lat - 59.3293) * 111320);
+  const double residue_m =
+      std::hypot((back.Lon - 18.0685) * 111320 * std::cos(59.3293 * 0.01745329),
+                 (back.Lat - 59.3293) * 111320);
   EXPECT_NEAR(residue_m, 0.016, 0.004);
 }
 
