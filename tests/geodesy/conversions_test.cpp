@@ -78,8 +78,9 @@ TEST(Rt90, StockholmAndTheResidueOfTheWayBack) {
   const Geodetic back = Rt90ToWgs84(grid.East, grid.North);
   EXPECT_NEAR(back.Lon, 18.0685003, 5e-8);
   EXPECT_NEAR(back.Lat, 59.3293000, 5e-8);
-  const double residue_m = std::hypot((back.Lon - 18.0685) * 111320 * std::cos(59.3293 * 0.01745329),
-                                      (back.Lat - 59.3293) * 111320);
+  const double residue_m =
+      std::hypot((back.Lon - 18.0685) * 111320 * std::cos(59.3293 * 0.01745329),
+                 (back.Lat - 59.3293) * 111320);
   EXPECT_NEAR(residue_m, 0.016, 0.004);
 }
 
@@ -105,6 +106,15 @@ TEST(XyzToGeodeticWgs84, NegativeXFoldsTheLongitude) {
   const Geodetic position = XyzToGeodeticWgs84({-3000000, 1000000, 5500000});
   EXPECT_NEAR(position.Lon, -18.43495, 1e-5);
   EXPECT_NEAR(position.Lat, 60.26932, 1e-5);
+}
+
+TEST(UtmToGeodetic, PlacesBehindThePoleComeBack) {
+  for (double lon : {15.0 + 170.0, 15.0 - 170.0}) {
+    const GridMetres grid = GeodeticToUtm(lon, 80.0, 15.0, 500000.0);
+    const Geodetic place = UtmToGeodetic(15.0, grid.East, grid.North, 500000.0);
+    EXPECT_NEAR(place.Lon, lon > 180.0 ? lon - 360.0 : lon, 1e-4);
+    EXPECT_NEAR(place.Lat, 80.0, 1e-4);
+  }
 }
 
 TEST(UtmToGeodetic, LongitudeStaysWithinHalfATurn) {

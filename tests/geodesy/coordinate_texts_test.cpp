@@ -34,6 +34,8 @@ TEST(GridTexts, EastFromTenThousandKilometresShowsTwoDecimals) {
   EXPECT_EQ(GridEastText(15500.00012), " 15500.00");
   EXPECT_EQ(GridEastText(10484.25506), " 10484.55");
   EXPECT_EQ(GridEastText(4595.17776), " 4595.177");  // cut, not rounded
+  EXPECT_EQ(GridEastText(10000.0), " 10000.00");
+  EXPECT_EQ(GridEastText(9999.999), " 9999.999");
 }
 
 TEST(GridTexts, NorthIsHeldBelowTenThousandKilometres) {

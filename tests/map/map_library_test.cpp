@@ -267,6 +267,15 @@ TEST(TileFrames, BoundariesStandOnTheFramesWhenATileIsNoWholeNumberOfPixels) {
   EXPECT_GE(upright, 19);
 }
 
+TEST(TileFrames, ATileOfNinePixelsIsTooNarrow) {
+  MapWorld world;
+  world.Controls.Scales.FrameBox[kRow50].Value = 1;
+  ComputeViewEdges(world.View());
+  world.View().MetresPerPixel = 50000.0 / 9.0;
+  TileFrames(world.Surface, world.View(), world.Room.Library, world.Controls.Scales);
+  EXPECT_THAT(world.Surface.Of("line"), IsEmpty());
+}
+
 TEST(TileFrames, NarrowTilesGetNoBoundaries) {
   MapWorld world;
   world.Controls.Scales.FrameBox[kRow50].Value = 1;

@@ -195,6 +195,13 @@ TEST(AllStationsDraw, ASmallLetterInTheSourceFieldHasItsOwnColour) {
   world.Hear(heard);
   world.Draw(2);
   EXPECT_EQ(world.Surface.Of("filled")[0].Ink, 0xE800C8u);
+  for (const auto& [source, ink] : {std::pair{"a", 0xE800C8u}, {"`", 0xB80098u}}) {
+    StationWorld edge;
+    heard.Via = source;
+    edge.Hear(heard);
+    edge.Draw(2);
+    EXPECT_EQ(edge.Surface.Of("filled")[0].Ink, ink) << source;
+  }
 }
 
 TEST(AllStationsDraw, DirectlyHeardOnlyLeavesOutRecordsWithASource) {
@@ -236,6 +243,10 @@ TEST(AllStationsDraw, AMovingStationThatStoodStillIsLeftOutWhenAsked) {
   EXPECT_TRUE(world.Draw(4).empty());
   world.Hear(StationWorld::At(110, 100, "STILL"));
   EXPECT_FALSE(world.Draw(2).empty());
+  // Standing again later does not take the movement back.
+  world.Hear(StationWorld::At(110, 100, "STILL"));
+  world.Draw(2);
+  EXPECT_FALSE(world.Surface.Of("filled").empty());
   StationWorld fixed;
   fixed.View().MovedOnly = true;
   fixed.Hear(StationWorld::At(100, 100, "HOME", "/-"));
