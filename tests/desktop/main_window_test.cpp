@@ -336,8 +336,10 @@ TEST_F(MainWindowTest, EnterInTheCallFieldFollowsTheStation) {
   field->lineEdit()->selectAll();
   QTest::keyClicks(field->lineEdit(), QStringLiteral("n0call"));
   QTest::keyClick(field->lineEdit(), Qt::Key_Return);
-  EXPECT_EQ(State().Followed.Moni1Call, "N0CALL");
-  EXPECT_EQ(field->currentText(), QStringLiteral("N0CALL"));
+  // The call stays as typed; packets are compared with it without regard to case.
+  EXPECT_EQ(State().Followed.Moni1Call, "n0call");
+  EXPECT_EQ(field->currentText(), QStringLiteral("n0call"));
+  EXPECT_EQ(State().Stores.Moni1Records.Count(), 1);
 }
 
 TEST_F(MainWindowTest, ThePointerShowsThatTheProgramIsBusy) {
