@@ -337,23 +337,9 @@ QWidget* MainWindow::MakeMoni1() {
   return group;
 }
 
-QWidget* MainWindow::MakeMoniAll() {
-  auto* group = new QWidget;
-  auto* box = TightBox(QBoxLayout::TopToBottom, group);
+// The five class switches with the marks of their stations.
+QBoxLayout* MainWindow::MakeClassRow() {
   MoniAllControls& m = controls_.MoniAll;
-  box->addWidget(GroupCaption("MONI ALL"));
-
-  auto* level_row = TightBox(QBoxLayout::LeftToRight);
-  QPushButton* level = NamedButton("Command13");
-  QLabel* shown = MakeFixedLabel("Label16");
-  shown->setAlignment(Qt::AlignCenter);
-  shown->setMinimumWidth(32);
-  level_row->addWidget(level, 1);
-  level_row->addWidget(shown);
-  box->addLayout(level_row);
-  binder_.Bind(level, m.Command13);
-  binder_.Bind(shown, m.Label16);
-
   auto* classes = TightBox(QBoxLayout::LeftToRight);
   struct Class {
     const char* Name;
@@ -375,7 +361,27 @@ QWidget* MainWindow::MakeMoniAll() {
     classes->addWidget(button, 1);
     binder_.Bind(button, row.Control);
   }
-  box->addLayout(classes);
+  return classes;
+}
+
+QWidget* MainWindow::MakeMoniAll() {
+  auto* group = new QWidget;
+  auto* box = TightBox(QBoxLayout::TopToBottom, group);
+  MoniAllControls& m = controls_.MoniAll;
+  box->addWidget(GroupCaption("MONI ALL"));
+
+  auto* level_row = TightBox(QBoxLayout::LeftToRight);
+  QPushButton* level = NamedButton("Command13");
+  QLabel* shown = MakeFixedLabel("Label16");
+  shown->setAlignment(Qt::AlignCenter);
+  shown->setMinimumWidth(32);
+  level_row->addWidget(level, 1);
+  level_row->addWidget(shown);
+  box->addLayout(level_row);
+  binder_.Bind(level, m.Command13);
+  binder_.Bind(shown, m.Label16);
+
+  box->addLayout(MakeClassRow());
 
   auto* switches = TightBox(QBoxLayout::LeftToRight);
   QPushButton* direct = NamedButton("Check24");

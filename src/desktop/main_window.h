@@ -52,6 +52,7 @@ class MainWindow final : public QWidget {
   QWidget* MakeReadouts();
   QWidget* MakeScales();
   QWidget* MakeMoni1();
+  QBoxLayout* MakeClassRow();
   QWidget* MakeMoniAll();
   void MakeOverlays();
   void MakeRecordPanel();
