@@ -6,7 +6,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QtTest/QTest>
 
 #include <cstdlib>
 #include <fstream>
@@ -16,6 +17,7 @@
 #include <vector>
 
 #include "core/text_fields.h"
+#include "desktop/desktop_program.h"
 #include "platform/absent_devices.h"
 #include "platform/native/native_files.h"
 #include "platform/qt/qt_loop.h"
@@ -208,12 +210,37 @@ TEST_F(DirewolfTest, AVanishedEngineShowsAsALostLinkWithoutABox) {
   program->Stop(true);
 }
 
+// As an operator runs it: the start window, Enter, ticks, the records in the log.
+TEST_F(DirewolfTest, TheWholeProgramHearsItFromTheStartWindowOn) {
+  ::setenv("ZEPRIL_DRIVE_C", folder.Path().c_str(), 1);
+  files.MakeFolder(std::string(kFolder) + "\\U33\\M0050");  // maps are there: none is drawn
+  DesktopProgram whole({kFolder, std::string(ZEPRIL_SOURCE_DIR) + "/data"});
+  ASSERT_TRUE(whole.LoadFonts());
+  whole.ShowStartWindow();
+  QTest::keyClick(whole.Starting()->findChild<QWidget*>(QStringLiteral("Text8")), Qt::Key_Return);
+  ASSERT_NE(whole.Window(), nullptr) << engine->Log();
+  StationProgram& station = *whole.Station();
+  engine->Play("N0CALL>APRS,QX0DIG*:=5230.00N/01324.00E>Test");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !station.State().Radio.AgwRxBuffer.empty(); },
+                              static_cast<int>(kPatience * 1000)))
+      << engine->Log();
+  whole.Loop().RunStep(station.Timer1().Elapsed);
+  const std::vector<std::string> records = Heard();
+  ASSERT_EQ(records.size(), 1U);
+  EXPECT_TRUE(Mid(records[0], 14).starts_with(" 5817.860  391.394'N0CALL    Test ")) << records[0];
+  bool ended = false;
+  whole.Ended = [&] { ended = true; };
+  whole.Window()->close();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return ended; }, static_cast<int>(kPatience * 1000)));
+  ::unsetenv("ZEPRIL_DRIVE_C");
+}
+
 }  // namespace
 }  // namespace zepril
 
 int main(int argc, char** argv) {
   ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  const QCoreApplication application(argc, argv);
+  const QApplication application(argc, argv);
   ::testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }
