@@ -31,6 +31,12 @@ ConfigField UpperTextField(std::string key, std::string& held) {
           [&held] { return held; }};
 }
 
+ConfigField FoldedTextField(std::string key, std::string& held) {
+  ConfigField field = UpperTextField(std::move(key), held);
+  field.Give = [&held] { return Upper(Trim(held)); };
+  return field;
+}
+
 ConfigField FolderField(std::string key, std::string& held) {
   return {std::move(key),
           [&held](std::string_view value) {

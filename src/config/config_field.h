@@ -4,6 +4,8 @@
 // real (64-bit). A number that does not fit its type leaves the held value alone.
 #pragma once
 
+#include "core/text_fields.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -37,6 +39,19 @@ ConfigField NmeaBaudField(std::string key, std::string& held);
 ConfigField ObjectNameField(std::string key, std::string& held);
 // Empty becomes "A"; otherwise the first character stays.
 ConfigField OverlayField(std::string key, std::string& held);
+
+// Written folded as well as read so: what is held in another case does not reach the file.
+ConfigField FoldedTextField(std::string key, std::string& held);
+
+// One field for each of `values`: BEFORE1AFTER, BEFORE2AFTER and so on, made by `make`.
+template <typename Values, typename Make>
+void AddNumbered(ConfigFields& fields, const std::string& before, const std::string& after,
+                 Values& values, Make make) {
+  for (std::size_t at = 0; at < values.size(); ++at) {
+    const auto number = static_cast<std::int64_t>(at) + 1;
+    fields.push_back(make(before + WholeNumber(number) + after, values[at]));
+  }
+}
 
 // Takes one line: trimmed of blanks, its key matched without regard to case. False when no field
 // has the key.

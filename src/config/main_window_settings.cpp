@@ -14,15 +14,6 @@ constexpr std::size_t kMostMergedLines = 100;
 constexpr std::array<std::string_view, 6> kScaleKeys = {
     "M5000=", "M1000=", "M0200=", "M0050=", "M0010=", "M0002="};
 
-template <typename Values, typename Make>
-void AddNumbered(ConfigFields& fields, const std::string& before, const std::string& after,
-                 Values& values, Make make) {
-  for (std::size_t at = 0; at < values.size(); ++at) {
-    fields.push_back(
-        make(before + WholeNumber(static_cast<std::int64_t>(at) + 1) + after, values[at]));
-  }
-}
-
 ConfigField OnWriting(ConfigField field, std::function<std::string()> give) {
   field.Give = std::move(give);
   return field;
@@ -109,10 +100,8 @@ ConfigFields MainWindowFields(RuntimeState& state) {
   InternetState& net = state.Internet;
   ConfigFields f;
   f.push_back(IntField("LANG", state.Settings.Language));
-  f.push_back(OnWriting(UpperTextField("USER", identity.MyCall),
-                        [&identity] { return Upper(Trim(identity.MyCall)); }));
-  f.push_back(OnWriting(UpperTextField("MSYS", identity.MapZoneName),
-                        [&identity] { return Upper(Trim(identity.MapZoneName)); }));
+  f.push_back(FoldedTextField("USER", identity.MyCall));
+  f.push_back(FoldedTextField("MSYS", identity.MapZoneName));
   f.push_back(FolderField("UMAPS", identity.MapsPath));
   f.push_back(VariantField("M0002", map.StoredVariants[5]));
   f.push_back(VariantField("M0010", map.StoredVariants[4]));
@@ -150,8 +139,7 @@ ConfigFields MainWindowFields(RuntimeState& state) {
   f.push_back(IntField("TXAF", radio.TxAudioLevel));
   f.push_back(IntField("TXAFC", radio.TxAfc));
   f.push_back(ByteField("DIGI", radio.DigiOn));
-  f.push_back(OnWriting(UpperTextField("XBAUD", radio.CrossMode),
-                        [&radio] { return Upper(Trim(radio.CrossMode)); }));
+  f.push_back(FoldedTextField("XBAUD", radio.CrossMode));
   f.push_back(IntField("TXSY", tx.TxSymbolIndex));
   f.push_back(OverlayField("TXSS", tx.TxOverlay));
   f.push_back(RealField("UTN", map.CentreNorthKm));

@@ -7,24 +7,6 @@
 #include "core/text_fields.h"
 
 namespace zepril {
-namespace {
-
-void AddNumbered(ConfigFields& fields, const std::string& before, const std::string& after,
-                 auto& values, auto make) {
-  for (std::size_t at = 0; at < values.size(); ++at) {
-    fields.push_back(
-        make(before + WholeNumber(static_cast<std::int64_t>(at) + 1) + after, values[at]));
-  }
-}
-
-// Written folded as well, so that what is held in other case does not reach the file.
-ConfigField FoldedTextField(std::string key, std::string& held) {
-  ConfigField field = UpperTextField(std::move(key), held);
-  field.Give = [&held] { return Upper(Trim(held)); };
-  return field;
-}
-
-}  // namespace
 
 StartPanelSettings DefaultStartPanelSettings(const std::string& program_folder,
                                              const std::string& temp) {
