@@ -19,6 +19,16 @@ ConfigField OnWriting(ConfigField field, std::function<std::string()> give) {
   return field;
 }
 
+// A coordinate of the last centre. Its text is kept too: how it ends tells a picture's place.
+ConfigField CentreField(std::string key, double& held, std::string& text) {
+  ConfigField field = RealField(std::move(key), held);
+  field.Take = [&text, take = field.Take](std::string_view value) {
+    text = Trim(value);
+    take(value);
+  };
+  return field;
+}
+
 // The last map of a scale: read here, written by the merge at exit alone.
 ConfigField VariantField(std::string key, std::string& held) {
   return OnWriting(UpperTextField(std::move(key), held), nullptr);
@@ -142,8 +152,8 @@ ConfigFields MainWindowFields(RuntimeState& state) {
   f.push_back(FoldedTextField("XBAUD", radio.CrossMode));
   f.push_back(IntField("TXSY", tx.TxSymbolIndex));
   f.push_back(OverlayField("TXSS", tx.TxOverlay));
-  f.push_back(RealField("UTN", map.CentreNorthKm));
-  f.push_back(RealField("UTE", map.CentreEastKm));
+  f.push_back(CentreField("UTN", map.CentreNorthKm, map.StoredNorthText));
+  f.push_back(CentreField("UTE", map.CentreEastKm, map.StoredEastText));
   f.push_back(RealField("UUN", map.OwnNorthKm));
   f.push_back(RealField("UUE", map.OwnEastKm));
   f.push_back(ObjectNameField("ONAM", tx.ObjectName));

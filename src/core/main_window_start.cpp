@@ -12,8 +12,8 @@ int TxAllowedOf(std::string_view call) {
   return !third.empty() && IsDigit(third.front()) ? 1 : 0;
 }
 
-bool IsPicturePlace(double km) {
-  return Right(ShortNumber(km), 4) == ".499";
+bool IsPicturePlace(std::string_view km_text) {
+  return Right(Trim(km_text), 4) == ".499";
 }
 
 MainWindowStart::MainWindowStart(RuntimeState& state, MainWindowControls& controls, Clock& clock,
@@ -84,7 +84,7 @@ void MainWindowStart::SetDefaults() {
 
 void MainWindowStart::SetView() {
   MapViewState& map = state_.Map;
-  if (IsPicturePlace(map.CentreNorthKm) && IsPicturePlace(map.CentreEastKm)) {
+  if (IsPicturePlace(map.StoredNorthText) && IsPicturePlace(map.StoredEastText)) {
     // The last centre was a picture's place: the map opens there.
     map.CentreFollow = 0;
   } else {

@@ -57,6 +57,6 @@ class MainWindowStart {
 int TxAllowedOf(std::string_view call);
 
 // True for a km text whose last four characters are ".499": a place taken from a picture's name.
-bool IsPicturePlace(double km);
+bool IsPicturePlace(std::string_view km_text);
 
 }  // namespace zepril

@@ -275,6 +275,7 @@ TEST_F(ConfigTest, BothReadersTakeEverySettingThatTheirWriterGives) {
   EXPECT_EQ(state.Transmission.InfoLineActive[4], 0);
   EXPECT_EQ(state.Transmission.InfoLineMemory[5], "145.500MHZ");
   EXPECT_EQ(state.Map.CentreNorthKm, 6200.499);
+  EXPECT_EQ(state.Map.StoredNorthText, "6200.499");
   EXPECT_EQ(state.Transmission.ObjectOverlay, "7");
 }
 

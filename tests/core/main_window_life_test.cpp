@@ -153,6 +153,8 @@ TEST_F(StartTest, APicturePlaceInBothCoordinatesOpensTheMapThere) {
   WithConfig = [this] {
     state.Map.CentreNorthKm = 6200.499;
     state.Map.CentreEastKm = 400.499;
+    state.Map.StoredNorthText = "6200.499";
+    state.Map.StoredEastText = "400.499";
   };
   recorder.OnLoadHistory = [this] {
     state.Stores.Moni1Records.Append(StationRecord("240115 1234"));
@@ -162,12 +164,19 @@ TEST_F(StartTest, APicturePlaceInBothCoordinatesOpensTheMapThere) {
   EXPECT_FALSE(controls.Map.Option2.Value);
   EXPECT_EQ(state.Map.CentreNorthKm, 6200.499);
   WithConfig = [this] {
-    state.Map.CentreNorthKm = 6200.499;
-    state.Map.CentreEastKm = 400.5;
+    state.Map.StoredNorthText = "6200.499";
+    state.Map.StoredEastText = "400.5";
   };
   Start();
   EXPECT_EQ(state.Map.CentreFollow, 1);
   EXPECT_TRUE(controls.Map.Option2.Value);
+  // The text decides, not the number.
+  WithConfig = [this] {
+    state.Map.StoredNorthText = "6200.4990";
+    state.Map.StoredEastText = "400.499";
+  };
+  Start();
+  EXPECT_EQ(state.Map.CentreFollow, 1);
 }
 
 TEST_F(StartTest, WithoutAHistoryTheMapIsFreeAndHasADefaultCentre) {

@@ -14,6 +14,8 @@ struct MapViewState {
 
   double CentreNorthKm = 0.0;
   double CentreEastKm = 0.0;
+  std::string StoredNorthText;  // the last centre as the configuration has it
+  std::string StoredEastText;
   double MapTileKm = 5000.0;  // 5000, 1000, 200, 50, 10 or 2
   double ZoomFactor = 1.0;    // native pixels of a tile to a screen pixel; 0 is read as 1
   double MetresPerPixel = 5000.0;
