@@ -71,8 +71,9 @@ struct TextBox : Control {
 struct ComboBox : Control {
   std::string Text;  // of an editable field, or of the selected entry
   std::vector<std::string> Items;
-  int ListIndex = -1;  // 0-based, -1 none
-  Event Change;        // text typed or an entry chosen
+  int ListIndex = -1;           // 0-based, -1 none
+  bool DropDownWanted = false;  // the list is to be opened; taken and cleared by the desktop
+  Event Change;                 // text typed or an entry chosen
   std::function<void(KeyPress)> KeyDown;
 
   // The selected entry, or an empty text.
@@ -112,6 +113,13 @@ struct PictureBox : Control {
   std::function<void(MousePress)> MouseMove;
   std::function<void(MousePress)> MouseUp;
   std::function<void(KeyPress)> KeyDown;
+};
+
+// Shows a picture file, scaled to fit. An empty path shows `Caption` alone.
+struct ImageView : Control {
+  std::string Path;            // as the operator wrote it
+  std::string Caption;         // in place of a picture that can't be shown
+  std::uint64_t Revision = 0;  // raised when the file is to be read anew
 };
 
 }  // namespace zepril

@@ -92,9 +92,10 @@ void SetStationToolTips(MainWindowControls& c, const char* (*pick)(const char*))
 
 void HidePanels(MainWindowControls& c) {
   for (Control* panel : std::initializer_list<Control*>{
-           &c.Record.Frame1, &c.Record.Frame8, &c.Transmit.Frame3, &c.Transmit.Frame7,
+           &c.Record.Frame1, &c.Picture.Frame8, &c.Transmit.Frame3, &c.Transmit.Frame7,
            &c.Status.Text10, &c.Status.Frame12, &c.Status.Frame14, &c.Qth.Frame2,
-           &c.Palette.PalettePanel, &c.MoniAll.HeardPanel, &c.Map.PictureBase, &c.Raw.RawList}) {
+           &c.Palette.PalettePanel, &c.MoniAll.HeardPanel, &c.Map.PictureBase, &c.Raw.RawList,
+           &c.Places.PoiPanel, &c.Iono.Frame18, &c.Sun.SunPanel, &c.Progress.ProgressPanel}) {
     panel->Visible = false;
   }
 }

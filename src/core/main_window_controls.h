@@ -117,7 +117,65 @@ struct RecordPanelControls {
   Button Command40;  // WX panel
   Button Command36;  // highlight
   Button Command23;  // close
-  Frame Frame8;      // picture panel
+};
+
+// Track files.
+struct TrackControls {
+  ComboBox Combo1;   // the files; shown is the one that is loaded
+  Button Command68;  // previous file
+  Button Command69;  // next file
+  Button Frame10;    // centre to the end of the track
+};
+
+// Place files, and the panel in which a place is added, renamed or removed.
+struct PlaceControls {
+  ComboBox Combo2;  // the files; a name that is typed makes a new one
+  Button PoiNew;    // opens the panel for a new place
+  Frame PoiPanel;
+  Label Label14;     // what the name field does
+  TextBox Text4;     // name of the place
+  Button PoiOk;      // applies the name
+  Button PoiClose;   // leaves the place as it is
+  Button Command64;  // " POS->CENTER": the place moves to the map centre
+  Button Command67;  // "OPEN LINK"
+};
+
+// The geo-referenced picture that fills the map window.
+struct PicturePanelControls {
+  Frame Frame8;
+  ImageView Picture;  // a click centres the map where it was taken
+  Label PictureName;
+  Button Command29;  // previous picture
+  Button Command30;  // next picture
+  Button Command70;  // open it outside
+  Button Command71;  // close it
+};
+
+// "Input of ionospherical data".
+struct IonoControls {
+  Frame Frame18;
+  TextBox Text11;         // SUNSPOT(R)
+  TextBox Text12;         // K
+  CheckBox FoptDetailed;  // circles show the three values in place of "Fopt="
+  Button IonoOk;
+  Button IonoClose;
+};
+
+// The sun's path over a point of the map, while the right button is held there.
+struct SunControls {
+  static constexpr std::size_t kRows = 6;
+  Frame SunPanel;
+  Label SunTitle;
+  PictureBox SunPlot;
+  std::array<Label, kRows> SunNames;
+  std::array<Label, kRows> SunValues;
+};
+
+// Long work: what is done and how far it is.
+struct ProgressControls {
+  Frame ProgressPanel;
+  Label ProgressText;
+  FillBar ProgressBar;
 };
 
 // Transmission switches.
@@ -171,6 +229,12 @@ struct MainWindowControls {
   Moni1Controls Moni1;
   MoniAllControls MoniAll;
   RecordPanelControls Record;
+  TrackControls Tracks;
+  PlaceControls Places;
+  PicturePanelControls Picture;
+  IonoControls Iono;
+  SunControls Sun;
+  ProgressControls Progress;
   TransmitControls Transmit;
   RawListControls Raw;
   StatusControls Status;

@@ -11,7 +11,7 @@ void MainWindowStop::CloseRequest() {
   timer1_.Stop();
   actions_.CloseSound();
   if (controls_.Moni1.Check22.Value == 1) actions_.StopPageLoading();
-  if (controls_.Record.Frame8.Visible) actions_.StopPicturePanel();
+  if (controls_.Picture.Frame8.Visible) actions_.StopPicturePanel();
 }
 
 void MainWindowStop::Run(bool by_operator) {

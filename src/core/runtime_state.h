@@ -9,6 +9,7 @@
 #include "core/state/identity.h"
 #include "core/state/internet.h"
 #include "core/state/map_view.h"
+#include "core/state/places.h"
 #include "core/state/radio.h"
 #include "core/state/reception.h"
 #include "core/state/settings.h"
@@ -25,6 +26,7 @@ struct RuntimeState {
   StoresState Stores;
   FollowedStationState Followed;
   MapViewState Map;
+  PlacesState Places;
   ChatState Chat;
   GpsState Gps;
   InternetState Internet;

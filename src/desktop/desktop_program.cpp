@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "platform/qt/text.h"
+#include "viewers/sun_curve.h"
 
 namespace zepril {
 namespace {
@@ -18,7 +19,8 @@ DesktopProgram::DesktopProgram(const ProgramPlaces& places)
       files_(DefaultDriveFolder()),
       dialogs_(loop_),
       map_surface_(kFirstMapWidth, kFirstMapHeight, fonts_),
-      base_surface_(kFirstMapWidth, kFirstMapHeight, fonts_) {}
+      base_surface_(kFirstMapWidth, kFirstMapHeight, fonts_),
+      sun_surface_(SunCurve::kPlotWidth, SunCurve::kPlotHeight, fonts_) {}
 
 DesktopProgram::~DesktopProgram() {
   loop_.ControlsOut = nullptr;
@@ -80,8 +82,9 @@ void DesktopProgram::DrawMissingSampleMaps() {
 void DesktopProgram::OpenMainWindow() {
   start_asked_ = false;
   loop_.StepEnded = nullptr;
-  program_ = std::make_unique<StationProgram>(StationPlatform{
-      files_, loop_, dialogs_, desktop_, socket_, modem_, map_surface_, base_surface_});
+  program_ = std::make_unique<StationProgram>(StationPlatform{files_, loop_, dialogs_, desktop_,
+                                                              socket_, modem_, map_surface_,
+                                                              base_surface_, sun_surface_});
   loop_.Drive(program_->Timer1(), false);
   loop_.Drive(program_->Timer2(), true);
   loop_.Drive(program_->ReopenTimer(), true);

@@ -58,6 +58,7 @@ class DesktopProgram {
   MapFonts fonts_;
   QtSurface map_surface_;
   QtSurface base_surface_;
+  QtSurface sun_surface_;
   std::unique_ptr<StartPanel> panel_;
   std::unique_ptr<StartWindow> start_window_;
   std::unique_ptr<SampleMapWorker> worker_;

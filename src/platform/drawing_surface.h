@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace zepril {
@@ -53,6 +54,8 @@ class DrawingSurface {
 
   virtual int Width() const = 0;
   virtual int Height() const = 0;
+  // What is painted, as the bytes of a BMP file.
+  virtual std::string BmpFile() const = 0;
   virtual void Clear(Colour colour) = 0;
   // Many lines of one colour, one pixel wide.
   virtual void Lines(std::span<const PixelLine> lines, Colour colour) = 0;

@@ -57,6 +57,9 @@ class Files {
   // Creates the folder and those above it; true when it is there afterwards.
   virtual bool MakeFolder(const std::string& path) = 0;
 
+  // The path as the computer's other programs know it.
+  virtual std::string NativePath(const std::string& path) const = 0;
+
   virtual std::optional<FileStamp> Stamp(const std::string& path) const = 0;
   bool Exists(const std::string& path) const { return Stamp(path).has_value(); }
 

@@ -32,6 +32,7 @@ struct StationPlatform {
   SerialPort& MSComm1;          // the modem
   DrawingSurface& MapSurface;   // `Picture1`
   DrawingSurface& BaseSurface;  // the second map window under it
+  DrawingSurface& SunSurface;   // plot of the sun's path
 };
 
 class StationRooms;

@@ -17,6 +17,7 @@ constexpr int kJumpToTyped = 3;
 
 StationRooms::StationRooms(StationPlatform machine)
     : machine_(machine),
+      progress_(machine.LocalClock, Controls.Progress),
       agw_link_(State.Radio, State.Identity, State.Transmission, machine.Winsock1,
                 machine.LocalClock, machine.Boxes, *this, ReopenTimer),
       agw_local_(State.Radio, machine.Winsock1, machine.LocalClock, ReopenTimer),
@@ -24,16 +25,29 @@ StationRooms::StationRooms(StationPlatform machine)
       tiles_(machine.FileSystem, machine.LocalClock),
       sheets_(machine.FileSystem, State.Identity.ProgramFolder),
       readouts_(State.Map, State.Followed, State.Stores.Moni1Records, Controls.Readouts),
+      overlays_({State.Places, State.Internet, State.Settings}, readouts_.Values(),
+                machine.LocalClock),
       redrawer_(
           {State.Map, State.Stores, State.Followed, State.Gps, State.Transmission, State.Identity},
           {Controls.Window, Controls.Map, Controls.Scales, Controls.Palette, Controls.Moni1,
            Controls.MoniAll, Controls.Record, Controls.Transmit},
           {machine.MapSurface, machine.BaseSurface, tiles_, library_, sheets_, symbols_, readouts_,
            overlays_, machine.LocalClock, Timer1}),
+      lookups_(State.Map, State.Places, Controls.Map, {machine.MapSurface, *this, Timer1}),
       interaction_(State.Map, State.Stores, State.Followed,
                    {Controls.Window, Controls.Map, Controls.Readouts, Controls.Scales,
                     Controls.Palette, Controls.Moni1, Controls.MoniAll, Controls.Record},
                    {*this, library_, readouts_, *this, lookups_, machine.Desktop, Timer1, Timer2}),
+      saver_(State.Identity, State.Map,
+             {machine.FileSystem, machine.Boxes, machine.MapSurface, *this}),
+      tracks_(State.Identity, State.Map, State.Settings, State.Places, Controls.Tracks,
+              Controls.Map, {machine.FileSystem, machine.Boxes, *this, *this, progress_}),
+      places_(State.Identity, State.Map, State.Settings, State.Places, Controls.Places,
+              Controls.Map,
+              {machine.FileSystem, machine.Boxes, machine.Desktop, *this, *this, progress_}),
+      pictures_(State.Identity, State.Map, Controls.Picture, Controls.Map,
+                {machine.FileSystem, machine.Desktop, *this, Timer1}),
+      sun_(State.Map, State.Settings, Controls.Sun, machine.SunSurface, machine.LocalClock),
       distance_(State.Alarms, State.Identity, State.Followed, State.Map, Controls.Status,
                 Controls.Window),
       history_(State.Identity, State.Stores, State.Followed, State.Map, State.Gps, Controls.Moni1,
@@ -55,6 +69,7 @@ StationRooms::StationRooms(StationPlatform machine)
   State.Map.ViewHeightPx = machine_.MapSurface.Height();
   Timer1.Elapsed = [this] { cycle_.Tick(); };
   Timer2.Elapsed = [this] { cycle_.Timer2Elapsed(); };
+  overlays_.PictureShower = [this] { ShowPicture(); };
   BindControls();
 }
 
@@ -141,6 +156,11 @@ bool StationRooms::ConnectAgw() {
   return agw_link_.ConnectAgw();
 }
 
+void StationRooms::RestoreTracksPlacesAndChat() {
+  tracks_.RestoreAtStart();
+  places_.RestoreAtStart();
+}
+
 void StationRooms::ShowTitleMarkers() {
   if (State.Internet.IGateOn == 1) PutInTitle(State.Settings.TitleText, 76, "IGate");
   Controls.Window.Title = std::string(Trim(State.Settings.TitleText));
@@ -221,6 +241,32 @@ void StationRooms::EndProgram() {
 void StationRooms::OpenRecordPanel() {
   browser_.Open(State.Stores.SelectedStationCall, State.Stores.SelectedRecordIndex,
                 State.Map.ClickNorthKm, State.Map.ClickEastKm);
+}
+
+// ---- Panels over the map --------------------------------------------------------------------
+
+void StationRooms::ShowPicture() {
+  pictures_.ShowPicture(State.Map.SelectedPicture);
+}
+
+void StationRooms::ClosePicture() {
+  pictures_.ClosePicture();
+}
+
+void StationRooms::EditPlace(int index) {
+  places_.EditPlace(index);
+}
+
+void StationRooms::ShowSunCurve() {
+  sun_.ShowSunCurve();
+}
+
+void StationRooms::MoveSunCurve() {
+  sun_.MoveSunCurve();
+}
+
+void StationRooms::HideSunCurve() {
+  sun_.HideSunCurve();
 }
 
 // ---- Handlers -------------------------------------------------------------------------------

@@ -15,13 +15,18 @@
 #include "core/main_cycle.h"
 #include "core/main_window_start.h"
 #include "core/main_window_stop.h"
+#include "core/progress_panel.h"
 #include "core/symbol_table.h"
+#include "gps/track_files.h"
 #include "links/agw_link.h"
 #include "links/agw_local.h"
 #include "map/map_interaction.h"
 #include "map/map_library.h"
+#include "map/map_lookups.h"
+#include "map/map_overlays.h"
+#include "map/map_panels.h"
 #include "map/map_redraw.h"
-#include "map/overlay_layers.h"
+#include "map/map_saver.h"
 #include "map/readouts.h"
 #include "map/symbol_sheets.h"
 #include "map/tile_cache.h"
@@ -33,6 +38,9 @@
 #include "reception/record_browser.h"
 #include "station/raw_list_search.h"
 #include "station/station_program.h"
+#include "viewers/picture_viewer.h"
+#include "viewers/place_files.h"
+#include "viewers/sun_curve.h"
 
 namespace zepril {
 
@@ -47,7 +55,8 @@ class StationRooms final : public TickActions,
                            public GateActions,
                            public MessageActions,
                            public ProgramActions,
-                           public RecordPanelOpener {
+                           public RecordPanelOpener,
+                           public MapPanels {
  public:
   explicit StationRooms(StationPlatform machine);
 
@@ -89,7 +98,7 @@ class StationRooms final : public TickActions,
   void OpenSerialModem() override {}
   bool ConnectAgw() override;
   void OpenGpsPort() override {}
-  void RestoreTracksPlacesAndChat() override {}
+  void RestoreTracksPlacesAndChat() override;
   void ShowTitleMarkers() override;
   void StartIonoUpdate() override {}
   void SetLabels() override;
@@ -119,6 +128,14 @@ class StationRooms final : public TickActions,
   void EndProgram() override;
   void OpenRecordPanel() override;
 
+  // Panels over the map.
+  void ShowPicture() override;
+  void ClosePicture() override;
+  void EditPlace(int index) override;
+  void ShowSunCurve() override;
+  void MoveSunCurve() override;
+  void HideSunCurve() override;
+
   // Handlers that join several rooms.
   void BindControls();
   void BindStations();
@@ -134,8 +151,7 @@ class StationRooms final : public TickActions,
 
   StationPlatform machine_;
   SymbolTable symbols_;
-  MapLookups lookups_;
-  OverlayLayers overlays_;
+  ProgressPanel progress_;
 
   AgwLink agw_link_;
   AgwLocal agw_local_;
@@ -144,8 +160,16 @@ class StationRooms final : public TickActions,
   TileCache tiles_;
   SymbolSheets sheets_;
   Readouts readouts_;
+  MapOverlays overlays_;
   MapRedrawer redrawer_;
+  PressLookups lookups_;
   MapInteraction interaction_;
+  MapSaver saver_;
+
+  TrackFiles tracks_;
+  PlaceFiles places_;
+  PictureViewer pictures_;
+  SunCurve sun_;
 
   DistanceAlarm distance_;
   FollowedHistory history_;

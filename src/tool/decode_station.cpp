@@ -79,6 +79,7 @@ class LogKeeper final : public Files {
   bool Remove(const std::string&) override { return true; }
   bool Rename(const std::string&, const std::string&) override { return true; }
   bool MakeFolder(const std::string&) override { return true; }
+  std::string NativePath(const std::string& path) const override { return path; }
   std::optional<FileStamp> Stamp(const std::string&) const override { return {}; }
   std::vector<FolderEntry> List(const std::string&, const std::string&) const override {
     return {};

@@ -235,7 +235,7 @@ class StopTest : public ::testing::Test {
     EXPECT_FALSE(timer2.Enabled());
     return recorder.Done;
   }
-  StopTest() { controls.Record.Frame8.Visible = false; }
+  StopTest() { controls.Picture.Frame8.Visible = false; }
   RuntimeState state;
   MainWindowControls controls;
   Timer timer1{6000};
@@ -258,7 +258,7 @@ TEST_F(StopTest, SettingsAreMergedOnACloseByTheOperatorOnly) {
 
 TEST_F(StopTest, LoadingPagesAreStopped) {
   controls.Moni1.Check22.Value = 1;
-  controls.Record.Frame8.Visible = true;
+  controls.Picture.Frame8.Visible = true;
   EXPECT_EQ(Stop(4, true),
             (Names{"sound", "page", "picture", "sound", "ports", "navigation", "merge", "delete"}));
 }

@@ -54,8 +54,8 @@ class MainWindowTest : public ::testing::Test {
                 "UUN=5830\r\nUUE=380\r\n");
     socket.OnConnect = [this] { socket.SetState(SocketState::Connected); };
     EXPECT_TRUE(fonts.LoadFonts(QStringLiteral(ZEPRIL_SOURCE_DIR "/data/fonts")));
-    program = std::make_unique<StationProgram>(
-        StationPlatform{files, loop, dialogs, desktop, socket, modem, map_surface, base_surface});
+    program = std::make_unique<StationProgram>(StationPlatform{
+        files, loop, dialogs, desktop, socket, modem, map_surface, base_surface, sun_surface});
     loop.RunStep([this] { EXPECT_TRUE(program->Start("C:\\ZEPRIL", 32)); });
     State().Map.MapTileKm = 50.0;
     State().Map.ZoomFactor = 1.0;
@@ -110,6 +110,7 @@ class MainWindowTest : public ::testing::Test {
   MapFonts fonts;
   QtSurface map_surface{880, 700, fonts};
   QtSurface base_surface{880, 700, fonts};
+  QtSurface sun_surface{361, 91, fonts};
   std::unique_ptr<StationProgram> program;
   std::unique_ptr<MainWindow> window;
   int closed = 0;

@@ -53,6 +53,7 @@ class MemoryFiles final : public Files {
   bool Remove(const std::string& path) override { return Contents.erase(path) > 0; }
   bool Rename(const std::string&, const std::string&) override { return false; }
   bool MakeFolder(const std::string&) override { return true; }
+  std::string NativePath(const std::string& path) const override { return path; }
   std::optional<FileStamp> Stamp(const std::string& path) const override {
     if (!Contents.contains(path)) return std::nullopt;
     return FileStamp{};

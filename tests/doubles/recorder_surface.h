@@ -28,6 +28,8 @@ class RecorderSurface final : public DrawingSurface {
 
   int Width() const override { return width_; }
   int Height() const override { return height_; }
+  // Tells how many operations had been drawn.
+  std::string BmpFile() const override { return "BM" + std::to_string(Operations.size()); }
   void Clear(Colour colour) override { Add({"clear", 0, 0, 0, 0, colour, {}, FontFace::Text, {}}); }
   void Lines(std::span<const PixelLine> lines, Colour colour) override {
     for (const PixelLine& line : lines) {

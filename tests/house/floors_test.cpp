@@ -33,6 +33,8 @@ const std::vector<Room> kRooms = {
     {"reception", {"platform", "core", "geodesy", "gps", "links", "config"}},
     {"map", {"platform", "core", "geodesy", "gps", "links", "config", "reception"}},
     {"weather", {"platform", "core", "geodesy", "gps", "links", "config", "reception"}},
+    {"viewers",
+     {"platform", "core", "geodesy", "gps", "links", "config", "reception", "map", "weather"}},
     {"station",
      {"platform", "platform/native", "core", "geodesy", "gps", "links", "config", "reception",
       "map", "weather", "viewers", "internet", "transmit"}},

@@ -93,13 +93,14 @@ class StationHarness {
   AbsentSerialPort modem;
   RecorderSurface map_surface{800, 600};
   RecorderSurface base_surface{800, 600};
+  RecorderSurface sun_surface{361, 91};
   std::unique_ptr<StationProgram> program;
 
  private:
   void Make() {
     program.reset();
-    program = std::make_unique<StationProgram>(
-        StationPlatform{files, clock, dialogs, desktop, socket, modem, map_surface, base_surface});
+    program = std::make_unique<StationProgram>(StationPlatform{
+        files, clock, dialogs, desktop, socket, modem, map_surface, base_surface, sun_surface});
     clock.ForgetTimers();
     clock.Drive(program->Timer1(), false);
     clock.Drive(program->Timer2(), true);

@@ -36,6 +36,7 @@ struct MapViewState {
   int PictureMode = 0;
   bool GridOn = false;
   bool CirclesOn = false;
+  bool FoptDetailed = false;  // circles with three values in place of "Fopt="
   bool PicturesOn = false;
   bool TracksOn = false;
   int PoiLevel = 0;                       // 0 to 2

@@ -32,7 +32,7 @@ class NativeFiles final : public Files {
                                 const std::string& pattern) const override;
 
   // The native path of `path`, every element that exists spelled as on the disk.
-  std::string NativePath(const std::string& path) const;
+  std::string NativePath(const std::string& path) const override;
 
  private:
   std::string drive_folder_;

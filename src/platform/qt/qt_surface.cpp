@@ -1,5 +1,8 @@
 #include "platform/qt/qt_surface.h"
 
+#include <QBuffer>
+#include <QByteArray>
+
 #include <algorithm>
 
 #include "platform/qt/pixel_raster.h"
@@ -21,6 +24,14 @@ QtSurface::QtSurface(int width, int height, MapFonts& fonts) : fonts_(fonts) {
 void QtSurface::Resize(int width, int height) {
   image_ = QImage(std::max(width, 1), std::max(height, 1), QImage::Format_RGB32);
   image_.fill(0xFF000000u);
+}
+
+std::string QtSurface::BmpFile() const {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  image_.save(&buffer, "BMP");
+  return bytes.toStdString();
 }
 
 void QtSurface::Clear(Colour colour) {

@@ -20,6 +20,7 @@ class QtSurface final : public DrawingSurface {
 
   int Width() const override { return image_.width(); }
   int Height() const override { return image_.height(); }
+  std::string BmpFile() const override;
   void Clear(Colour colour) override;
   void Lines(std::span<const PixelLine> lines, Colour colour) override;
   void Box(int x1, int y1, int x2, int y2, Colour colour) override;

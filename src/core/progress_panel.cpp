@@ -1,0 +1,40 @@
+#include "core/progress_panel.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "core/text_fields.h"
+
+namespace zepril {
+
+void ProgressPanel::Report(std::string_view what, double share) {
+  const double now = clock_.MonotonicSeconds();
+  if (!begun_) {
+    begun_ = now;
+    shown_ = now;
+  }
+  const double gone = now - *begun_;
+  if (gone < kShownAfterSeconds || now - shown_ < kShownEverySeconds) return;
+  shown_ = now;
+  const double done = std::isfinite(share) ? std::clamp(share, 0.0, 1.0) : 0.0;
+  std::string text(what);
+  text.append("  ").append(WholeNumber(ToWhole(std::floor(done * 100.0)))).append(" %");
+  if (gone >= kTimeLeftAfterSeconds && done > 0.0) {
+    const double left = gone / done - gone;
+    text.append("  ").append(WholeNumber(ToWhole(std::ceil(left)))).append(" s left");
+  }
+  controls_.ProgressText.Caption = text;
+  controls_.ProgressBar.FilledPx =
+      static_cast<int>(ToWhole(done * controls_.ProgressBar.FullWidthPx));
+  controls_.ProgressPanel.Visible = true;
+  // The window is painted in a wait, however short.
+  clock_.Wait(0.0);
+}
+
+void ProgressPanel::Done() {
+  begun_.reset();
+  controls_.ProgressPanel.Visible = false;
+}
+
+}  // namespace zepril

@@ -1,0 +1,44 @@
+// What a right press on the map finds beside stations: pictures, points of the track, places; and
+// the sun where nothing is.
+#pragma once
+
+#include "core/state/map_view.h"
+#include "core/state/places.h"
+#include "core/timer.h"
+#include "core/main_window_controls.h"
+#include "map/map_interaction.h"
+#include "map/map_panels.h"
+#include "platform/drawing_surface.h"
+
+namespace zepril {
+
+struct MapLookupTools {
+  DrawingSurface& MapSurface;
+  MapPanels& Panels;
+  Timer& Timer1;
+};
+
+class PressLookups final : public MapLookups {
+ public:
+  PressLookups(MapViewState& view, const PlacesState& places, MapControls& controls,
+               MapLookupTools tools)
+      : view_(view), places_(places), controls_(controls), tools_(tools) {}
+
+  bool LookupPicture() override;
+  bool LookupTrackPoint() override;
+  bool LookupPlace() override;
+  void ShowSunCurve() override { tools_.Panels.ShowSunCurve(); }
+  void MoveSunCurve() override { tools_.Panels.MoveSunCurve(); }
+  void HideSunCurve() override { tools_.Panels.HideSunCurve(); }
+  void ClosePicture() override { tools_.Panels.ClosePicture(); }
+
+ private:
+  double PointToleranceKm() const { return view_.MetresPerPixel / 100.0; }
+
+  MapViewState& view_;
+  const PlacesState& places_;
+  MapControls& controls_;
+  MapLookupTools tools_;
+};
+
+}  // namespace zepril

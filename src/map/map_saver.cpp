@@ -1,0 +1,7 @@
+#include "map/map_saver.h"
+
+namespace zepril {
+
+void MapSaver::SaveMapWindow() {}
+
+}  // namespace zepril
