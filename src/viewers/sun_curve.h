@@ -14,9 +14,10 @@ namespace zepril {
 
 class SunCurve {
  public:
-  static constexpr int kPlotWidth =
-      361;  // a column a degree of the clock, 15 an hour, both midnights
-  static constexpr int kPlotHeight = 91;  // a row a degree of elevation, the horizon lowest
+  // A column a degree of the clock, 15 an hour, from midnight to midnight.
+  static constexpr int kPlotWidth = 361;
+  // A row a degree of elevation, the horizon lowest.
+  static constexpr int kPlotHeight = 91;
 
   // `surface`: the plot, kPlotWidth x kPlotHeight. Sets the names of the six results.
   SunCurve(const MapViewState& view, const SettingsState& settings, SunControls& controls,
