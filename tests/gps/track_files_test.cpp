@@ -148,10 +148,10 @@ TEST(TrackChoice, IsNotDrawnWhenTheDisplayIsOff) {
 TEST(TrackChoice, OfTheNameThatIsHeldInAnyCaseReadsNothing) {
   TrackWorld world;
   world.Put("20240514.TRK", Lines({kFirst}));
-  world.Put("Abc.trk", Lines({kFirst}));
+  world.Put("ABC.TRK", Lines({kFirst}));
   world.Settings.TrackFile = "ABC";
   world.Room.RestoreAtStart();
-  world.Put("Abc.trk", Lines({kFirst, kSecond}));
+  world.Put("ABC.TRK", Lines({kFirst, kSecond}));
   world.Type("abc");
   world.Enter();
   EXPECT_EQ(world.Places.TrackPoints.Count(), 1);
