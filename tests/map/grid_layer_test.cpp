@@ -554,8 +554,8 @@ TEST(MetricGrid, NoTwoLabelsOfAGridOverlap) {
 }
 
 TEST(MetricGrid, AStripOfTwoDigitsIsStillCoveredThoughItsTextHasLostOne) {
-  // The easting's text reads 10484.55 while the true value is 10484.255.
-  Grids grids(5761.038, 1532.657, 2.0, 0.5);
+  // The easting reads 10484.55 while the true value is 10484.255: 590 pixels beside the centre.
+  Grids grids(5761.038, 1532.657, 2.0, 0.25);
   ASSERT_EQ(grids.Values.GkEastText, " 10484.55");
   grids.Draw(DisplayMode::GaussKrueger);
   int west = 0;
