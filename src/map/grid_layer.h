@@ -9,7 +9,8 @@
 //   UTM by position   0xFFE000  system; km at the left and the upper edge
 //   RT 90             0x00F000
 //
-// A redraw of one grid converts at most about 1300 points.
+// No two labels of a grid overlap: of two in each other's way the later one is left out. A redraw of
+// one grid converts at most about 1300 points.
 #pragma once
 
 #include <array>

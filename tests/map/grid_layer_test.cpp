@@ -129,7 +129,6 @@ TEST(GridLayer, LeavesTheValuesOfTheReadOutsAlone) {
 // ---- The map's own grid ---------------------------------------------------------------------
 
 TEST(MapGrid, LinesStandEveryHundredPixelsFromTheTile) {
-  // Tile 58000400 of 50 km: its corner is at pixel 0 and its north edge 400 rows over the centre.
   Grids grids(5825.0, 425.0, 50.0, 1.0, 800, 600);
   // West edge 25 km west of the centre, north edge 25 km north of it.
   const PixelPoint tile{400 - 500, 299 - 500 + 1};
