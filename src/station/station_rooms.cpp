@@ -211,6 +211,8 @@ void StationRooms::DeleteRunFiles() {
 
 void StationRooms::MapRedraw() {
   redrawer_.MapRedraw();
+  // Whatever ended the picture, its panel goes with it.
+  if (State.Map.PictureMode != 1 && Controls.Picture.Frame8.Visible) pictures_.ClosePicture();
   if (Controls.Qth.Frame2.Visible) ShowQthFields();
   Controls.Moni1.Command17.Caption = "TRACK " + WholeNumber(State.Followed.TrackStyle);
 }
@@ -275,6 +277,7 @@ void StationRooms::BindControls() {
   BindStations();
   BindRecordPanel();
   BindQthSetup();
+  Controls.Map.Command59.Click = [this] { saver_.SaveMapWindow(); };
   // The choice of a map folder is a setting.
   for (ComboBox& folder : Controls.Scales.Folder) {
     folder.Change = [this, choose = folder.Change] {

@@ -108,7 +108,7 @@ class StationRooms final : public TickActions,
   // The stop.
   void CloseSound() override {}
   void StopPageLoading() override {}
-  void StopPicturePanel() override {}
+  void StopPicturePanel() override { pictures_.ClosePicture(); }
   void CloseLocalEngine() override;
   void LeaveSerialModem() override {}
   void DisconnectAgw() override;
