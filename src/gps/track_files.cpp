@@ -144,6 +144,7 @@ void TrackFiles::CentreOnEnd() {
   view_.CentreEastKm = track.EastKm(last);
   view_.CentreFollow = 0;
   view_.MapLockedOnRecord = 0;
+  view_.PictureMode = 0;
   view_.ManualMapMove = true;
   map_.Option1.Value = false;
   map_.Option2.Value = false;

@@ -321,6 +321,7 @@ TEST(TrackEnd, CentresOnTheLastPointThatHasAPosition) {
   world.Room.RestoreAtStart();
   world.View.CentreFollow = 2;
   world.View.MapLockedOnRecord = 1;
+  world.View.PictureMode = 1;
   world.Map.Option1.Value = true;
   world.Map.Option2.Value = true;
   world.Controls.Frame10.Click();
@@ -328,6 +329,7 @@ TEST(TrackEnd, CentresOnTheLastPointThatHasAPosition) {
   EXPECT_DOUBLE_EQ(world.View.CentreEastKm, 413.345);
   EXPECT_EQ(world.View.CentreFollow, 0);
   EXPECT_EQ(world.View.MapLockedOnRecord, 0);
+  EXPECT_EQ(world.View.PictureMode, 0);
   EXPECT_TRUE(world.View.ManualMapMove);
   EXPECT_FALSE(world.Map.Option1.Value);
   EXPECT_FALSE(world.Map.Option2.Value);
