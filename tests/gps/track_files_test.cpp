@@ -192,6 +192,15 @@ TEST(TrackChoice, TypingAloneChoosesNothing) {
   EXPECT_EQ(world.Settings.TrackFile, "AB");
 }
 
+TEST(TrackChoice, AFieldThatIsEmptiedForTypingStaysEmpty) {
+  TrackWorld world;
+  world.Settings.TrackFile = "GONE";
+  world.Room.RestoreAtStart();
+  world.Controls.Combo1.Text.clear();
+  world.Controls.Combo1.Change();
+  EXPECT_EQ(world.Controls.Combo1.Text, "");
+}
+
 TEST(TrackChoice, ANewNameIsOfferedAndNoKeepsTheOldSelection) {
   TrackWorld world;
   world.Put("ABC.TRK", Lines({kFirst}));
