@@ -7,22 +7,21 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 #include "desktop/binder.h"
 #include "desktop/lamp_widget.h"
 #include "desktop/look.h"
 #include "desktop/map_widget.h"
+#include "desktop/panels_over_map.h"
+#include "desktop/side_columns.h"
+#include "desktop/window_parts.h"
 #include "platform/qt/map_fonts.h"
 #include "station/station_program.h"
 
 class QBoxLayout;
-class QFrame;
-class QGridLayout;
-class QLabel;
 class QSplitter;
 class QTabWidget;
-class QToolButton;
-class QVBoxLayout;
 
 namespace zepril {
 
@@ -44,23 +43,8 @@ class MainWindow final : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  QWidget* MakeMapBar();
-  QWidget* MakeLeftColumn();
-  QWidget* MakeRightColumn();
   QWidget* MakeBottomLine();
   QWidget* MakeDrawer();
-  QWidget* MakeReadouts();
-  QWidget* MakeScales();
-  QWidget* MakeMoni1();
-  QBoxLayout* MakeClassRow();
-  QWidget* MakeMoniAll();
-  void MakeOverlays();
-  void MakeRecordPanel();
-  void MakeAlarmPanel();
-  void MakeQthSetup();
-  void MakeHeardList();
-  void MakePalettePanel();
-  void PlaceOverlays();
   void Arrange();
   void ShowDrawer();
   void ShareHeight();
@@ -68,16 +52,14 @@ class MainWindow final : public QWidget {
   void Press(const Button& control);
   void CloseTopmostPanel();
 
-  QToolButton* MakeTool(const char* name, int picture, bool caption);
-  QLabel* MakeFixedLabel(const char* name);
-  QFrame* MakePanel(const char* name, QWidget* parent);
-
   StationProgram& program_;
   MainWindowControls& controls_;
   QtLoop& loop_;
   const Look& look_;
   Binder binder_;
-  QFont fixed_font_;
+  WindowParts parts_;
+  SideColumns columns_;
+  std::unique_ptr<PanelsOverMap> panels_;
 
   MapWidget* map_ = nullptr;
   QWidget* left_column_ = nullptr;
@@ -89,15 +71,6 @@ class MainWindow final : public QWidget {
   LampWidget* lamp_ = nullptr;
   QTimer lamp_timer_;
   QStringListModel raw_lines_;
-  QStringListModel heard_lines_;
-
-  QFrame* record_panel_ = nullptr;
-  QFrame* alarm_panel_ = nullptr;
-  QFrame* qth_panel_ = nullptr;
-  QFrame* heard_panel_ = nullptr;
-  QFrame* palette_panel_ = nullptr;
-  QLabel* banner_ = nullptr;
-  QLabel* record_text_ = nullptr;
   bool close_asked_ = false;
 };
 

@@ -1,0 +1,191 @@
+#include "desktop/panels_over_map.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+
+#include <algorithm>
+
+#include "desktop/class_button.h"
+#include "platform/qt/text.h"
+
+namespace zepril {
+namespace {
+
+constexpr int kOverlayMargin = 8;
+constexpr int kRecordWidth = 984;  // 120 columns of 8 pixels and a frame
+
+}  // namespace
+
+PanelsOverMap::PanelsOverMap(WindowParts& parts, MainWindowControls& controls,
+                             const MapViewState& view, QWidget& map)
+    : parts_(parts), controls_(controls), view_(view), map_(map) {
+  MakePanels();
+}
+
+void PanelsOverMap::MakePanels() {
+  MakeRecordPanel();
+  MakeAlarmPanel();
+  MakeQthSetup();
+  MakeHeardList();
+  MakePalettePanel();
+  banner_ = parts_.FixedLabel("Text10");
+  banner_->setParent(&map_);
+  banner_->setAlignment(Qt::AlignCenter);
+  banner_->setMargin(6);
+  parts_.Binding.Bind(banner_, controls_.Status.Text10);
+}
+
+void PanelsOverMap::MakeRecordPanel() {
+  RecordPanelControls& r = controls_.Record;
+  record_panel_ = parts_.Panel("Frame1", &map_);
+  auto* box = TightBox(QBoxLayout::TopToBottom, record_panel_);
+  box->setContentsMargins(8, 8, 8, 8);
+  record_text_ = parts_.FixedLabel("Label20");
+  record_text_->setWordWrap(true);
+  box->addWidget(record_text_);
+  parts_.Binding.Bind(record_text_, r.Label20);
+  auto* row = TightBox(QBoxLayout::LeftToRight);
+  QLabel* mode = parts_.FixedLabel("Label19");
+  parts_.Binding.Bind(mode, r.Label19);
+  const auto button = [&](const char* name, Button& control) {
+    QPushButton* made = NamedButton(name);
+    row->addWidget(made);
+    parts_.Binding.Bind(made, control);
+  };
+  button("Command18", r.Command18);
+  row->addWidget(mode);
+  button("Command19", r.Command19);
+  row->addStretch(1);
+  button("Command11", r.Command11);
+  button("Command36", r.Command36);
+  button("Command23", r.Command23);
+  box->addLayout(row);
+  parts_.Binding.Bind(record_panel_, r.Frame1);
+}
+
+void PanelsOverMap::MakeAlarmPanel() {
+  alarm_panel_ = parts_.Panel("Frame12", &map_);
+  auto* box = TightBox(QBoxLayout::TopToBottom, alarm_panel_);
+  box->setContentsMargins(16, 8, 16, 8);
+  auto* caption = parts_.FixedLabel("Frame12Caption");
+  QLabel* line = parts_.FixedLabel("Label25");
+  box->addWidget(caption);
+  box->addWidget(line);
+  parts_.Binding.Bind(line, controls_.Status.Label25);
+  parts_.Binding.Bind(alarm_panel_, controls_.Status.Frame12);
+  parts_.Binding.OnControlsOut([this, caption] {
+    caption->setText(ToQt(controls_.Status.Frame12.Caption));
+    if (alarm_panel_->isVisible()) alarm_panel_->adjustSize();
+  });
+}
+
+void PanelsOverMap::MakeQthSetup() {
+  QthSetupControls& q = controls_.Qth;
+  qth_panel_ = parts_.Panel("Frame2", &map_);
+  auto* grid = new QGridLayout(qth_panel_);
+  grid->setContentsMargins(12, 8, 12, 12);
+  grid->setSpacing(8);
+  auto* caption = new QLabel;
+  caption->setProperty("group", true);
+  caption->setWordWrap(true);
+  grid->addWidget(caption, 0, 0, 1, 2);
+  parts_.Binding.OnControlsOut([caption, &q] { caption->setText(ToQt(q.Frame2.Caption)); });
+  const auto field = [&](int row, const char* name, const char* text, TextBox& control) {
+    auto* edit = new QLineEdit;
+    edit->setObjectName(QString::fromLatin1(name));
+    edit->setAccessibleName(QString::fromLatin1(text));
+    edit->setFont(parts_.FixedFont);
+    grid->addWidget(new QLabel(QString::fromLatin1(text)), row, 0);
+    grid->addWidget(edit, row, 1);
+    parts_.Binding.Bind(edit, control);
+  };
+  field(1, "TextQthNorth", "North km", q.TextQthNorth);
+  field(2, "TextQthEast", "East km", q.TextQthEast);
+  QPushButton* ok = NamedButton("QthOk");
+  QPushButton* cancel = NamedButton("Command22");
+  grid->addWidget(ok, 3, 0);
+  grid->addWidget(cancel, 3, 1);
+  parts_.Binding.Bind(ok, q.QthOk);
+  parts_.Binding.Bind(cancel, q.Command22);
+  parts_.Binding.Bind(qth_panel_, q.Frame2);
+}
+
+void PanelsOverMap::MakeHeardList() {
+  heard_panel_ = parts_.Panel("HeardPanel", &map_);
+  auto* box = TightBox(QBoxLayout::TopToBottom, heard_panel_);
+  box->setContentsMargins(8, 8, 8, 8);
+  box->addWidget(GroupCaption("HEARD STATIONS"));
+  auto* list = new QListView;
+  list->setObjectName(QStringLiteral("HeardList"));
+  list->setAccessibleName(QStringLiteral("heard stations"));
+  list->setFont(parts_.FixedFont);
+  list->setUniformItemSizes(true);
+  list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  box->addWidget(list, 1);
+  parts_.Binding.Bind(list, &heard_lines_, controls_.MoniAll.HeardList);
+  parts_.Binding.Bind(heard_panel_, controls_.MoniAll.HeardPanel);
+}
+
+void PanelsOverMap::MakePalettePanel() {
+  PaletteControls& p = controls_.Palette;
+  palette_panel_ = parts_.Panel("PalettePanel", &map_);
+  auto* grid = new QGridLayout(palette_panel_);
+  grid->setContentsMargins(8, 8, 8, 8);
+  grid->setSpacing(kGap);
+  for (std::size_t ink = 0; ink < p.Optionink.size(); ++ink) {
+    auto* button = new ClassButton(parts_.Shades);
+    button->setObjectName(QStringLiteral("Optionink%1").arg(ink));
+    button->setAccessibleName(QStringLiteral("ink %1").arg(ink));
+    button->setFixedSize(32, 24);
+    button->setProperty("picture_only", true);
+    grid->addWidget(button, static_cast<int>(ink / 8), static_cast<int>(ink % 8));
+    parts_.Binding.Bind(button, p.Optionink[ink]);
+    parts_.Binding.OnControlsOut(
+        [this, button, ink] { button->SetFill(PlainColour(view_.InkColours[ink])); });
+  }
+  QPushButton* none = NamedButton("Command42");
+  QPushButton* close = NamedButton("Command43");
+  grid->addWidget(none, 2, 0, 1, 4);
+  grid->addWidget(close, 2, 4, 1, 4);
+  parts_.Binding.Bind(none, p.Command42);
+  parts_.Binding.Bind(close, p.Command43);
+  parts_.Binding.Bind(palette_panel_, p.PalettePanel);
+}
+
+void PanelsOverMap::Place() {
+  const int width = map_.width();
+  const int height = map_.height();
+  const int inner = std::max(width - 2 * kOverlayMargin, 100);
+  const int record_width = std::min(inner, kRecordWidth);
+  record_text_->setFixedWidth(record_width - 18);
+  record_panel_->setFixedWidth(record_width);
+  record_panel_->adjustSize();
+  record_panel_->move((width - record_width) / 2,
+                      height - record_panel_->height() - kOverlayMargin);
+  alarm_panel_->adjustSize();
+  alarm_panel_->move((width - alarm_panel_->width()) / 2, kOverlayMargin);
+  qth_panel_->setFixedWidth(std::min(260, inner));
+  qth_panel_->adjustSize();
+  qth_panel_->move(kOverlayMargin, kOverlayMargin);
+  const int heard_height = std::min(height - 2 * kOverlayMargin, 420);
+  heard_panel_->setGeometry(width - 168 - kOverlayMargin, kOverlayMargin, 168, heard_height);
+  palette_panel_->adjustSize();
+  palette_panel_->move(width - palette_panel_->width() - kOverlayMargin,
+                       height - palette_panel_->height() - kOverlayMargin);
+  banner_->adjustSize();
+  banner_->move((width - banner_->width()) / 2, kOverlayMargin);
+}
+
+const Button* PanelsOverMap::CloseOfTopmost() const {
+  if (controls_.Record.Frame1.Visible) return &controls_.Record.Command23;
+  if (controls_.MoniAll.HeardPanel.Visible) return &controls_.MoniAll.Command3;
+  if (controls_.Palette.PalettePanel.Visible) return &controls_.Palette.Command43;
+  if (controls_.Qth.Frame2.Visible) return &controls_.Qth.Command22;
+  return nullptr;
+}
+
+}  // namespace zepril

@@ -1,0 +1,238 @@
+#include "desktop/side_columns.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+
+#include "desktop/class_button.h"
+#include "desktop/fill_bar_widget.h"
+#include "desktop/scale_row.h"
+
+namespace zepril {
+
+QWidget* SideColumns::MakeLeftColumn() {
+  auto* column = new QWidget;
+  auto* box = TightBox(QBoxLayout::TopToBottom, column);
+  box->setContentsMargins(8, 8, 4, 8);
+  box->setSpacing(8);
+  box->addWidget(MakeReadouts());
+  box->addWidget(MakeScales());
+  box->addStretch(1);
+  return column;
+}
+
+QWidget* SideColumns::MakeReadouts() {
+  auto* group = new QWidget;
+  auto* box = TightBox(QBoxLayout::TopToBottom, group);
+  box->setSpacing(0);
+  box->addWidget(GroupCaption("POSITION"));
+  ReadoutControls& r = controls_.Readouts;
+  struct Row {
+    const char* Name;
+    Label& Control;
+    const char* Before;
+  };
+  const Row rows[] = {{"Label1", r.Label1, "map center"}, {"Label2", r.Label2, nullptr},
+                      {"Label3", r.Label3, "cursor"},     {"Label4", r.Label4, nullptr},
+                      {"Label7", r.Label7, "MONI 1"},     {"Label8", r.Label8, nullptr}};
+  for (const Row& row : rows) {
+    if (row.Before != nullptr) {
+      auto* dim = new QLabel(QString::fromLatin1(row.Before));
+      dim->setProperty("dim", true);
+      dim->setContentsMargins(0, 4, 0, 0);
+      box->addWidget(dim);
+    }
+    QLabel* label = parts_.FixedLabel(row.Name);
+    label->setMinimumHeight(16);
+    label->setCursor(Qt::PointingHandCursor);
+    label->setFocusPolicy(Qt::TabFocus);
+    box->addWidget(label);
+    parts_.Binding.Bind(label, row.Control);
+  }
+  QLabel* scale = parts_.FixedLabel("ScaleText");
+  scale->setContentsMargins(0, 8, 0, 0);
+  box->addWidget(scale);
+  parts_.Binding.Bind(scale, controls_.Map.ScaleText);
+  return group;
+}
+
+QWidget* SideColumns::MakeScales() {
+  auto* group = new QWidget;
+  group->setObjectName(QStringLiteral("ScalePanel"));
+  auto* box = TightBox(QBoxLayout::TopToBottom, group);
+  box->addWidget(GroupCaption("SCALES"));
+  static constexpr const char* kNames[] = {"Combo3", "Combo4", "Combo5",
+                                           "Combo6", "Combo7", "Combo8"};
+  for (std::size_t at = 0; at < controls_.Scales.Folder.size(); ++at) {
+    auto* row = new ScaleRow(QString::fromLatin1(kNames[at]), parts_.Shades);
+    box->addWidget(row);
+    parts_.Binding.Bind(row->FrameBox(), controls_.Scales.FrameBox[at]);
+    parts_.Binding.Bind(row->Folders(), controls_.Scales.Folder[at]);
+    parts_.Binding.OnControlsOut([this, row, at] {
+      row->Show(controls_.Scales.Covered[at], controls_.Scales.Folder[at].BackColour == 0x00E0E0U);
+    });
+  }
+  auto* buttons = TightBox(QBoxLayout::LeftToRight);
+  struct Tool {
+    const char* Name;
+    Button& Control;
+  };
+  for (const Tool& tool :
+       {Tool{"Command5", controls_.Scales.Command5}, Tool{"Command6", controls_.Scales.Command6},
+        Tool{"Command37", controls_.Scales.Command37}}) {
+    QPushButton* button = NamedButton(tool.Name);
+    button->setStyleSheet(QStringLiteral("padding: 2px 2px;"));
+    buttons->addWidget(button, 1);
+    parts_.Binding.Bind(button, tool.Control);
+  }
+  auto* frames = new QLabel(QStringLiteral("tile frames"));
+  frames->setProperty("dim", true);
+  box->addWidget(frames);
+  box->addLayout(buttons);
+  return group;
+}
+
+QWidget* SideColumns::MakeRightColumn() {
+  auto* column = new QWidget;
+  auto* box = TightBox(QBoxLayout::TopToBottom, column);
+  box->setContentsMargins(4, 8, 8, 8);
+  box->setSpacing(12);
+  box->addWidget(MakeMoni1());
+  box->addWidget(MakeMoniAll());
+  box->addStretch(1);
+  QPushButton* raw = NamedButton("Command57");
+  box->addWidget(raw);
+  parts_.Binding.Bind(raw, controls_.Raw.Command57);
+  return column;
+}
+
+QWidget* SideColumns::MakeMoni1() {
+  auto* group = new QWidget;
+  auto* box = TightBox(QBoxLayout::TopToBottom, group);
+  Moni1Controls& m = controls_.Moni1;
+  box->addWidget(GroupCaption("MONI 1"));
+
+  auto* call = new QComboBox;
+  call->setObjectName(QStringLiteral("Combo9"));
+  call->setAccessibleName(QStringLiteral("MONI 1 call"));
+  call->setEditable(true);
+  call->setInsertPolicy(QComboBox::NoInsert);
+  call->setFont(parts_.FixedFont);
+  call->setFixedHeight(kControlHeight);
+  box->addWidget(call);
+  parts_.Binding.Bind(call, m.Combo9);
+
+  auto* counts = TightBox(QBoxLayout::LeftToRight);
+  QLabel* count = parts_.FixedLabel("Label6");
+  auto* bar = new FillBarWidget;
+  bar->setObjectName(QStringLiteral("Label17"));
+  counts->addWidget(count);
+  counts->addWidget(bar, 1);
+  box->addLayout(counts);
+  parts_.Binding.Bind(count, m.Label6);
+  parts_.Binding.Bind(bar, m.Label17);
+
+  for (auto& [name, control] : {std::pair<const char*, Label&>{"Label9", m.Label9},
+                                std::pair<const char*, Label&>{"Label10", m.Label10}}) {
+    QLabel* label = parts_.FixedLabel(name);
+    label->setWordWrap(&control == &m.Label10);  // the time stays on its line
+    label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    label->setMinimumWidth(0);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+    box->addWidget(label);
+    parts_.Binding.Bind(label, control);
+  }
+
+  auto* switches = TightBox(QBoxLayout::LeftToRight);
+  QPushButton* style = NamedButton("Command17");
+  QPushButton* alarm = NamedButton("Check1");
+  switches->addWidget(style, 1);
+  switches->addWidget(alarm, 1);
+  box->addLayout(switches);
+  parts_.Binding.Bind(style, m.Command17);
+  parts_.Binding.Bind(alarm, m.Check1);
+  return group;
+}
+
+// The five class switches with the marks of their stations.
+QBoxLayout* SideColumns::MakeClassRow() {
+  MoniAllControls& m = controls_.MoniAll;
+  auto* classes = TightBox(QBoxLayout::LeftToRight);
+  struct Class {
+    const char* Name;
+    CheckBox& Control;
+    Picture Icon;
+  };
+  const Class boxes[] = {{"Check10", m.Check10, Picture::ClassNetwork},
+                         {"Check11", m.Check11, Picture::ClassFixed},
+                         {"Check13", m.Check13, Picture::ClassMoving},
+                         {"Check19", m.Check19, Picture::ClassSpecial},
+                         {"Check25", m.Check25, Picture::ClassWeather}};
+  for (const Class& row : boxes) {
+    auto* button = new ClassButton(parts_.Shades);
+    button->setObjectName(QString::fromLatin1(row.Name));
+    button->setIcon(IconOf(row.Icon, parts_.Shades.Text));
+    button->setProperty("picture_only", true);
+    button->setProperty("three_states", &row.Control == &m.Check13);
+    button->setFixedHeight(kControlHeight);
+    classes->addWidget(button, 1);
+    parts_.Binding.Bind(button, row.Control);
+  }
+  return classes;
+}
+
+QWidget* SideColumns::MakeMoniAll() {
+  auto* group = new QWidget;
+  auto* box = TightBox(QBoxLayout::TopToBottom, group);
+  MoniAllControls& m = controls_.MoniAll;
+  box->addWidget(GroupCaption("MONI ALL"));
+
+  auto* level_row = TightBox(QBoxLayout::LeftToRight);
+  QPushButton* level = NamedButton("Command13");
+  QLabel* shown = parts_.FixedLabel("Label16");
+  shown->setAlignment(Qt::AlignCenter);
+  shown->setMinimumWidth(32);
+  level_row->addWidget(level, 1);
+  level_row->addWidget(shown);
+  box->addLayout(level_row);
+  parts_.Binding.Bind(level, m.Command13);
+  parts_.Binding.Bind(shown, m.Label16);
+
+  box->addLayout(MakeClassRow());
+
+  auto* switches = TightBox(QBoxLayout::LeftToRight);
+  QPushButton* direct = NamedButton("Check24");
+  QPushButton* alarm = NamedButton("Check3");
+  switches->addWidget(direct, 1);
+  switches->addWidget(alarm, 1);
+  box->addLayout(switches);
+  parts_.Binding.Bind(direct, m.Check24);
+  parts_.Binding.Bind(alarm, m.Check3);
+
+  auto* bar = new FillBarWidget;
+  bar->setObjectName(QStringLiteral("Label5"));
+  box->addWidget(bar);
+  parts_.Binding.Bind(bar, m.Label5);
+
+  auto* find_row = TightBox(QBoxLayout::LeftToRight);
+  auto* call = new QLineEdit;
+  call->setObjectName(QStringLiteral("Text15"));
+  call->setAccessibleName(QStringLiteral("call to find"));
+  call->setPlaceholderText(QStringLiteral("call to find"));
+  call->setFixedHeight(kControlHeight);
+  QPushButton* find = NamedButton("Command14");
+  find_row->addWidget(call, 1);
+  find_row->addWidget(find);
+  box->addLayout(find_row);
+  parts_.Binding.Bind(call, m.Text15);
+  parts_.Binding.Bind(find, m.Command14);
+
+  QPushButton* stations = NamedButton("Command3");
+  box->addWidget(stations);
+  parts_.Binding.Bind(stations, m.Command3);
+  return group;
+}
+
+}  // namespace zepril

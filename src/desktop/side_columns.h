@@ -1,0 +1,31 @@
+// The columns beside the map: read-outs, scales and files at the left, stations at the right.
+#pragma once
+
+#include "core/main_window_controls.h"
+#include "desktop/window_parts.h"
+
+class QBoxLayout;
+class QWidget;
+
+namespace zepril {
+
+class SideColumns {
+ public:
+  SideColumns(WindowParts& parts, MainWindowControls& controls)
+      : parts_(parts), controls_(controls) {}
+
+  QWidget* MakeLeftColumn();
+  QWidget* MakeRightColumn();
+
+ private:
+  QWidget* MakeReadouts();
+  QWidget* MakeScales();
+  QWidget* MakeMoni1();
+  QBoxLayout* MakeClassRow();
+  QWidget* MakeMoniAll();
+
+  WindowParts& parts_;
+  MainWindowControls& controls_;
+};
+
+}  // namespace zepril

@@ -1,0 +1,82 @@
+#include "desktop/window_parts.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QToolButton>
+
+namespace zepril {
+
+QLabel* GroupCaption(const char* text) {
+  auto* label = new QLabel(QString::fromLatin1(text));
+  label->setProperty("group", true);
+  return label;
+}
+
+QBoxLayout* TightBox(QBoxLayout::Direction direction, QWidget* parent) {
+  auto* box = new QBoxLayout(direction, parent);
+  box->setContentsMargins(0, 0, 0, 0);
+  box->setSpacing(kGap);
+  return box;
+}
+
+QWidget* Scrolling(QWidget* column, int width) {
+  auto* area = new QScrollArea;
+  area->setWidget(column);
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setFixedWidth(width);
+  area->setMinimumHeight(0);
+  return area;
+}
+
+QPushButton* NamedButton(const char* name, QWidget* parent) {
+  auto* button = new QPushButton(parent);
+  button->setObjectName(QString::fromLatin1(name));
+  button->setFixedHeight(kControlHeight);
+  button->setMinimumWidth(0);
+  return button;
+}
+
+QLabel* DimLabel(const char* text) {
+  auto* label = new QLabel(QString::fromLatin1(text));
+  label->setProperty("dim", true);
+  return label;
+}
+
+QToolButton* WindowParts::Tool(const char* name, Picture picture, bool caption) const {
+  auto* tool = new QToolButton;
+  tool->setObjectName(QString::fromLatin1(name));
+  tool->setIcon(IconOf(picture, Shades.Text));
+  tool->setIconSize(QSize(16, 16));
+  tool->setFixedHeight(kControlHeight);
+  tool->setToolButtonStyle(caption ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+  tool->setProperty("picture_only", !caption);
+  tool->setFocusPolicy(Qt::TabFocus);
+  return tool;
+}
+
+QLabel* WindowParts::FixedLabel(const char* name) const {
+  auto* label = new QLabel;
+  label->setObjectName(QString::fromLatin1(name));
+  label->setFont(FixedFont);
+  return label;
+}
+
+QFrame* WindowParts::Panel(const char* name, QWidget* parent) const {
+  auto* panel = new QFrame(parent);
+  panel->setObjectName(QString::fromLatin1(name));
+  panel->setProperty("panel", true);
+  return panel;
+}
+
+QPushButton* WindowParts::BoundButton(const char* name, Button& control) {
+  QPushButton* button = NamedButton(name);
+  Binding.Bind(button, control);
+  return button;
+}
+
+}  // namespace zepril
