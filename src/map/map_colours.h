@@ -27,5 +27,7 @@ inline constexpr Colour kFindColour = 0x0080FF;        // the station that was l
 inline constexpr Colour kMessageDotColour = 0x00FF00;  // takes messages
 inline constexpr Colour kOwnObjectColour = 0x00C0C0;
 inline constexpr Colour kOwnObjectOnAirColour = 0x00FFFF;
+inline constexpr Colour kTrackWithTextColour = 0xD0FF90;  // a track point with a text of its own
+inline constexpr Colour kPlaceColour = 0x00E0FF;
 
 }  // namespace zepril
