@@ -13,6 +13,11 @@ constexpr const char* kBoxTitle = "ZEP RIL";
 constexpr std::string_view kExtension = ".TRK";
 constexpr int kEnterKey = 13;
 
+// Whether the field shows the entry that is selected; an empty field shows none.
+bool IsChosen(const ComboBox& list) {
+  return list.ListIndex >= 0 && list.Text == list.Selected();
+}
+
 }  // namespace
 
 TrackFiles::TrackFiles(const IdentityState& identity, MapViewState& view, SettingsState& settings,
@@ -27,7 +32,7 @@ TrackFiles::TrackFiles(const IdentityState& identity, MapViewState& view, Settin
       tools_(tools) {
   // Typing changes the field too: only an entry that is chosen, or Enter, is a choice.
   controls_.Combo1.Change = [this] {
-    if (controls_.Combo1.Text == controls_.Combo1.Selected()) SelectTrack();
+    if (IsChosen(controls_.Combo1)) SelectTrack();
   };
   controls_.Combo1.KeyDown = [this](KeyPress key) {
     if (key.Code == kEnterKey) SelectTrack();
@@ -144,6 +149,7 @@ void TrackFiles::CentreOnEnd() {
   view_.CentreEastKm = track.EastKm(last);
   view_.CentreFollow = 0;
   view_.MapLockedOnRecord = 0;
+  view_.PictureMode = 0;
   view_.ManualMapMove = true;
   map_.Option1.Value = false;
   map_.Option2.Value = false;

@@ -131,7 +131,7 @@ void DrawGeographicGrid(DrawingSurface& surface, const MapViewState& view) {
   }
 }
 
-// A grid in kilometres: its system, the reach of both axes.
+// A grid in kilometres: where its labels stand, its colour, the reach of both axes.
 struct MetricGrid {
   GridSlots Slots;
   Colour Ink;

@@ -1,15 +1,15 @@
 // Coordinate grids over the map, one for each system that a read-out is in, each in its colour:
 //
 //   UTM of the map    0xE8E8E8  straight lines every 100 pixels from the corner of a tile; km at
-//   the
-//                               lower and the left edge
+//                               the lower and the left edge
 //   geographic        0x00E0E0  16 steps of 1' to 10 degrees each way from the centre, up to 80
 //                               degrees of latitude; degrees at the right edge and above the lower
 //   Gauss-Krueger     0xFFC0FF  every 100 pixels' worth of km from the centre's kilometres in that
 //   UTM by position   0xFFE000  system; km at the left and the upper edge
 //   RT 90             0x00F000
 //
-// A redraw of one grid converts at most about 1300 points.
+// No two labels of a grid overlap: of two in each other's way the later one is left out. A redraw
+// of one grid converts at most about 1300 points.
 #pragma once
 
 #include <array>

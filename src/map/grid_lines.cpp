@@ -66,8 +66,7 @@ void GridPainter::Segment(PixelPoint from, PixelPoint to) {
 
 void GridPainter::Label(double x, double y, const std::string& text) {
   const PixelPoint at{DrawPixel(x), DrawPixel(y)};
-  const bool inside =
-      at.X >= 0 && at.X < surface_.Width() && at.Y >= 0 && at.Y < surface_.Height();
+  const bool inside = at.X >= 0 && at.X < surface_.Width() && at.Y >= 0 && at.Y < surface_.Height();
   if (inside && IsFree(at.X, at.Y, text.size())) labels_.push_back({at.X, at.Y, text});
 }
 

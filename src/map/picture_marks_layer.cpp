@@ -6,8 +6,7 @@
 
 #include "core/text_fields.h"
 #include "map/map_colours.h"
-#include "map/map_view.h"
-#include "map/tile_names.h"
+#include "map/picture_names.h"
 #include "map/window_cut.h"
 
 namespace zepril {
@@ -39,13 +38,11 @@ void DrawMark(DrawingSurface& surface, PixelPoint at, int half_side) {
 
 }  // namespace
 
-std::optional<PicturePlace> PlaceOfPicture(std::string_view name) {
+std::optional<MapPosition> PlaceOfPicture(std::string_view name) {
   if (name.size() != kNameLength) return std::nullopt;
   const std::string folded = Upper(name);
-  const std::string_view north = Mid(folded, 1, 4);
-  const std::string_view east = Mid(folded, 5, 4);
-  if (folded[8] != '.' || !IsField(north) || !IsField(east)) return std::nullopt;
-  return PicturePlace{TileFieldValue(north), TileFieldValue(east)};
+  const bool place = IsField(Mid(folded, 1, 4)) && IsField(Mid(folded, 5, 4)) && folded[8] == '.';
+  return place ? std::optional(PictureCorner(folded)) : std::nullopt;
 }
 
 void PictureMarksLayer(DrawingSurface& surface, const MapViewState& view) {

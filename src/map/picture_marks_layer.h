@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "core/state/map_view.h"
+#include "map/map_view.h"
 #include "platform/drawing_surface.h"
 
 namespace zepril {
@@ -20,11 +21,7 @@ void PictureMarksLayer(DrawingSurface& surface, const MapViewState& view);
 // near when it lies less than the side of the frame and half a kilometre away in both directions.
 std::optional<int> FindPictureNear(const MapViewState& view, double north_km, double east_km);
 
-// The place that a picture's name tells.
-struct PicturePlace {
-  double NorthKm = 0.0;
-  double EastKm = 0.0;
-};
-std::optional<PicturePlace> PlaceOfPicture(std::string_view name);
+// The place that a picture's name tells: the south-west corner of its kilometre.
+std::optional<MapPosition> PlaceOfPicture(std::string_view name);
 
 }  // namespace zepril

@@ -30,6 +30,11 @@ std::string CleanName(std::string_view text) {
   return std::string(Trim(name));
 }
 
+// Whether the field shows the entry that is selected; an empty field shows none.
+bool IsChosen(const ComboBox& list) {
+  return list.ListIndex >= 0 && list.Text == list.Selected();
+}
+
 }  // namespace
 
 std::string_view LinkOf(std::string_view text) {
@@ -53,7 +58,7 @@ PlaceFiles::PlaceFiles(const IdentityState& identity, MapViewState& view, Settin
   map_.Command73.Click = [this] { StepLevel(); };
   // Typing changes the field too: only an entry that is chosen counts.
   controls_.Combo2.Change = [this] {
-    if (controls_.Combo2.Text == controls_.Combo2.Selected()) SelectPoiFile();
+    if (IsChosen(controls_.Combo2)) SelectPoiFile();
   };
   controls_.Combo2.KeyDown = [this](KeyPress key) {
     if (key.Code == kEnterKey) CreatePoiFile();

@@ -192,6 +192,15 @@ TEST(TrackChoice, TypingAloneChoosesNothing) {
   EXPECT_EQ(world.Settings.TrackFile, "AB");
 }
 
+TEST(TrackChoice, AFieldThatIsEmptiedForTypingStaysEmpty) {
+  TrackWorld world;
+  world.Settings.TrackFile = "GONE";
+  world.Room.RestoreAtStart();
+  world.Controls.Combo1.Text.clear();
+  world.Controls.Combo1.Change();
+  EXPECT_EQ(world.Controls.Combo1.Text, "");
+}
+
 TEST(TrackChoice, ANewNameIsOfferedAndNoKeepsTheOldSelection) {
   TrackWorld world;
   world.Put("ABC.TRK", Lines({kFirst}));
@@ -321,6 +330,7 @@ TEST(TrackEnd, CentresOnTheLastPointThatHasAPosition) {
   world.Room.RestoreAtStart();
   world.View.CentreFollow = 2;
   world.View.MapLockedOnRecord = 1;
+  world.View.PictureMode = 1;
   world.Map.Option1.Value = true;
   world.Map.Option2.Value = true;
   world.Controls.Frame10.Click();
@@ -328,6 +338,7 @@ TEST(TrackEnd, CentresOnTheLastPointThatHasAPosition) {
   EXPECT_DOUBLE_EQ(world.View.CentreEastKm, 413.345);
   EXPECT_EQ(world.View.CentreFollow, 0);
   EXPECT_EQ(world.View.MapLockedOnRecord, 0);
+  EXPECT_EQ(world.View.PictureMode, 0);
   EXPECT_TRUE(world.View.ManualMapMove);
   EXPECT_FALSE(world.Map.Option1.Value);
   EXPECT_FALSE(world.Map.Option2.Value);

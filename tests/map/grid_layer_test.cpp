@@ -129,7 +129,6 @@ TEST(GridLayer, LeavesTheValuesOfTheReadOutsAlone) {
 // ---- The map's own grid ---------------------------------------------------------------------
 
 TEST(MapGrid, LinesStandEveryHundredPixelsFromTheTile) {
-  // Tile 58000400 of 50 km: its corner is at pixel 0 and its north edge 400 rows over the centre.
   Grids grids(5825.0, 425.0, 50.0, 1.0, 800, 600);
   // West edge 25 km west of the centre, north edge 25 km north of it.
   const PixelPoint tile{400 - 500, 299 - 500 + 1};
@@ -554,8 +553,8 @@ TEST(MetricGrid, NoTwoLabelsOfAGridOverlap) {
 }
 
 TEST(MetricGrid, AStripOfTwoDigitsIsStillCoveredThoughItsTextHasLostOne) {
-  // The easting's text reads 10484.55 while the true value is 10484.255.
-  Grids grids(5761.038, 1532.657, 2.0, 0.5);
+  // The easting reads 10484.55 while the true value is 10484.255: 590 pixels beside the centre.
+  Grids grids(5761.038, 1532.657, 2.0, 0.25);
   ASSERT_EQ(grids.Values.GkEastText, " 10484.55");
   grids.Draw(DisplayMode::GaussKrueger);
   int west = 0;

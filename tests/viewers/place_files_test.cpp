@@ -152,6 +152,15 @@ TEST(PlaceChoice, OfTheNameThatIsHeldInAnyCaseReadsNothing) {
   EXPECT_THAT(world.Up.Calls, IsEmpty());
 }
 
+TEST(PlaceChoice, AFieldThatIsEmptiedForTypingStaysEmpty) {
+  PlaceWorld world;
+  world.Settings.PoiFile = "GONE";
+  world.Room.RestoreAtStart();
+  world.Controls.Combo2.Text.clear();
+  world.Controls.Combo2.Change();
+  EXPECT_EQ(world.Controls.Combo2.Text, "");
+}
+
 TEST(PlaceChoice, AnUnreadableFileLeavesSelectionAndPlaces) {
   PlaceWorld world({kHut});
   world.Put("BAD.POI", Lines({kLake, kLake}));
