@@ -73,7 +73,7 @@ struct ComboBox : Control {
   std::vector<std::string> Items;
   int ListIndex = -1;           // 0-based, -1 none
   bool DropDownWanted = false;  // the list is to be opened; taken and cleared by the desktop
-  Event Change;                 // text typed or an entry chosen
+  Event Change;                 // an entry was chosen; what is typed tells itself by KeyDown only
   std::function<void(KeyPress)> KeyDown;
 
   // The selected entry, or an empty text.

@@ -24,6 +24,13 @@ void SetMapToolTips(MainWindowControls& c, const char* (*pick)(const char*)) {
       {c.Map.Command9, "Zoom factor 1"},
       {c.Map.Command12, "Centers map to the record shown / Rclick: Next scale level"},
       {c.Map.Picture1, "POI, TRK, PIC, STN, SUN"},
+      {c.Map.Check4, "Coordinate grids of the systems that the read-outs show"},
+      {c.Map.Check9, "Distance circles with Fopt / Rclick: Input of ionospherical data"},
+      {c.Map.Check12, "Show where pictures were taken"},
+      {c.Map.Check14,
+       "Show GPS tracking data from selected file / Rclick: Scrolling file selection"},
+      {c.Map.Command73, "POIs: 0 / points / points + text"},
+      {c.Map.Command59, "Save map window to file"},
       {c.Readouts.Label1,
        "Shows map center coordinates / Lclick switches different coordinate systems"},
       {c.Readouts.Label2,
@@ -48,6 +55,36 @@ void SetMapToolTips(MainWindowControls& c, const char* (*pick)(const char*)) {
   for (CheckBox& box : c.Scales.FrameBox) {
     box.ToolTip = pick("Show tile frames / filled: a tile lies under the map center");
   }
+}
+
+void SetOverlayToolTips(MainWindowControls& c, const char* (*pick)(const char*)) {
+  const ToolTipRow rows[] = {
+      {c.Tracks.Combo1, "TRK file name"},
+      {c.Tracks.Frame10, "Center map to end of TRK"},
+      {c.Tracks.Command68, "Select previous TRK file"},
+      {c.Tracks.Command69, "Select next TRK file"},
+      {c.Places.Combo2, "POI file name / Rclick: Create new file"},
+      {c.Places.PoiNew, "New POI at the map center"},
+      {c.Places.Text4, "Name of the POI / a text between { and } is a link"},
+      {c.Places.PoiOk, "Apply to the POI file"},
+      {c.Places.PoiClose, "Close, nothing is changed"},
+      {c.Places.Command64, "Move the POI to the map center"},
+      {c.Places.Command67, "Open the link of the POI"},
+      {c.Iono.Frame18, "Input of ionospherical data"},
+      {c.Iono.Text11, "Sunspot number (1-180 are used)"},
+      {c.Iono.Text12, "Planetary K index (0-9)"},
+      {c.Iono.FoptDetailed,
+       "Circles show MUF of two models and their reduced mean instead of Fopt"},
+      {c.Iono.IonoOk, "Use and save these values"},
+      {c.Iono.IonoClose, "Close, nothing is changed"},
+      {c.Picture.Frame8, "Picture / Lclick: center the map where it was taken"},
+      {c.Picture.Command29, "Previous picture"},
+      {c.Picture.Command30, "Next picture"},
+      {c.Picture.Command70, "Open the picture outside"},
+      {c.Picture.Command71, "Close the picture"},
+  };
+  for (const ToolTipRow& row : rows)
+    row.Subject.ToolTip = pick(row.English);
 }
 
 void SetStationToolTips(MainWindowControls& c, const char* (*pick)(const char*)) {
@@ -103,12 +140,10 @@ void HidePanels(MainWindowControls& c) {
 // What a later capability brings has its place in the logic already, and none on the window yet.
 void HideWhatIsNotThereYet(MainWindowControls& c) {
   for (Control* control : std::initializer_list<Control*>{
-           &c.Map.Check4,       &c.Map.Check9,       &c.Map.Check12,      &c.Map.Check14,
-           &c.Map.Command73,    &c.Map.Command59,    &c.Moni1.Check22,    &c.Moni1.Check27,
-           &c.MoniAll.Check23,  &c.Record.Command10, &c.Record.Command41, &c.Record.Command40,
-           &c.Transmit.Check6,  &c.Transmit.Check18, &c.Transmit.Check7,  &c.Transmit.Check8,
-           &c.Transmit.Check16, &c.Transmit.Check15, &c.Transmit.Check2,  &c.Transmit.Text2,
-           &c.Transmit.Text3,   &c.Status.IonoLabel}) {
+           &c.Moni1.Check22, &c.Moni1.Check27, &c.MoniAll.Check23, &c.Record.Command10,
+           &c.Record.Command41, &c.Record.Command40, &c.Transmit.Check6, &c.Transmit.Check18,
+           &c.Transmit.Check7, &c.Transmit.Check8, &c.Transmit.Check16, &c.Transmit.Check15,
+           &c.Transmit.Check2, &c.Transmit.Text2, &c.Transmit.Text3, &c.Status.IonoLabel}) {
     control->Visible = false;
   }
 }
@@ -127,6 +162,12 @@ void SetInitialControls(MainWindowControls& c) {
   c.Map.Option1.Caption = "OWN";
   c.Map.Option2.Caption = "MONI 1";
   c.Map.Command72.Caption = "DIM";
+  c.Map.Check4.Caption = "GRID";
+  c.Map.Check9.Caption = "CIRCLES";
+  c.Map.Check12.Caption = "PIC";
+  c.Map.Check14.Caption = "TRK";
+  c.Map.Command73.Caption = "POI 0";
+  c.Map.Command59.Caption = "SAVE";
   c.Moni1.Command17.Caption = "TRACK 0";
   c.Moni1.Check1.Caption = "ALARM";
   c.MoniAll.Command13.Caption = "LABELS";
@@ -151,17 +192,36 @@ void SetInitialControls(MainWindowControls& c) {
   c.Palette.Command42.Caption = "NO INK";
   c.Palette.Command43.Caption = "CLOSE";
   c.Qth.QthOk.Caption = "OK";
+  c.Tracks.Command68.Caption = "<";
+  c.Tracks.Command69.Caption = ">";
+  c.Tracks.Frame10.Caption = "TO END";
+  c.Places.PoiNew.Caption = "NEW POI";
+  c.Places.PoiPanel.Caption = "POI";
+  c.Places.PoiOk.Caption = "OK";
+  c.Places.PoiClose.Caption = "CLOSE";
+  c.Picture.Command29.Caption = "<";
+  c.Picture.Command30.Caption = ">";
+  c.Picture.Command70.Caption = "OPEN OUTSIDE";
+  c.Picture.Command71.Caption = "CLOSE";
+  c.Iono.Frame18.Caption = "Input of ionospherical data";
+  c.Iono.FoptDetailed.Caption = "THREE VALUES";
+  c.Iono.IonoOk.Caption = "OK";
+  c.Iono.IonoClose.Caption = "CLOSE";
   SetMainWindowLabels(c, 11);
 }
 
 void SetMainWindowLabels(MainWindowControls& c, int language) {
   c.Qth.Frame2.Caption = "USER QTH SETUP: CENTER THE MAP TO YOUR QTH!";
   c.Qth.Command22.Caption = "CANCEL";
+  c.Places.Label14.Caption = "DELETE POINT: CLEAR TEXT  /  CREATE POINT: TYPE TEXT";
+  c.Places.Command64.Caption = " POS->CENTER";
+  c.Places.Command67.Caption = "OPEN LINK";
   // Tool tips are shown with a ten in the number and stay blank without.
   const bool tool_tips = language / 10 == 1;
   const auto shown = [](const char* text) { return text; };
   const auto blank = [](const char*) { return ""; };
   SetMapToolTips(c, tool_tips ? +shown : +blank);
+  SetOverlayToolTips(c, tool_tips ? +shown : +blank);
   SetStationToolTips(c, tool_tips ? +shown : +blank);
 }
 

@@ -177,6 +177,7 @@ void Binder::Bind(QLineEdit* widget, TextBox& control) {
 
 void Binder::Bind(QComboBox* widget, ComboBox& control) {
   BindCommon(widget, control);
+  new CornerMark(widget, MarkKind::DropDown);
   connect(widget, &QComboBox::activated, this, [this, widget, &control](int index) {
     // A field that is left with the name of an entry in it was typed, not chosen.
     const bool typed = widget->property("typed").toBool();
@@ -197,6 +198,10 @@ void Binder::Bind(QComboBox* widget, ComboBox& control) {
       for (const std::string& item : items)
         widget->addItem(ToQt(item));
     }
+    if (control.DropDownWanted) {
+      control.DropDownWanted = false;
+      if (widget->count() > 0) widget->showPopup();
+    }
     if (widget->currentIndex() != control.ListIndex) widget->setCurrentIndex(control.ListIndex);
     if (!widget->isEditable()) return;
     const QString text = ToQt(control.Text);
@@ -215,7 +220,6 @@ void Binder::BindTyping(QComboBox* widget, ComboBox& control) {
           [this, widget, &control](const QString& text) {
             widget->setProperty("typed", true);
             control.Text = FromQt(text);
-            Raise(control.Change);
           });
   // Keys come to the field first and from there to the list around it: they count once.
   watched_.push_back({widget->lineEdit(), &control,

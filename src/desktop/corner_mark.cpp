@@ -8,18 +8,24 @@ namespace zepril {
 namespace {
 
 constexpr int kSize = 6;
+constexpr int kDropWidth = 10;
 
 }  // namespace
 
-CornerMark::CornerMark(QWidget* owner) : QWidget(owner) {
+CornerMark::CornerMark(QWidget* owner, MarkKind kind) : QWidget(owner), kind_(kind) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  setFixedSize(kSize, kSize);
+  setFixedSize(kind == MarkKind::RightClick ? QSize(kSize, kSize) : QSize(kDropWidth, kSize));
   owner->installEventFilter(this);
   Place();
 }
 
 void CornerMark::Place() {
-  move(parentWidget()->width() - kSize - 2, 2);
+  const int x = parentWidget()->width() - width();
+  if (kind_ == MarkKind::RightClick) {
+    move(x - 2, 2);
+  } else {
+    move(x - kSize, (parentWidget()->height() - height()) / 2);
+  }
 }
 
 bool CornerMark::eventFilter(QObject* watched, QEvent* event) {
@@ -29,6 +35,12 @@ bool CornerMark::eventFilter(QObject* watched, QEvent* event) {
 
 void CornerMark::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  if (kind_ == MarkKind::DropDown) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::PlaceholderText), 1.5));
+    painter.drawPolyline(QPolygonF({{1.5, 1}, {5, 4.5}, {8.5, 1}}));
+    return;
+  }
   painter.setPen(Qt::NoPen);
   painter.setBrush(palette().color(QPalette::PlaceholderText));
   painter.drawPolygon(QPolygon({{0, 0}, {kSize, 0}, {kSize, kSize}}));

@@ -1,14 +1,17 @@
-// The small mark at a control's corner that tells of its right click.
+// Small marks on a control: at the corner for a right click, at the right for a list that drops
+// down.
 #pragma once
 
 #include <QWidget>
 
 namespace zepril {
 
+enum class MarkKind { RightClick, DropDown };
+
 class CornerMark final : public QWidget {
  public:
-  // Lives at the top right of `owner` and follows its size.
-  explicit CornerMark(QWidget* owner);
+  // Lives on `owner` and follows its size.
+  explicit CornerMark(QWidget* owner, MarkKind kind = MarkKind::RightClick);
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  protected:
@@ -16,6 +19,8 @@ class CornerMark final : public QWidget {
 
  private:
   void Place();
+
+  MarkKind kind_;
 };
 
 }  // namespace zepril

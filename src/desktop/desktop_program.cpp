@@ -95,7 +95,8 @@ void DesktopProgram::OpenMainWindow() {
     End(started);
     return;
   }
-  window_ = std::make_unique<MainWindow>(*program_, loop_, fonts_, map_surface_, base_surface_);
+  window_ = std::make_unique<MainWindow>(*program_, loop_, fonts_, map_surface_, base_surface_,
+                                         sun_surface_, files_);
   dialogs_.SetOwner(window_.get());
   desktop_.SetWindows(window_.get(), window_->Map());
   window_->Closed = [this] { End(true); };

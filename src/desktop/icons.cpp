@@ -37,6 +37,47 @@ void DrawClass(QPainter& p, Picture picture) {
   if (picture == Picture::ClassWeather) DrawLines(p, {{4.5, 8, 11.5, 8}});
 }
 
+// What lies over the map: grid, circles, pictures, track, places, and saving it all.
+void DrawLayer(QPainter& p, Picture picture, const QColor& ink) {
+  switch (picture) {
+    case Picture::Grid:
+      DrawLines(p,
+                {{1.5, 5, 14.5, 5}, {1.5, 11, 14.5, 11}, {5, 1.5, 5, 14.5}, {11, 1.5, 11, 14.5}});
+      return;
+    case Picture::Circles:
+      p.drawEllipse(QPointF(8, 8), 6.5, 6.5);
+      p.drawEllipse(QPointF(8, 8), 3.2, 3.2);
+      p.setBrush(ink);
+      p.drawEllipse(QPointF(8, 8), 0.4, 0.4);
+      return;
+    case Picture::Pictures:
+      p.drawRect(QRectF(1.5, 3, 13, 10));
+      p.drawPolyline(QPolygonF({{2.5, 12}, {6, 7.5}, {8.5, 10.5}, {10.5, 8.5}, {13.5, 12}}));
+      p.drawEllipse(QPointF(11, 5.8), 0.9, 0.9);
+      return;
+    case Picture::Track:
+      p.drawPolyline(QPolygonF({{2, 13.5}, {5, 8}, {8.5, 10}, {11, 4.5}, {14, 2.5}}));
+      p.setBrush(ink);
+      p.drawEllipse(QPointF(14, 2.5), 1, 1);
+      return;
+    case Picture::Places: {
+      QPainterPath pin;
+      pin.moveTo(8, 14.5);
+      pin.cubicTo(3.5, 9.5, 3, 7.5, 3, 6.2);
+      pin.cubicTo(3, 3.5, 5.2, 1.5, 8, 1.5);
+      pin.cubicTo(10.8, 1.5, 13, 3.5, 13, 6.2);
+      pin.cubicTo(13, 7.5, 12.5, 9.5, 8, 14.5);
+      p.drawPath(pin);
+      p.drawEllipse(QPointF(8, 6.2), 1.6, 1.6);
+      return;
+    }
+    default:
+      // Down into a tray.
+      DrawLines(p, {{8, 1.5, 8, 9.5}, {4.5, 6.5, 8, 10}, {11.5, 6.5, 8, 10}});
+      p.drawPolyline(QPolygonF({{2, 9.5}, {2, 14}, {14, 14}, {14, 9.5}}));
+  }
+}
+
 void Draw(QPainter& p, Picture picture, const QColor& ink) {
   switch (picture) {
     case Picture::Coarser:
@@ -79,7 +120,11 @@ void Draw(QPainter& p, Picture picture, const QColor& ink) {
       return;
     }
     default:
-      DrawClass(p, picture);
+      if (picture < Picture::ClassMoving) {
+        DrawLayer(p, picture, ink);
+      } else {
+        DrawClass(p, picture);
+      }
   }
 }
 

@@ -16,6 +16,12 @@ enum class Picture {
   Own,         // ring with ticks, as the own position's mark
   Station,     // the followed station's diamond
   Brightness,  // half disc
+  Grid,
+  Circles,  // rings of equal distance
+  Pictures,
+  Track,
+  Places,  // a pin
+  Save,
   ClassMoving,
   ClassFixed,
   ClassNetwork,

@@ -31,7 +31,8 @@ constexpr int kLowestDrawer = 140;
 }  // namespace
 
 MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fonts,
-                       QtSurface& map_surface, QtSurface& base_surface)
+                       QtSurface& map_surface, QtSurface& base_surface,
+                       const QtSurface& sun_surface, const Files& files)
     : program_(program),
       controls_(program.Controls()),
       loop_(loop),
@@ -70,11 +71,12 @@ MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fo
 
   auto* all = TightBox(QBoxLayout::TopToBottom, this);
   all->setSpacing(0);
-  all->addWidget(MakeMapBar(parts_, controls_.Map));
+  all->addWidget(new MapBar(parts_, controls_.Map));
   all->addWidget(split_, 1);
   all->addWidget(MakeBottomLine());
+  layer_panels_ = std::make_unique<LayerPanels>(parts_, controls_, *map_, sun_surface, files);
   panels_ = std::make_unique<PanelsOverMap>(parts_, controls_, program_.State().Map, *map_);
-  map_->PlaceOverlays = [this] { panels_->Place(); };
+  map_->PlaceOverlays = [this] { PlacePanels(); };
 
   // The lamp's age of the last data grows also when nothing happens.
   lamp_timer_.setInterval(1000);
@@ -194,7 +196,7 @@ void MainWindow::ControlsOut() {
   }
   const bool busy = controls_.Window.Pointer == PointerShape::Hourglass;
   setCursor(busy ? Qt::WaitCursor : Qt::ArrowCursor);
-  if (panels_) panels_->Place();
+  if (panels_) PlacePanels();
 }
 
 // ---- Window events --------------------------------------------------------------------------
@@ -222,6 +224,11 @@ void MainWindow::Press(const Button& control) {
   if (control.Click) loop_.RunStep(control.Click);
 }
 
+void MainWindow::Switch(CheckBox& control) {
+  control.Value = control.Value == 0 ? 1 : 0;
+  if (control.Click) loop_.RunStep(control.Click);
+}
+
 // The field may lie on a page of the drawer that is not the shown one.
 void MainWindow::FocusOn(const char* name) {
   auto* widget = findChild<QWidget*>(QString::fromLatin1(name));
@@ -241,6 +248,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
   if (event->modifiers().testFlag(Qt::ControlModifier)) {
     if (event->key() == Qt::Key_F) return FocusOn("Text15");
     if (event->key() == Qt::Key_R) return Press(controls_.Raw.Command57);
+    if (event->key() == Qt::Key_S) return Press(controls_.Map.Command59);
   }
   switch (event->key()) {
     case Qt::Key_Escape:
@@ -257,13 +265,33 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
       return Press(controls_.Map.Command12);
     case Qt::Key_L:
       return Press(controls_.MoniAll.Command13);
+    case Qt::Key_G:
+      return Switch(controls_.Map.Check4);
+    case Qt::Key_C:
+      return Switch(controls_.Map.Check9);
+    case Qt::Key_I:
+      return Switch(controls_.Map.Check12);
+    case Qt::Key_T:
+      return Switch(controls_.Map.Check14);
+    case Qt::Key_P:
+      return Press(controls_.Map.Command73);
+    case Qt::Key_N:
+      return Press(controls_.Places.PoiNew);
+    case Qt::Key_D:
+      return Press(controls_.Map.Command72);
     default:
       QWidget::keyPressEvent(event);
   }
 }
 
+void MainWindow::PlacePanels() {
+  layer_panels_->Place();
+  panels_->Place();
+}
+
 void MainWindow::CloseTopmostPanel() {
   if (const Button* close = panels_->CloseOfTopmost()) return Press(*close);
+  if (const Button* close = layer_panels_->CloseOfTopmost()) return Press(*close);
   map_->setFocus();
 }
 

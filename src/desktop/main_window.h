@@ -11,6 +11,7 @@
 
 #include "desktop/binder.h"
 #include "desktop/lamp_widget.h"
+#include "desktop/layer_panels.h"
 #include "desktop/look.h"
 #include "desktop/map_widget.h"
 #include "desktop/panels_over_map.h"
@@ -28,7 +29,7 @@ namespace zepril {
 class MainWindow final : public QWidget {
  public:
   MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fonts, QtSurface& map_surface,
-             QtSurface& base_surface);
+             QtSurface& base_surface, const QtSurface& sun_surface, const Files& files);
 
   MapWidget* Map() { return map_; }
   // The operator has closed the window (or the program wants to end), and no step is under way.
@@ -50,6 +51,8 @@ class MainWindow final : public QWidget {
   void ShareHeight();
   void FocusOn(const char* name);
   void Press(const Button& control);
+  void Switch(CheckBox& control);
+  void PlacePanels();
   void CloseTopmostPanel();
 
   StationProgram& program_;
@@ -59,6 +62,7 @@ class MainWindow final : public QWidget {
   Binder binder_;
   WindowParts parts_;
   SideColumns columns_;
+  std::unique_ptr<LayerPanels> layer_panels_;
   std::unique_ptr<PanelsOverMap> panels_;
 
   MapWidget* map_ = nullptr;

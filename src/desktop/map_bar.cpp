@@ -1,48 +1,89 @@
 #include "desktop/map_bar.h"
 
-#include <QFrame>
 #include <QLabel>
+#include <QResizeEvent>
 #include <QToolButton>
 
-#include "desktop/window_parts.h"
-
 namespace zepril {
+namespace {
 
-QWidget* MakeMapBar(WindowParts& parts, MapControls& map) {
-  auto* bar = new QFrame;
-  bar->setObjectName(QStringLiteral("MapBar"));
-  auto* row = TightBox(QBoxLayout::LeftToRight, bar);
-  row->setContentsMargins(8, 4, 8, 4);
-  const auto caption = [row](const char* text) {
-    auto* label = new QLabel(QString::fromLatin1(text));
-    label->setProperty("dim", true);
-    row->addWidget(label);
-  };
-  const auto add = [&](const char* name, Picture picture, Button& control, bool text = false) {
-    auto* tool = parts.Tool(name, picture, text);
-    row->addWidget(tool);
-    parts.Binding.Bind(tool, control);
-    return tool;
-  };
-  caption("scale");
-  add("Command1", Picture::Coarser, map.Command1);
-  add("Command2", Picture::Finer, map.Command2);
-  row->addSpacing(12);
-  caption("zoom");
-  add("Command7", Picture::ZoomOut, map.Command7);
-  add("Command9", Picture::ZoomOne, map.Command9);
-  add("Command8", Picture::ZoomIn, map.Command8);
-  row->addSpacing(12);
-  add("Command12", Picture::Centre, map.Command12, true)->setMinimumWidth(72);
-  auto* own = parts.Tool("Option1", Picture::Own, true);
-  auto* station = parts.Tool("Option2", Picture::Station, true);
-  row->addWidget(own);
-  row->addWidget(station);
-  parts.Binding.Bind(own, map.Option1);
-  parts.Binding.Bind(station, map.Option2);
-  row->addStretch(1);
-  add("Command72", Picture::Brightness, map.Command72, true);
-  return bar;
+constexpr int kNever = 1 << 20;
+constexpr int kRoomForLayers = 1080;  // pixels of the bar
+constexpr int kRoomForFollow = 760;
+constexpr int kRoomForWords = 860;
+constexpr int kGroupGap = 12;
+constexpr int kCentreWidth = 72;
+
+}  // namespace
+
+MapBar::MapBar(WindowParts& parts, MapControls& map) : parts_(parts) {
+  setObjectName(QStringLiteral("MapBar"));
+  row_ = TightBox(QBoxLayout::LeftToRight, this);
+  row_->setContentsMargins(8, 4, 8, 4);
+  AddPositions(map);
+  AddGap();
+  AddLayers(map);
+  row_->addStretch(1);
+  Add("Command72", Picture::Brightness, map.Command72, kRoomForFollow);
+  Add("Command59", Picture::Save, map.Command59, kRoomForLayers);
+}
+
+template <typename ControlOfMap>
+QToolButton* MapBar::Add(const char* name, Picture picture, ControlOfMap& control,
+                         int caption_from) {
+  QToolButton* tool = parts_.Tool(name, picture, caption_from != kNever);
+  row_->addWidget(tool);
+  parts_.Binding.Bind(tool, control);
+  if (caption_from > 0 && caption_from != kNever) captioned_.push_back({tool, caption_from});
+  return tool;
+}
+
+void MapBar::AddDim(const char* text) {
+  QLabel* label = DimLabel(text);
+  row_->addWidget(label);
+  dim_.push_back(label);
+}
+
+void MapBar::AddGap() {
+  auto* gap = new QWidget;
+  gap->setFixedWidth(kGroupGap - kGap);
+  row_->addWidget(gap);
+  dim_.push_back(gap);
+}
+
+void MapBar::AddPositions(MapControls& map) {
+  AddDim("scale");
+  Add("Command1", Picture::Coarser, map.Command1, kNever);
+  Add("Command2", Picture::Finer, map.Command2, kNever);
+  AddGap();
+  AddDim("zoom");
+  Add("Command7", Picture::ZoomOut, map.Command7, kNever);
+  Add("Command9", Picture::ZoomOne, map.Command9, kNever);
+  Add("Command8", Picture::ZoomIn, map.Command8, kNever);
+  AddGap();
+  Add("Command12", Picture::Centre, map.Command12, 0)->setMinimumWidth(kCentreWidth);
+  Add("Option1", Picture::Own, map.Option1, kRoomForFollow);
+  Add("Option2", Picture::Station, map.Option2, kRoomForFollow);
+}
+
+void MapBar::AddLayers(MapControls& map) {
+  Add("Check4", Picture::Grid, map.Check4, kRoomForLayers);
+  Add("Check9", Picture::Circles, map.Check9, kRoomForLayers);
+  Add("Check12", Picture::Pictures, map.Check12, kRoomForLayers);
+  Add("Check14", Picture::Track, map.Check14, kRoomForLayers);
+  // The level is nowhere else to be seen.
+  Add("Command73", Picture::Places, map.Command73, 0);
+}
+
+void MapBar::resizeEvent(QResizeEvent* event) {
+  const int width = event->size().width();
+  for (const Captioned& tool : captioned_) {
+    const bool room = width >= tool.From;
+    tool.Tool->setToolButtonStyle(room ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+  }
+  for (QWidget* widget : dim_)
+    widget->setVisible(width >= kRoomForWords);
+  QFrame::resizeEvent(event);
 }
 
 }  // namespace zepril

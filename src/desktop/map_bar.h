@@ -1,14 +1,44 @@
-// The bar over the map: scale, zoom, centre and follow, layers, brightness.
+// The bar over the map: scale, zoom, centre and follow, the layers, brightness, save. On a narrow
+// window the icons stand alone.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include <QFrame>
 
-class QWidget;
+#include <vector>
+
+#include "core/main_window_controls.h"
+#include "desktop/window_parts.h"
+
+class QBoxLayout;
+class QToolButton;
 
 namespace zepril {
 
-struct WindowParts;
+class MapBar final : public QFrame {
+ public:
+  MapBar(WindowParts& parts, MapControls& map);
 
-QWidget* MakeMapBar(WindowParts& parts, MapControls& map);
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  // From which width of the bar on its caption stands beside the icon; 0: always.
+  template <typename ControlOfMap>
+  QToolButton* Add(const char* name, Picture picture, ControlOfMap& control, int caption_from);
+  void AddDim(const char* text);
+  void AddGap();
+  void AddPositions(MapControls& map);
+  void AddLayers(MapControls& map);
+
+  struct Captioned {
+    QToolButton* Tool;
+    int From;
+  };
+
+  WindowParts& parts_;
+  QBoxLayout* row_;
+  std::vector<Captioned> captioned_;
+  std::vector<QWidget*> dim_;  // words and gaps that go first
+};
 
 }  // namespace zepril

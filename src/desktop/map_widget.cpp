@@ -33,6 +33,7 @@ MapWidget::MapWidget(QtLoop& loop, PictureBox& map, PictureBox& base, QtSurface&
 }
 
 void MapWidget::ControlsOut() {
+  if (size_waits_ && !loop_.InStep()) TakeSize();
   TakeFocusUnlessTyping();
   ShowPointer();
   const QString tip = ToQt(map_.ToolTip);
@@ -63,9 +64,17 @@ void MapWidget::paintEvent(QPaintEvent*) {
 
 void MapWidget::resizeEvent(QResizeEvent*) {
   if (width() < 1 || height() < 1) return;
+  if (PlaceOverlays) PlaceOverlays();
+  size_waits_ = true;
+  if (!loop_.InStep()) TakeSize();
+}
+
+// A step under way, which may be painting, keeps its surfaces: meanwhile the old picture is shown
+// stretched.
+void MapWidget::TakeSize() {
+  size_waits_ = false;
   map_surface_.Resize(width(), height());
   base_surface_.Resize(width(), height());
-  if (PlaceOverlays) PlaceOverlays();
   if (Resized) Resized(width(), height());
 }
 

@@ -42,6 +42,7 @@ class MapWidget final : public QWidget {
  private:
   MousePress PressOf(const QMouseEvent& event) const;
   void TakeFocusUnlessTyping();
+  void TakeSize();
   void ShowPointer();
   void PressRightAtPointer();
 
@@ -52,7 +53,8 @@ class MapWidget final : public QWidget {
   QtSurface& base_surface_;
   std::uint64_t shown_revision_ = 0;
   bool shown_visible_ = true;
-  int wheel_angle_ = 0;  // eighths of a degree that are no whole step yet
+  bool size_waits_ = false;  // a new size came inside a step
+  int wheel_angle_ = 0;      // eighths of a degree that are no whole step yet
 };
 
 }  // namespace zepril

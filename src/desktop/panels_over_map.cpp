@@ -17,6 +17,9 @@ namespace {
 
 constexpr int kOverlayMargin = 8;
 constexpr int kRecordWidth = 984;  // 120 columns of 8 pixels and a frame
+constexpr int kQthWidth = 260;
+constexpr int kHeardWidth = 168;
+constexpr int kHeardHeight = 420;
 
 }  // namespace
 
@@ -160,24 +163,38 @@ void PanelsOverMap::Place() {
   const int width = map_.width();
   const int height = map_.height();
   const int inner = std::max(width - 2 * kOverlayMargin, 100);
-  const int record_width = std::min(inner, kRecordWidth);
-  record_text_->setFixedWidth(record_width - 18);
-  record_panel_->setFixedWidth(record_width);
-  record_panel_->adjustSize();
-  record_panel_->move((width - record_width) / 2,
-                      height - record_panel_->height() - kOverlayMargin);
-  alarm_panel_->adjustSize();
-  alarm_panel_->move((width - alarm_panel_->width()) / 2, kOverlayMargin);
-  qth_panel_->setFixedWidth(std::min(260, inner));
-  qth_panel_->adjustSize();
-  qth_panel_->move(kOverlayMargin, kOverlayMargin);
-  const int heard_height = std::min(height - 2 * kOverlayMargin, 420);
-  heard_panel_->setGeometry(width - 168 - kOverlayMargin, kOverlayMargin, 168, heard_height);
-  palette_panel_->adjustSize();
-  palette_panel_->move(width - palette_panel_->width() - kOverlayMargin,
-                       height - palette_panel_->height() - kOverlayMargin);
-  banner_->adjustSize();
-  banner_->move((width - banner_->width()) / 2, kOverlayMargin);
+  // What is hidden is placed when it comes.
+  if (!record_panel_->isHidden()) {
+    const int record_width = std::min(inner, kRecordWidth);
+    record_text_->setFixedWidth(record_width - 18);
+    record_panel_->setFixedWidth(record_width);
+    record_panel_->adjustSize();
+    record_panel_->move((width - record_width) / 2,
+                        height - record_panel_->height() - kOverlayMargin);
+  }
+  if (!alarm_panel_->isHidden()) {
+    alarm_panel_->adjustSize();
+    alarm_panel_->move((width - alarm_panel_->width()) / 2, kOverlayMargin);
+  }
+  if (!qth_panel_->isHidden()) {
+    qth_panel_->setFixedWidth(std::min(kQthWidth, inner));
+    qth_panel_->adjustSize();
+    qth_panel_->move(kOverlayMargin, kOverlayMargin);
+  }
+  if (!heard_panel_->isHidden()) {
+    const int heard_height = std::min(height - 2 * kOverlayMargin, kHeardHeight);
+    heard_panel_->setGeometry(width - kHeardWidth - kOverlayMargin, kOverlayMargin, kHeardWidth,
+                              heard_height);
+  }
+  if (!palette_panel_->isHidden()) {
+    palette_panel_->adjustSize();
+    palette_panel_->move(width - palette_panel_->width() - kOverlayMargin,
+                         height - palette_panel_->height() - kOverlayMargin);
+  }
+  if (!banner_->isHidden()) {
+    banner_->adjustSize();
+    banner_->move((width - banner_->width()) / 2, kOverlayMargin);
+  }
 }
 
 const Button* PanelsOverMap::CloseOfTopmost() const {

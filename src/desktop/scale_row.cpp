@@ -4,9 +4,23 @@
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QPainter>
+#include <QStyle>
 
 namespace zepril {
 namespace {
+
+constexpr int kLegendHeight = 18;
+
+void PaintFrameBox(QPainter& painter, const QRect& box, const Look& look, bool covered,
+                   bool checked, bool focused) {
+  painter.setPen(QPen(focused ? look.Text : look.Dim, 1));
+  painter.setBrush(covered ? QBrush(look.Accent) : QBrush(look.Field));
+  painter.drawRect(box);
+  if (!checked) return;
+  painter.setPen(QPen(look.Text, 2));
+  painter.drawLine(box.topLeft() + QPoint(3, 3), box.bottomRight() - QPoint(2, 2));
+  painter.drawLine(box.topRight() + QPoint(-2, 3), box.bottomLeft() + QPoint(3, -2));
+}
 
 // The frame box: ticked with a cross, filled where tiles are.
 class FrameBoxButton final : public QAbstractButton {
@@ -20,14 +34,8 @@ class FrameBoxButton final : public QAbstractButton {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    const QRect box = rect().adjusted(2, 2, -3, -3);
-    painter.setPen(QPen(hasFocus() ? look_.Text : look_.Dim, 1));
-    painter.setBrush(property("covered").toBool() ? QBrush(look_.Accent) : QBrush(look_.Field));
-    painter.drawRect(box);
-    if (!isChecked()) return;
-    painter.setPen(QPen(look_.Text, 2));
-    painter.drawLine(box.topLeft() + QPoint(3, 3), box.bottomRight() - QPoint(2, 2));
-    painter.drawLine(box.topRight() + QPoint(-2, 3), box.bottomLeft() + QPoint(3, -2));
+    PaintFrameBox(painter, rect().adjusted(2, 2, -3, -3), look_, property("covered").toBool(),
+                  isChecked(), hasFocus());
   }
 
  private:
@@ -63,12 +71,33 @@ void ScaleRow::Show(bool covered, bool active) {
     active_ = active;
     update();
   }
+  const bool empty = folders_->count() == 0;
+  if (folders_->property("empty").toBool() != empty) {
+    folders_->setProperty("empty", empty);
+    folders_->style()->polish(folders_);
+  }
 }
 
 void ScaleRow::paintEvent(QPaintEvent*) {
   if (!active_) return;
   QPainter painter(this);
   painter.fillRect(0, 2, 4, height() - 4, look_.Text);
+}
+
+ScaleLegend::ScaleLegend(const Look& look, QWidget* parent) : QWidget(parent), look_(look) {
+  setFixedHeight(kLegendHeight);
+  setAccessibleName(QStringLiteral("filled: tiles at the center, ticked: tile frames"));
+}
+
+void ScaleLegend::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const auto entry = [&](int x, const QString& text, bool covered, bool checked) {
+    PaintFrameBox(painter, QRect(x, 2, 13, 13), look_, covered, checked, false);
+    painter.setPen(look_.Dim);
+    painter.drawText(QRect(x + 18, 0, width(), height()), Qt::AlignLeft | Qt::AlignVCenter, text);
+  };
+  entry(10, QStringLiteral("tiles here"), true, false);
+  entry(width() / 2 + 8, QStringLiteral("frames"), false, true);
 }
 
 }  // namespace zepril

@@ -29,4 +29,16 @@ class ScaleRow final : public QWidget {
   bool active_ = false;
 };
 
+// What the signs of the rows say: a filled box and a ticked one.
+class ScaleLegend final : public QWidget {
+ public:
+  explicit ScaleLegend(const Look& look, QWidget* parent = nullptr);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const Look& look_;
+};
+
 }  // namespace zepril

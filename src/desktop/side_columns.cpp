@@ -19,6 +19,7 @@ QWidget* SideColumns::MakeLeftColumn() {
   box->setSpacing(8);
   box->addWidget(MakeReadouts());
   box->addWidget(MakeScales());
+  box->addWidget(MakeFiles());
   box->addStretch(1);
   return column;
 }
@@ -65,8 +66,11 @@ QWidget* SideColumns::MakeScales() {
   box->addWidget(GroupCaption("SCALES"));
   static constexpr const char* kNames[] = {"Combo3", "Combo4", "Combo5",
                                            "Combo6", "Combo7", "Combo8"};
+  static constexpr const char* kNoFolder[] = {"no M5000", "no M1000", "no M0200",
+                                              "no M0050", "no M0010", "no M0002"};
   for (std::size_t at = 0; at < controls_.Scales.Folder.size(); ++at) {
     auto* row = new ScaleRow(QString::fromLatin1(kNames[at]), parts_.Shades);
+    row->Folders()->setPlaceholderText(QString::fromLatin1(kNoFolder[at]));
     box->addWidget(row);
     parts_.Binding.Bind(row->FrameBox(), controls_.Scales.FrameBox[at]);
     parts_.Binding.Bind(row->Folders(), controls_.Scales.Folder[at]);
@@ -87,10 +91,40 @@ QWidget* SideColumns::MakeScales() {
     buttons->addWidget(button, 1);
     parts_.Binding.Bind(button, tool.Control);
   }
-  auto* frames = new QLabel(QStringLiteral("tile frames"));
-  frames->setProperty("dim", true);
-  box->addWidget(frames);
+  box->addWidget(new ScaleLegend(parts_.Shades));
   box->addLayout(buttons);
+  return group;
+}
+
+// A field that lists files and takes the name of a new one.
+QComboBox* SideColumns::MakeFileList(const char* name, const char* what, ComboBox& control) {
+  auto* list = new QComboBox;
+  list->setObjectName(QString::fromLatin1(name));
+  list->setAccessibleName(QString::fromLatin1(what));
+  list->setEditable(true);
+  list->setInsertPolicy(QComboBox::NoInsert);
+  list->lineEdit()->setPlaceholderText(QString::fromLatin1(what));
+  list->setFixedHeight(kControlHeight);
+  list->setMinimumWidth(0);
+  list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  parts_.Binding.Bind(list, control);
+  return list;
+}
+
+QWidget* SideColumns::MakeFiles() {
+  auto* group = new QWidget;
+  auto* box = TightBox(QBoxLayout::TopToBottom, group);
+  box->addWidget(GroupCaption("FILES"));
+  TrackControls& tracks = controls_.Tracks;
+  box->addWidget(MakeFileList("Combo1", "TRK file", tracks.Combo1));
+  auto* steps = TightBox(QBoxLayout::LeftToRight);
+  steps->addWidget(parts_.BoundButton("Command68", tracks.Command68), 1);
+  steps->addWidget(parts_.BoundButton("Command69", tracks.Command69), 1);
+  steps->addWidget(parts_.BoundButton("Frame10", tracks.Frame10), 2);
+  box->addLayout(steps);
+  PlaceControls& places = controls_.Places;
+  box->addWidget(MakeFileList("Combo2", "POI file", places.Combo2));
+  box->addWidget(parts_.BoundButton("PoiNew", places.PoiNew));
   return group;
 }
 

@@ -5,6 +5,7 @@
 #include "desktop/window_parts.h"
 
 class QBoxLayout;
+class QComboBox;
 class QWidget;
 
 namespace zepril {
@@ -20,6 +21,8 @@ class SideColumns {
  private:
   QWidget* MakeReadouts();
   QWidget* MakeScales();
+  QComboBox* MakeFileList(const char* name, const char* what, ComboBox& control);
+  QWidget* MakeFiles();
   QWidget* MakeMoni1();
   QBoxLayout* MakeClassRow();
   QWidget* MakeMoniAll();

@@ -10,6 +10,7 @@ namespace {
 
 constexpr double kHighestKm = 9999.999;
 constexpr double kLongFormMetres = 10000000.0;
+constexpr std::size_t kTextColumns = 9;
 
 enum class LongForm { Never, FromTenThousandKm };
 
@@ -53,6 +54,18 @@ double RoundedToMetre(double km) {
 std::string PointKilometreText(double km) {
   if (!(std::fabs(km) < kHighestKm)) return {};
   return TextOfMetres(std::fabs(km * 1000.0), km, LongForm::Never);
+}
+
+PositionTexts FormatGpsPositionTexts(double north_km, double east_km) {
+  const auto text_of = [](double km) {
+    return std::fabs(km) <= kHighestKm ? KilometreText(km) : std::string();
+  };
+  return {text_of(north_km), text_of(east_km)};
+}
+
+PositionTexts FormatPoiPositionTexts(double north_km, double east_km) {
+  const PositionTexts texts = FormatGpsPositionTexts(north_km, east_km);
+  return {PadRight(texts.North, kTextColumns), PadRight(texts.East, kTextColumns)};
 }
 
 std::string DegreeMinuteText(double degrees) {

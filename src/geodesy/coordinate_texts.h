@@ -26,6 +26,16 @@ double RoundedToMetre(double km);
 // Kilometre text of a value that is already whole metres; empty from 9999.999 km on, either sign.
 std::string PointKilometreText(double km);
 
+// Position texts of a track or place line, from kilometres: KilometreText, and empty beyond
+// 9999.999 km, either sign.
+struct PositionTexts {
+  std::string North;
+  std::string East;
+};
+PositionTexts FormatGpsPositionTexts(double north_km, double east_km);
+// The same for a place: nine blanks in place of an empty text, so that the columns behind it hold.
+PositionTexts FormatPoiPositionTexts(double north_km, double east_km);
+
 // Latitude or longitude as degrees, minutes and hundredths, all cut: " 52:30.24", "- 9:30.00".
 // Kept: three digits of degrees leave no place for the sign, 122 degrees west reads "122:00.00".
 std::string DegreeMinuteText(double degrees);

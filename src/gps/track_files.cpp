@@ -1,6 +1,24 @@
 #include "gps/track_files.h"
 
+#include <algorithm>
+#include <utility>
+
+#include "core/point_file.h"
+#include "core/text_fields.h"
+
 namespace zepril {
+namespace {
+
+constexpr const char* kBoxTitle = "ZEP RIL";
+constexpr std::string_view kExtension = ".TRK";
+constexpr int kEnterKey = 13;
+
+// Whether the field shows the entry that is selected; an empty field shows none.
+bool IsChosen(const ComboBox& list) {
+  return list.ListIndex >= 0 && list.Text == list.Selected();
+}
+
+}  // namespace
 
 TrackFiles::TrackFiles(const IdentityState& identity, MapViewState& view, SettingsState& settings,
                        PlacesState& places, TrackControls& controls, MapControls& map,
@@ -11,10 +29,142 @@ TrackFiles::TrackFiles(const IdentityState& identity, MapViewState& view, Settin
       places_(places),
       controls_(controls),
       map_(map),
-      tools_(tools) {}
+      tools_(tools) {
+  // Typing changes the field too: only an entry that is chosen, or Enter, is a choice.
+  controls_.Combo1.Change = [this] {
+    if (IsChosen(controls_.Combo1)) SelectTrack();
+  };
+  controls_.Combo1.KeyDown = [this](KeyPress key) {
+    if (key.Code == kEnterKey) SelectTrack();
+  };
+  controls_.Command68.Click = [this] { StepFile(-1); };
+  controls_.Command69.Click = [this] { StepFile(1); };
+  controls_.Frame10.Click = [this] { CentreOnEnd(); };
+  map_.Check14.Click = [this] { SwitchDisplay(); };
+  map_.Check14.RightClick = [this] { ChooseInList(); };
+}
 
-void TrackFiles::RestoreAtStart() {}
-void TrackFiles::ListTrackFiles() {}
-void TrackFiles::SelectTrack() {}
+std::string TrackFiles::PathOf(const std::string& name) const {
+  return Folder() + "\\" + name + std::string(kExtension);
+}
+
+void TrackFiles::RestoreAtStart() {
+  ListTrackFiles();
+  // A file that has gone is no reason to trouble anybody: its name stays, there is just no track.
+  loaded_ = Load(settings_.TrackFile);
+  if (!loaded_) places_.TrackPoints.Clear();
+}
+
+void TrackFiles::ListTrackFiles() {
+  controls_.Combo1.Items = PointFileNames(tools_.Disk, Folder(), kExtension);
+  ShowLoaded();
+}
+
+void TrackFiles::ShowLoaded() {
+  controls_.Combo1.ListIndex = IndexOfName(controls_.Combo1.Items, settings_.TrackFile);
+  controls_.Combo1.Text = Upper(settings_.TrackFile);
+}
+
+bool TrackFiles::Load(const std::string& name) {
+  if (!IsPlainFileName(name)) return false;
+  auto read = ReadPointFile(tools_.Disk, PathOf(name), places_.TrackPoints,
+                            PlacesState::kMostTrackLines, tools_.LongWork, "Reading track " + name);
+  if (!read) return false;
+  places_.TrackPoints = std::move(read->Points);
+  return true;
+}
+
+void TrackFiles::SelectTrack() {
+  Choose(Upper(Trim(controls_.Combo1.Text)));
+}
+
+void TrackFiles::Choose(const std::string& name) {
+  // An empty name, or that of the file which is loaded, changes nothing.
+  if (name.empty() || (loaded_ && EqualFolded(name, settings_.TrackFile))) {
+    ShowLoaded();
+    return;
+  }
+  if (!IsPlainFileName(name)) {
+    ShowLoaded();
+    tools_.Boxes.Tell(kBoxTitle, "\"" + name + "\" can't be the name of a track file.");
+    return;
+  }
+  // A name that is new is offered first.
+  if (!tools_.Disk.Exists(PathOf(name)) && !CreateEmpty(name)) {
+    ShowLoaded();
+    return;
+  }
+  if (!Load(name)) {
+    ShowLoaded();
+    tools_.Boxes.Tell(kBoxTitle, "The track file " + name + " can't be read.");
+    return;
+  }
+  loaded_ = true;
+  settings_.TrackFile = name;
+  ListTrackFiles();
+  tools_.Settings.WriteConfigFromMainWindow();
+  if (view_.TracksOn) tools_.Map.MapRedraw();
+  map_.Picture1.FocusWanted = true;
+}
+
+bool TrackFiles::CreateEmpty(const std::string& name) {
+  const DialogAnswer answer =
+      tools_.Boxes.Ask(kBoxTitle, "There is no track file " + name + ".  CREATE AN EMPTY ONE?",
+                       DialogButtons::YesNo, DialogAnswer::No);
+  if (answer != DialogAnswer::Yes) return false;
+  tools_.Disk.MakeFolder(Folder());
+  if (tools_.Disk.Append(PathOf(name), "")) return true;
+  tools_.Boxes.Tell(kBoxTitle, "The track file " + name + " can't be created.");
+  return false;
+}
+
+// The next name of the list in one direction, from where the loaded one stands or would stand; with
+// nothing loaded the list is entered from its near end. Stops at the ends.
+void TrackFiles::StepFile(int direction) {
+  map_.Picture1.FocusWanted = true;
+  ListTrackFiles();  // the day may have a new file
+  const std::vector<std::string>& names = controls_.Combo1.Items;
+  const std::string loaded = Upper(settings_.TrackFile);
+  const auto count = static_cast<std::ptrdiff_t>(names.size());
+  std::ptrdiff_t next = IndexOfName(names, loaded);
+  if (next >= 0) {
+    next += direction;
+  } else if (loaded.empty()) {
+    next = direction > 0 ? 0 : count - 1;
+  } else {
+    next = std::lower_bound(names.begin(), names.end(), loaded) - names.begin();
+    if (direction < 0) --next;
+  }
+  if (next >= 0 && next < count) Choose(names[static_cast<std::size_t>(next)]);
+}
+
+void TrackFiles::CentreOnEnd() {
+  map_.Picture1.FocusWanted = true;
+  const PointList& track = places_.TrackPoints;
+  int last = track.Count();
+  while (last > 0 && !track.HasPosition(last))
+    --last;
+  if (last == 0) return;
+  view_.CentreNorthKm = track.NorthKm(last);
+  view_.CentreEastKm = track.EastKm(last);
+  view_.CentreFollow = 0;
+  view_.MapLockedOnRecord = 0;
+  view_.PictureMode = 0;
+  view_.ManualMapMove = true;
+  map_.Option1.Value = false;
+  map_.Option2.Value = false;
+  tools_.Map.MapRedraw();
+}
+
+void TrackFiles::ChooseInList() {
+  ListTrackFiles();
+  controls_.Combo1.DropDownWanted = true;
+  controls_.Combo1.FocusWanted = true;
+}
+
+void TrackFiles::SwitchDisplay() {
+  view_.TracksOn = map_.Check14.Value == 1;
+  tools_.Map.MapRedraw();
+}
 
 }  // namespace zepril

@@ -39,10 +39,23 @@ class TrackFiles {
   void RestoreAtStart();
   // Fills the list with the names in the folder, upper-cased, without extension.
   void ListTrackFiles();
-  // Loads the file that the list field names.
+  // Loads the file that the list field names. A name without a file is offered as a new, empty one.
+  // What can't be read leaves list field and points as they were.
   void SelectTrack();
 
  private:
+  std::string Folder() const { return identity_.MapSystemFolder + "\\TRK"; }
+  std::string PathOf(const std::string& name) const;
+  bool Load(const std::string& name);
+  bool CreateEmpty(const std::string& name);
+  // Brings the field back to the file that is loaded.
+  void ShowLoaded();
+  void Choose(const std::string& name);
+  void StepFile(int direction);
+  void CentreOnEnd();
+  void ChooseInList();
+  void SwitchDisplay();
+
   const IdentityState& identity_;
   MapViewState& view_;
   SettingsState& settings_;
@@ -50,6 +63,7 @@ class TrackFiles {
   TrackControls& controls_;
   MapControls& map_;
   TrackFilesTools tools_;
+  bool loaded_ = false;  // the file of the name that is kept was read
 };
 
 }  // namespace zepril

@@ -1,6 +1,268 @@
 #include "map/grid_layer.h"
 
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "core/position_text.h"
+#include "core/text_fields.h"
+#include "geodesy/conversions.h"
+#include "map/grid_lines.h"
+#include "map/map_colours.h"
+#include "map/map_view.h"
+#include "map/scale_text.h"
+
 namespace zepril {
-void GridLayer(DrawingSurface&, const MapViewState&, const CoordinateValues&, DisplayMode,
-               PixelPoint) {}
+namespace {
+
+constexpr int kLinePixels = 100;      // between two lines
+constexpr int kReachPixels = 5000;    // of the map's own grid, from the corner of the tile
+constexpr int kGeographicSteps = 16;  // either way
+constexpr double kHighestLatitude = 80.0;
+constexpr double kMinutesShownBelow = 1000.0;  // metres a pixel
+constexpr double kMetricWidths = 1.0;
+constexpr double kGaussKruegerEastWidths = 3.0;
+constexpr double kMetricLimitKm = 10000.0;
+constexpr double kGaussKruegerEastLimitKm = 20000.0;
+constexpr int kMinutesPerTurn = 360 * 60;
+
+// The systems that the read-outs show.
+std::array<bool, kDisplayModes> ShownSystems(const MapViewState& view) {
+  std::array<bool, kDisplayModes> shown{};
+  for (const int mode : {view.CentreDisplayMode, view.CursorDisplayMode, view.MonitorDisplayMode}) {
+    if (mode >= 0 && mode < kDisplayModes) shown[static_cast<std::size_t>(mode)] = true;
+  }
+  return shown;
+}
+
+// Kilometres as a label, to the metre.
+std::string KilometreLabel(double km) {
+  return PlainNumber(RoundHalfEven(km * 1000.0) / 1000.0 + 0.0);
+}
+
+// ---- The map's own zone ---------------------------------------------------------------------
+
+void DrawMapGrid(DrawingSurface& surface, const MapViewState& view, PixelPoint last_tile) {
+  GridPainter painter(surface, view, kMapGridColour);
+  const double step_km = kLinePixels * view.MetresPerPixel / 1000.0;
+  // West and north edge of the tile; the row above its first pixel is the edge.
+  const auto [x0, y0] = last_tile;
+  const MapPosition corner = PositionOfPixel(view, x0, y0);
+  const double west_km = RoundHalfEven(corner.EastKm / view.MapTileKm) * view.MapTileKm;
+  const double north_km = RoundHalfEven(corner.NorthKm / view.MapTileKm) * view.MapTileKm;
+  const int lines = kReachPixels / kLinePixels;
+  for (int i = -lines; i <= lines; ++i) {
+    const int x = x0 + i * kLinePixels;
+    painter.Segment({x, -kReachPixels}, {x, kReachPixels});
+    painter.Label(x + 4, view.ViewHeightPx - 12.0, KilometreLabel(west_km + i * step_km));
+    const int y = y0 - 1 + i * kLinePixels;
+    painter.Segment({-kReachPixels, y}, {kReachPixels, y});
+    painter.Label(2, y - 12, KilometreLabel(north_km - i * step_km));
+  }
+}
+
+// ---- Grids of converted points --------------------------------------------------------------
+
+// Points in rows of equal north or latitude, and columns of equal east or longitude.
+class GridLattice {
+ public:
+  template <typename Convert>
+  GridLattice(int rows, int columns, const Convert& convert) : rows_(rows), columns_(columns) {
+    points_.reserve(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns));
+    for (int row = 0; row < rows; ++row) {
+      for (int column = 0; column < columns; ++column)
+        points_.push_back(convert(row, column));
+    }
+  }
+  int Rows() const { return rows_; }
+  int Columns() const { return columns_; }
+  std::span<const GridPoint> Row(int row) const {
+    return std::span(points_).subspan(Index(row, 0), static_cast<std::size_t>(columns_));
+  }
+  std::vector<GridPoint> Column(int column) const {
+    std::vector<GridPoint> points;
+    points.reserve(static_cast<std::size_t>(rows_));
+    for (int row = 0; row < rows_; ++row)
+      points.push_back(points_[Index(row, column)]);
+    return points;
+  }
+
+ private:
+  std::size_t Index(int row, int column) const {
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+           static_cast<std::size_t>(column);
+  }
+  int rows_;
+  int columns_;
+  std::vector<GridPoint> points_;
+};
+
+void DrawGeographicGrid(DrawingSurface& surface, const MapViewState& view) {
+  const Geodetic centre = UtmToGeodetic(view.MapCentralMeridian, view.CentreEastKm * 1000.0,
+                                        view.CentreNorthKm * 1000.0, view.MapFalseEasting);
+  if (!std::isfinite(centre.Lon) || !std::isfinite(centre.Lat)) return;
+  const int step = GeographicStepMinutes(view.MetresPerPixel);
+  // Everything in minutes of arc. From whole degrees on, longitudes run from the map's meridian.
+  const int origin =
+      step < 60 ? 0 : 60 * static_cast<int>(IntegerRemainder(view.MapCentralMeridian, step / 60.0));
+  const auto whole_step = [step](double degrees) {
+    return step * static_cast<int>(Int(degrees * 60.0 / step));
+  };
+  const int middle_lat = whole_step(centre.Lat);
+  const int first_lon = whole_step(centre.Lon - origin / 60.0) + origin - kGeographicSteps * step;
+  const int limit = whole_step(kHighestLatitude);
+  const int first_lat = std::max(middle_lat - kGeographicSteps * step, -limit);
+  const int last_lat = std::min(middle_lat + kGeographicSteps * step, limit);
+  if (last_lat < first_lat) return;
+  const GridLattice lattice((last_lat - first_lat) / step + 1, 2 * kGeographicSteps + 1,
+                            [&](int row, int column) {
+                              return GridPointOf(view, (first_lon + column * step) / 60.0,
+                                                 (first_lat + row * step) / 60.0);
+                            });
+  GridPainter painter(surface, view, kGeographicGridColour);
+  const bool with_minutes = view.MetresPerPixel < kMinutesShownBelow;
+  for (int column = 0; column < lattice.Columns(); ++column) {
+    painter.Line(lattice.Column(column), GridJoin::Unbroken, GridEdge::Bottom,
+                 DegreeLabel(first_lon + column * step, with_minutes));
+  }
+  for (int row = 0; row < lattice.Rows(); ++row) {
+    painter.Line(lattice.Row(row), GridJoin::Unbroken, GridEdge::Right,
+                 DegreeLabel(first_lat + row * step, with_minutes));
+  }
+}
+
+// A grid in kilometres: where its labels stand, its colour, the reach of both axes.
+struct MetricGrid {
+  GridSlots Slots;
+  Colour Ink;
+  GridReach North;
+  GridReach East;
+};
+
+// `to_wgs84`: the way from the system's metres, easting and northing.
+template <typename ToWgs84>
+void DrawMetricGrid(DrawingSurface& surface, const MapViewState& view, const MetricGrid& grid,
+                    const ToWgs84& to_wgs84) {
+  const GridReach& north = grid.North;
+  const GridReach& east = grid.East;
+  const GridLattice lattice(north.Count(), east.Count(), [&](int row, int column) {
+    const Geodetic place = to_wgs84(east.At(column) * 1000.0, north.At(row) * 1000.0);
+    return GridPointOf(view, place.Lon, place.Lat);
+  });
+  GridPainter painter(surface, view, grid.Ink, grid.Slots);
+  for (int column = 0; column < lattice.Columns(); ++column) {
+    painter.Line(lattice.Column(column), GridJoin::Near, GridEdge::Top,
+                 KilometreLabel(east.At(column)));
+  }
+  for (int row = 0; row < lattice.Rows(); ++row) {
+    painter.Line(lattice.Row(row), GridJoin::Near, GridEdge::Left, KilometreLabel(north.At(row)));
+  }
+}
+
+GridReach ReachOfText(const MapViewState& view, const std::string& text) {
+  return GridReachOf(PositionTextKm(text), view.MetresPerPixel, kMetricWidths, kMetricLimitKm);
+}
+
+void DrawGaussKruegerGrid(DrawingSurface& surface, const MapViewState& view,
+                          const CoordinateValues& centre, GridSlots slots) {
+  // Wider to the east and west: the text of a strip of two digits has lost a digit, and its value
+  // may lie a kilometre beside the centre.
+  const GridReach east = GridReachOf(PositionTextKm(centre.GkEastText), view.MetresPerPixel,
+                                     kGaussKruegerEastWidths, kGaussKruegerEastLimitKm);
+  DrawMetricGrid(surface, view,
+                 {slots, kGaussKruegerGridColour, ReachOfText(view, centre.GkNorthText), east},
+                 [&](double easting, double northing) {
+                   return GaussKruegerToWgs84(easting, northing, centre.GkCentralMeridian);
+                 });
+}
+
+void DrawUtmGrid(DrawingSurface& surface, const MapViewState& view, const CoordinateValues& centre,
+                 GridSlots slots) {
+  DrawMetricGrid(surface, view,
+                 {slots, kUtmGridColour, ReachOfText(view, centre.UtmNorthText),
+                  ReachOfText(view, centre.UtmEastText)},
+                 [&](double easting, double northing) {
+                   return UtmToGeodetic(centre.UtmCentralMeridian, easting, northing,
+                                        kUtmFalseEasting);
+                 });
+}
+
+void DrawRt90Grid(DrawingSurface& surface, const MapViewState& view, const CoordinateValues& centre,
+                  GridSlots slots) {
+  DrawMetricGrid(surface, view,
+                 {slots, kRt90GridColour, ReachOfText(view, centre.RtNorthText),
+                  ReachOfText(view, centre.RtEastText)},
+                 Rt90ToWgs84);
+}
+
+}  // namespace
+
+int GeographicStepMinutes(double metres_per_pixel) {
+  struct Row {
+    double From;  // metres a pixel
+    int Minutes;
+  };
+  static constexpr Row kRows[] = {{3000.0, 600}, {1500.0, 300}, {700.0, 120},
+                                  {300.0, 60},   {150.0, 30},   {90.0, 15},
+                                  {60.0, 10},    {30.0, 5},     {15.0, 2}};
+  for (const Row& row : kRows) {
+    if (metres_per_pixel >= row.From) return row.Minutes;
+  }
+  return 1;
+}
+
+std::string DegreeLabel(int arc_minutes, bool with_minutes) {
+  int minutes = arc_minutes % kMinutesPerTurn;
+  if (minutes > kMinutesPerTurn / 2) minutes -= kMinutesPerTurn;
+  if (minutes <= -kMinutesPerTurn / 2) minutes += kMinutesPerTurn;
+  const int magnitude = std::abs(minutes);
+  std::string text = minutes < 0 ? "-" : "";
+  text += WholeNumber(magnitude / 60);
+  if (with_minutes) text += ":" + ZeroPadded(magnitude % 60, 2);
+  return text;
+}
+
+int GridReach::Count() const {
+  constexpr double kGrace = 1e-6;  // of a step, for binary fractions
+  return static_cast<int>(Int((Last - First) / Step + kGrace)) + 1;
+}
+
+GridReach GridReachOf(double centre_km, double metres_per_pixel, double widths, double limit) {
+  const double step = metres_per_pixel / 10.0;  // km that 100 pixels show
+  const double first = step * Int(centre_km / step) - widths * metres_per_pixel;
+  const double last = first + 2.0 * widths * metres_per_pixel;
+  return {std::clamp(first, -limit, limit), std::clamp(last, -limit, limit), step};
+}
+
+GridSlots SlotsAmong(const std::array<bool, kDisplayModes>& shown, DisplayMode mode) {
+  GridSlots slots;
+  for (const DisplayMode before :
+       {DisplayMode::MapUtm, DisplayMode::GaussKrueger, DisplayMode::UtmByPosition}) {
+    if (before >= mode || !shown[static_cast<std::size_t>(before)]) continue;
+    ++slots.Left;
+    if (before != DisplayMode::MapUtm) ++slots.Top;
+  }
+  return slots;
+}
+
+void DrawGrid(DrawingSurface& surface, const MapViewState& view, const CoordinateValues& values,
+              DisplayMode mode, PixelPoint last_tile, GridSlots slots) {
+  if (mode == DisplayMode::MapUtm) return DrawMapGrid(surface, view, last_tile);
+  if (mode == DisplayMode::Geographic) return DrawGeographicGrid(surface, view);
+  // The centre in the strips in use. The read-outs' own values are theirs.
+  CoordinateValues centre = values;
+  GridToGeo(centre, view, view.CentreNorthKm, view.CentreEastKm);
+  GeoToAllGrids(centre);
+  if (mode == DisplayMode::GaussKrueger) DrawGaussKruegerGrid(surface, view, centre, slots);
+  if (mode == DisplayMode::UtmByPosition) DrawUtmGrid(surface, view, centre, slots);
+  if (mode == DisplayMode::Rt90) DrawRt90Grid(surface, view, centre, slots);
+}
+
+void GridLayer(DrawingSurface& surface, const MapViewState& view, const CoordinateValues& values,
+               DisplayMode mode, PixelPoint last_tile) {
+  const auto shown = ShownSystems(view);
+  if (!shown[static_cast<std::size_t>(mode)]) return;
+  DrawGrid(surface, view, values, mode, last_tile, SlotsAmong(shown, mode));
+}
+
 }  // namespace zepril

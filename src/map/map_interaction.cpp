@@ -3,9 +3,9 @@
 #include "core/position_text.h"
 #include "core/text_fields.h"
 #include "map/map_view.h"
+#include "map/picture_names.h"
 #include "map/scales.h"
 #include "map/station_lookup.h"
-#include "map/tile_names.h"
 
 namespace zepril {
 namespace {
@@ -23,7 +23,6 @@ constexpr int kRightButton = 2;
 constexpr int kHighestLabelLevel = 5;
 constexpr int kLevelSteps = 7;  // 0 to 5 and "WX"
 constexpr int kTrackStyles = 7;
-constexpr double kPictureMiddleKm = 0.499;
 
 constexpr std::array<std::uint32_t, 3> kBrightnessButton{0xC0C0A0, 0x606046, 0xFFFFD6};
 
@@ -34,6 +33,7 @@ MapInteraction::MapInteraction(MapViewState& view, StoresState& stores,
                                MapInteractionTools tools)
     : view_(view), stores_(stores), followed_(followed), controls_(controls), tools_(tools) {
   BindScaleAndZoom();
+  BindLayers();
   BindMap();
   BindFolders();
   BindCaptions();
@@ -47,17 +47,26 @@ void MapInteraction::BindScaleAndZoom() {
   MapControls& map = controls_.Map;
   map.Command1.Click = [this] { StepScale(-1); };
   map.Command2.Click = [this] { StepScale(+1); };
-  map.Command7.Click = [this] {
-    view_.ZoomFactor < kLargestZoom ? SetZoom(view_.ZoomFactor * 2.0) : FocusMap();
-  };
-  map.Command8.Click = [this] {
-    view_.ZoomFactor > kSmallestZoom ? SetZoom(view_.ZoomFactor / 2.0) : FocusMap();
-  };
+  map.Command7.Click = [this] { Zoom() < kLargestZoom ? SetZoom(Zoom() * 2.0) : FocusMap(); };
+  map.Command8.Click = [this] { Zoom() > kSmallestZoom ? SetZoom(Zoom() / 2.0) : FocusMap(); };
   map.Command9.Click = [this] { SetZoom(1.0); };
   map.Command12.Click = [this] { CentreOnRecord(); };
   map.Command12.RightClick = [this] { StepScaleRound(); };
   map.Option1.Click = [this] { Follow(kFollowOwn); };
   map.Option2.Click = [this] { Follow(kFollowStation); };
+}
+
+void MapInteraction::BindLayers() {
+  MapControls& map = controls_.Map;
+  const auto switch_layer = [this](CheckBox& box, bool& layer_on) {
+    box.Click = [this, &box, &layer_on] {
+      layer_on = box.Value != 0;
+      Redraw();
+    };
+  };
+  switch_layer(map.Check4, view_.GridOn);
+  switch_layer(map.Check9, view_.CirclesOn);
+  switch_layer(map.Check12, view_.PicturesOn);
 }
 
 void MapInteraction::BindMap() {
@@ -79,7 +88,8 @@ void MapInteraction::BindFolders() {
     scales.FrameBox[at].Click = [this] { Redraw(); };
   }
   const auto all_boxes = [this](int value) {
-    for (CheckBox& box : controls_.Scales.FrameBox) box.Value = value;
+    for (CheckBox& box : controls_.Scales.FrameBox)
+      box.Value = value;
     Redraw();
   };
   scales.Command5.Click = [all_boxes] { all_boxes(1); };
@@ -166,6 +176,11 @@ void MapInteraction::StepScaleRound() {
   SetZoom(1.0);
 }
 
+// 0 is read as 1.
+double MapInteraction::Zoom() const {
+  return view_.ZoomFactor > 0.0 ? view_.ZoomFactor : 1.0;
+}
+
 void MapInteraction::SetZoom(double factor) {
   view_.ZoomFactor = factor;
   FocusMap();
@@ -181,18 +196,16 @@ void MapInteraction::ChooseFolder(int row) {
 }
 
 void MapInteraction::CentreOnRecord() {
-  // Without a record in the panel there is nowhere to go.
-  const std::string& record = controls_.Record.Label20.Caption;
-  if (Trim(Mid(record, 14, 18)).empty()) {
-    FocusMap();
-    return;
-  }
   view_.PictureMode = 0;
   tools_.Lookups.ClosePicture();
   EndFollowing();
-  view_.CentreNorthKm = PositionTextKm(Mid(record, 14, 9));
-  view_.CentreEastKm = PositionTextKm(Mid(record, 23, 9));
-  view_.MapLockedOnRecord = 1;
+  const std::string& record = controls_.Record.Label20.Caption;
+  // Without a record in the panel there is nowhere to go.
+  if (!Trim(Mid(record, 14, 18)).empty()) {
+    view_.CentreNorthKm = PositionTextKm(Mid(record, 14, 9));
+    view_.CentreEastKm = PositionTextKm(Mid(record, 23, 9));
+    view_.MapLockedOnRecord = 1;
+  }
   Redraw();
 }
 
@@ -211,7 +224,7 @@ void MapInteraction::Follow(int centre_follow) {
 void MapInteraction::PressMap(const MousePress& press) {
   tools_.ReadoutTexts.CursorReadout(press.X, press.Y);
   if (press.Button == kRightButton) {
-    RightPress(press.X, press.Y);
+    RightPress();
   } else {
     LeftPress(press.X, press.Y);
   }
@@ -234,17 +247,16 @@ void MapInteraction::LeftPress(double x, double y) {
 void MapInteraction::CentreOnPicture() {
   const auto index = static_cast<std::size_t>(view_.SelectedPicture);
   if (index >= 1 && index <= view_.PictureNames.size()) {
-    const std::string& name = view_.PictureNames[index - 1];
     // Into the middle of the kilometre.
-    view_.CentreNorthKm = TileFieldValue(Left(name, 4)) + kPictureMiddleKm;
-    view_.CentreEastKm = TileFieldValue(Mid(name, 5, 4)) + kPictureMiddleKm;
+    const MapPosition place = PicturePlace(view_.PictureNames[index - 1]);
+    view_.CentreNorthKm = place.NorthKm;
+    view_.CentreEastKm = place.EastKm;
   }
   view_.PictureMode = 0;
   tools_.Lookups.ClosePicture();
 }
 
-void MapInteraction::RightPress(double x, double y) {
-  tools_.ReadoutTexts.CursorReadout(x, y);
+void MapInteraction::RightPress() {
   view_.ClickNorthKm = view_.CursorNorthKm;
   view_.ClickEastKm = view_.CursorEastKm;
   view_.LookupHit = false;
@@ -369,7 +381,8 @@ void MapInteraction::StepBrightness() {
 void MapInteraction::ChooseInk(int number) {
   view_.SelectedInk = number < 0 ? std::string() : WholeNumber(number);
   int at = 0;
-  for (OptionButton& ink : controls_.Palette.Optionink) ink.Value = at++ == number;
+  for (OptionButton& ink : controls_.Palette.Optionink)
+    ink.Value = at++ == number;
   Redraw();
 }
 
@@ -399,6 +412,10 @@ void MapInteraction::ShowState() {
   controls_.Map.Command72.BackColour = kBrightnessButton[step];
   controls_.Map.Option1.Value = view_.CentreFollow == kFollowOwn;
   controls_.Map.Option2.Value = view_.CentreFollow == kFollowStation;
+  controls_.Map.Check4.Value = view_.GridOn ? 1 : 0;
+  controls_.Map.Check9.Value = view_.CirclesOn ? 1 : 0;
+  controls_.Map.Check12.Value = view_.PicturesOn ? 1 : 0;
+  controls_.Map.Check14.Value = view_.TracksOn ? 1 : 0;
 }
 
 void MapInteraction::EndFollowing() {
@@ -407,9 +424,13 @@ void MapInteraction::EndFollowing() {
   controls_.Map.Option2.Value = false;
 }
 
-void MapInteraction::UnlockFromRecord() { view_.MapLockedOnRecord = 0; }
+void MapInteraction::UnlockFromRecord() {
+  view_.MapLockedOnRecord = 0;
+}
 
-void MapInteraction::FocusMap() { controls_.Map.Picture1.FocusWanted = true; }
+void MapInteraction::FocusMap() {
+  controls_.Map.Picture1.FocusWanted = true;
+}
 
 void MapInteraction::Redraw() {
   // The cycle stands still while the map is painted; the redraw starts it again.

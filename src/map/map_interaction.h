@@ -1,6 +1,6 @@
-// What the operator does with the map: centre by a press, look things up by a right press, step scale
-// and zoom, choose folders, inks, brightness, labels and classes. Each handler changes the state of
-// the view and has the map redrawn.
+// What the operator does with the map: centre by a press, look things up by a right press, step
+// scale and zoom, choose folders, inks, brightness, labels and classes. Each handler changes the
+// state of the view and has the map redrawn.
 #pragma once
 
 #include "core/actions/map_actions.h"
@@ -23,8 +23,8 @@ class RecordPanelOpener {
   virtual void OpenRecordPanel() = 0;
 };
 
-// What else a press on the map can find or show; a lookup returns true when it found something. What
-// is not overridden finds nothing.
+// What else a press on the map can find or show; a lookup returns true when it found something.
+// What is not overridden finds nothing.
 class MapLookups {
  public:
   virtual ~MapLookups() = default;
@@ -72,12 +72,13 @@ class MapInteraction {
   MapInteraction(const MapInteraction&) = delete;
   MapInteraction& operator=(const MapInteraction&) = delete;
 
-  // Brings level, class boxes, brightness and follow options into the controls, after the state was
-  // loaded.
+  // Brings level, class boxes, brightness, layers and follow options into the controls, after the
+  // state was loaded.
   void ShowState();
 
  private:
   void BindScaleAndZoom();
+  void BindLayers();
   void BindMap();
   void BindFolders();
   void BindCaptions();
@@ -86,6 +87,7 @@ class MapInteraction {
 
   void StepScale(int rows);
   void StepScaleRound();
+  double Zoom() const;
   void SetZoom(double factor);
   void ChooseFolder(int row);
   void CentreOnRecord();
@@ -94,7 +96,7 @@ class MapInteraction {
   void PressMap(const MousePress& press);
   void LeftPress(double x, double y);
   void CentreOnPicture();
-  void RightPress(double x, double y);
+  void RightPress();
   bool LookUpEverything();
   bool LookUpStation();
   void ReleaseMap();

@@ -33,7 +33,8 @@ void MapLibrary::MapLibraryScan() {
   const std::vector<std::string> folders = FillSelectionFields();
   SelectVariants(chosen_before);
   // Tile names of every folder.
-  for (const std::string& folder : folders) IndexFolder(folder);
+  for (const std::string& folder : folders)
+    IndexFolder(folder);
   ScanPictures();
 }
 
@@ -98,7 +99,7 @@ void MapLibrary::ScanPictures() {
   for (const FolderEntry& entry : files_.List(identity_.MapsPath + "\\UTMPICS", "*.*")) {
     if (entry.IsFolder || InStr(Upper(entry.Name), "THUMB") > 0) continue;
     if (names.size() == kMostPictures) break;
-    names.push_back(entry.Name);
+    names.push_back(std::string(Left(entry.Name, kPictureNameColumns)));
   }
   std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
     const std::string folded_a = Upper(a);
@@ -123,7 +124,8 @@ std::optional<std::string> MapLibrary::ReadIndex(const std::string& folder) cons
 }
 
 void MapLibrary::DeleteIndexFiles() {
-  for (const std::string& path : made_) files_.Remove(path);
+  for (const std::string& path : made_)
+    files_.Remove(path);
   made_.clear();
 }
 

@@ -1,6 +1,8 @@
 // Saves the map window to a picture file in "\MY_MAPS" under the program folder.
 #pragma once
 
+#include <string>
+
 #include "core/actions/map_actions.h"
 #include "core/state/identity.h"
 #include "core/state/map_view.h"
@@ -22,11 +24,13 @@ class MapSaver {
   MapSaver(const IdentityState& identity, MapViewState& view, MapSaverTools tools)
       : identity_(identity), view_(view), tools_(tools) {}
 
-  // Asks with the path of the first free number; on OK draws, saves and draws again. What can't be
-  // saved is passed over in silence.
+  // Asks with the path of the first free number; on OK draws, saves and draws again. A picture that
+  // is shown over the map is closed. What can't be saved is passed over in silence.
   void SaveMapWindow();
 
  private:
+  std::string FirstFreePath() const;
+
   const IdentityState& identity_;
   MapViewState& view_;
   MapSaverTools tools_;

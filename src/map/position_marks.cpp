@@ -56,19 +56,25 @@ void DrawOwnObject(DrawingSurface& surface, const MapViewState& view, double nor
                    double east_km, std::string_view name, bool on_air) {
   if (name.empty()) return;
   const auto [x, y] = MarkPixel(view, north_km, east_km);
-  // The mark, nine times in black as a rim, once in its colour.
-  for (int dx = -12; dx <= -10; ++dx) {
-    for (int dy = -13; dy <= -11; ++dy) {
-      surface.Text(x + dx, y + dy, kObjectGlyph, FontFace::Marks, kBlack);
+  const Colour colour = on_air ? kOwnObjectOnAirColour : kOwnObjectColour;
+  DrawMarkGlyph(surface, x - 11, y - 12, kObjectGlyph, colour);
+  DrawMarkName(surface, x, y, Trim(name), colour);
+}
+
+void DrawMarkGlyph(DrawingSurface& surface, int left, int top, std::string_view glyph, Colour ink) {
+  for (int dx = -1; dx <= 1; ++dx) {
+    for (int dy = -1; dy <= 1; ++dy) {
+      surface.Text(left + dx, top + dy, glyph, FontFace::Marks, kBlack);
     }
   }
-  const Colour colour = on_air ? kOwnObjectOnAirColour : kOwnObjectColour;
-  surface.Text(x - 11, y - 12, kObjectGlyph, FontFace::Marks, colour);
-  // The name to the right.
-  const std::string_view shown = Trim(name);
-  const int width = kCharacterPixels * static_cast<int>(shown.size());
+  surface.Text(left, top, glyph, FontFace::Marks, ink);
+}
+
+void DrawMarkName(DrawingSurface& surface, int x, int y, std::string_view name, Colour ink) {
+  if (name.empty()) return;
+  const int width = kCharacterPixels * static_cast<int>(name.size());
   surface.FilledBox(x + 16, y - 7, x + 16 + width, y + 5, kBlack);
-  surface.Text(x + 17, y - 9, shown, FontFace::Text, colour);
+  surface.Text(x + 17, y - 9, name, FontFace::Text, ink);
 }
 
 }  // namespace zepril

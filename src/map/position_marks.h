@@ -19,4 +19,11 @@ void DrawOwnPosition(DrawingSurface& surface, const MapViewState& view, bool fro
 void DrawOwnObject(DrawingSurface& surface, const MapViewState& view, double north_km,
                    double east_km, std::string_view name, bool on_air);
 
+// A glyph of the marks font whose cell begins at (left, top), nine times in black as a rim around
+// it and once in its colour.
+void DrawMarkGlyph(DrawingSurface& surface, int left, int top, std::string_view glyph, Colour ink);
+
+// The name of what is marked at (x, y), in a black box to the right. An empty one draws nothing.
+void DrawMarkName(DrawingSurface& surface, int x, int y, std::string_view name, Colour ink);
+
 }  // namespace zepril

@@ -155,8 +155,9 @@ std::string StationSpeedText(const StationStore& history) {
     minutes = RecordMinutes(last) - RecordMinutes(*reached);
   }
   if (reached == nullptr || minutes < 1) return {};
-  const double way = std::hypot(last.NorthKm() - reached->NorthKm(),
-                                last.EastKm() - reached->EastKm());
+  const double north = last.NorthKm() - reached->NorthKm();
+  const double east = last.EastKm() - reached->EastKm();
+  const double way = std::sqrt(north * north + east * east);
   return ShortNumber(Int(way * 60.0 / static_cast<double>(minutes)));
 }
 

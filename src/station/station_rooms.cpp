@@ -2,6 +2,7 @@
 
 #include "config/config_file.h"
 #include "core/main_window_captions.h"
+#include "core/main_window_resize.h"
 #include "core/position_text.h"
 #include "core/text_fields.h"
 #include "core/title_line.h"
@@ -12,6 +13,7 @@ namespace {
 constexpr int kEnterKey = 13;
 constexpr int kFirstLabelLevel = 2;  // marks and calls: what a new operator wants to see
 constexpr int kJumpToTyped = 3;
+constexpr std::uint32_t kLayerOnColour = 0xD08030;  // as a switch that is on
 
 }  // namespace
 
@@ -48,6 +50,7 @@ StationRooms::StationRooms(StationPlatform machine)
       pictures_(State.Identity, State.Map, Controls.Picture, Controls.Map,
                 {machine.FileSystem, machine.Desktop, *this, Timer1}),
       sun_(State.Map, State.Settings, Controls.Sun, machine.SunSurface, machine.LocalClock),
+      iono_(State.Internet, State.Map, Controls.Iono, Controls.Map, {machine.Boxes, *this, *this}),
       distance_(State.Alarms, State.Identity, State.Followed, State.Map, Controls.Status,
                 Controls.Window),
       history_(State.Identity, State.Stores, State.Followed, State.Map, State.Gps, Controls.Moni1,
@@ -85,6 +88,7 @@ void StationRooms::Stop(bool by_operator) {
 void StationRooms::MapResized(int width, int height) {
   State.Map.ViewWidthPx = width;
   State.Map.ViewHeightPx = height;
+  MainWindowResize(Controls, State.Chat);
   MapRedraw();
 }
 
@@ -211,8 +215,18 @@ void StationRooms::DeleteRunFiles() {
 
 void StationRooms::MapRedraw() {
   redrawer_.MapRedraw();
+  // Whatever ended the picture, its panel goes with it.
+  if (State.Map.PictureMode != 1 && Controls.Picture.Frame8.Visible) pictures_.ClosePicture();
   if (Controls.Qth.Frame2.Visible) ShowQthFields();
   Controls.Moni1.Command17.Caption = "TRACK " + WholeNumber(State.Followed.TrackStyle);
+  ShowPlaceLevel();
+}
+
+void StationRooms::ShowPlaceLevel() {
+  Button& button = Controls.Map.Command73;
+  button.Caption = "POI " + WholeNumber(State.Map.PoiLevel);
+  button.BackColour.reset();
+  if (State.Map.PoiLevel > 0) button.BackColour = kLayerOnColour;
 }
 
 void StationRooms::MapRefresh() {
@@ -275,6 +289,7 @@ void StationRooms::BindControls() {
   BindStations();
   BindRecordPanel();
   BindQthSetup();
+  Controls.Map.Command59.Click = [this] { saver_.SaveMapWindow(); };
   // The choice of a map folder is a setting.
   for (ComboBox& folder : Controls.Scales.Folder) {
     folder.Change = [this, choose = folder.Change] {

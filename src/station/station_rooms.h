@@ -18,6 +18,7 @@
 #include "core/progress_panel.h"
 #include "core/symbol_table.h"
 #include "gps/track_files.h"
+#include "internet/iono_input.h"
 #include "links/agw_link.h"
 #include "links/agw_local.h"
 #include "map/map_interaction.h"
@@ -108,7 +109,7 @@ class StationRooms final : public TickActions,
   // The stop.
   void CloseSound() override {}
   void StopPageLoading() override {}
-  void StopPicturePanel() override {}
+  void StopPicturePanel() override { pictures_.ClosePicture(); }
   void CloseLocalEngine() override;
   void LeaveSerialModem() override {}
   void DisconnectAgw() override;
@@ -148,6 +149,7 @@ class StationRooms final : public TickActions,
   void JumpToTypedPosition();
   void TakeCentreAsOwnPosition();
   void ShowQthFields();
+  void ShowPlaceLevel();
 
   StationPlatform machine_;
   SymbolTable symbols_;
@@ -170,6 +172,7 @@ class StationRooms final : public TickActions,
   PlaceFiles places_;
   PictureViewer pictures_;
   SunCurve sun_;
+  IonoInput iono_;
 
   DistanceAlarm distance_;
   FollowedHistory history_;

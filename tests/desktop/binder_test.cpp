@@ -1,5 +1,6 @@
 #include "desktop/binder.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QBoxLayout>
 #include <QComboBox>
@@ -234,7 +235,7 @@ TEST_F(BinderTest, AChosenEntryRaisesItsEventsOnce) {
   EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(BinderTest, AnEditableListTellsWhatIsTypedAndWhatIsChosen) {
+TEST_F(BinderTest, AnEditableListHoldsWhatIsTypedAndTellsWhatIsChosen) {
   ComboBox control;
   control.Items = {"QX1AB-9", "QX2CD"};
   std::vector<std::string> texts;
@@ -247,8 +248,9 @@ TEST_F(BinderTest, AnEditableListTellsWhatIsTypedAndWhatIsChosen) {
   Show();
   widget->setFocus();
   QTest::keyClicks(widget->lineEdit(), QStringLiteral("qx"));
-  // The half of a call is not completed to the whole of another one.
-  EXPECT_EQ(texts, (std::vector<std::string>{"q", "qx"}));
+  // The half of a call is held as it is, chooses nothing and is not completed to another call.
+  EXPECT_EQ(control.Text, "qx");
+  EXPECT_TRUE(texts.empty());
   EXPECT_EQ(widget->currentText(), QStringLiteral("qx"));
   keys.clear();
   QTest::keyClick(widget->lineEdit(), Qt::Key_Return);
@@ -259,6 +261,20 @@ TEST_F(BinderTest, AnEditableListTellsWhatIsTypedAndWhatIsChosen) {
   EXPECT_EQ(texts.size(), 1U);
   EXPECT_EQ(control.Text, "QX1AB-9");
   EXPECT_EQ(control.ListIndex, 0);
+}
+
+TEST_F(BinderTest, AListOpensWhenTheProgramAsksForIt) {
+  ComboBox control;
+  control.Items = {"20240514", "20240515"};
+  auto* widget = Place(new QComboBox);
+  widget->setEditable(true);
+  binder.Bind(widget, control);
+  Show();
+  EXPECT_FALSE(widget->view()->isVisible());
+  loop.RunStep([&] { control.DropDownWanted = true; });
+  EXPECT_TRUE(widget->view()->isVisible());
+  EXPECT_FALSE(control.DropDownWanted);
+  widget->hidePopup();
 }
 
 TEST_F(BinderTest, TheTypedNameOfAnEntryIsNoChoice) {

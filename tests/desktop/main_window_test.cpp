@@ -2,7 +2,6 @@
 // program has to show is on the window.
 #include "desktop/main_window.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,125 +10,11 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QToolButton>
-#include <QWheelEvent>
-#include <QtTest/QTest>
-#include <gtest/gtest.h>
 
-#include "map/map_colours.h"
-#include "map/map_view.h"
-#include "platform/absent_devices.h"
-#include "platform/native/native_files.h"
-#include "tests/desktop/desktop_support.h"
-#include "tests/desktop/loopback_engine.h"
-#include "tests/doubles/fake_socket.h"
-#include "tests/doubles/scripted_dialogs.h"
-#include "tests/doubles/temp_folder.h"
-#include "tests/map/bmp_maker.h"
+#include "tests/desktop/main_window_support.h"
 
 namespace zepril {
 namespace {
-
-constexpr int kTileInk = 9;
-
-class NoDesktop final : public DesktopActions {
- public:
-  bool MainWindowActive() const override { return true; }
-  bool WindowExists(const std::string&) const override { return false; }
-  void Open(const std::string&) override {}
-  bool MovePointerOnMap(int, int) override { return false; }
-};
-
-// A station on an engine that the test plays, with two tiles of one ink under its centre, and its
-// window. The timers are not driven: a tick comes when the test wants it.
-class MainWindowTest : public ::testing::Test {
- protected:
-  MainWindowTest() {
-    files.MakeFolder("C:\\ZEPRIL\\U33\\M0050");
-    for (const char* tile : {"58000350.BMP", "58000400.BMP"}) {
-      files.Write(std::string("C:\\ZEPRIL\\U33\\M0050\\") + tile, FourBitTile(kTileInk));
-    }
-    files.Write("C:\\ZEPRIL\\ZEPRIL.INI",
-                "USER=QX7KB\r\nMSYS=U33\r\nUMAPS=C:\\ZEPRIL\\U33\r\nTEMP=C:\\ZEPRIL\\TEMP\r\n"
-                "MODEM=0\r\nCALL=QX1AB-9\r\nLOGS=1\r\nIONA=0\r\nUTN=5817.860\r\nUTE=391.394\r\n"
-                "UUN=5830\r\nUUE=380\r\n");
-    socket.OnConnect = [this] { socket.SetState(SocketState::Connected); };
-    EXPECT_TRUE(fonts.LoadFonts(QStringLiteral(ZEPRIL_SOURCE_DIR "/data/fonts")));
-    program = std::make_unique<StationProgram>(StationPlatform{
-        files, loop, dialogs, desktop, socket, modem, map_surface, base_surface, sun_surface});
-    loop.RunStep([this] { EXPECT_TRUE(program->Start("C:\\ZEPRIL", 32)); });
-    State().Map.MapTileKm = 50.0;
-    State().Map.ZoomFactor = 1.0;
-    window = std::make_unique<MainWindow>(*program, loop, fonts, map_surface, base_surface);
-    window->Closed = [this] { ++closed; };
-    loop.ControlsOut = [this] { window->ControlsOut(); };
-    loop.StepEnded = [this] { window->CloseWhenAsked(); };
-    window->show();
-    window->activateWindow();
-    EXPECT_TRUE(PumpUntil([this] { return QApplication::activeWindow() == window.get(); }));
-  }
-  ~MainWindowTest() override {
-    loop.ControlsOut = nullptr;
-    loop.StepEnded = nullptr;
-  }
-
-  RuntimeState& State() { return program->State(); }
-  MainWindowControls& Controls() { return program->Controls(); }
-  MapWidget* Map() { return window->Map(); }
-  void Tick() { loop.RunStep(program->Timer1().Elapsed); }
-  void Hear(const std::string& from, const std::string& information) {
-    socket.Deliver(MonitoredFrame(from, information));
-    Tick();
-  }
-  // A station in the middle of the map.
-  void HearStationAtCentre() { Hear("N0CALL", "=5230.00N/01324.00E>Test"); }
-  PixelPoint PixelOfLastStation() {
-    const StationStore& store = State().Stores.MoniAllRecords;
-    return MarkPixel(State().Map, store.At(store.Count()).NorthKm(),
-                     store.At(store.Count()).EastKm());
-  }
-  QImage MapPicture() { return Map()->grab().toImage(); }
-  void Turn(int angle) {
-    const QPointF at(20, 20);
-    QWheelEvent turn(at, Map()->mapToGlobal(at), QPoint(), QPoint(0, angle), Qt::NoButton,
-                     Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(Map(), &turn);
-  }
-  void Resize(int width, int height) {
-    window->resize(width, height);
-    Pump();
-    Pump();
-  }
-
-  TempFolder folder;
-  NativeFiles files{folder.Path()};
-  QtLoop loop;
-  ScriptedDialogs dialogs;
-  NoDesktop desktop;
-  FakeSocket socket;
-  AbsentSerialPort modem;
-  MapFonts fonts;
-  QtSurface map_surface{880, 700, fonts};
-  QtSurface base_surface{880, 700, fonts};
-  QtSurface sun_surface{361, 91, fonts};
-  std::unique_ptr<StationProgram> program;
-  std::unique_ptr<MainWindow> window;
-  int closed = 0;
-};
-
-int CountOf(const QImage& picture, const QRect& region, const QColor& colour) {
-  int count = 0;
-  const QRect inside = region & picture.rect();
-  for (int y = inside.top(); y <= inside.bottom(); ++y) {
-    for (int x = inside.left(); x <= inside.right(); ++x) {
-      if (picture.pixelColor(x, y) == colour) ++count;
-    }
-  }
-  return count;
-}
-
-QColor TileColour() {
-  return QColor::fromRgb(TestPalette(16)[kTileInk]);
-}
 
 // ---- The picture ----------------------------------------------------------------------------
 
@@ -362,7 +247,8 @@ TEST_F(MainWindowTest, AWishForTheWholeScreenIsTakenOnce) {
 // ---- Sizes ----------------------------------------------------------------------------------
 
 TEST_F(MainWindowTest, TheMapKeepsItsRoomAtEverySize) {
-  for (const QSize size : {QSize(640, 480), QSize(760, 600), QSize(1280, 800), QSize(1920, 1080)}) {
+  for (const QSize size :
+       {QSize(640, 480), QSize(760, 600), QSize(1280, 800), QSize(1920, 1080), QSize(3840, 2160)}) {
     Resize(size.width(), size.height());
     EXPECT_EQ(window->size(), size);
     EXPECT_TRUE(Map()->isVisible());
@@ -371,7 +257,8 @@ TEST_F(MainWindowTest, TheMapKeepsItsRoomAtEverySize) {
     EXPECT_EQ(map_surface.Picture().size(), Map()->size());
     EXPECT_EQ(State().Map.ViewWidthPx, Map()->width());
     // What stands on the map bar is on the window.
-    for (const char* tool : {"Command1", "Command8", "Command12", "Option2", "Command72"}) {
+    for (const char* tool : {"Command1", "Command8", "Command12", "Option2", "Check4", "Check14",
+                             "Command73", "Command72", "Command59"}) {
       const QWidget* widget = Find<>(*window, tool);
       const QRect place(widget->mapTo(window.get(), QPoint()), widget->size());
       EXPECT_TRUE(window->rect().contains(place)) << tool << " at " << size.width();
@@ -418,6 +305,22 @@ TEST_F(MainWindowTest, ColumnsFoldIntoTheDrawerAndComeBack) {
   EXPECT_LT(left->mapTo(window.get(), QPoint()).x(), map_left);
   EXPECT_EQ(map_left, 180);
   EXPECT_GE(right->mapTo(window.get(), QPoint()).x(), map_left + Map()->width());
+}
+
+TEST_F(MainWindowTest, ANewSizeInsideAStepIsTakenWhenTheStepHasEnded) {
+  const QSize before = Map()->size();
+  loop.RunStep([&] {
+    Resize(1000, 700);
+    EXPECT_NE(Map()->size(), before);
+    // What may be painting right now keeps its surface and its view.
+    EXPECT_EQ(map_surface.Picture().size(), before);
+    EXPECT_EQ(State().Map.ViewWidthPx, before.width());
+    // The window shows the old picture meanwhile.
+    EXPECT_GT(CountOf(MapPicture(), Map()->rect(), TileColour()), 1000);
+  });
+  EXPECT_EQ(map_surface.Picture().size(), Map()->size());
+  EXPECT_EQ(State().Map.ViewWidthPx, Map()->width());
+  EXPECT_EQ(State().Map.ViewHeightPx, Map()->height());
 }
 
 // ---- Close ----------------------------------------------------------------------------------

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/files.h"
+#include "platform/folded_name.h"
 
 namespace zepril {
 
@@ -55,11 +56,28 @@ class MemoryFiles final : public Files {
   bool MakeFolder(const std::string&) override { return true; }
   std::string NativePath(const std::string& path) const override { return path; }
   std::optional<FileStamp> Stamp(const std::string& path) const override {
-    if (!Contents.contains(path)) return std::nullopt;
-    return FileStamp{};
+    const auto found = Contents.find(path);
+    if (found == Contents.end()) return std::nullopt;
+    FileStamp stamp;
+    stamp.Size = static_cast<std::int64_t>(found->second.size());
+    stamp.IsRegular = true;
+    return stamp;
   }
-  std::vector<FolderEntry> List(const std::string&, const std::string&) const override {
-    return {};
+  std::vector<FolderEntry> List(const std::string& folder,
+                                const std::string& pattern) const override {
+    std::vector<FolderEntry> entries;
+    const std::string front = folder + "\\";
+    for (const auto& [path, text] : Contents) {
+      if (!path.starts_with(front)) continue;
+      const std::string name = path.substr(front.size());
+      if (name.find('\\') == std::string::npos && MatchesWildcard(name, pattern)) {
+        entries.push_back({name, false});
+      }
+    }
+    std::sort(entries.begin(), entries.end(), [](const FolderEntry& a, const FolderEntry& b) {
+      return NameBefore(a.Name, b.Name);
+    });
+    return entries;
   }
 
   std::string Of(const std::string& path) const {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "core/position_text.h"
 
 namespace zepril {
@@ -73,6 +75,42 @@ TEST(Locator, IsAllCapitalsAndDoesNotWrap) {
   EXPECT_EQ(LocatorOf(52.5, 13.4), "JO62QM");
   EXPECT_EQ(LocatorOf(0.0, 15.0), "JJ70MA");
   EXPECT_EQ(LocatorOf(0.0, 180.0), "SJ00AA");
+}
+
+TEST(GpsPositionTexts, AreKilometresFilledOnTheLeft) {
+  const PositionTexts texts = FormatGpsPositionTexts(5378.123, 412.345);
+  EXPECT_EQ(texts.North, " 5378.123");
+  EXPECT_EQ(texts.East, "  412.345");
+  EXPECT_EQ(FormatGpsPositionTexts(5818.297, 391.750).East, "  391.750");
+}
+
+TEST(GpsPositionTexts, ZeroHasFourDigitsAndShortDistancesNoZeros) {
+  EXPECT_EQ(FormatGpsPositionTexts(0.0, 0.042).North, "    0.000");
+  EXPECT_EQ(FormatGpsPositionTexts(0.0, 0.042).East, "     . 42");
+}
+
+TEST(GpsPositionTexts, ANegativeOneHasItsSignInTheFirstColumn) {
+  EXPECT_EQ(FormatGpsPositionTexts(-10.517, -0.001).North, "-  10.517");
+  EXPECT_EQ(FormatGpsPositionTexts(-10.517, -0.001).East, "-    .  1");
+  EXPECT_EQ(FormatGpsPositionTexts(-9999.999, 0.0).North, "-9999.999");
+}
+
+TEST(GpsPositionTexts, BeyondTheGridTheyAreEmptyAndNineBlanksInAPlace) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  for (double km : {10000.0, 9999.9995, -10000.0, 1e300, nan}) {
+    EXPECT_EQ(FormatGpsPositionTexts(km, 5.0).North, "") << km;
+    EXPECT_EQ(FormatPoiPositionTexts(5.0, km).East, "         ") << km;
+  }
+  EXPECT_EQ(FormatGpsPositionTexts(9999.999, 0.0).North, " 9999.999");
+  EXPECT_EQ(FormatPoiPositionTexts(5378.123, 412.345).North, " 5378.123");
+}
+
+TEST(GpsPositionTexts, EveryMetreReadsBack) {
+  for (int metres = -9999999; metres <= 9999999; metres += 997) {
+    const PositionTexts texts = FormatGpsPositionTexts(metres / 1000.0, metres / 1000.0);
+    ASSERT_EQ(texts.North.size(), 9u) << metres;
+    ASSERT_EQ(PositionTextKm(texts.North), metres / 1000.0) << texts.North;
+  }
 }
 
 }  // namespace

@@ -35,6 +35,8 @@ const std::vector<Room> kRooms = {
     {"weather", {"platform", "core", "geodesy", "gps", "links", "config", "reception"}},
     {"viewers",
      {"platform", "core", "geodesy", "gps", "links", "config", "reception", "map", "weather"}},
+    {"internet",
+     {"platform", "core", "geodesy", "gps", "links", "config", "reception", "map", "weather"}},
     {"transmit",
      {"platform", "core", "geodesy", "gps", "links", "config", "reception", "map", "weather"}},
     {"station",

@@ -47,10 +47,16 @@ class Joins final : public MapActions,
   std::string Finds;  // the lookup that finds something
   bool PointerMoves = true;
   bool timer1_ran_while_redrawing_ = false;
+  std::vector<std::string> TimersAtLookups;  // what ran when each began
 
  private:
   bool Look(const std::string& name) {
     Calls.push_back(name);
+    TimersAtLookups.push_back(name + (world_.Timer1.Enabled() ? " Timer1" : "") +
+                              (world_.Timer2.Enabled() ? " Timer2" : ""));
+    // The next one has to arm it anew.
+    world_.Timer2.Arm(1);
+    world_.Timer1.Enable();
     return Finds == name;
   }
   MapWorld& world_;
@@ -111,6 +117,29 @@ TEST(ZoomButtons, DoubleAndHalveBetweenAQuarterAndEight) {
     world.Controls.Map.Command8.Click();
   EXPECT_EQ(world.View().ZoomFactor, 0.25);
   EXPECT_EQ(world.View().MapTileKm, 50.0);
+}
+
+TEST(ZoomButtons, AtTheirEndsOnlyKeepTheFocusOnTheMap) {
+  InteractionWorld world;
+  for (const auto& [factor, button] : {std::pair{8.0, &world.Controls.Map.Command7},
+                                       {0.25, &world.Controls.Map.Command8}}) {
+    world.View().ZoomFactor = factor;
+    world.Controls.Map.Picture1.FocusWanted = false;
+    button->Click();
+    EXPECT_EQ(world.View().ZoomFactor, factor);
+    EXPECT_TRUE(world.Controls.Map.Picture1.FocusWanted);
+    EXPECT_THAT(world.Join.Calls, IsEmpty());
+  }
+}
+
+TEST(ZoomButtons, AFactorOfNoughtStepsAsOne) {
+  InteractionWorld world;
+  world.View().ZoomFactor = 0.0;
+  world.Controls.Map.Command7.Click();
+  EXPECT_EQ(world.View().ZoomFactor, 2.0);
+  world.View().ZoomFactor = 0.0;
+  world.Controls.Map.Command8.Click();
+  EXPECT_EQ(world.View().ZoomFactor, 0.5);
 }
 
 TEST(CentreButton, ARightClickStepsTheScaleRound) {
@@ -188,6 +217,29 @@ TEST(LeftPress, OnAPictureGoesToWhereItWasTaken) {
   EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, -1122.501);
   EXPECT_DOUBLE_EQ(world.View().CentreEastKm, -49.501);
   EXPECT_EQ(world.View().PictureMode, 0);
+  EXPECT_FALSE(world.View().ManualMapMove);
+  EXPECT_THAT(world.Join.Calls, ElementsAre("close picture", "redraw"));
+}
+
+TEST(LeftPress, OnAPictureThatHasLeftTheListOnlyClosesIt) {
+  InteractionWorld world;
+  world.View().SelectedPicture = 2;
+  world.View().PictureMode = 1;
+  world.View().CentreFollow = 2;
+  world.Press(1, 100, 50);
+  EXPECT_EQ(world.View().CentreNorthKm, 5825.0);
+  EXPECT_EQ(world.View().PictureMode, 0);
+  EXPECT_EQ(world.View().CentreFollow, 0);
+}
+
+TEST(LeftPress, AShortPictureNameReadsWhatIsThere) {
+  InteractionWorld world;
+  world.View().PictureNames = {"62.JPG"};
+  world.View().SelectedPicture = 1;
+  world.View().PictureMode = 1;
+  world.Press(1, 100, 50);
+  EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, 62.499);
+  EXPECT_DOUBLE_EQ(world.View().CentreEastKm, 0.499);
 }
 
 TEST(RightPress, LookupsStopAtTheFirstHit) {
@@ -200,13 +252,56 @@ TEST(RightPress, LookupsStopAtTheFirstHit) {
   EXPECT_THAT(world.Join.Calls, ElementsAre("PIC", "TRK"));
   EXPECT_TRUE(world.View().LookupHit);
   EXPECT_DOUBLE_EQ(world.View().ClickNorthKm, 5825.0);
-  EXPECT_FALSE(world.Timer1.Enabled());
-  EXPECT_TRUE(world.Timer2.Enabled());
-  EXPECT_EQ(world.Timer2.IntervalMs(), 3000);
+  EXPECT_DOUBLE_EQ(world.View().ClickEastKm, 425.0);
   world.Join.Calls.clear();
   world.Join.Finds.clear();
   world.Press(2, 400, 299);
   EXPECT_THAT(world.Join.Calls, ElementsAre("PIC", "TRK", "POI", "SUN"));
+}
+
+TEST(RightPress, EachLookupStopsTheCycleForThreeSeconds) {
+  InteractionWorld world;
+  world.View().PicturesOn = world.View().TracksOn = true;
+  world.View().PoiLevel = 1;
+  world.Press(2, 400, 299);
+  EXPECT_THAT(world.Join.TimersAtLookups, ElementsAre("PIC Timer2", "TRK Timer2", "POI Timer2"));
+}
+
+TEST(RightPress, ALookupForStationsAloneStopsTheCycleToo) {
+  InteractionWorld world;
+  world.View().StationLabelLevel = 1;
+  world.Press(2, 400, 299);
+  EXPECT_THAT(world.Join.Calls, ElementsAre("SUN"));
+  EXPECT_FALSE(world.Timer1.Enabled());
+  EXPECT_TRUE(world.Timer2.Enabled());
+  EXPECT_EQ(world.Timer2.IntervalMs(), 3000);
+}
+
+TEST(RightPress, RunsOnlyTheLookupsOfWhatIsShown) {
+  InteractionWorld world;
+  world.View().PicturesOn = true;
+  world.Press(2, 400, 299);
+  EXPECT_THAT(world.Join.Calls, ElementsAre("PIC", "SUN"));
+  world.Join.Calls.clear();
+  world.View().PicturesOn = false;
+  world.View().TracksOn = true;
+  world.Press(2, 400, 299);
+  EXPECT_THAT(world.Join.Calls, ElementsAre("TRK", "SUN"));
+  world.Join.Calls.clear();
+  world.View().TracksOn = false;
+  world.View().PoiLevel = 2;
+  world.Join.Finds = "POI";
+  world.Press(2, 400, 299);
+  EXPECT_THAT(world.Join.Calls, ElementsAre("POI"));
+}
+
+TEST(RightPress, AHitUnderAMapTypeLeavesTheMapShown) {
+  InteractionWorld world;
+  world.View().ActiveFolderPath = "C:\\Z\\U33\\M0050TOPO";
+  world.View().PicturesOn = true;
+  world.Join.Finds = "PIC";
+  world.Press(2, 400, 299);
+  EXPECT_TRUE(world.Controls.Map.Picture1.Visible);
 }
 
 TEST(RightPress, AStationComesFirst) {
@@ -356,11 +451,35 @@ TEST(CentreButton, GoesToTheRecordInThePanelAndLocks) {
   EXPECT_EQ(world.Controls.Map.Command12.Caption, "MAP L");
 }
 
-TEST(CentreButton, WithoutARecordTheMapStaysWhereItIs) {
+TEST(CentreButton, WithoutARecordTheMapStaysWhereItIsAndFollowsNothing) {
   InteractionWorld world;
+  world.View().CentreFollow = 2;
+  world.View().PictureMode = 1;
+  world.Hands.ShowState();
   world.Controls.Map.Command12.Click();
   EXPECT_EQ(world.View().CentreNorthKm, 5825.0);
-  EXPECT_THAT(world.Join.Calls, IsEmpty());
+  EXPECT_EQ(world.View().CentreEastKm, 425.0);
+  EXPECT_EQ(world.View().CentreFollow, 0);
+  EXPECT_EQ(world.View().PictureMode, 0);
+  EXPECT_FALSE(world.Controls.Map.Option1.Value);
+  EXPECT_THAT(world.Join.Calls, ElementsAre("close picture", "redraw"));
+  EXPECT_EQ(world.Controls.Map.Command12.Caption, "MAP");
+}
+
+TEST(CentreButton, ReadsAPositionWithItsBlanks) {
+  InteractionWorld world;
+  RecordMaker maker;
+  maker.NorthKm = 0.042;
+  maker.EastKm = -10.517;
+  world.Controls.Record.Label20.Caption = std::string(maker.Make().Text());
+  world.Controls.Map.Option2.Value = true;
+  world.View().PictureMode = 1;
+  world.Controls.Map.Command12.Click();
+  EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, 0.042);
+  EXPECT_DOUBLE_EQ(world.View().CentreEastKm, -10.517);
+  EXPECT_EQ(world.View().PictureMode, 0);
+  EXPECT_FALSE(world.Controls.Map.Option2.Value);
+  EXPECT_EQ(world.View().MapLockedOnRecord, 1);
 }
 
 TEST(FollowOptions, ChooseWhatTheCentreFollowsAndCloseThePicture) {
@@ -381,6 +500,43 @@ TEST(FollowOptions, ChooseWhatTheCentreFollowsAndCloseThePicture) {
 }
 
 // ---- What is shown --------------------------------------------------------------------------
+
+TEST(LayerBoxes, SwitchGridCirclesAndPictures) {
+  InteractionWorld world;
+  MapControls& map = world.Controls.Map;
+  const auto layers = [&world] {
+    return std::vector<bool>{world.View().GridOn, world.View().CirclesOn, world.View().PicturesOn};
+  };
+  map.Check4.Value = 1;
+  map.Check4.Click();
+  EXPECT_EQ(layers(), (std::vector<bool>{true, false, false}));
+  map.Check9.Value = 1;
+  map.Check9.Click();
+  EXPECT_EQ(layers(), (std::vector<bool>{true, true, false}));
+  map.Check12.Value = 1;
+  map.Check12.Click();
+  EXPECT_EQ(layers(), (std::vector<bool>{true, true, true}));
+  map.Check4.Value = 0;
+  map.Check4.Click();
+  EXPECT_EQ(layers(), (std::vector<bool>{false, true, true}));
+  EXPECT_THAT(world.Join.Calls, ElementsAre("redraw", "redraw", "redraw", "redraw"));
+  EXPECT_FALSE(world.Join.timer1_ran_while_redrawing_);
+}
+
+TEST(LayerBoxes, ShowWhatWasLoaded) {
+  InteractionWorld world;
+  MapControls& map = world.Controls.Map;
+  world.View().GridOn = world.View().CirclesOn = true;
+  world.View().PicturesOn = world.View().TracksOn = true;
+  world.Hands.ShowState();
+  for (const CheckBox* box : {&map.Check4, &map.Check9, &map.Check12, &map.Check14})
+    EXPECT_EQ(box->Value, 1);
+  world.View().GridOn = world.View().CirclesOn = false;
+  world.View().PicturesOn = world.View().TracksOn = false;
+  world.Hands.ShowState();
+  for (const CheckBox* box : {&map.Check4, &map.Check9, &map.Check12, &map.Check14})
+    EXPECT_EQ(box->Value, 0);
+}
 
 TEST(LabelLevel, TheSixthPressShowsWxAndTheSeventhNothing) {
   InteractionWorld world;

@@ -3,7 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <filesystem>
+#include <fstream>
 
 #include "map/map_view.h"
 #include "map/scales.h"
@@ -138,6 +141,38 @@ TEST(MapLibraryScan, PictureNamesAreSortedAndThumbnailsLeftOut) {
   world.AddTile("UTMPICS", "Thumbs.db", "x");
   world.Scan();
   EXPECT_THAT(world.View().PictureNames, ElementsAre("57000400.AVI", "58000400.JPG"));
+}
+
+// A picture folder with `count` empty files, written past the program's own file layer for speed.
+void FillPictureFolder(MapWorld& world, const std::vector<std::string>& names) {
+  world.Disk.MakeFolder(R"(C:\Z\U33\UTMPICS)");
+  const std::filesystem::path folder = world.Disk.NativePath(R"(C:\Z\U33\UTMPICS)");
+  for (const std::string& name : names) std::ofstream(folder / name);
+}
+
+TEST(MapLibraryScan, HoldsTheFirstFiveThousandPictures) {
+  MapWorld world;
+  std::vector<std::string> names{"THUMBS.DB", "00000000 thumb.bmp", "00000001_Thumb.jpg"};
+  for (int number = 0; number < 5003; ++number)
+    names.push_back(ZeroPadded(5002 - number, 4) + "0400.BMP");
+  FillPictureFolder(world, names);
+  world.Scan();
+  const std::vector<std::string>& held = world.View().PictureNames;
+  ASSERT_EQ(held.size(), 5000u);
+  EXPECT_EQ(held.front(), "00000400.BMP");
+  EXPECT_EQ(held.back(), "49990400.BMP");
+  EXPECT_TRUE(std::is_sorted(held.begin(), held.end()));
+  for (const std::string& name : held) EXPECT_EQ(name.size(), 12u);
+}
+
+TEST(MapLibraryScan, PictureNamesHoldTwelveCharacters) {
+  MapWorld world;
+  FillPictureFolder(world, {"62.JPG", "62000400 the harbour in winter.JPG", "63000400.jpeg", "NONE",
+                            std::string(200, '7') + ".BMP"});
+  world.Disk.MakeFolder(R"(C:\Z\U33\UTMPICS\64000400.BMP)");
+  world.Scan();
+  EXPECT_THAT(world.View().PictureNames, ElementsAre("62.JPG", "62000400 the", "63000400.jpe",
+                                                     "777777777777", "NONE"));
 }
 
 TEST(DeleteIndexFiles, TakesOnlyWhatThisRunMade) {

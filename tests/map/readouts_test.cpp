@@ -115,6 +115,61 @@ TEST(CursorReadout, DoesNotMoveTheDisplayPosition) {
   EXPECT_EQ(world.Cursor().substr(0, 6), "GLLcrs");
 }
 
+TEST(CursorReadout, ShowsTheSamePlaceInFiveSystems) {
+  ReadoutWorld world;
+  world.Texts().Values().DisplayLon = 13.2;
+  ZoneByPosition(world.Texts().Values());
+  const std::vector<std::string> expected = {
+      "UTMcrs 6600.000 / 33! 15  400.000", "GLLcrs 59:31.58 / JO69OM 13:13.93",
+      "GK crs 6601.506 /   | 12 4569.842", "UTMcrs 6600.000 / 33| 15  400.000",
+      "RNNcrs 6603.500 / RNEcrs 1354.407"};
+  for (std::size_t mode = 0; mode < expected.size(); ++mode) {
+    world.View().CursorDisplayMode = static_cast<int>(mode);
+    world.Texts().CursorReadout(400, 299);
+    EXPECT_EQ(world.Cursor(), expected[mode]);
+  }
+}
+
+TEST(CursorReadout, BeyondTheMapTheOtherSystemsGoOn) {
+  // Only the map's own system has an end.
+  ReadoutWorld world;
+  world.View().CentreEastKm = 9999.0;
+  world.View().CursorDisplayMode = 1;
+  world.Texts().CursorReadout(799, 299);
+  EXPECT_GT(world.View().CursorEastKm, 9999.999);
+  EXPECT_EQ(world.Cursor().substr(0, 6), "GLLcrs");
+  EXPECT_EQ(world.Controls.Readouts.Label3.Caption.size(), 15u);
+}
+
+TEST(MonitorReadout, ShowsTheSamePlaceInFiveSystems) {
+  ReadoutWorld world;
+  world.Texts().Values().DisplayLon = 13.2;
+  ZoneByPosition(world.Texts().Values());
+  world.State.Followed.MonitorNorthKm = 6600.0;
+  world.State.Followed.MonitorEastKm = 400.0;
+  const std::vector<std::string> expected = {
+      "UTMmon 6600.000 / 33! 15  400.000", "GLLmon 59:31.58 / JO69OM 13:13.93",
+      "GK mon 6601.506 /   | 12 4569.842", "UTMmon 6600.000 / 33| 15  400.000",
+      "RNNmon 6603.500 / RNEmon 1354.407"};
+  for (std::size_t mode = 0; mode < expected.size(); ++mode) {
+    world.View().MonitorDisplayMode = static_cast<int>(mode);
+    world.Texts().MonitorReadout();
+    EXPECT_EQ(world.Monitor(), expected[mode]);
+  }
+}
+
+TEST(MonitorReadout, APositionIsBroughtToWholeMetresAndEndsWithTheMap) {
+  ReadoutWorld world;
+  world.State.Followed.MonitorNorthKm = 5912.34591;
+  world.State.Followed.MonitorEastKm = -12.3454;
+  world.Texts().MonitorReadout();
+  EXPECT_EQ(world.Monitor(), "UTMmon 5912.346 / 33! 15-  12.346");
+  world.State.Followed.MonitorNorthKm = 10000.0;
+  world.State.Followed.MonitorEastKm = -10000.0;
+  world.Texts().MonitorReadout();
+  EXPECT_EQ(world.Monitor(), "UTMmon / 33! 15");
+}
+
 TEST(MonitorReadout, TheGaussKruegerCaptionIsNotCut) {
   ReadoutWorld world;
   world.View().CentreNorthKm = 5761.038;
@@ -188,6 +243,41 @@ TEST(DisplayModes, OutsideEuropeTheEuropeanSystemsArePassedOver) {
     world.Texts().StepDisplayMode(Readout::Cursor);
     EXPECT_EQ(world.View().CursorDisplayMode, 2);
   }
+}
+
+TEST(DisplayModes, InEuropeAllFiveComeInTurn) {
+  ReadoutWorld world;
+  std::vector<int> modes;
+  for (int i = 0; i < 5; ++i) {
+    world.Texts().StepDisplayMode(Readout::Monitor);
+    modes.push_back(world.View().MonitorDisplayMode);
+  }
+  EXPECT_EQ(modes, (std::vector<int>{1, 2, 3, 4, 0}));
+  EXPECT_EQ(world.View().CentreDisplayMode, 0);
+  EXPECT_EQ(world.View().CursorDisplayMode, 0);
+}
+
+TEST(DisplayModes, TheStripIsChosenBeforeTheReadOutIsMadeAnew) {
+  ReadoutWorld world;
+  world.Texts().Values().DisplayLon = 30.0;  // of an earlier centre
+  world.Texts().StepDisplayMode(Readout::Centre);
+  EXPECT_EQ(world.Texts().Values().GkMeridianText, " 30");
+  world.Texts().StepDisplayMode(Readout::Centre);
+  EXPECT_EQ(world.Texts().Values().GkMeridianText, " 12");
+  EXPECT_EQ(world.Texts().Values().UtmMeridianText, " 15");
+  EXPECT_EQ(world.Texts().Values().UtmZoneText, "33");
+}
+
+TEST(DisplayModes, PanningKeepsTheStripUntilACaptionIsClicked) {
+  ReadoutWorld world;
+  world.View().CentreDisplayMode = 2;
+  world.Texts().CentreReadout();
+  EXPECT_EQ(world.Texts().Values().GkMeridianText, " 15");
+  world.View().CentreEastKm = 900.0;
+  world.Texts().CentreReadout();
+  EXPECT_EQ(world.Texts().Values().GkMeridianText, " 15");
+  world.Texts().StepDisplayMode(Readout::Cursor);
+  EXPECT_EQ(world.Texts().Values().GkMeridianText, " 21");
 }
 
 TEST(DisplayModes, WithTheCentreInTheMapsSystemAClickElsewhereKeepsTheStrip) {

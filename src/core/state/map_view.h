@@ -80,7 +80,7 @@ struct MapViewState {
   // Text behind the prefix of the chosen variant of each scale, as the configuration holds it:
   // index 0 to 5 for M5000, M1000, M0200, M0050, M0010, M0002.
   std::array<std::string, 6> StoredVariants;
-  std::vector<std::string> PictureNames;  // sorted, at most 5000
+  std::vector<std::string> PictureNames;  // sorted, at most 5000, 12 characters each
 
   int ColourDepthBits = 32;
   static constexpr int kScreenTwipsPerPixel = 15;

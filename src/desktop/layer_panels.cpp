@@ -1,0 +1,200 @@
+#include "desktop/layer_panels.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <algorithm>
+
+#include "desktop/fill_bar_widget.h"
+#include "desktop/picture_view.h"
+#include "desktop/plot_view.h"
+#include "platform/qt/text.h"
+
+namespace zepril {
+namespace {
+
+constexpr int kMargin = 8;
+constexpr int kPlaceWidth = 400;
+constexpr int kIonoWidth = 260;
+constexpr int kProgressWidth = 320;
+
+void ShowAsCaption(QLabel* label, const Frame& frame) {
+  const QString caption = ToQt(frame.Caption);
+  if (label->text() != caption) label->setText(caption);
+}
+
+}  // namespace
+
+LayerPanels::LayerPanels(WindowParts& parts, MainWindowControls& controls, QWidget& map,
+                         const QtSurface& sun, const Files& files)
+    : parts_(parts), controls_(controls), map_(map) {
+  MakePicturePanel(files);
+  MakePlacePanel();
+  MakeIonoPanel();
+  MakeSunPanel(sun);
+  MakeProgressPanel();
+}
+
+void LayerPanels::MakePicturePanel(const Files& files) {
+  PicturePanelControls& p = controls_.Picture;
+  picture_ = parts_.Panel("Frame8", &map_);
+  auto* box = TightBox(QBoxLayout::TopToBottom, picture_);
+  auto* view = new PictureView(parts_.Loop, p.Picture);
+  view->setObjectName(QStringLiteral("Picture"));
+  box->addWidget(view, 1);
+  auto* row = TightBox(QBoxLayout::LeftToRight);
+  row->setContentsMargins(kMargin, 0, kMargin, kGap);
+  row->addWidget(parts_.BoundButton("Command29", p.Command29));
+  row->addWidget(parts_.BoundButton("Command30", p.Command30));
+  QLabel* name = parts_.FixedLabel("PictureName");
+  row->addWidget(name, 1);
+  parts_.Binding.Bind(name, p.PictureName);
+  row->addWidget(parts_.BoundButton("Command70", p.Command70));
+  row->addWidget(parts_.BoundButton("Command71", p.Command71));
+  box->addLayout(row);
+  parts_.Binding.Bind(picture_, p.Frame8);
+  parts_.Binding.OnControlsOut([view, &p, &files] {
+    if (p.Frame8.Visible) view->Show(p.Picture, files);
+  });
+}
+
+void LayerPanels::MakePlacePanel() {
+  PlaceControls& p = controls_.Places;
+  place_ = parts_.Panel("PoiPanel", &map_);
+  auto* grid = new QGridLayout(place_);
+  grid->setContentsMargins(12, 8, 12, 12);
+  grid->setSpacing(8);
+  auto* caption = new QLabel;
+  caption->setProperty("group", true);
+  grid->addWidget(caption, 0, 0, 1, 4);
+  auto* name = new QLineEdit;
+  name->setObjectName(QStringLiteral("Text4"));
+  name->setAccessibleName(QStringLiteral("name of the POI"));
+  name->setFont(parts_.FixedFont);
+  grid->addWidget(name, 1, 0, 1, 4);
+  parts_.Binding.Bind(name, p.Text4);
+  auto* rule = new QLabel;
+  rule->setObjectName(QStringLiteral("Label14"));
+  rule->setProperty("dim", true);
+  rule->setWordWrap(true);
+  grid->addWidget(rule, 2, 0, 1, 4);
+  parts_.Binding.Bind(rule, p.Label14);
+  grid->addWidget(parts_.BoundButton("PoiOk", p.PoiOk), 3, 0);
+  grid->addWidget(parts_.BoundButton("Command64", p.Command64), 3, 1);
+  grid->addWidget(parts_.BoundButton("Command67", p.Command67), 3, 2);
+  grid->addWidget(parts_.BoundButton("PoiClose", p.PoiClose), 3, 3);
+  parts_.Binding.Bind(place_, p.PoiPanel);
+  parts_.Binding.OnControlsOut([caption, &p] { ShowAsCaption(caption, p.PoiPanel); });
+}
+
+void LayerPanels::MakeIonoPanel() {
+  IonoControls& i = controls_.Iono;
+  iono_ = parts_.Panel("Frame18", &map_);
+  auto* grid = new QGridLayout(iono_);
+  grid->setContentsMargins(12, 8, 12, 12);
+  grid->setSpacing(8);
+  auto* caption = new QLabel;
+  caption->setProperty("group", true);
+  grid->addWidget(caption, 0, 0, 1, 2);
+  const auto field = [&](int row, const char* name, const char* text, TextBox& control) {
+    auto* edit = new QLineEdit;
+    edit->setObjectName(QString::fromLatin1(name));
+    edit->setAccessibleName(QString::fromLatin1(text));
+    edit->setFont(parts_.FixedFont);
+    grid->addWidget(new QLabel(QString::fromLatin1(text)), row, 0);
+    grid->addWidget(edit, row, 1);
+    parts_.Binding.Bind(edit, control);
+  };
+  field(1, "Text11", "SUNSPOT(R)", i.Text11);
+  field(2, "Text12", "K", i.Text12);
+  QPushButton* detailed = NamedButton("FoptDetailed");
+  grid->addWidget(detailed, 3, 0, 1, 2);
+  parts_.Binding.Bind(detailed, i.FoptDetailed);
+  grid->addWidget(parts_.BoundButton("IonoOk", i.IonoOk), 4, 0);
+  grid->addWidget(parts_.BoundButton("IonoClose", i.IonoClose), 4, 1);
+  parts_.Binding.Bind(iono_, i.Frame18);
+  parts_.Binding.OnControlsOut([caption, &i] { ShowAsCaption(caption, i.Frame18); });
+}
+
+void LayerPanels::MakeSunPanel(const QtSurface& sun) {
+  SunControls& s = controls_.Sun;
+  sun_ = parts_.Panel("SunPanel", &map_);
+  sun_->setAttribute(Qt::WA_TransparentForMouseEvents);  // the button is held on the map
+  auto* grid = new QGridLayout(sun_);
+  grid->setContentsMargins(8, 8, 8, 8);
+  grid->setSpacing(2);
+  QLabel* title = parts_.FixedLabel("SunTitle");
+  grid->addWidget(title, 0, 0, 1, 2);
+  parts_.Binding.Bind(title, s.SunTitle);
+  auto* plot = new PlotView(s.SunPlot, sun);
+  plot->setObjectName(QStringLiteral("SunPlot"));
+  grid->addWidget(plot, 1, 0, 1, 2);
+  for (std::size_t row = 0; row < SunControls::kRows; ++row) {
+    QLabel* name = parts_.FixedLabel("SunName");
+    QLabel* value = parts_.FixedLabel("SunValue");
+    value->setAlignment(Qt::AlignRight);
+    grid->addWidget(name, static_cast<int>(row) + 2, 0);
+    grid->addWidget(value, static_cast<int>(row) + 2, 1);
+    parts_.Binding.Bind(name, s.SunNames[row]);
+    parts_.Binding.Bind(value, s.SunValues[row]);
+  }
+  parts_.Binding.Bind(sun_, s.SunPanel);
+  parts_.Binding.OnControlsOut([plot, &s] {
+    if (s.SunPanel.Visible) plot->ControlsOut();
+  });
+}
+
+void LayerPanels::MakeProgressPanel() {
+  ProgressControls& p = controls_.Progress;
+  progress_ = parts_.Panel("ProgressPanel", &map_);
+  auto* box = TightBox(QBoxLayout::TopToBottom, progress_);
+  box->setContentsMargins(16, 12, 16, 12);
+  auto* text = new QLabel;
+  text->setObjectName(QStringLiteral("ProgressText"));
+  auto* bar = new FillBarWidget;
+  bar->setObjectName(QStringLiteral("ProgressBar"));
+  box->addWidget(text);
+  box->addWidget(bar);
+  parts_.Binding.Bind(text, p.ProgressText);
+  parts_.Binding.Bind(bar, p.ProgressBar);
+  parts_.Binding.Bind(progress_, p.ProgressPanel);
+}
+
+void LayerPanels::Place() {
+  const int width = map_.width();
+  const int height = map_.height();
+  const int inner = std::max(width - 2 * kMargin, 100);
+  if (!picture_->isHidden()) picture_->setGeometry(0, 0, width, height);
+  if (!place_->isHidden()) {
+    place_->setFixedWidth(std::min(kPlaceWidth, inner));
+    place_->adjustSize();
+    place_->move(kMargin, height - place_->height() - kMargin);
+  }
+  if (!iono_->isHidden()) {
+    iono_->setFixedWidth(std::min(kIonoWidth, inner));
+    iono_->adjustSize();
+    iono_->move(kMargin, kMargin);
+  }
+  if (!sun_->isHidden()) {
+    sun_->adjustSize();
+    sun_->move(kMargin, height - sun_->height() - kMargin);
+  }
+  if (!progress_->isHidden()) {
+    progress_->setFixedWidth(std::min(kProgressWidth, inner));
+    progress_->adjustSize();
+    progress_->move((width - progress_->width()) / 2, (height - progress_->height()) / 2);
+    progress_->raise();
+  }
+}
+
+const Button* LayerPanels::CloseOfTopmost() const {
+  if (controls_.Places.PoiPanel.Visible) return &controls_.Places.PoiClose;
+  if (controls_.Iono.Frame18.Visible) return &controls_.Iono.IonoClose;
+  if (controls_.Picture.Frame8.Visible) return &controls_.Picture.Command71;
+  return nullptr;
+}
+
+}  // namespace zepril

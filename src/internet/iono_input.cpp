@@ -1,0 +1,66 @@
+#include "internet/iono_input.h"
+
+#include <optional>
+#include <string_view>
+
+#include "core/text_fields.h"
+
+namespace zepril {
+namespace {
+
+constexpr int kEnterKey = 13;
+
+// A typed number from 0 to `highest`; nothing for any other text.
+std::optional<double> NumberUpTo(std::string_view text, double highest) {
+  const std::string_view typed = Trim(text);
+  if (typed.empty() || !IsNumericField(typed)) return std::nullopt;
+  const double value = Val(typed);
+  if (!(value >= 0.0 && value <= highest)) return std::nullopt;
+  return value;
+}
+
+}  // namespace
+
+IonoInput::IonoInput(InternetState& internet, MapViewState& view, IonoControls& controls,
+                     MapControls& map, IonoInputTools tools)
+    : internet_(internet), view_(view), controls_(controls), tools_(tools) {
+  map.Check9.RightClick = [this] { Open(); };
+  controls.IonoOk.Click = [this] { Apply(); };
+  controls.IonoClose.Click = [this] { controls_.Frame18.Visible = false; };
+  controls.FoptDetailed.Click = [this] {
+    view_.FoptDetailed = controls_.FoptDetailed.Value != 0;
+    if (view_.CirclesOn) tools_.Map.MapRedraw();
+  };
+  for (TextBox* field : {&controls.Text11, &controls.Text12}) {
+    field->KeyDown = [this](KeyPress key) {
+      if (key.Code == kEnterKey) Apply();
+    };
+  }
+}
+
+void IonoInput::Open() {
+  controls_.Text11.Text = ShortNumber(internet_.SunspotNumber);
+  controls_.Text12.Text = ShortNumber(internet_.KpIndex);
+  controls_.FoptDetailed.Value = view_.FoptDetailed ? 1 : 0;
+  controls_.Frame18.Visible = true;
+  controls_.Text11.FocusWanted = true;
+}
+
+void IonoInput::Apply() {
+  const auto sunspots = NumberUpTo(controls_.Text11.Text, kHighestSunspotNumber);
+  if (!sunspots) return Refuse(controls_.Text11, "SUNSPOT(R) must be a number from 0 to 400.");
+  const auto k = NumberUpTo(controls_.Text12.Text, kHighestK);
+  if (!k) return Refuse(controls_.Text12, "K must be a number from 0 to 9.");
+  internet_.SunspotNumber = *sunspots;
+  internet_.KpIndex = *k;
+  controls_.Frame18.Visible = false;
+  tools_.Settings.WriteConfigFromMainWindow();
+  if (view_.CirclesOn) tools_.Map.MapRedraw();
+}
+
+void IonoInput::Refuse(TextBox& field, const char* what) {
+  tools_.Boxes.Tell("ZEP RIL", what);
+  field.FocusWanted = true;
+}
+
+}  // namespace zepril

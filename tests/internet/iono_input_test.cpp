@@ -1,0 +1,118 @@
+#include "internet/iono_input.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/doubles/scripted_dialogs.h"
+
+namespace zepril {
+namespace {
+
+class CountingActions final : public MapActions, public SettingsActions {
+ public:
+  void MapRedraw() override { ++Redraws; }
+  void MapRefresh() override {}
+  void WriteConfigFromMainWindow() override { ++Saves; }
+  void ReplaceConfigLine(const std::string&, const std::string&) override {}
+  int Redraws = 0;
+  int Saves = 0;
+};
+
+class IonoInputTest : public ::testing::Test {
+ protected:
+  IonoInputTest() {
+    controls.Frame18.Visible = false;
+    internet.SunspotNumber = 101.5;
+    internet.KpIndex = 2.0;
+  }
+  void Type(const std::string& sunspots, const std::string& k) {
+    map.Check9.RightClick();
+    controls.Text11.Text = sunspots;
+    controls.Text12.Text = k;
+    controls.IonoOk.Click();
+  }
+
+  InternetState internet;
+  MapViewState view;
+  IonoControls controls;
+  MapControls map;
+  ScriptedDialogs boxes;
+  CountingActions actions;
+  IonoInput input{internet, view, controls, map, {boxes, actions, actions}};
+};
+
+TEST_F(IonoInputTest, ARightClickOnTheCirclesOpensThePanelWithTheValuesInUse) {
+  view.FoptDetailed = true;
+  map.Check9.RightClick();
+  EXPECT_TRUE(controls.Frame18.Visible);
+  EXPECT_EQ(controls.Text11.Text, "101.5");
+  EXPECT_EQ(controls.Text12.Text, "2");
+  EXPECT_EQ(controls.FoptDetailed.Value, 1);
+  EXPECT_TRUE(controls.Text11.FocusWanted);
+}
+
+TEST_F(IonoInputTest, TypedValuesAreUsedSavedAndDrawn) {
+  view.CirclesOn = true;
+  Type(" 80 ", "3.7");
+  EXPECT_EQ(internet.SunspotNumber, 80.0);
+  EXPECT_EQ(internet.KpIndex, 3.7);
+  EXPECT_FALSE(controls.Frame18.Visible);
+  EXPECT_EQ(actions.Saves, 1);
+  EXPECT_EQ(actions.Redraws, 1);
+}
+
+TEST_F(IonoInputTest, WithoutCirclesNothingIsDrawn) {
+  Type("80", "3");
+  EXPECT_EQ(actions.Saves, 1);
+  EXPECT_EQ(actions.Redraws, 0);
+}
+
+TEST_F(IonoInputTest, EnterInAFieldTakesTheValuesAndOtherKeysDoNot) {
+  map.Check9.RightClick();
+  controls.Text12.Text = "5";
+  controls.Text12.KeyDown({53, 0});
+  EXPECT_EQ(internet.KpIndex, 2.0);
+  controls.Text12.KeyDown({13, 0});
+  EXPECT_EQ(internet.KpIndex, 5.0);
+}
+
+TEST_F(IonoInputTest, WhatIsNoNumberInItsRangeIsToldAndNothingIsLost) {
+  const struct {
+    const char* Sunspots;
+    const char* K;
+    const char* Told;
+  } rows[] = {{"", "2", "SUNSPOT(R) must be a number from 0 to 400."},
+              {"many", "2", "SUNSPOT(R) must be a number from 0 to 400."},
+              {"-1", "2", "SUNSPOT(R) must be a number from 0 to 400."},
+              {"401", "2", "SUNSPOT(R) must be a number from 0 to 400."},
+              {"80", "9.1", "K must be a number from 0 to 9."},
+              {"80", "?", "K must be a number from 0 to 9."}};
+  for (const auto& row : rows) {
+    boxes.Expect("ZEP RIL", row.Told, DialogAnswer::Ok);
+    Type(row.Sunspots, row.K);
+    EXPECT_TRUE(controls.Frame18.Visible) << row.Sunspots << " / " << row.K;
+    EXPECT_EQ(controls.Text11.Text, row.Sunspots);
+    EXPECT_EQ(internet.SunspotNumber, 101.5);
+    EXPECT_EQ(internet.KpIndex, 2.0);
+  }
+  EXPECT_EQ(actions.Saves, 0);
+}
+
+TEST_F(IonoInputTest, CloseChangesNothing) {
+  map.Check9.RightClick();
+  controls.Text11.Text = "7";
+  controls.IonoClose.Click();
+  EXPECT_FALSE(controls.Frame18.Visible);
+  EXPECT_EQ(internet.SunspotNumber, 101.5);
+}
+
+TEST_F(IonoInputTest, TheSwitchForThreeValuesActsAtOnce) {
+  view.CirclesOn = true;
+  map.Check9.RightClick();
+  controls.FoptDetailed.Value = 1;
+  controls.FoptDetailed.Click();
+  EXPECT_TRUE(view.FoptDetailed);
+  EXPECT_EQ(actions.Redraws, 1);
+}
+
+}  // namespace
+}  // namespace zepril

@@ -1,0 +1,610 @@
+#include "map/grid_layer.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <random>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "core/position_text.h"
+#include "core/text_fields.h"
+#include "geodesy/conversions.h"
+#include "map/map_view.h"
+#include "tests/doubles/recorder_surface.h"
+
+namespace zepril {
+namespace {
+
+constexpr Colour kWhiteGrid = 0xE8E8E8;
+constexpr Colour kYellowGrid = 0x00E0E0;
+constexpr Colour kPinkGrid = 0xFFC0FF;
+constexpr Colour kCyanGrid = 0xFFE000;
+constexpr Colour kGreenGrid = 0x00F000;
+
+constexpr double kScales[] = {5000.0, 1000.0, 200.0, 50.0, 10.0, 2.0};
+constexpr double kZooms[] = {0.25, 0.5, 1.0, 2.0, 4.0, 8.0};
+
+// A window with its strips chosen for its centre.
+struct Grids {
+  Grids(double north, double east, double tile_km, double zoom = 1.0, int width = 1200,
+        int height = 800, int zone = 33)
+      : Surface(width, height) {
+    View.MapCentralMeridian = UtmMeridianOfZone(zone);
+    View.ViewWidthPx = width;
+    View.ViewHeightPx = height;
+    View.CentreNorthKm = north;
+    View.CentreEastKm = east;
+    View.MapTileKm = tile_km;
+    View.ZoomFactor = zoom;
+    ComputeViewEdges(View);
+    GridToGeo(Values, View, north, east);
+    GeoToAllGrids(Values);
+    Values.DisplayLon = Values.GeoLon;
+    ZoneByPosition(Values);
+    GeoToAllGrids(Values);
+  }
+  void Draw(DisplayMode mode, PixelPoint tile = {0, 0}) {
+    View.CentreDisplayMode = static_cast<int>(mode);
+    GridLayer(Surface, View, Values, mode, tile);
+  }
+  std::vector<PixelLine> Lines() const {
+    std::vector<PixelLine> lines;
+    for (const auto& line : Surface.Of("line"))
+      lines.push_back({{line.X1, line.Y1}, {line.X2, line.Y2}});
+    return lines;
+  }
+  std::vector<RecorderSurface::Operation> Labels(Colour ink) const {
+    auto labels = Surface.Of("text");
+    std::erase_if(labels, [&](const auto& label) { return label.Ink != ink; });
+    return labels;
+  }
+  std::set<std::string> LabelTexts(Colour ink) const {
+    std::set<std::string> texts;
+    for (const auto& label : Labels(ink))
+      texts.insert(label.Words);
+    return texts;
+  }
+
+  RecorderSurface Surface;
+  MapViewState View;
+  CoordinateValues Values;
+};
+
+bool Seen(const Grids& grids, const PixelLine& line) {
+  return std::max(line.From.X, line.To.X) >= 0 && std::max(line.From.Y, line.To.Y) >= 0 &&
+         std::min(line.From.X, line.To.X) < grids.Surface.Width() &&
+         std::min(line.From.Y, line.To.Y) < grids.Surface.Height();
+}
+
+std::vector<PixelLine> Sorted(std::vector<PixelLine> lines) {
+  std::sort(lines.begin(), lines.end(), [](const PixelLine& a, const PixelLine& b) {
+    return std::tie(a.From.X, a.From.Y, a.To.X, a.To.Y) <
+           std::tie(b.From.X, b.From.Y, b.To.X, b.To.Y);
+  });
+  return lines;
+}
+
+// ---- Which grids ----------------------------------------------------------------------------
+
+TEST(GridLayer, ShowsTheSystemsOfTheThreeReadOuts) {
+  Grids grids(5800.0, 400.0, 50.0);
+  grids.View.CentreDisplayMode = 1;
+  grids.View.CursorDisplayMode = 2;
+  grids.View.MonitorDisplayMode = 4;
+  std::vector<Colour> seen;
+  for (int mode = 0; mode < kDisplayModes; ++mode) {
+    grids.Surface.Operations.clear();
+    GridLayer(grids.Surface, grids.View, grids.Values, static_cast<DisplayMode>(mode), {0, 0});
+    const auto lines = grids.Surface.Of("line");
+    seen.push_back(lines.empty() ? 0 : lines.front().Ink);
+    for (const auto& line : lines)
+      EXPECT_EQ(line.Ink, seen.back());
+  }
+  EXPECT_EQ(seen, (std::vector<Colour>{0, kYellowGrid, kPinkGrid, 0, kGreenGrid}));
+}
+
+TEST(GridLayer, TheMapsOwnAndTheUtmOfThePositionHaveColoursOfTheirOwn) {
+  Grids grids(5800.0, 400.0, 50.0);
+  grids.Draw(DisplayMode::MapUtm);
+  EXPECT_EQ(grids.Surface.Of("line").front().Ink, kWhiteGrid);
+  grids.Surface.Operations.clear();
+  grids.Draw(DisplayMode::UtmByPosition);
+  EXPECT_EQ(grids.Surface.Of("line").front().Ink, kCyanGrid);
+}
+
+TEST(GridLayer, LeavesTheValuesOfTheReadOutsAlone) {
+  Grids grids(5800.0, 400.0, 50.0);
+  grids.Values.GkNorthText = "as it was";
+  grids.Values.GeoLat = 1.25;
+  grids.Draw(DisplayMode::GaussKrueger);
+  EXPECT_EQ(grids.Values.GkNorthText, "as it was");
+  EXPECT_EQ(grids.Values.GeoLat, 1.25);
+  EXPECT_FALSE(grids.Surface.Operations.empty());
+}
+
+// ---- The map's own grid ---------------------------------------------------------------------
+
+TEST(MapGrid, LinesStandEveryHundredPixelsFromTheTile) {
+  Grids grids(5825.0, 425.0, 50.0, 1.0, 800, 600);
+  // West edge 25 km west of the centre, north edge 25 km north of it.
+  const PixelPoint tile{400 - 500, 299 - 500 + 1};
+  grids.Draw(DisplayMode::MapUtm, tile);
+  const auto lines = Sorted(grids.Lines());
+  std::vector<PixelLine> expected;
+  for (int x = 0; x < 800; x += 100)
+    expected.push_back({{x, -5000}, {x, 5000}});
+  for (int y = 99; y < 600; y += 100)
+    expected.push_back({{-5000, y}, {5000, y}});
+  EXPECT_EQ(lines, Sorted(expected));
+}
+
+TEST(MapGrid, LabelsAreTheKilometresOfTheirLine) {
+  Grids grids(5825.0, 425.0, 50.0, 1.0, 800, 600);
+  grids.Draw(DisplayMode::MapUtm, {400 - 500, 299 - 500 + 1});
+  const auto labels = grids.Labels(kWhiteGrid);
+  const auto at = [&](int x, int y) {
+    for (const auto& label : labels) {
+      if (label.X1 == x && label.Y1 == y) return label.Words;
+    }
+    return std::string();
+  };
+  // The line at pixel 400 is the centre's 425; at the lower edge, four pixels beside it.
+  EXPECT_EQ(at(404, 600 - 12), "425");
+  EXPECT_EQ(at(4, 600 - 12), "405");
+  EXPECT_EQ(at(2, 299 - 12), "5825");
+  EXPECT_EQ(at(2, 99 - 12), "5835");
+  for (const auto& label : labels) {
+    EXPECT_GE(label.X1, 0);
+    EXPECT_LT(label.X1, 800);
+    EXPECT_GE(label.Y1, 0);
+    EXPECT_LT(label.Y1, 600);
+  }
+}
+
+TEST(MapGrid, FineStepsHaveLabelsOfMetres) {
+  Grids grids(5800.0, 400.0, 2.0, 0.25, 800, 600);
+  grids.Draw(DisplayMode::MapUtm, {400, 299 - 4000 + 1});
+  const auto texts = grids.LabelTexts(kWhiteGrid);
+  EXPECT_EQ(texts.count("400.05"), 1u);
+  EXPECT_EQ(texts.count("399.9"), 1u);
+  EXPECT_EQ(texts.count("5800"), 1u);
+  EXPECT_EQ(texts.count("5799.95"), 1u);
+}
+
+TEST(MapGrid, AroundZeroNumbersAreWhole) {
+  Grids grids(0.0, 0.0, 2.0, 0.25, 800, 600);
+  grids.Draw(DisplayMode::MapUtm, {400, 299 - 4000 + 1});
+  const auto texts = grids.LabelTexts(kWhiteGrid);
+  EXPECT_EQ(texts.count("0"), 1u);
+  EXPECT_EQ(texts.count("-0"), 0u);
+  EXPECT_EQ(texts.count("0.05"), 1u);
+  EXPECT_EQ(texts.count("-0.05"), 1u);
+}
+
+TEST(MapGrid, ReachesFiveThousandPixelsFromTheTileAndNoFarther) {
+  Grids grids(5800.0, 400.0, 50.0);
+  grids.Draw(DisplayMode::MapUtm, {-4960, 5600});
+  const auto lines = grids.Lines();
+  // Upright: -4960 + 5000 = 40. Level: 5599 - 5000 = 599 and on.
+  EXPECT_EQ(Sorted(lines), Sorted({{{40, -5000}, {40, 5000}},
+                                   {{-5000, 599}, {5000, 599}},
+                                   {{-5000, 699}, {5000, 699}},
+                                   {{-5000, 799}, {5000, 799}}}));
+}
+
+// ---- The geographic grid --------------------------------------------------------------------
+
+TEST(GeographicGrid, StepsGrowWithTheScale) {
+  EXPECT_EQ(GeographicStepMinutes(0.5), 1);
+  EXPECT_EQ(GeographicStepMinutes(14.9), 1);
+  EXPECT_EQ(GeographicStepMinutes(15.0), 2);
+  EXPECT_EQ(GeographicStepMinutes(29.9), 2);
+  EXPECT_EQ(GeographicStepMinutes(30.0), 5);
+  EXPECT_EQ(GeographicStepMinutes(60.0), 10);
+  EXPECT_EQ(GeographicStepMinutes(90.0), 15);
+  EXPECT_EQ(GeographicStepMinutes(150.0), 30);
+  EXPECT_EQ(GeographicStepMinutes(299.0), 30);
+  EXPECT_EQ(GeographicStepMinutes(300.0), 60);
+  EXPECT_EQ(GeographicStepMinutes(700.0), 120);
+  EXPECT_EQ(GeographicStepMinutes(1500.0), 300);
+  EXPECT_EQ(GeographicStepMinutes(2999.0), 300);
+  EXPECT_EQ(GeographicStepMinutes(3000.0), 600);
+}
+
+TEST(GeographicGrid, LabelsAreDegreesAndBelowAThousandMetresMinutes) {
+  EXPECT_EQ(DegreeLabel(52 * 60, false), "52");
+  EXPECT_EQ(DegreeLabel(52 * 60 + 5, true), "52:05");
+  EXPECT_EQ(DegreeLabel(-5, true), "-0:05");
+  EXPECT_EQ(DegreeLabel(-9 * 60 - 30, true), "-9:30");
+  EXPECT_EQ(DegreeLabel(190 * 60, false), "-170");
+  EXPECT_EQ(DegreeLabel(-190 * 60, false), "170");
+  EXPECT_EQ(DegreeLabel(-180 * 60, false), "180");
+  Grids coarse(5800.0, 400.0, 1000.0);
+  coarse.Draw(DisplayMode::Geographic);
+  EXPECT_EQ(coarse.LabelTexts(kYellowGrid).count("52"), 1u);
+  Grids fine(5800.0, 400.0, 1000.0, 0.5);
+  fine.Draw(DisplayMode::Geographic);
+  EXPECT_EQ(fine.LabelTexts(kYellowGrid).count("52:00"), 1u);
+}
+
+// The literal way: every line whole, nothing left out.
+std::vector<PixelLine> LiteralGeographicLines(const MapViewState& view, double step, double m) {
+  const Geodetic centre = UtmToGeodetic(view.MapCentralMeridian, view.CentreEastKm * 1000.0,
+                                        view.CentreNorthKm * 1000.0, 500000.0);
+  const double lat0 = step * Int(centre.Lat / step);
+  const double lon0 = step * Int((centre.Lon - m) / step) + m;
+  std::vector<PixelLine> lines;
+  const auto pixel = [&](const GridMetres& at) {
+    return PixelPoint{DrawPixel(ExactPixelX(view, at.East / 1000.0)),
+                      DrawPixel(ExactPixelY(view, at.North / 1000.0))};
+  };
+  const auto join = [&](double lon1, double lat1, double lon2, double lat2) {
+    const GridMetres from = GeodeticToUtm(lon1, lat1, view.MapCentralMeridian, 500000.0);
+    const GridMetres to = GeodeticToUtm(lon2, lat2, view.MapCentralMeridian, 500000.0);
+    // A quarter of the globe from the meridian the far side of the earth begins elsewhere.
+    const bool torn = !(std::hypot(to.East - from.East, to.North - from.North) < 1e7);
+    if (!torn) lines.push_back({pixel(from), pixel(to)});
+  };
+  for (int i = -16; i <= 16; ++i) {
+    for (int j = -16; j <= 16; ++j) {
+      const double lat = lat0 + i * step;
+      const double lon = lon0 + j * step;
+      if (std::fabs(lat) > 80.0001) continue;
+      if (j < 16) join(lon, lat, lon + step, lat);
+      if (i < 16 && lat + step < 80.0001) join(lon, lat, lon, lat + step);
+    }
+  }
+  return lines;
+}
+
+TEST(GeographicGrid, WhatIsSeenIsWhatTheWholeGridWouldShow) {
+  std::mt19937 random(3);
+  const auto spread = [&](double reach) {
+    return reach * (static_cast<double>(random() % 20001) / 10000.0 - 1.0);
+  };
+  const struct {
+    double Tile, Zoom, Step, Meridian;
+  } kViews[] = {{1000.0, 1.0, 2.0, 1.0},      {1000.0, 0.5, 1.0, 0.0},
+                {200.0, 1.0, 0.5, 0.0},       {50.0, 1.0, 5.0 / 60.0, 0.0},
+                {10.0, 1.0, 1.0 / 60.0, 0.0}, {2.0, 0.25, 1.0 / 60.0, 0.0},
+                {1000.0, 2.0, 5.0, 0.0},      {5000.0, 1.0, 10.0, 5.0}};
+  for (int i = 0; i < 80; ++i) {
+    const auto& shape = kViews[random() % 8];
+    Grids grids(5000.0 + spread(2500.0), 500.0 + spread(1200.0), shape.Tile, shape.Zoom);
+    grids.Draw(DisplayMode::Geographic);
+    auto expected = LiteralGeographicLines(grids.View, shape.Step, shape.Meridian);
+    std::erase_if(expected, [&](const PixelLine& line) { return !Seen(grids, line); });
+    // Binary fractions of a step may move a pixel; none of these views has one.
+    ASSERT_EQ(Sorted(grids.Lines()), Sorted(expected)) << shape.Tile << " " << shape.Zoom;
+  }
+}
+
+TEST(GeographicGrid, StopsAtEightyDegrees) {
+  // The centre lies at 84 degrees.
+  const GridMetres far_north = GeodeticToUtm(15.0, 84.0, 15.0, 500000.0);
+  Grids grids(far_north.North / 1000.0, 500.0, 1000.0);
+  grids.Draw(DisplayMode::Geographic);
+  const double parallel_80 = GeodeticToUtm(15.0, 80.0, 15.0, 500000.0).North / 1000.0;
+  const int limit = DrawPixel(ExactPixelY(grids.View, parallel_80));
+  ASSERT_FALSE(grids.Lines().empty());
+  for (const PixelLine& line : grids.Lines()) {
+    // Away from the meridian the parallel bends to the north.
+    if (std::abs(line.From.X - 600) < 60 && std::abs(line.To.X - 600) < 60) {
+      EXPECT_GE(line.From.Y, limit - 2);
+      EXPECT_GE(line.To.Y, limit - 2);
+    }
+  }
+  EXPECT_EQ(grids.LabelTexts(kYellowGrid).count("82"), 0u);
+}
+
+TEST(GeographicGrid, FromWholeDegreesOnTheMapsMeridianIsALine) {
+  for (const auto& [tile, zoom] : {std::pair{1000.0, 1.0}, {1000.0, 0.5}, {5000.0, 1.0}}) {
+    Grids grids(5800.0, 500.0, tile, zoom);
+    grids.Draw(DisplayMode::Geographic);
+    bool found = false;
+    for (const PixelLine& line : grids.Lines()) {
+      found = found || (line.From.X == 600 && line.To.X == 600 && line.From.Y != line.To.Y);
+    }
+    EXPECT_TRUE(found) << tile << " " << zoom;
+    const auto texts = grids.LabelTexts(kYellowGrid);
+    EXPECT_EQ(texts.count("15") + texts.count("15:00"), 1u);
+  }
+}
+
+TEST(GeographicGrid, LabelsStandBesideTheirLineAtTheEdge) {
+  Grids grids(5800.0, 400.0, 200.0);
+  grids.Draw(DisplayMode::Geographic);
+  ASSERT_GE(grids.Labels(kYellowGrid).size(), 6u);
+  for (const auto& label : grids.Labels(kYellowGrid)) {
+    if (label.Y1 == 800 - 24) continue;  // of meridians, above the lower edge
+    const int width = 8 * static_cast<int>(label.Words.size());
+    EXPECT_EQ(label.X1, 1199 - width - 2);
+    // The line crosses the last column twelve pixels lower.
+    const MapPosition edge = PositionOfPixel(grids.View, 1199, label.Y1 + 12);
+    const Geodetic at = UtmToGeodetic(15.0, edge.EastKm * 1000.0, edge.NorthKm * 1000.0, 500000.0);
+    const auto colon = label.Words.find(':');
+    const double lat = Val(label.Words.substr(0, colon)) + Val(label.Words.substr(colon + 1)) / 60;
+    EXPECT_NEAR(at.Lat, lat, 0.004) << label.Words;
+  }
+}
+
+TEST(GeographicGrid, TheLastZoneGoesOnOverTheDateLine) {
+  // Zone 60 has its meridian at 177 degrees east; the window reaches far beyond 180.
+  Grids grids(5800.0, 800.0, 200.0, 1.0, 1200, 800, 60);
+  grids.Draw(DisplayMode::Geographic);
+  const auto texts = grids.LabelTexts(kYellowGrid);
+  EXPECT_EQ(texts.count("-179:00"), 1u);
+  EXPECT_EQ(texts.count("180:00"), 1u);
+  EXPECT_EQ(texts.count("-178:00"), 1u);
+  Grids utm(5800.0, 900.0, 200.0, 1.0, 1200, 800, 60);
+  utm.Draw(DisplayMode::UtmByPosition);
+  EXPECT_GT(utm.Lines().size(), 100u);
+}
+
+// ---- Metric grids ---------------------------------------------------------------------------
+
+TEST(MetricGrid, TheBaseIsAMultipleOfTheStep) {
+  const GridReach reach = GridReachOf(5658.258, 50.0, 1.0, 10000.0);
+  EXPECT_DOUBLE_EQ(reach.Step, 5.0);
+  EXPECT_DOUBLE_EQ(reach.First, 5655.0 - 50.0);
+  EXPECT_DOUBLE_EQ(reach.Last, 5655.0 + 50.0);
+  EXPECT_EQ(reach.Count(), 21);
+  // A step beyond the value: the base is 0.
+  const GridReach wide = GridReachOf(400.0, 20000.0, 1.0, 30000.0);
+  EXPECT_DOUBLE_EQ(wide.First, -20000.0);
+  EXPECT_DOUBLE_EQ(wide.Last, 20000.0);
+}
+
+TEST(MetricGrid, ReachesAreHeldWithinTheirLimit) {
+  const GridReach low = GridReachOf(-9900.0, 1000.0, 1.0, 10000.0);
+  EXPECT_DOUBLE_EQ(low.First, -10000.0);
+  EXPECT_DOUBLE_EQ(low.Last, -8900.0);
+  const GridReach high = GridReachOf(9900.0, 1000.0, 1.0, 10000.0);
+  EXPECT_DOUBLE_EQ(high.Last, 10000.0);
+  EXPECT_EQ(GridReachOf(1e30, 50.0, 1.0, 10000.0).Count(), 1);
+  const GridReach strip = GridReachOf(15500.0, 5000.0, 3.0, 20000.0);
+  EXPECT_DOUBLE_EQ(strip.First, 500.0);
+  EXPECT_DOUBLE_EQ(strip.Last, 20000.0);
+}
+
+TEST(MetricGrid, NoReachHasMoreThanSixtyOneLines) {
+  for (double tile : kScales) {
+    for (double zoom : kZooms) {
+      for (double value : {0.0, -0.001, 12.345, 5658.258, -9999.999, 15500.0}) {
+        EXPECT_LE(GridReachOf(value, tile * zoom, 3.0, 20000.0).Count(), 61);
+        EXPECT_GE(GridReachOf(value, tile * zoom, 3.0, 20000.0).Count(), 1);
+      }
+    }
+  }
+}
+
+struct MetricSystem {
+  DisplayMode Mode;
+  Colour Ink;
+  double EastWidths;
+  double EastLimit;
+};
+constexpr MetricSystem kMetricSystems[] = {{DisplayMode::GaussKrueger, kPinkGrid, 3.0, 20000.0},
+                                           {DisplayMode::UtmByPosition, kCyanGrid, 1.0, 10000.0},
+                                           {DisplayMode::Rt90, kGreenGrid, 1.0, 10000.0}};
+
+Geodetic Wgs84Of(const MetricSystem& system, const CoordinateValues& values, double e, double n) {
+  if (system.Mode == DisplayMode::GaussKrueger) {
+    return GaussKruegerToWgs84(e, n, values.GkCentralMeridian);
+  }
+  if (system.Mode == DisplayMode::Rt90) return Rt90ToWgs84(e, n);
+  return UtmToGeodetic(values.UtmCentralMeridian, e, n, 500000.0);
+}
+
+// The literal way: all lines, all points, each joined to the one before unless it starts its line.
+std::vector<PixelLine> LiteralMetricLines(const Grids& grids, const MetricSystem& system,
+                                          const std::string& north, const std::string& east) {
+  constexpr int kStart = -999999;
+  const double p = grids.View.MetresPerPixel;
+  const double d = p / 10.0;
+  const double n = d * Int(PositionTextKm(north) / d) - p;
+  const double e = d * Int(PositionTextKm(east) / d) - system.EastWidths * p;
+  const double n0 = std::clamp(n, -10000.0, 10000.0);
+  const double n1 = std::clamp(n + 2.0 * p, -10000.0, 10000.0);
+  const double e0 = std::clamp(e, -system.EastLimit, system.EastLimit);
+  const double e1 =
+      std::clamp(e + 2.0 * system.EastWidths * p, -system.EastLimit, system.EastLimit);
+  std::vector<PixelLine> lines;
+  PixelPoint last;
+  const auto join = [&](double east_km, double north_km) {
+    const Geodetic geo = Wgs84Of(system, grids.Values, east_km * 1000.0, north_km * 1000.0);
+    const GridMetres at = GeodeticToUtm(geo.Lon, geo.Lat, grids.View.MapCentralMeridian, 500000.0);
+    const double x = ExactPixelX(grids.View, at.East / 1000.0);
+    const double y = ExactPixelY(grids.View, at.North / 1000.0);
+    if (!std::isfinite(x) || !std::isfinite(y)) {
+      last = {kStart, kStart};
+      return;
+    }
+    const PixelPoint pixel{DrawPixel(x), DrawPixel(y)};
+    if (std::abs(pixel.X - last.X) <= 120 && std::abs(pixel.Y - last.Y) <= 120) {
+      lines.push_back({last, pixel});
+    }
+    last = pixel;
+  };
+  const int norths = static_cast<int>((n1 - n0) / d + 1e-6);
+  const int easts = static_cast<int>((e1 - e0) / d + 1e-6);
+  for (int row = 0; row <= norths; ++row) {
+    last = {kStart, kStart};
+    for (int column = 0; column <= easts; ++column)
+      join(e0 + column * d, n0 + row * d);
+  }
+  for (int column = 0; column <= easts; ++column) {
+    last = {kStart, kStart};
+    for (int row = 0; row <= norths; ++row)
+      join(e0 + column * d, n0 + row * d);
+  }
+  return lines;
+}
+
+TEST(MetricGrid, WhatIsSeenIsWhatTheWholeGridWouldShow) {
+  std::mt19937 random(5);
+  const auto spread = [&](double reach) {
+    return reach * (static_cast<double>(random() % 20001) / 10000.0 - 1.0);
+  };
+  for (int i = 0; i < 150; ++i) {
+    const double zoom = kZooms[random() % 6];
+    const double tile = kScales[random() % 6];
+    const double reach = random() % 3 == 0 ? 9999.0 : 1500.0;
+    Grids grids(std::min(5500.0 + spread(reach), 9999.0), 400.0 + spread(reach), tile, zoom);
+    for (const MetricSystem& system : kMetricSystems) {
+      const bool gk = system.Mode == DisplayMode::GaussKrueger;
+      const bool rt = system.Mode == DisplayMode::Rt90;
+      const std::string north = gk   ? grids.Values.GkNorthText
+                                : rt ? grids.Values.RtNorthText
+                                     : grids.Values.UtmNorthText;
+      const std::string east = gk   ? grids.Values.GkEastText
+                               : rt ? grids.Values.RtEastText
+                                    : grids.Values.UtmEastText;
+      grids.Surface.Operations.clear();
+      grids.Draw(system.Mode);
+      auto expected = LiteralMetricLines(grids, system, north, east);
+      std::erase_if(expected, [&](const PixelLine& line) { return !Seen(grids, line); });
+      ASSERT_EQ(Sorted(grids.Lines()), Sorted(expected)) << tile << " " << zoom;
+    }
+  }
+}
+
+TEST(MetricGrid, LinesLieOnMultiplesOfTheStepInTheirSystem) {
+  for (double tile : {200.0, 50.0, 10.0}) {
+    Grids grids(5800.3, 430.7, tile);
+    grids.Draw(DisplayMode::GaussKrueger);
+    const double d = tile / 10.0;
+    ASSERT_GT(grids.Lines().size(), 150u);
+    for (const PixelLine& line : grids.Lines()) {
+      const MapPosition at = PositionOfPixel(grids.View, line.From.X, line.From.Y);
+      const Geodetic geo = UtmToGeodetic(15.0, at.EastKm * 1000.0, at.NorthKm * 1000.0, 500000.0);
+      const GridMetres gk = Wgs84ToGaussKrueger(geo.Lon, geo.Lat, 15.0);
+      for (double km : {gk.North / 1000.0, gk.East / 1000.0})
+        EXPECT_NEAR(km, d * std::round(km / d), 0.8 * tile / 1000.0);
+    }
+  }
+}
+
+TEST(MetricGrid, LabelsAreTheKilometresWhereTheLineMeetsTheEdge) {
+  Grids grids(5800.3, 430.7, 50.0);
+  grids.Draw(DisplayMode::Rt90);
+  grids.View.CursorDisplayMode = grids.View.MonitorDisplayMode = 4;
+  grids.Surface.Operations.clear();
+  grids.Draw(DisplayMode::Rt90);
+  const auto labels = grids.Labels(kGreenGrid);
+  ASSERT_GE(labels.size(), 15u);
+  const auto rt90_at = [&](double x, double y) {
+    const MapPosition at = PositionOfPixel(grids.View, x, y);
+    const Geodetic geo = UtmToGeodetic(15.0, at.EastKm * 1000.0, at.NorthKm * 1000.0, 500000.0);
+    return Wgs84ToRt90(geo.Lon, geo.Lat);
+  };
+  for (const auto& label : labels) {
+    if (label.X1 == 2) {
+      EXPECT_NEAR(rt90_at(0, label.Y1 + 12).North / 1000.0, Val(label.Words), 0.1);
+    } else {
+      EXPECT_EQ(label.Y1, 0);
+      EXPECT_NEAR(rt90_at(label.X1 - 4, 0).East / 1000.0, Val(label.Words), 0.1);
+    }
+  }
+}
+
+TEST(MetricGrid, ARimOfBlackLiesUnderEachLabel) {
+  Grids grids(5800.3, 430.7, 50.0);
+  grids.Draw(DisplayMode::Rt90);
+  EXPECT_EQ(grids.Labels(kBlack).size(), 9 * grids.Labels(kGreenGrid).size());
+}
+
+TEST(MetricGrid, LabelsOfGridsShownTogetherStandSideBySide) {
+  std::array<bool, kDisplayModes> all{};
+  all.fill(true);
+  EXPECT_EQ(SlotsAmong(all, DisplayMode::MapUtm).Left, 0);
+  EXPECT_EQ(SlotsAmong(all, DisplayMode::GaussKrueger).Left, 1);
+  EXPECT_EQ(SlotsAmong(all, DisplayMode::GaussKrueger).Top, 0);
+  EXPECT_EQ(SlotsAmong(all, DisplayMode::Rt90).Left, 3);
+  EXPECT_EQ(SlotsAmong(all, DisplayMode::Rt90).Top, 2);
+  std::array<bool, kDisplayModes> alone{};
+  alone[4] = true;
+  EXPECT_EQ(SlotsAmong(alone, DisplayMode::Rt90).Left, 0);
+  EXPECT_EQ(SlotsAmong(alone, DisplayMode::Rt90).Top, 0);
+}
+
+TEST(MetricGrid, NoTwoLabelsOfAGridOverlap) {
+  for (double zoom : kZooms) {
+    for (int mode = 1; mode < kDisplayModes; ++mode) {
+      Grids grids(7000.0, 400.0, 5000.0, zoom);
+      grids.Draw(static_cast<DisplayMode>(mode));
+      auto labels = grids.Surface.Of("text");
+      std::erase_if(labels, [](const auto& label) { return label.Ink == kBlack; });
+      for (std::size_t a = 0; a < labels.size(); ++a) {
+        for (std::size_t b = a + 1; b < labels.size(); ++b) {
+          const int width = 8 * static_cast<int>(labels[a].Words.size());
+          const int other = 8 * static_cast<int>(labels[b].Words.size());
+          EXPECT_FALSE(std::abs(labels[a].Y1 - labels[b].Y1) < 12 &&
+                       labels[a].X1 < labels[b].X1 + other && labels[b].X1 < labels[a].X1 + width)
+              << labels[a].Words << " " << labels[b].Words;
+        }
+      }
+    }
+  }
+}
+
+TEST(MetricGrid, AStripOfTwoDigitsIsStillCoveredThoughItsTextHasLostOne) {
+  // The easting reads 10484.55 while the true value is 10484.255: 590 pixels beside the centre.
+  Grids grids(5761.038, 1532.657, 2.0, 0.25);
+  ASSERT_EQ(grids.Values.GkEastText, " 10484.55");
+  grids.Draw(DisplayMode::GaussKrueger);
+  int west = 0;
+  int east = 0;
+  for (const PixelLine& line : grids.Lines()) {
+    west += line.From.X < 100 ? 1 : 0;
+    east += line.From.X > 1100 ? 1 : 0;
+  }
+  EXPECT_GT(west, 3);
+  EXPECT_GT(east, 3);
+}
+
+// ---- Anything goes --------------------------------------------------------------------------
+
+TEST(GridLayer, AnyViewDrawsBoundedlyAndLabelsInside) {
+  std::mt19937 random(17);
+  const auto spread = [&](double reach) {
+    return reach * (static_cast<double>(random() % 20001) / 10000.0 - 1.0);
+  };
+  std::vector<std::pair<double, double>> centres = {
+      {0.0, 0.0},        {9999.999, 9999.999}, {-9999.999, -9999.999},
+      {9999.999, 500.0}, {-9999.999, 500.0},   {0.0, 9999.999},
+      {0.0, -9999.999},  {110.6, 500.0},       {5800.0, 500.0 + 220},
+      {9997.0, 500.0},   {10.0, 500.0}};
+  for (int i = 0; i < 8; ++i)
+    centres.emplace_back(spread(9999.999), spread(9999.999));
+  for (const auto& [north, east] : centres) {
+    for (int zone : {1, 33, 60}) {
+      for (double tile : kScales) {
+        for (double zoom : kZooms) {
+          Grids grids(north, east, tile, zoom, 320, 240, zone);
+          for (int mode = 0; mode < kDisplayModes; ++mode)
+            grids.Draw(static_cast<DisplayMode>(mode), {-100, -77});
+          ASSERT_LT(grids.Surface.Operations.size(), 12000u);
+          for (const auto& operation : grids.Surface.Operations) {
+            if (operation.Kind == "line") {
+              ASSERT_LE(std::abs(operation.X1), 5000);
+              ASSERT_LE(std::abs(operation.Y2), 5000);
+            } else if (operation.Ink != kBlack) {
+              ASSERT_GE(operation.X1, 0);
+              ASSERT_LT(operation.X1, 320);
+              ASSERT_GE(operation.Y1, 0);
+              ASSERT_LT(operation.Y1, 240);
+            }
+          }
+        }
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace zepril
