@@ -39,8 +39,8 @@ void PositionBeacon::Send(const std::string& comment) {
   const TransmissionState& own = sections_.Transmission;
   const MapViewState& view = sections_.View;
   ShowBusy(true);
-  const PositionTexts texts = PositionTextsOf(view.OwnNorthKm, view.OwnEastKm,
-                                              view.MapCentralMeridian, view.MapFalseEasting);
+  const DegreeTexts texts =
+      DegreeTextsOf(view.OwnNorthKm, view.OwnEastKm, view.MapCentralMeridian, view.MapFalseEasting);
   const std::string position =
       PositionFieldOfRow(texts, tools_.Symbols, own.TxSymbolIndex, own.TxOverlay);
   tools_.Sender.SendFrame(Prefix() + position + CommentField(comment, tools_.Disk));
@@ -52,8 +52,8 @@ void PositionBeacon::SendObjectReport() {
   const TransmissionState& own = sections_.Transmission;
   const MapViewState& view = sections_.View;
   ShowBusy(true);
-  const PositionTexts texts = PositionTextsOf(own.ObjectNorth, own.ObjectEast,
-                                              view.MapCentralMeridian, view.MapFalseEasting);
+  const DegreeTexts texts =
+      DegreeTextsOf(own.ObjectNorth, own.ObjectEast, view.MapCentralMeridian, view.MapFalseEasting);
   const std::string position =
       PositionFieldOfRow(texts, tools_.Symbols, own.ObjectSymbol, own.ObjectOverlay);
   const std::string stamp = UtcStamp(tools_.LocalClock.Now(), sections_.Settings.UtcOffsetHours);

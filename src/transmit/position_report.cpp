@@ -47,14 +47,14 @@ std::string LongestLine(const std::string& path, const Files& files) {
 
 }  // namespace
 
-PositionTexts PositionTextsOf(double north_km, double east_km, double central_meridian,
-                              double false_easting) {
+DegreeTexts DegreeTextsOf(double north_km, double east_km, double central_meridian,
+                          double false_easting) {
   const Geodetic place = UtmToGeodetic(central_meridian, east_km * kMetresPerKm,
                                        north_km * kMetresPerKm, false_easting);
   return {DegreeMinuteText(place.Lat), DegreeMinuteText(place.Lon)};
 }
 
-std::string PositionField(const PositionTexts& texts, char table, char symbol) {
+std::string PositionField(const DegreeTexts& texts, char table, char symbol) {
   std::string field = Digits(texts.Latitude);
   field += Half(texts.Latitude, 'N', 'S');
   field += table;
@@ -65,7 +65,7 @@ std::string PositionField(const PositionTexts& texts, char table, char symbol) {
   return field;
 }
 
-std::string PositionFieldOfRow(const PositionTexts& texts, const SymbolTable& symbols, int row,
+std::string PositionFieldOfRow(const DegreeTexts& texts, const SymbolTable& symbols, int row,
                                std::string_view overlay) {
   const std::string& symbol = symbols.Row(row);
   std::string field = PositionField(texts, symbol[0], symbol[1]);
@@ -114,7 +114,7 @@ std::string ObjectReport(std::string_view name, std::string_view stamp, std::str
 }
 
 std::string RetransmittedReport(const StationRecord& record, std::string_view own_call, int today,
-                                const PositionTexts& texts) {
+                                const DegreeTexts& texts) {
   std::string report = "}";
   report.append(Trim(record.Columns(33, 41))).append(">ZEPRRE,").append(Trim(own_call));
   report.append("*:");

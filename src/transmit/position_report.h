@@ -14,23 +14,23 @@
 namespace zepril {
 
 // A position in the degree and minute texts of the read-outs, nine characters each: " 48:30.15".
-struct PositionTexts {
+struct DegreeTexts {
   std::string Latitude;
   std::string Longitude;
 };
 
 // Texts of a position given in kilometres of the map's zone.
-PositionTexts PositionTextsOf(double north_km, double east_km, double central_meridian,
-                              double false_easting);
+DegreeTexts DegreeTextsOf(double north_km, double east_km, double central_meridian,
+                          double false_easting);
 
 // "4830.15N/00805.20E>": latitude, table character, longitude, symbol character.
 // Kept: the first digit of the longitude is always "0", so 123 degrees go out as 023, and west of
 // 100 degrees the sign is lost with it.
-std::string PositionField(const PositionTexts& texts, char table, char symbol);
+std::string PositionField(const DegreeTexts& texts, char table, char symbol);
 
 // The same with the symbol of a table row. A row with "No." takes the overlay character; kept: at
 // position 10, which is the first digit of the longitude and not the table character.
-std::string PositionFieldOfRow(const PositionTexts& texts, const SymbolTable& symbols, int row,
+std::string PositionFieldOfRow(const DegreeTexts& texts, const SymbolTable& symbols, int row,
                                std::string_view overlay);
 
 // "312330z": day, hour and minute of the local time less the offset.
@@ -53,6 +53,6 @@ std::string ObjectReport(std::string_view name, std::string_view stamp, std::str
 // "}CALL>ZEPRRE,OWN*:" with the record's time, position, symbol and comment. A record of an earlier
 // month than today carries no time.
 std::string RetransmittedReport(const StationRecord& record, std::string_view own_call, int today,
-                                const PositionTexts& texts);
+                                const DegreeTexts& texts);
 
 }  // namespace zepril

@@ -12,8 +12,8 @@ namespace {
 constexpr double kMeridian = 15.0;
 constexpr double kFalseEasting = 500000.0;
 
-PositionTexts At(double north_km, double east_km) {
-  return PositionTextsOf(north_km, east_km, kMeridian, kFalseEasting);
+DegreeTexts At(double north_km, double east_km) {
+  return DegreeTextsOf(north_km, east_km, kMeridian, kFalseEasting);
 }
 
 // Index of a symbol by its two characters.
@@ -40,7 +40,7 @@ TEST(PositionField, TheFirstDigitOfTheLongitudeIsAlwaysZero) {
 
 TEST(PositionField, TheOverlayTakesTheTenthPosition) {
   const SymbolTable symbols;
-  const PositionTexts texts{" 48:30.14", "  8:05.20"};
+  const DegreeTexts texts{" 48:30.14", "  8:05.20"};
   const int digi = RowOf(symbols, "\\#");
   EXPECT_EQ(PositionFieldOfRow(texts, symbols, digi, "7"), "4830.14N\\70805.20E#");
   EXPECT_EQ(PositionFieldOfRow(texts, symbols, digi, ""), "4830.14N\\00805.20E#");
@@ -144,7 +144,7 @@ TEST(RetransmittedReport, ItGivesTheRecordAsItStands) {
 }
 
 TEST(RetransmittedReport, ARecordOfAnEarlierMonthHasNoTime) {
-  const PositionTexts texts = At(5378.123, 412.345);
+  const DegreeTexts texts = At(5378.123, 412.345);
   EXPECT_TRUE(RetransmittedReport(RecordOf("240128 1230", "/>"), "QX7KB", 2, texts)
                   .starts_with("}QX7GW>ZEPRRE,QX7KB*:!4833.00N"));
   EXPECT_TRUE(RetransmittedReport(RecordOf("240102 1230", "/>"), "QX7KB", 28, texts)
