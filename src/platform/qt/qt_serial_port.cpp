@@ -67,15 +67,12 @@ bool QtSerialPort::Open(const std::string& device, int baud) {
 }
 
 void QtSerialPort::Close() {
-  const bool was_open = std::exchange(open_, false);
+  const bool unsent = BytesToWrite() > 0;
+  open_ = false;
   buffer_.clear();
-  if (!port_.isOpen()) return;
-  if (was_open) {
-    port_.flush();
-    // The system would wait half a minute for a line that takes nothing.
-    port_.clear(QSerialPort::Output);
-  }
-  port_.close();
+  // The system would wait half a minute for a line that takes nothing.
+  if (unsent) port_.clear(QSerialPort::Output);
+  if (port_.isOpen()) port_.close();
 }
 
 void QtSerialPort::Write(std::string_view bytes) {
