@@ -25,19 +25,9 @@ namespace {
 constexpr int kWidth = 1200;
 constexpr int kHeight = 800;
 
-QGuiApplication& Application() {
-  static int argc = 1;
-  static char name[] = "overlay_bench";
-  static char* argv[] = {name, nullptr};
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  static QGuiApplication application(argc, argv);
-  return application;
-}
-
 // A view of one of the six scales, its strips chosen for its centre.
 struct World {
   explicit World(double tile_km, double zoom = 1.0) : Surface(kWidth, kHeight, Fonts) {
-    Application();
     Fonts.LoadFonts(QStringLiteral(ZEPRIL_SOURCE_DIR "/data/fonts"));
     View.ViewWidthPx = kWidth;
     View.ViewHeightPx = kHeight;
@@ -119,3 +109,12 @@ BENCHMARK(CursorMove)->DenseRange(0, kDisplayModes - 1)->Unit(benchmark::kMicros
 
 }  // namespace
 }  // namespace zepril
+
+// The fonts need an application, which must be gone before the toolkit's own globals are.
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+}

@@ -221,12 +221,12 @@ void Binder::BindTyping(QComboBox* widget, ComboBox& control) {
             widget->setProperty("typed", true);
             control.Text = FromQt(text);
           });
-  // Keys come to the field first and from there to the list around it: they count once.
-  watched_.push_back({widget->lineEdit(), &control,
-                      [&control](KeyPress key) {
-                        if (control.KeyDown) control.KeyDown(key);
-                      },
-                      false});
+  // The list has the focus in place of its field and hands keys on without an event of its own.
+  BindKeys(widget, [&control](KeyPress key) {
+    if (control.KeyDown) control.KeyDown(key);
+  });
+  // A right click comes to the field.
+  watched_.push_back({widget->lineEdit(), &control, nullptr, false});
   widget->lineEdit()->installEventFilter(this);
 }
 

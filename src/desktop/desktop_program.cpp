@@ -34,6 +34,8 @@ bool DesktopProgram::LoadFonts() {
 }
 
 void DesktopProgram::CloseAsOperator() {
+  // A box that waits for the operator must not keep the session from ending.
+  dialogs_.AnswerNoMore();
   if (window_) {
     window_->close();
   } else if (program_) {

@@ -167,7 +167,8 @@ void LayerPanels::Place() {
   const int width = map_.width();
   const int height = map_.height();
   const int inner = std::max(width - 2 * kMargin, 100);
-  if (!picture_->isHidden()) picture_->setGeometry(0, 0, width, height);
+  // Of its size before it comes, so that the picture is read once.
+  picture_->setGeometry(0, 0, width, height);
   if (!place_->isHidden()) {
     place_->setFixedWidth(std::min(kPlaceWidth, inner));
     place_->adjustSize();

@@ -132,6 +132,7 @@ QSize PictureView::RealSize() const {
 
 void PictureView::Read() {
   resized_.stop();
+  awaited_ = {};
   read_for_ = RealSize();
   image_ = {};
   if (!native_path_.isEmpty()) {
@@ -148,7 +149,10 @@ void PictureView::showEvent(QShowEvent*) {
 
 void PictureView::paintEvent(QPaintEvent*) {
   // Another size, or another screen: what is there is stretched until the edge rests.
-  if (!native_path_.isEmpty() && RealSize() != read_for_) resized_.start();
+  if (!native_path_.isEmpty() && RealSize() != read_for_ && RealSize() != awaited_) {
+    awaited_ = RealSize();
+    resized_.start();
+  }
   QPainter painter(this);
   painter.fillRect(rect(), kGround);
   if (image_.isNull()) {

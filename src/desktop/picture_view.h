@@ -57,6 +57,7 @@ class PictureView final : public QWidget {
   QString caption_;
   QImage image_;
   QSize read_for_;  // real pixels
+  QSize awaited_;   // the new size that `resized_` runs for
   QTimer resized_;  // the widget has its new size when it elapses
   int readings_ = 0;
 };

@@ -3,6 +3,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <utility>
+
 #include "platform/qt/text.h"
 
 namespace zepril {
@@ -44,6 +46,7 @@ DialogAnswer HarmlessOf(DialogButtons buttons) {
 
 DialogAnswer QtDialogs::Ask(const std::string& title, const std::string& text,
                             DialogButtons buttons, DialogAnswer default_answer) {
+  if (answers_no_more_) return HarmlessOf(buttons);
   QMessageBox box(owner_);
   box.setWindowTitle(ToQt(title));
   box.setTextFormat(Qt::PlainText);
@@ -54,12 +57,19 @@ DialogAnswer QtDialogs::Ask(const std::string& title, const std::string& text,
   box.setDefaultButton(ButtonOf(default_answer));
   box.setEscapeButton(ButtonOf(HarmlessOf(buttons)));
   int pressed = QMessageBox::NoButton;
+  QMessageBox* const below = std::exchange(open_, &box);
   loop_.Hold([&] { pressed = box.exec(); });
+  open_ = below;
   for (DialogAnswer answer :
        {DialogAnswer::Ok, DialogAnswer::Cancel, DialogAnswer::Yes, DialogAnswer::No}) {
     if (pressed == ButtonOf(answer)) return answer;
   }
   return HarmlessOf(buttons);
+}
+
+void QtDialogs::AnswerNoMore() {
+  answers_no_more_ = true;
+  if (open_ != nullptr) open_->reject();
 }
 
 }  // namespace zepril

@@ -4,6 +4,7 @@
 #include "platform/dialogs.h"
 #include "platform/qt/qt_loop.h"
 
+class QMessageBox;
 class QWidget;
 
 namespace zepril {
@@ -17,9 +18,14 @@ class QtDialogs final : public Dialogs {
   DialogAnswer Ask(const std::string& title, const std::string& text, DialogButtons buttons,
                    DialogAnswer default_answer) override;
 
+  // The session ends: the open box, and every later one, is answered with the harmless button.
+  void AnswerNoMore();
+
  private:
   QtLoop& loop_;
   QWidget* owner_ = nullptr;
+  QMessageBox* open_ = nullptr;
+  bool answers_no_more_ = false;
 };
 
 }  // namespace zepril

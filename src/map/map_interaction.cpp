@@ -248,7 +248,7 @@ void MapInteraction::CentreOnPicture() {
   const auto index = static_cast<std::size_t>(view_.SelectedPicture);
   if (index >= 1 && index <= view_.PictureNames.size()) {
     // Into the middle of the kilometre.
-    const MapPosition place = PicturePlace(view_.PictureNames[index - 1]);
+    const MapPosition place = PictureMiddle(view_.PictureNames[index - 1]);
     view_.CentreNorthKm = place.NorthKm;
     view_.CentreEastKm = place.EastKm;
   }

@@ -7,20 +7,18 @@
 namespace zepril {
 namespace {
 
-constexpr std::string_view kNameFront = "MAP_";
-constexpr std::string_view kExtension = ".BMP";
-
 std::string NumberedName(std::int64_t number) {
-  return std::string(kNameFront) + ZeroPadded(number, 4) + std::string(kExtension);
+  return "MAP_" + ZeroPadded(number, 4) + ".BMP";
 }
 
 }  // namespace
 
 void MapSaver::SaveMapWindow() {
   // The folder; that it is there already is no error.
-  tools_.Disk.MakeFolder(identity_.ProgramFolder + "\\MY_MAPS");
-  // The first number that is free.
-  const std::string path = FirstFreePath();
+  const std::string folder = identity_.ProgramFolder + "\\MY_MAPS";
+  tools_.Disk.MakeFolder(folder);
+  // The first number that is free, by one listing however many there are.
+  const std::string path = folder + "\\" + FirstFreeMapName(tools_.Disk.List(folder, "MAP_*.BMP"));
   if (tools_.Boxes.Ask("ZEP RIL", "SAVE MAP WINDOW TO FILE...  " + path, DialogButtons::OkCancel,
                        DialogAnswer::Cancel) != DialogAnswer::Ok) {
     return;
@@ -35,18 +33,14 @@ void MapSaver::SaveMapWindow() {
   tools_.Map.MapRedraw();
 }
 
-// One listing, so that thousands of saved maps cost no more than one.
-std::string MapSaver::FirstFreePath() const {
-  const std::string folder = identity_.ProgramFolder + "\\MY_MAPS";
+std::string FirstFreeMapName(const std::vector<FolderEntry>& entries) {
   std::set<std::string> taken;
-  const std::string pattern = std::string(kNameFront) + "*" + std::string(kExtension);
-  for (const FolderEntry& entry : tools_.Disk.List(folder, pattern)) {
+  for (const FolderEntry& entry : entries)
     taken.insert(Upper(entry.Name));
-  }
   std::int64_t number = 1;
   while (taken.contains(NumberedName(number)))
     ++number;
-  return folder + "\\" + NumberedName(number);
+  return NumberedName(number);
 }
 
 }  // namespace zepril

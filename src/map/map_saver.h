@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/actions/map_actions.h"
 #include "core/state/identity.h"
@@ -29,11 +30,12 @@ class MapSaver {
   void SaveMapWindow();
 
  private:
-  std::string FirstFreePath() const;
-
   const IdentityState& identity_;
   MapViewState& view_;
   MapSaverTools tools_;
 };
+
+// "MAP_0001.BMP" or the first number that no entry of the folder has; four figures or more.
+std::string FirstFreeMapName(const std::vector<FolderEntry>& entries);
 
 }  // namespace zepril

@@ -233,7 +233,9 @@ bool PlaceFiles::RoomForOneMore() {
   return false;
 }
 
+// A centre that follows somebody moves by itself: that is no move of the operator's.
 bool PlaceFiles::CentreMoved() const {
+  if (view_.CentreFollow != 0) return false;
   return view_.CentreNorthKm != picked_north_km_ || view_.CentreEastKm != picked_east_km_;
 }
 

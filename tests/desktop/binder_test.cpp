@@ -263,6 +263,23 @@ TEST_F(BinderTest, AnEditableListHoldsWhatIsTypedAndTellsWhatIsChosen) {
   EXPECT_EQ(control.ListIndex, 0);
 }
 
+TEST_F(BinderTest, KeysOfAnEditableListCountOnceWhereverTheyArrive) {
+  ComboBox control;
+  control.Items = {"QX1AB-9"};
+  std::vector<int> keys;
+  control.KeyDown = [&](KeyPress key) { keys.push_back(key.Code); };
+  auto* widget = Place(new QComboBox);
+  widget->setEditable(true);
+  binder.Bind(widget, control);
+  Show();
+  widget->setFocus();
+  // The list has the focus in place of its field, and hands the keys on.
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(keys, (std::vector<int>{13}));
+  QTest::keyClick(widget->lineEdit(), Qt::Key_Return);
+  EXPECT_EQ(keys, (std::vector<int>{13, 13}));
+}
+
 TEST_F(BinderTest, AListOpensWhenTheProgramAsksForIt) {
   ComboBox control;
   control.Items = {"20240514", "20240515"};

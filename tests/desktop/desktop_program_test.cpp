@@ -223,6 +223,24 @@ TEST_F(DesktopProgramTest, ASessionThatEndsWhileTheStationStartsIsEndedAfterTheS
   EXPECT_TRUE(Has("UTN=5817.86"));
 }
 
+TEST_F(DesktopProgramTest, ASessionThatEndsClosesTheBoxThatWaits) {
+  LoopbackEngine engine;
+  StartOn(engine);
+  ASSERT_NE(program->Window(), nullptr);
+  // The question before a map window is saved.
+  QTimer asked;
+  QObject::connect(&asked, &QTimer::timeout, [&] {
+    if (QApplication::activeModalWidget() == nullptr) return;
+    asked.stop();
+    program->CloseAsOperator();
+  });
+  asked.start(5);
+  QTest::mouseClick(Find<>(*program->Window(), "Command59"), Qt::LeftButton);
+  EXPECT_TRUE(PumpUntil([this] { return ended == 1; }));
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_FALSE(files.Exists("C:\\ZEPRIL\\MY_MAPS\\MAP_0001.BMP"));
+}
+
 TEST_F(DesktopProgramTest, AnEngineThatIsNotThereIsSaidAndEndsTheProgram) {
   int port = 0;
   {

@@ -3,9 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/map/map_world.h"
 
@@ -71,14 +68,14 @@ TEST(SaveMapWindow, TakesTheFirstFreeNumber) {
   EXPECT_EQ(world.Saved("MAP_0003.BMP"), "old");
 }
 
-TEST(SaveMapWindow, GoesOnBehindFourFigures) {
-  SaverWorld world;
-  world.Disk.MakeFolder(R"(C:\Z\MY_MAPS)");
-  const std::filesystem::path folder = world.Disk.NativePath(R"(C:\Z\MY_MAPS)");
+TEST(FirstFreeMapName, FillsGapsAndGoesOnBehindFourFigures) {
+  std::vector<FolderEntry> entries;
+  EXPECT_EQ(FirstFreeMapName(entries), "MAP_0001.BMP");
   for (int number = 1; number <= 9999; ++number)
-    std::ofstream(folder / ("MAP_" + ZeroPadded(number, 4) + ".BMP"));
-  world.Ask("MAP_10000.BMP", DialogAnswer::Cancel);
-  world.Saver.SaveMapWindow();
+    entries.push_back({"map_" + ZeroPadded(number, 4) + ".bmp", false});
+  EXPECT_EQ(FirstFreeMapName(entries), "MAP_10000.BMP");
+  entries.erase(entries.begin() + 41);
+  EXPECT_EQ(FirstFreeMapName(entries), "MAP_0042.BMP");
 }
 
 TEST(SaveMapWindow, CancelLeavesEverythingAsItIs) {

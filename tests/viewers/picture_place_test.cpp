@@ -20,7 +20,7 @@ TEST(PictureStart, IsTheMiddleOfTheKilometreInTheName) {
 TEST(PictureStart, ALetterInFrontTellsNegativeThousands) {
   EXPECT_EQ(StartOf("A1230412.BMP"), "-1122.501 412.499");
   EXPECT_EQ(StartOf("@1230412.BMP"), "-122.501 412.499");
-  EXPECT_EQ(StartOf("6200B001.BMP"), "6200.499 -2000.501");
+  EXPECT_EQ(StartOf("6200b001.bmp"), "6200.499 -2000.501");
 }
 
 TEST(PictureStart, MissingGroupsCountAsNought) {

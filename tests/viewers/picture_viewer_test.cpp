@@ -66,9 +66,9 @@ struct ViewerWorld : DesktopActions, MapActions {
 };
 
 TEST(PicturePage, HasSevenLinesOnAGreyGround) {
-  EXPECT_EQ(PicturePage("/home/op/62000400.BMP"),
+  EXPECT_EQ(PicturePage("/media/op/62000400.BMP"),
             "<html>\r\n<body bgcolor=\"#505050\">\r\n<center>\r\n"
-            "<img src=\"/home/op/62000400.BMP\">\r\n</center>\r\n</body>\r\n</html>\r\n");
+            "<img src=\"/media/op/62000400.BMP\">\r\n</center>\r\n</body>\r\n</html>\r\n");
 }
 
 TEST(PicturePage, ClipsInAnyCaseOfLettersGetTheirOwnAttribute) {
@@ -84,7 +84,7 @@ TEST(PicturePage, NoNameBreaksOutOfTheAttribute) {
 }
 
 TEST(FileAddress, IsAnAddressWhateverThePath) {
-  EXPECT_EQ(FileAddress("/home/op/PIC.HTM"), "file:///home/op/PIC.HTM");
+  EXPECT_EQ(FileAddress("/media/op/PIC.HTM"), "file:///media/op/PIC.HTM");
   EXPECT_EQ(FileAddress("/a b/\xC3\xBC#<.BMP"), "file:///a%20b/%C3%BC%23%3C.BMP");
 }
 

@@ -401,6 +401,16 @@ TEST(PlaceEdit, ARenamedPlaceMovesWithTheMapCentre) {
   EXPECT_EQ(world.File(), Lines({"\xFE 5400.500  412.345 CABIN", kLake}));
 }
 
+TEST(PlaceEdit, AMapThatFollowsAStationMovesNoPlace) {
+  PlaceWorld world({kHut, kLake});
+  world.View.CentreFollow = 1;
+  world.Room.EditPlace(1);
+  world.View.CentreNorthKm = 5400.5;
+  world.Name("CABIN");
+  world.Controls.PoiOk.Click();
+  EXPECT_EQ(world.File(), Lines({"\xFE 5378.123  412.345 CABIN", kLake}));
+}
+
 TEST(PlaceEdit, AnEmptyNameRemovesThePlaceOnceConfirmed) {
   PlaceWorld world({kHut, kLake, kPeak});
   world.Room.EditPlace(2);
