@@ -45,7 +45,7 @@ bool QtSerialPort::Fail(SerialTrouble trouble) {
 bool QtSerialPort::Open(const std::string& device, int baud) {
   Close();
   trouble_.clear();
-  path_ = SerialDevicePath(device);
+  path_ = SerialDevicePath(device, DeviceOfNumber);
   const SerialTrouble trouble = SerialTroubleOf(path_);
   if (trouble != SerialTrouble::Other) return Fail(trouble);
   port_.setPortName(ToQt(path_));
@@ -101,7 +101,7 @@ void QtSerialPort::TakeReceived() {
   if (open_ && DataArrived) DataArrived();
 }
 
-// A full output queue counts as an error too; only the device itself tells whether it is there.
+// Some drivers report another error than that of a lost resource; the device itself tells.
 bool QtSerialPort::DeviceIsGone() const {
   pollfd wait{static_cast<int>(port_.handle()), 0, 0};
   return ::poll(&wait, 1, 0) < 0 || (wait.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0;
@@ -109,7 +109,7 @@ bool QtSerialPort::DeviceIsGone() const {
 
 void QtSerialPort::ErrorCame(QSerialPort::SerialPortError error) {
   if (!open_ || error == QSerialPort::NoError) return;
-  if (!DeviceIsGone()) return;
+  if (error != QSerialPort::ResourceError && !DeviceIsGone()) return;
   TakeReceived();
   open_ = false;
   Fail(SerialTrouble::Absent);

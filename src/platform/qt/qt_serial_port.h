@@ -36,6 +36,9 @@ class QtSerialPort final : public SerialPort {
   // Counts what the system holds back too.
   std::size_t BytesToWrite() const override;
 
+  // Asked for the device of a port number; may be empty.
+  PortBook DeviceOfNumber;
+
   // Why the last opening failed or the port closed by itself, as a sentence for the operator; empty
   // when all is well.
   const std::string& Trouble() const { return trouble_; }

@@ -33,12 +33,13 @@ std::string PathOfName(const std::string& name) {
   return name.find('/') == std::string::npos ? "/dev/" + name : name;
 }
 
-std::string PathOfNumber(int number) {
+std::string PathOfNumber(int number, const PortBook& book) {
   if (number < 1) return {};
   const std::string variable = "ZEPRIL_COM" + WholeNumber(number);
   const char* other = std::getenv(variable.c_str());
   if (other != nullptr && *other != '\0') return PathOfName(other);
-  return "/dev/ttyS" + WholeNumber(number - 1);
+  const std::string chosen = book ? book(number) : std::string();
+  return chosen.empty() ? "/dev/ttyS" + WholeNumber(number - 1) : PathOfName(chosen);
 }
 
 // Place in the list: adapters come before what a computer has built in and mostly unused.
@@ -85,11 +86,11 @@ std::vector<SerialDevice> PresentSerialDevices() {
   return devices;
 }
 
-std::string SerialDevicePath(std::string_view device) {
+std::string SerialDevicePath(std::string_view device, const PortBook& book) {
   const std::string text(Trim(device));
   if (text.empty()) return {};
   const std::optional<int> number = PortNumber(text);
-  const std::string path = number ? PathOfNumber(*number) : PathOfName(text);
+  const std::string path = number ? PathOfNumber(*number, book) : PathOfName(text);
   // Programs that share a port agree on it by the device's own name.
   const QString real = QFileInfo(ToQt(path)).canonicalFilePath();
   return real.isEmpty() ? path : FromQt(real);

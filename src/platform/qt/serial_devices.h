@@ -2,6 +2,7 @@
 // can't be opened.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,12 +17,15 @@ struct SerialDevice {
 // The devices that are there: USB adapters first, then modems, radio links, built-in ports.
 std::vector<SerialDevice> PresentSerialDevices();
 
+// What the operator has chosen for a port number: a device's name or path; empty when nothing.
+using PortBook = std::function<std::string(int number)>;
+
 // The native path that `device` means, links followed as far as they lead.
-//   "3" and "COM3": the text of ZEPRIL_COM3 in the environment when there is one, else the third
-//   built-in port, "/dev/ttyS2"
+//   "3" and "COM3": the text of ZEPRIL_COM3 in the environment when there is one, else what `book`
+//   says, else the third built-in port, "/dev/ttyS2"
 //   "ttyUSB0": "/dev/ttyUSB0"; a text with "/" is a path as it is
 // Empty for a number below 1 and for an empty text: these mean no port.
-std::string SerialDevicePath(std::string_view device);
+std::string SerialDevicePath(std::string_view device, const PortBook& book = {});
 
 // Why opening failed, as a sentence for the operator.
 enum class SerialTrouble {

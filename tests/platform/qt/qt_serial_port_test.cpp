@@ -175,6 +175,13 @@ TEST_F(QtSerialPortTest, ThePortOpensAgainWhenTheDeviceIsBack) {
   EXPECT_EQ(Read(10), "here again");
 }
 
+TEST_F(QtSerialPortTest, ANumberOpensTheDeviceThatWasChosenForIt) {
+  port.DeviceOfNumber = [this](int number) { return number == 77 ? modem->Path() : ""; };
+  EXPECT_TRUE(port.Open("77", 9600)) << port.Trouble();
+  EXPECT_FALSE(port.Open("78", 9600));
+  EXPECT_EQ(port.Trouble(), "/dev/ttyS77 is not there.");
+}
+
 TEST_F(QtSerialPortTest, ASecondProgramIsToldThatThePortIsTaken) {
   ASSERT_TRUE(Open());
   QtSerialPort second;
@@ -240,6 +247,18 @@ TEST(SerialDevicePath, ANumberIsABuiltInPortUnlessTheEnvironmentNamesAnother) {
   EXPECT_EQ(SerialDevicePath("3"), "/dev/no-such-adapter");
   ::setenv("ZEPRIL_COM3", "/no/such/adapter", 1);
   EXPECT_EQ(SerialDevicePath("COM3"), "/no/such/adapter");
+  ::unsetenv("ZEPRIL_COM3");
+}
+
+TEST(SerialDevicePath, TheOperatorsChoiceHoldsUnlessTheEnvironmentNamesAnother) {
+  ::unsetenv("ZEPRIL_COM3");
+  const PortBook book = [](int number) {
+    return number == 3 ? std::string("no-such-adapter") : std::string();
+  };
+  EXPECT_EQ(SerialDevicePath("3", book), "/dev/no-such-adapter");
+  EXPECT_EQ(SerialDevicePath("4", book), "/dev/ttyS3");
+  ::setenv("ZEPRIL_COM3", "other-adapter", 1);
+  EXPECT_EQ(SerialDevicePath("3", book), "/dev/other-adapter");
   ::unsetenv("ZEPRIL_COM3");
 }
 
