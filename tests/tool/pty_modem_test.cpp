@@ -119,6 +119,24 @@ TEST_F(PtyModemTest, AProgramThatDoesNotReadHoldsNobodyUp) {
   EXPECT_LE(got, 2 * PtyModem::kMostUnsent);
 }
 
+TEST_F(PtyModemTest, WhatAProgramDidNotReadDoesNotWaitForTheNextOne) {
+  const AirPacket packet = Packet("N0CALL>APRS:" + std::string(1000, 'x'));
+  {
+    Program program(modem->Link());
+    for (int packets = 0; packets < 100; ++packets)
+      modem->Hear(packet);
+  }
+  Serve();
+  Program next(modem->Link());
+  std::size_t got = 0;
+  for (int turns = 0; turns < 50; ++turns) {
+    got += next.Heard().size();
+    Serve(1);
+  }
+  // The system itself holds a little back.
+  EXPECT_LT(got, PtyModem::kMostUnsent / 2);
+}
+
 TEST_F(PtyModemTest, TheLinkGoesWithTheModem) {
   const std::string link = modem->Link();
   EXPECT_TRUE(std::filesystem::is_symlink(link));
