@@ -192,7 +192,8 @@ int RunAir(std::span<const std::string_view> args) {
   arguments.Whole("--agw", 0, 65535, -1);
   const std::string_view rate_text = arguments.Value("--rate").value_or("1");
   const double rate = Val(rate_text);
-  if (!NamesADevice(arguments)) arguments.Fail("a device must be given: --agw PORT, --pk232 LINK");
+  if (!NamesADevice(arguments))
+    arguments.Fail("--agw, --pk232, --scs-tnc or --scs-ptc must be given");
   if (!IsNumericField(rate_text) || rate <= 0 || rate > kHighestRate) {
     arguments.Fail("--rate must be a number over 0, at most 1000");
   }

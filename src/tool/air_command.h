@@ -22,9 +22,8 @@
 namespace zepril {
 
 inline constexpr std::string_view kAirHelp =
-    "stand in for the outside world: --agw PORT (engine on 127.0.0.1), --pk232 LINK,\n"
-    "           --scs-tnc LINK, --scs-ptc LINK (modems on pseudo-terminals)\n"
-    "           [--play FILE [--rate X] [--repeat]]";
+    "stand in for the outside world: --agw PORT (engine on 127.0.0.1) --pk232|--scs-tnc|--scs-ptc "
+    "LINK (modems on pseudo-terminals) [--play FILE [--rate X] [--repeat]]";
 
 // The packets of a script as they fall due.
 class AirPlay {
