@@ -65,6 +65,7 @@ struct OptionButton : Control {
 struct TextBox : Control {
   std::string Text;
   Event Change;
+  Event GotFocus;
   std::function<void(KeyPress)> KeyDown;
 };
 

@@ -193,6 +193,68 @@ struct TransmitControls {
   Frame Frame7;      // chat log
 };
 
+// TX SETUP: what the station is on the air.
+struct TxSetupControls {
+  static constexpr std::size_t kLines = 6;
+  static constexpr std::size_t kPaths = 4;
+  static constexpr std::size_t kQuick = 6;
+
+  Frame Frame4;
+  TextBox TxSsid;
+  TextBox TxDestinationField;
+  TextBox TxPathField;
+  std::array<Button, kPaths> PathMemory;  // left click takes the path, right click stores it
+  std::array<Button, kQuick> PathQuick;   // append their caption to the path
+  Button PathClear;
+  std::array<TextBox, kLines> InfoField;
+  std::array<CheckBox, kLines> fr4ta;     // ACTIVE
+  std::array<Button, kLines> InfoMemory;  // the text is in the tool tip
+  TextBox TxInterval;                     // minutes, or "MANUAL"
+  Button TxIntervalUp;
+  Button TxIntervalDown;
+  Button SymbolDown;
+  Button SymbolUp;
+  Label SymbolName;  // row of the table
+  int SymbolIndex = 0;
+  TextBox TxOverlayField;
+  CheckBox TxTimestampBox;  // "TX TIMESTAMP (GPS)"
+  CheckBox DigiBox;
+  Label TxLevelLabel;
+  TextBox TxLevel;                     // mV
+  std::array<OptionButton, 5> Speeds;  // Option3 to Option7: RPR 300, 300, 1200, 9600, 19200
+  Label CrossField;                    // second mode
+  Button CrossDown;
+  Button CrossUp;
+  Button TxOk;
+  Button TxAbort;
+};
+
+// OBJECT SETUP.
+struct ObjectSetupControls {
+  Frame Frame11;
+  TextBox ObjectNameField;
+  TextBox ObjectTextField;
+  TextBox ObjectOverlayField;
+  Button ObjectSymbolDown;
+  Button ObjectSymbolUp;
+  Label ObjectSymbolName;
+  int SymbolIndex = 0;
+  Button ObjectOk;
+  Button Command31;  // DELETE OBJECT
+  Button Command32;  // CANCEL
+};
+
+// The terminal of a serial modem.
+struct TerminalControls {
+  Button Command65;  // opens it
+  Frame Frame19;
+  TextBox Text19;    // typed
+  TextBox Text20;    // received
+  Label Label47;     // what it stops
+  Button Command66;  // closes it
+  Label Label49;     // notice of the temporary mode
+};
+
 // Raw list.
 struct RawListControls {
   Button Command57;  // opens and closes it
@@ -236,6 +298,9 @@ struct MainWindowControls {
   SunControls Sun;
   ProgressControls Progress;
   TransmitControls Transmit;
+  TxSetupControls TxSetup;
+  ObjectSetupControls ObjectSetup;
+  TerminalControls Terminal;
   RawListControls Raw;
   StatusControls Status;
   QthSetupControls Qth;

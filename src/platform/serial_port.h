@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,9 @@ class SerialPort {
   // Takes everything received so far out of the buffer.
   virtual std::string ReadAll() = 0;
   virtual std::size_t BytesToWrite() const = 0;
+
+  // Bytes have come into the buffer; may be empty.
+  std::function<void()> DataArrived;
 };
 
 }  // namespace zepril

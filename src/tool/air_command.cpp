@@ -8,21 +8,32 @@
 #include <memory>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "core/text_fields.h"
 #include "platform/native/system_clock.h"
 #include "tool/arguments.h"
+#include "tool/pk232_model.h"
+#include "tool/scs_ptc_model.h"
+#include "tool/scs_tnc_model.h"
 
 namespace zepril {
 namespace {
 
-constexpr std::array<ArgumentRule, 4> kRules{
-    {{"--agw", true}, {"--play", true}, {"--rate", true}, {"--repeat", false}}};
+constexpr std::array<ArgumentRule, 7> kRules{{{"--agw", true},
+                                              {"--pk232", true},
+                                              {"--scs-tnc", true},
+                                              {"--scs-ptc", true},
+                                              {"--play", true},
+                                              {"--rate", true},
+                                              {"--repeat", false}}};
 
 constexpr int kFailure = 1;
 constexpr std::size_t kLargestScript = 64u << 20;
 constexpr double kPauseBeforeRepeat = 1.0;  // seconds of the script
 constexpr double kLongestWait = 0.1;        // seconds; how late an end may be noticed
+constexpr double kShortestWait = 0.001;
+constexpr double kLongestTurn = 0.005;  // seconds for one device while others wait
 constexpr double kHighestRate = 1000.0;
 
 sigset_t EndSignals() {
@@ -77,17 +88,74 @@ class HeldEndSignals {
   sigset_t before_{};
 };
 
-void PlayUntilEnd(AgwServer& server, AirPlay& play, const Clock& clock) {
+using AirDevices = std::vector<std::unique_ptr<AirDevice>>;
+
+// Gives every device its turn; none is left alone for long.
+void ServeAll(const AirDevices& devices, double wait) {
+  const double turn = devices.size() > 1 ? std::min(wait, kLongestTurn) : wait;
+  for (const auto& device : devices)
+    device->Serve(static_cast<int>(turn * 1000.0) + 1);
+}
+
+bool AnyIsListenedTo(const AirDevices& devices, double now) {
+  bool any = false;
+  for (const auto& device : devices)
+    any = device->IsListenedTo(now) || any;
+  return any;
+}
+
+void PlayUntilEnd(const AirDevices& devices, AirPlay& play, const Clock& clock) {
   while (!EndIsPending()) {
     double now = clock.MonotonicSeconds();
-    if (!play.Begun() && server.Monitoring() > 0) play.Begin(now);
+    if (!play.Begun() && AnyIsListenedTo(devices, now)) play.Begin(now);
     while (const AirPacket* packet = play.Due(now)) {
-      server.Broadcast(MonitorFrame(*packet, clock.Now()));
+      for (const auto& device : devices)
+        device->Hear(*packet, clock.Now());
     }
     now = clock.MonotonicSeconds();
-    const double wait = std::clamp(play.SecondsToNext(now, kLongestWait), 0.001, kLongestWait);
-    server.Serve(static_cast<int>(wait * 1000.0) + 1);
+    ServeAll(devices,
+             std::clamp(play.SecondsToNext(now, kLongestWait), kShortestWait, kLongestWait));
   }
+}
+
+// What the arguments name; nothing when one of them can't be had, which is told.
+AirDevices OpenDevices(Arguments& arguments, double rate, const ReportLine& report) {
+  AirDevices devices;
+  if (arguments.Has("--agw")) {
+    devices.push_back(OpenEngineDevice(arguments.Whole("--agw", 0, 65535, -1), report));
+    if (!devices.back()) arguments.Fail("can't listen on that port");
+  }
+  const auto add_modem = [&](std::string_view name, std::unique_ptr<ModemModel> model) {
+    const auto link = arguments.Value(name);
+    if (!link) return;
+    devices.push_back(OpenModemDevice(std::string(*link), std::move(model), rate, report));
+    if (!devices.back()) arguments.Fail("can't make " + std::string(*link));
+  };
+  add_modem("--pk232", std::make_unique<Pk232Model>());
+  add_modem("--scs-tnc", std::make_unique<ScsTncModel>());
+  add_modem("--scs-ptc", std::make_unique<ScsPtcModel>());
+  return arguments.Failed() ? AirDevices{} : std::move(devices);
+}
+
+bool NamesADevice(const Arguments& arguments) {
+  return arguments.Has("--agw") || arguments.Has("--pk232") || arguments.Has("--scs-tnc") ||
+         arguments.Has("--scs-ptc");
+}
+
+// The packets to be played, none without a file; nothing when the file can't be read.
+std::optional<AirScript> ReadPlay(Arguments& arguments) {
+  const auto file = arguments.Value("--play");
+  if (!file) return AirScript{};
+  const auto text = ReadScriptFile(std::string(*file));
+  if (!text) {
+    arguments.Fail("can't read " + std::string(*file));
+    return std::nullopt;
+  }
+  AirScript script = ReadAirScript(*text);
+  if (script.Refused > 0) {
+    std::fprintf(stderr, "zepril-tool air: %zu lines are no packets\n", script.Refused);
+  }
+  return script;
 }
 
 }  // namespace
@@ -119,60 +187,33 @@ double AirPlay::SecondsToNext(double now, double otherwise) const {
   return begun_ && next_ < script_.Packets.size() ? DueAt() - now : otherwise;
 }
 
-std::string SentLine(const AgwUnproto& unproto) {
-  constexpr std::string_view kHex = "0123456789ABCDEF";
-  std::string line = "SENT " + WholeNumber(unproto.Port) + ' ' + unproto.From + '>' + unproto.To;
-  if (!unproto.Path.empty()) line += ',' + unproto.Path;
-  line += ':';
-  for (char c : unproto.Text) {
-    const auto code = static_cast<std::size_t>(Asc(c));
-    if (code >= 32) {
-      line += c;
-    } else {
-      line += {'\\', 'x', kHex[code / 16], kHex[code % 16]};
-    }
-  }
-  return line + '\n';
-}
-
 int RunAir(std::span<const std::string_view> args) {
   Arguments arguments(args, kRules);
-  const int port = arguments.Whole("--agw", 0, 65535, -1);
-  const auto file = arguments.Value("--play");
+  arguments.Whole("--agw", 0, 65535, -1);
   const std::string_view rate_text = arguments.Value("--rate").value_or("1");
   const double rate = Val(rate_text);
-  if (!arguments.Has("--agw") || !file) arguments.Fail("--agw and --play must be given");
+  if (!NamesADevice(arguments))
+    arguments.Fail("--agw, --pk232, --scs-tnc or --scs-ptc must be given");
   if (!IsNumericField(rate_text) || rate <= 0 || rate > kHighestRate) {
     arguments.Fail("--rate must be a number over 0, at most 1000");
   }
   if (arguments.Failed()) return arguments.Report("air");
 
-  const auto text = ReadScriptFile(std::string(*file));
-  if (!text) {
-    arguments.Fail("can't read " + std::string(*file));
-    arguments.Report("air");
-    return kFailure;
-  }
-  AirScript script = ReadAirScript(*text);
-  if (script.Refused > 0) {
-    std::fprintf(stderr, "zepril-tool air: %zu lines are no packets\n", script.Refused);
-  }
-
+  std::optional<AirScript> script = ReadPlay(arguments);
   const HeldEndSignals held;
-  const std::unique_ptr<AgwServer> server = AgwServer::Open(port);
-  if (!server) {
-    arguments.Fail("can't listen on that port");
-    arguments.Report("air");
-    return kFailure;
-  }
-  const auto print = [](const std::string& line) {
+  const ReportLine print = [](const std::string& line) {
     std::fwrite(line.data(), 1, line.size(), stdout);
     std::fflush(stdout);
   };
-  server->Sent = [&print](const AgwUnproto& unproto) { print(SentLine(unproto)); };
-  print("READY " + WholeNumber(server->Port()) + "\n");
-  AirPlay play(std::move(script), rate, arguments.Has("--repeat"));
-  PlayUntilEnd(*server, play, SystemClock());
+  const AirDevices devices = script ? OpenDevices(arguments, rate, print) : AirDevices{};
+  if (devices.empty()) {
+    arguments.Report("air");
+    return kFailure;
+  }
+  for (const auto& device : devices)
+    print(device->ReadyLine());
+  AirPlay play(*std::move(script), rate, arguments.Has("--repeat"));
+  PlayUntilEnd(devices, play, SystemClock());
   return 0;
 }
 

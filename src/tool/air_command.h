@@ -1,22 +1,29 @@
-// zepril-tool air: a packet engine on this computer that plays a file of packets.
+// zepril-tool air: stand-ins for the outside world that play a file of packets: a packet engine on
+// this computer, and modems on pseudo-terminals.
 //
-// For demonstrations and tests of the whole program without a receiver. It prints "READY port" when
-// it listens, begins to play when the first program asks for monitored frames, and prints
-// "SENT port from>to,path:text" for what a program hands over to be sent (nothing goes on the air).
-// It ends on SIGTERM or SIGINT.
+// For demonstrations and tests of the whole program without a receiver. It prints a line as soon as
+// a device can be used ("READY port" of the engine, "READY pk232 LINK" of a modem), begins to play
+// when the first program listens, and prints what programs do:
+//
+//   SENT 1 QX7KB-9>ZEPR,WIDE1-1:text           handed to the engine's port 1 to be sent
+//   SENT pk232 300 QX7KB-9>ZEPR,WIDE1-1:text   handed to a modem at 300 Bd
+//   COMMAND pk232 MYCALL QX7KB-9               a command of a modem
+//
+// Nothing goes on the air. It ends on SIGTERM or SIGINT.
 #pragma once
 
 #include <span>
 #include <string>
 #include <string_view>
 
-#include "tool/agw_server.h"
+#include "tool/air_devices.h"
 #include "tool/air_script.h"
 
 namespace zepril {
 
 inline constexpr std::string_view kAirHelp =
-    "play packets as an engine on 127.0.0.1: --agw PORT --play FILE [--rate X] [--repeat]";
+    "stand in for the outside world: --agw PORT (engine on 127.0.0.1) --pk232|--scs-tnc|--scs-ptc "
+    "LINK (modems on pseudo-terminals) [--play FILE [--rate X] [--repeat]]";
 
 // The packets of a script as they fall due.
 class AirPlay {
@@ -43,11 +50,6 @@ class AirPlay {
   double start_ = 0;
   std::size_t next_ = 0;
 };
-
-// "SENT 1 QX7KB-9>ZEPR,WIDE1-1:=test" and a line feed. Control characters of the text are written
-// as
-// "\x0D", so that it stays one line.
-std::string SentLine(const AgwUnproto& unproto);
 
 int RunAir(std::span<const std::string_view> args);
 

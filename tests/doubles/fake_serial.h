@@ -30,12 +30,13 @@ class FakeSerial final : public SerialPort {
     }
     return {};
   }
-  std::size_t BytesToWrite() const override { return 0; }
+  std::size_t BytesToWrite() const override { return open_ ? Waiting : 0; }
 
   bool Absent = false;
   std::string Device;
   int Baud = 0;
   std::string Written;
+  std::size_t Waiting = 0;  // bytes not yet taken by the line
   std::vector<std::string> Reads;
 
  private:

@@ -37,6 +37,8 @@ const std::vector<Room> kRooms = {
      {"platform", "core", "geodesy", "gps", "links", "config", "reception", "map", "weather"}},
     {"internet",
      {"platform", "core", "geodesy", "gps", "links", "config", "reception", "map", "weather"}},
+    {"transmit",
+     {"platform", "core", "geodesy", "gps", "links", "config", "reception", "map", "weather"}},
     {"station",
      {"platform", "platform/native", "core", "geodesy", "gps", "links", "config", "reception",
       "map", "weather", "viewers", "internet", "transmit"}},

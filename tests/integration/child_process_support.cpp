@@ -81,6 +81,10 @@ bool ChildProcess::Runs() {
   return pid_ > 0;
 }
 
+void ChildProcess::AskToEnd() {
+  if (Runs()) ::kill(pid_, SIGTERM);
+}
+
 void ChildProcess::End() {
   if (!Runs()) return;
   ::kill(pid_, SIGKILL);

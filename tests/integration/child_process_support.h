@@ -27,6 +27,8 @@ class ChildProcess {
   ChildProcess& operator=(const ChildProcess&) = delete;
 
   bool Runs();
+  // Asks it to end in order; `Runs` tells when it has.
+  void AskToEnd();
   void End();
 
  private:

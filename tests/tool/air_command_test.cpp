@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "links/agw_frame.h"
+#include "tool/arguments.h"
 
 namespace zepril {
 namespace {
@@ -58,6 +59,23 @@ TEST(AirPlay, AnEmptyScriptIsNotRepeated) {
   AirPlay play = PlayOf("", 1, true);
   play.Begin(0);
   EXPECT_EQ(CallsDue(play, 10), "");
+}
+
+int Air(std::vector<std::string_view> args) {
+  return RunAir(args);
+}
+
+TEST(RunAirTest, NeedsADeviceAndASensibleRate) {
+  EXPECT_EQ(Air({}), Arguments::kUsageError);
+  EXPECT_EQ(Air({"--play", "file"}), Arguments::kUsageError);
+  EXPECT_EQ(Air({"--agw", "70000"}), Arguments::kUsageError);
+  EXPECT_EQ(Air({"--agw", "0", "--rate", "0"}), Arguments::kUsageError);
+  EXPECT_EQ(Air({"--pk232"}), Arguments::kUsageError);
+}
+
+TEST(RunAirTest, EndsWhenAFileOrALinkCannotBeHad) {
+  EXPECT_EQ(Air({"--agw", "0", "--play", "/no/such/file"}), 1);
+  EXPECT_EQ(Air({"--agw", "0", "--scs-ptc", "/no/such/folder/modem"}), 1);
 }
 
 TEST(SentLineTest, ShowsWhatWasHandedOverInOneLine) {

@@ -1,0 +1,131 @@
+#include "platform/qt/serial_devices.h"
+
+#include <grp.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QFileInfo>
+#include <QSerialPortInfo>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <optional>
+
+#include "core/text_fields.h"
+#include "platform/qt/text.h"
+
+namespace zepril {
+namespace {
+
+constexpr int kHighestNumber = 256;
+
+// The number of "3" and "COM3"; nothing for any other text.
+std::optional<int> PortNumber(std::string_view device) {
+  std::string_view digits = device;
+  if (EqualFolded(digits.substr(0, 3), "COM")) digits.remove_prefix(3);
+  const bool whole = !digits.empty() && std::all_of(digits.begin(), digits.end(), IsDigit);
+  if (!whole) return std::nullopt;
+  return WholeVal(digits, 1, kHighestNumber).value_or(0);
+}
+
+std::string PathOfName(const std::string& name) {
+  return name.find('/') == std::string::npos ? "/dev/" + name : name;
+}
+
+std::string PathOfNumber(int number, const PortBook& book) {
+  if (number < 1) return {};
+  const std::string variable = "ZEPRIL_COM" + WholeNumber(number);
+  const char* other = std::getenv(variable.c_str());
+  if (other != nullptr && *other != '\0') return PathOfName(other);
+  const std::string chosen = book ? book(number) : std::string();
+  return chosen.empty() ? "/dev/ttyS" + WholeNumber(number - 1) : PathOfName(chosen);
+}
+
+// Place in the list: adapters come before what a computer has built in and mostly unused.
+std::size_t Rank(const std::string& path) {
+  constexpr std::array<std::string_view, 4> kOrder{"/dev/ttyUSB", "/dev/ttyACM", "/dev/rfcomm",
+                                                   "/dev/ttyS"};
+  std::size_t rank = 0;
+  while (rank < kOrder.size() && !path.starts_with(kOrder[rank]))
+    ++rank;
+  return rank;
+}
+
+bool ComesBefore(const SerialDevice& a, const SerialDevice& b) {
+  if (Rank(a.Path) != Rank(b.Path)) return Rank(a.Path) < Rank(b.Path);
+  if (a.Path.size() != b.Path.size()) return a.Path.size() < b.Path.size();  // 9 before 10
+  return a.Path < b.Path;
+}
+
+// The group that owns the device; "dialout" when the system does not tell.
+std::string GroupOf(const std::string& path) {
+  struct stat found {};
+  if (::stat(path.c_str(), &found) == 0) {
+    std::array<char, 4096> room{};
+    group entry{};
+    group* result = nullptr;
+    ::getgrgid_r(found.st_gid, &entry, room.data(), room.size(), &result);
+    // Joining the administrators' own group is nothing to be recommended.
+    if (result != nullptr && found.st_gid != 0) return result->gr_name;
+  }
+  return "dialout";
+}
+
+}  // namespace
+
+std::vector<SerialDevice> PresentSerialDevices() {
+  std::vector<SerialDevice> devices;
+  for (const QSerialPortInfo& port : QSerialPortInfo::availablePorts()) {
+    const QString& maker = port.manufacturer();
+    QString name = port.description();
+    if (!maker.isEmpty()) name = name.isEmpty() ? maker : maker + QLatin1Char(' ') + name;
+    devices.push_back({FromQt(port.systemLocation()), FromQt(name)});
+  }
+  std::sort(devices.begin(), devices.end(), ComesBefore);
+  return devices;
+}
+
+std::string SerialDevicePath(std::string_view device, const PortBook& book) {
+  const std::string text(Trim(device));
+  if (text.empty()) return {};
+  const std::optional<int> number = PortNumber(text);
+  const std::string path = number ? PathOfNumber(*number, book) : PathOfName(text);
+  // Programs that share a port agree on it by the device's own name.
+  const QString real = QFileInfo(ToQt(path)).canonicalFilePath();
+  return real.isEmpty() ? path : FromQt(real);
+}
+
+SerialTrouble SerialTroubleOf(const std::string& path) {
+  struct stat found {};
+  if (path.empty()) return SerialTrouble::NoPort;
+  if (::stat(path.c_str(), &found) != 0) return SerialTrouble::Absent;
+  if (!S_ISCHR(found.st_mode)) return SerialTrouble::NoDevice;
+  if (::access(path.c_str(), R_OK | W_OK) != 0) return SerialTrouble::NotPermitted;
+  return SerialTrouble::Other;
+}
+
+std::string SerialTroubleText(SerialTrouble trouble, const std::string& path) {
+  switch (trouble) {
+    case SerialTrouble::NoPort:
+      return "No serial port is set.";
+    case SerialTrouble::Absent:
+      return path + " is not there.";
+    case SerialTrouble::NoDevice:
+      return path + " is no serial device.";
+    case SerialTrouble::NotPermitted: {
+      const std::string group = GroupOf(path);
+      return path + " may not be opened by you: it belongs to the group " + group +
+             ". To join it: sudo usermod -aG " + group + " $USER, then log in again.";
+    }
+    case SerialTrouble::UsedElsewhere:
+      return path + " is used by another program.";
+    case SerialTrouble::BadSpeed:
+      return path + " can't be opened at that speed.";
+    case SerialTrouble::Other:
+      break;
+  }
+  return path + " can't be opened.";
+}
+
+}  // namespace zepril

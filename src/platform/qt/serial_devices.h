@@ -1,0 +1,46 @@
+// Serial devices of this computer, for people: which there are, which one a text means, and why one
+// can't be opened.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zepril {
+
+struct SerialDevice {
+  std::string Path;  // "/dev/ttyUSB0"
+  std::string Name;  // what the device says of itself; may be empty
+};
+
+// The devices that are there: USB adapters first, then modems, radio links, built-in ports.
+std::vector<SerialDevice> PresentSerialDevices();
+
+// What the operator has chosen for a port number: a device's name or path; empty when nothing.
+using PortBook = std::function<std::string(int number)>;
+
+// The native path that `device` means, links followed as far as they lead.
+//   "3" and "COM3": the text of ZEPRIL_COM3 in the environment when there is one, else what `book`
+//   says, else the third built-in port, "/dev/ttyS2"
+//   "ttyUSB0": "/dev/ttyUSB0"; a text with "/" is a path as it is
+// Empty for a number below 1 and for an empty text: these mean no port.
+std::string SerialDevicePath(std::string_view device, const PortBook& book = {});
+
+// Why opening failed, as a sentence for the operator.
+enum class SerialTrouble {
+  NoPort,         // the text means no port
+  Absent,         // nothing of that name
+  NoDevice,       // a file or folder
+  NotPermitted,   // this user may not
+  UsedElsewhere,  // another program has it
+  BadSpeed,       // the speed is none
+  Other,
+};
+std::string SerialTroubleText(SerialTrouble trouble, const std::string& path);
+
+// What stands in the way of opening `path`, as far as the system tells without opening it; `Other`
+// when nothing does.
+SerialTrouble SerialTroubleOf(const std::string& path);
+
+}  // namespace zepril

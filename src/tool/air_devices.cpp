@@ -1,0 +1,112 @@
+#include "tool/air_devices.h"
+
+#include <utility>
+
+#include "core/text_fields.h"
+#include "tool/pty_modem.h"
+
+namespace zepril {
+namespace {
+
+constexpr double kPeaceSeconds = 3.0;
+
+std::string Printable(std::string_view text) {
+  constexpr std::string_view kHex = "0123456789ABCDEF";
+  std::string line;
+  for (const char c : text) {
+    const auto code = static_cast<std::size_t>(Asc(c));
+    if (code >= 32) {
+      line += c;
+    } else {
+      line += {'\\', 'x', kHex[code / 16], kHex[code % 16]};
+    }
+  }
+  return line;
+}
+
+std::string Packet(const std::string& from, const std::string& to, const std::string& path,
+                   const std::string& text) {
+  const std::string calls = path.empty() ? to : to + ',' + path;
+  return Printable(from + '>' + calls + ':' + text) + '\n';
+}
+
+class EngineDevice final : public AirDevice {
+ public:
+  EngineDevice(std::unique_ptr<AgwServer> server, const ReportLine& report)
+      : server_(std::move(server)) {
+    server_->Sent = [report](const AgwUnproto& unproto) { report(SentLine(unproto)); };
+  }
+  std::string ReadyLine() const override { return "READY " + WholeNumber(server_->Port()) + '\n'; }
+  void Serve(int milliseconds) override { server_->Serve(milliseconds); }
+  bool IsListenedTo(double) override { return server_->Monitoring() > 0; }
+  void Hear(const AirPacket& packet, const LocalTime& time) override {
+    server_->Broadcast(MonitorFrame(packet, time));
+  }
+
+ private:
+  std::unique_ptr<AgwServer> server_;
+};
+
+class ModemDevice final : public AirDevice {
+ public:
+  ModemDevice(std::unique_ptr<PtyModem> modem, double rate, const ReportLine& report)
+      : modem_(std::move(modem)), peace_seconds_(kPeaceSeconds / rate) {
+    const std::string name(modem_->Model().Name());
+    modem_->Model().Sent = [report, name](const ModemSending& sending) {
+      report(ModemSentLine(name, sending));
+    };
+    modem_->Model().CommandCame = [report, name](const std::string& command) {
+      report(CommandLine(name, command));
+    };
+  }
+  std::string ReadyLine() const override {
+    return "READY " + std::string(modem_->Model().Name()) + ' ' + modem_->Link() + '\n';
+  }
+  void Serve(int milliseconds) override { modem_->Serve(milliseconds); }
+  bool IsListenedTo(double now) override {
+    if (modem_->BytesTaken() != taken_) {
+      taken_ = modem_->BytesTaken();
+      last_word_ = now;
+    }
+    return modem_->Model().Runs() && now - last_word_ >= peace_seconds_;
+  }
+  void Hear(const AirPacket& packet, const LocalTime&) override { modem_->Hear(packet); }
+
+ private:
+  std::unique_ptr<PtyModem> modem_;
+  double peace_seconds_;
+  std::size_t taken_ = 0;
+  double last_word_ = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<AirDevice> OpenEngineDevice(int port, const ReportLine& report) {
+  auto server = AgwServer::Open(port);
+  if (!server) return nullptr;
+  return std::make_unique<EngineDevice>(std::move(server), report);
+}
+
+std::unique_ptr<AirDevice> OpenModemDevice(const std::string& link,
+                                           std::unique_ptr<ModemModel> model, double rate,
+                                           const ReportLine& report) {
+  auto modem = PtyModem::Open(link, std::move(model));
+  if (!modem) return nullptr;
+  return std::make_unique<ModemDevice>(std::move(modem), rate, report);
+}
+
+std::string SentLine(const AgwUnproto& unproto) {
+  return "SENT " + WholeNumber(unproto.Port) + ' ' +
+         Packet(unproto.From, unproto.To, unproto.Path, unproto.Text);
+}
+
+std::string ModemSentLine(std::string_view modem, const ModemSending& sending) {
+  return "SENT " + std::string(modem) + ' ' + Printable(sending.Mode) + ' ' +
+         Packet(sending.From, sending.To, sending.Path, sending.Text);
+}
+
+std::string CommandLine(std::string_view modem, std::string_view command) {
+  return "COMMAND " + std::string(modem) + ' ' + Printable(command) + '\n';
+}
+
+}  // namespace zepril

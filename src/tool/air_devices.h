@@ -1,0 +1,47 @@
+// What a played file of packets is heard through: a packet engine, or a modem on a serial line.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/clock.h"
+#include "tool/agw_server.h"
+#include "tool/air_script.h"
+#include "tool/modem_model.h"
+
+namespace zepril {
+
+class AirDevice {
+ public:
+  virtual ~AirDevice() = default;
+  // "READY 8000" and a line feed.
+  virtual std::string ReadyLine() const = 0;
+  // Takes and gives what is there; waits for at most `milliseconds` when there is nothing.
+  virtual void Serve(int milliseconds) = 0;
+  // A program hears what it receives. `now` in monotonic seconds.
+  virtual bool IsListenedTo(double now) = 0;
+  virtual void Hear(const AirPacket& packet, const LocalTime& time) = 0;
+};
+
+// Told each line of report, with its line feed.
+using ReportLine = std::function<void(const std::string& line)>;
+
+// A packet engine on 127.0.0.1, `port` 0 for any free one. Nothing when that is not possible.
+std::unique_ptr<AirDevice> OpenEngineDevice(int port, const ReportLine& report);
+
+// `model` behind `link`. A program listens to it when it has set it up and left it in peace for
+// 3 s, `rate` times less in a faster play. Nothing when the link can't be made.
+std::unique_ptr<AirDevice> OpenModemDevice(const std::string& link,
+                                           std::unique_ptr<ModemModel> model, double rate,
+                                           const ReportLine& report);
+
+// Lines of report. Control characters of texts are written as "\x0D", so that each stays one line.
+//   "SENT 1 QX7KB-9>ZEPR,WIDE1-1:=test"
+std::string SentLine(const AgwUnproto& unproto);
+//   "SENT pk232 300 QX7KB-9>ZEPR,WIDE1-1:=test"
+std::string ModemSentLine(std::string_view modem, const ModemSending& sending);
+//   "COMMAND pk232 MYCALL QX7KB-9"
+std::string CommandLine(std::string_view modem, std::string_view command);
+
+}  // namespace zepril

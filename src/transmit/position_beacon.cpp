@@ -1,0 +1,70 @@
+#include "transmit/position_beacon.h"
+
+#include "core/text_fields.h"
+#include "transmit/position_report.h"
+
+namespace zepril {
+
+bool PositionBeacon::MaySend() const {
+  const MapViewState& view = sections_.View;
+  return !Trim(sections_.Identity.MyCall).empty() &&
+         (view.OwnNorthKm != 0.0 || view.OwnEastKm != 0.0);
+}
+
+void PositionBeacon::SendPositionBeacon() {
+  if (!MaySend()) return;
+  Send(NextComment());
+}
+
+void PositionBeacon::SendIdentification(const std::string& status) {
+  if (!MaySend()) return;
+  Send(status);
+}
+
+std::string PositionBeacon::NextComment() {
+  TransmissionState& own = sections_.Transmission;
+  own.InfoLineIndex = NextInfoLine(own.InfoLineIndex, own.InfoLineActive);
+  const auto line = static_cast<std::size_t>(own.InfoLineIndex) - 1;
+  return own.InfoLineActive[line] != 0 ? own.InfoLine[line] : std::string();
+}
+
+// "@" with the time when it is wanted and the clock was set from GPS, else "=". Both tell that the
+// station takes messages.
+std::string PositionBeacon::Prefix() const {
+  if (sections_.Transmission.TxTimestamp != 1 || sections_.Gps.GpsTimeValid != 1) return "=";
+  return "@" + UtcStamp(tools_.LocalClock.Now(), sections_.Settings.UtcOffsetHours);
+}
+
+void PositionBeacon::Send(const std::string& comment) {
+  const TransmissionState& own = sections_.Transmission;
+  const MapViewState& view = sections_.View;
+  ShowBusy(true);
+  const DegreeTexts texts =
+      DegreeTextsOf(view.OwnNorthKm, view.OwnEastKm, view.MapCentralMeridian, view.MapFalseEasting);
+  const std::string position =
+      PositionFieldOfRow(texts, tools_.Symbols, own.TxSymbolIndex, own.TxOverlay);
+  tools_.Sender.SendFrame(Prefix() + position + CommentField(comment, tools_.Disk));
+  ShowBusy(false);
+}
+
+void PositionBeacon::SendObjectReport() {
+  if (!MaySend()) return;
+  const TransmissionState& own = sections_.Transmission;
+  const MapViewState& view = sections_.View;
+  ShowBusy(true);
+  const DegreeTexts texts =
+      DegreeTextsOf(own.ObjectNorth, own.ObjectEast, view.MapCentralMeridian, view.MapFalseEasting);
+  const std::string position =
+      PositionFieldOfRow(texts, tools_.Symbols, own.ObjectSymbol, own.ObjectOverlay);
+  const std::string stamp = UtcStamp(tools_.LocalClock.Now(), sections_.Settings.UtcOffsetHours);
+  tools_.Sender.SendFrame(ObjectReport(own.ObjectName, stamp, position, own.ObjectText));
+  ShowBusy(false);
+}
+
+void PositionBeacon::ShowBusy(bool busy) {
+  const PointerShape shape = busy ? PointerShape::Hourglass : PointerShape::Default;
+  tools_.Window.Pointer = shape;
+  tools_.Map.Picture1.Pointer = shape;
+}
+
+}  // namespace zepril

@@ -1,0 +1,59 @@
+// The own station's position report, its object, and the retransmission of a heard station.
+#pragma once
+
+#include <string>
+
+#include "core/main_window_controls.h"
+#include "core/state/gps.h"
+#include "core/state/identity.h"
+#include "core/state/map_view.h"
+#include "core/state/settings.h"
+#include "core/state/transmission.h"
+#include "core/symbol_table.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "transmit/frame_sender.h"
+
+namespace zepril {
+
+struct BeaconSections {
+  const IdentityState& Identity;
+  TransmissionState& Transmission;
+  const MapViewState& View;
+  const GpsState& Gps;
+  const SettingsState& Settings;
+};
+
+struct BeaconTools {
+  FrameSender& Sender;
+  const SymbolTable& Symbols;
+  const Files& Disk;
+  const Clock& LocalClock;
+  WindowControls& Window;
+  MapControls& Map;
+};
+
+class PositionBeacon {
+ public:
+  PositionBeacon(BeaconSections sections, BeaconTools tools) : sections_(sections), tools_(tools) {}
+
+  // Builds and sends one report with the next active info line. Nothing without a call, or with the
+  // own position at 0/0.
+  void SendPositionBeacon();
+  // The same with a status text, which moves no info line: the identification of a gateway.
+  void SendIdentification(const std::string& status);
+  // The own object, always with the time.
+  void SendObjectReport();
+
+ private:
+  bool MaySend() const;
+  std::string NextComment();
+  std::string Prefix() const;
+  void Send(const std::string& comment);
+  void ShowBusy(bool busy);
+
+  BeaconSections sections_;
+  BeaconTools tools_;
+};
+
+}  // namespace zepril

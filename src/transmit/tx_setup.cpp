@@ -1,0 +1,288 @@
+#include "transmit/tx_setup.h"
+
+#include <array>
+
+#include "core/text_fields.h"
+#include "links/setup_sequences.h"
+
+namespace zepril {
+namespace {
+
+constexpr std::array<const char*, 5> kSpeeds{"300R", "300", "1200", "9600", "19200"};
+constexpr std::array<const char*, TxSetupControls::kQuick> kQuickPaths{
+    "WIDE1-1", "WIDE2-1", "WIDE2-2", "RELAY", "ECHO", "GATE"};
+constexpr int kLongestInterval = 60;
+constexpr int kHighestLevel = 32767;
+
+RadioMode ModeOf(const RadioState& radio) {
+  return static_cast<RadioMode>(radio.RadioMode);
+}
+
+std::string PathOf(std::string_view typed) {
+  return Upper(Trim(typed));
+}
+
+}  // namespace
+
+TxSetup::TxSetup(TxSetupSections sections, TxSetupControls& controls, TransmitControls& transmit,
+                 TxSetupTools tools)
+    : sections_(sections), controls_(controls), transmit_(transmit), tools_(tools) {
+  controls_.Frame4.Visible = false;
+  transmit_.Check6.RightClick = [this] { Open(); };
+  controls_.TxOk.Caption = "OK";
+  controls_.TxOk.Click = [this] { ApplyTxSetup(); };
+  controls_.TxAbort.Caption = "ABORT";
+  controls_.TxAbort.Click = [this] { Abort(); };
+  BindFields();
+  BindLines();
+  BindPath();
+  BindSpeeds();
+}
+
+// ---- Fields and buttons ---------------------------------------------------------------------
+
+void TxSetup::BindFields() {
+  TextBox& interval = controls_.TxInterval;
+  interval.Change = [&interval] { interval.Text = IntervalText(interval.Text); };
+  controls_.TxIntervalUp.Click = [&interval] {
+    interval.Text = SteppedInterval(interval.Text, +1);
+  };
+  controls_.TxIntervalDown.Click = [&interval] {
+    interval.Text = SteppedInterval(interval.Text, -1);
+  };
+  controls_.SymbolDown.Click = [this] { StepSymbol(-1); };
+  controls_.SymbolUp.Click = [this] { StepSymbol(+1); };
+}
+
+void TxSetup::BindLines() {
+  for (std::size_t line = 0; line < TxSetupControls::kLines; ++line) {
+    controls_.fr4ta[line].Caption = "ACTIVE";
+    controls_.InfoField[line].GotFocus = [this, line] { focused_line_ = line; };
+    controls_.InfoMemory[line].Click = [this, line] { RecallInfo(line); };
+    controls_.InfoMemory[line].RightClick = [this, line] { StoreInfo(line); };
+  }
+}
+
+void TxSetup::BindPath() {
+  for (std::size_t at = 0; at < TxSetupControls::kPaths; ++at) {
+    Button& memory = controls_.PathMemory[at];
+    memory.Click = [this, &memory] { controls_.TxPathField.Text = PathOf(memory.ToolTip); };
+    memory.RightClick = [this, &memory] { memory.ToolTip = PathOf(controls_.TxPathField.Text); };
+  }
+  for (std::size_t at = 0; at < TxSetupControls::kQuick; ++at) {
+    Button& quick = controls_.PathQuick[at];
+    quick.Caption = kQuickPaths[at];
+    quick.Click = [this, &quick] {
+      controls_.TxPathField.Text = PathWith(controls_.TxPathField.Text, quick.Caption);
+    };
+  }
+  controls_.PathClear.Caption = "CLEAR";
+  controls_.PathClear.Click = [this] { controls_.TxPathField.Text.clear(); };
+}
+
+void TxSetup::BindSpeeds() {
+  for (std::size_t at = 0; at < kSpeeds.size(); ++at) {
+    controls_.Speeds[at].Click = [this, at] { ShowSpeeds(WithSpeed(ShownSpeeds(), kSpeeds[at])); };
+  }
+  controls_.CrossUp.Click = [this] { ShowSpeeds(WithSecondModeStepped(ShownSpeeds(), +1)); };
+  controls_.CrossDown.Click = [this] { ShowSpeeds(WithSecondModeStepped(ShownSpeeds(), -1)); };
+  transmit_.Check2.Click = [this] { HfDualClicked(); };
+}
+
+void TxSetup::StepSymbol(int direction) {
+  controls_.SymbolIndex = SteppedSymbol(controls_.SymbolIndex, direction);
+  ShowSymbol();
+}
+
+void TxSetup::ShowSymbol() {
+  controls_.SymbolName.Caption = tools_.Symbols.Name(controls_.SymbolIndex);
+}
+
+void TxSetup::RecallInfo(std::size_t button) {
+  std::array<std::string, TxSetupControls::kLines> lines;
+  for (std::size_t line = 0; line < lines.size(); ++line)
+    lines[line] = controls_.InfoField[line].Text;
+  const std::string& text = controls_.InfoMemory[button].ToolTip;
+  const auto target = LineForMemory(text, lines, focused_line_);
+  if (target) controls_.InfoField[*target].Text = text;
+}
+
+void TxSetup::StoreInfo(std::size_t button) {
+  if (!focused_line_) return;
+  controls_.InfoMemory[button].ToolTip = controls_.InfoField[*focused_line_].Text;
+  controls_.InfoField[*focused_line_].FocusWanted = true;
+}
+
+SpeedChoice TxSetup::ShownSpeeds() const {
+  SpeedChoice choice;
+  for (std::size_t at = 0; at < kSpeeds.size(); ++at) {
+    if (controls_.Speeds[at].Value) choice.BaudMode = kSpeeds[at];
+  }
+  choice.CrossMode = controls_.CrossField.Caption;
+  choice.HfDual = transmit_.Check2.Value == 1;
+  choice.Digi = controls_.DigiBox.Value == 1;
+  return choice;
+}
+
+void TxSetup::ShowSpeeds(const SpeedChoice& choice) {
+  for (std::size_t at = 0; at < kSpeeds.size(); ++at)
+    controls_.Speeds[at].Value = choice.BaudMode == kSpeeds[at];
+  controls_.CrossField.Caption = choice.CrossMode;
+  transmit_.Check2.Value = choice.HfDual ? 1 : 0;
+  controls_.DigiBox.Value = choice.Digi ? 1 : 0;
+}
+
+void TxSetup::HfDualClicked() {
+  if (transmit_.Check2.Value == 0) {
+    ShowSpeeds(WithHfDualOff(ShownSpeeds()));
+    return;
+  }
+  const HfDualFields fields =
+      WithHfDualOn({ShownSpeeds(), controls_.TxPathField.Text, controls_.TxInterval.Text});
+  controls_.TxPathField.Text = fields.Path;
+  controls_.TxInterval.Text = fields.Interval;
+  ShowSpeeds(fields.Speeds);
+}
+
+// ---- Opening --------------------------------------------------------------------------------
+
+void TxSetup::Open() {
+  if (controls_.Frame4.Visible) return;
+  tools_.Timer1.Stop();
+  tools_.Timer2.Stop();
+  FillStation();
+  FillLines();
+  FillRadio();
+  ShowByMode();
+  focused_line_.reset();
+  controls_.Frame4.Visible = true;
+}
+
+void TxSetup::FillStation() {
+  const TransmissionState& own = sections_.Transmission;
+  controls_.TxSsid.Text = sections_.Identity.MySsid;
+  controls_.TxDestinationField.Text = own.TxDestination;
+  controls_.TxPathField.Text = own.TxPath;
+  for (std::size_t at = 0; at < TxSetupControls::kPaths; ++at)
+    controls_.PathMemory[at].ToolTip = own.TxPathMemory[at];
+  controls_.TxInterval.Text = IntervalText(WholeNumber(own.TxIntervalMinutes));
+  controls_.SymbolIndex = own.TxSymbolIndex;
+  ShowSymbol();
+  controls_.TxOverlayField.Text = own.TxOverlay;
+  controls_.TxTimestampBox.Value = own.TxTimestamp;
+  transmit_.Check15.Value = sections_.Internet.IGateOn;
+}
+
+void TxSetup::FillLines() {
+  const TransmissionState& own = sections_.Transmission;
+  for (std::size_t line = 0; line < TxSetupControls::kLines; ++line) {
+    controls_.InfoField[line].Text = own.InfoLine[line];
+    controls_.fr4ta[line].Value = own.InfoLineActive[line];
+    controls_.InfoMemory[line].ToolTip = own.InfoLineMemory[line];
+  }
+}
+
+void TxSetup::FillRadio() {
+  const RadioState& radio = sections_.Radio;
+  ShowSpeeds({radio.BaudMode, radio.CrossMode, radio.HfDualOn == 1, radio.DigiOn == 1});
+  controls_.TxLevel.Text = WholeNumber(radio.TxAudioLevel);
+}
+
+void TxSetup::ShowByMode() {
+  const RadioMode mode = ModeOf(sections_.Radio);
+  const bool tnc = mode == RadioMode::ScsTnc;
+  const bool ptc = mode == RadioMode::ScsPtc;
+  const bool level = tnc || ptc;
+  controls_.TxLevelLabel.Caption = tnc ? " SCS TNC: AFSK TX LEVEL ( 30 mV - 3000 mV )"
+                                       : " SCS PTC: AFSK TX LEVEL ( 30 mV - 3000 mV )";
+  controls_.TxLevelLabel.Visible = level;
+  controls_.TxLevel.Visible = level;
+  transmit_.Check2.Visible = tnc;
+  controls_.CrossField.Visible = tnc;
+  controls_.CrossUp.Visible = tnc;
+  controls_.CrossDown.Visible = tnc;
+  controls_.DigiBox.Visible = level || mode == RadioMode::AgwLocal || mode == RadioMode::Pk232;
+}
+
+void TxSetup::Abort() {
+  controls_.Frame4.Visible = false;
+  // The box outside the panel shows again what holds.
+  transmit_.Check2.Value = sections_.Radio.HfDualOn;
+  transmit_.Check15.Value = sections_.Internet.IGateOn;
+  tools_.Timer1.Enable();
+}
+
+// ---- OK -------------------------------------------------------------------------------------
+
+void TxSetup::ApplyTxSetup() {
+  // Speed, second mode, call.
+  TakeRadio();
+  // Interval, destination, path, symbol, lines, memories.
+  TakeStation();
+  TakeLines();
+  controls_.TxOk.Caption = "...";
+  // The radio, the title, the file.
+  ProgramRadio();
+  tools_.Actions.ShowTitleMarkers();
+  tools_.Settings.WriteConfigFromMainWindow();
+  controls_.TxOk.Caption = "OK";
+  controls_.Frame4.Visible = false;
+  // The TX switch by the new interval.
+  tools_.Switches.ShowInterval();
+  // What is recognised as the own packet coming back; the first report leaves with the next tick.
+  sections_.Reception.OwnHeaderPattern =
+      OwnHeaderPatternOf(sections_.Identity.MyCallFull, sections_.Transmission.TxPath,
+                         sections_.Transmission.TxDestination);
+  tools_.Actions.SetLabels();
+  sections_.Transmission.LastBeaconTime = 0;
+  tools_.Timer1.Enable();
+}
+
+void TxSetup::TakeRadio() {
+  RadioState& radio = sections_.Radio;
+  const SpeedChoice choice = ShownSpeeds();
+  radio.BaudMode = choice.BaudMode;
+  radio.BaudModeLabel = BaudModeLabelOf(choice.BaudMode);
+  tools_.Actions.RefreshStatusLine();
+  radio.CrossMode = choice.CrossMode;
+  radio.HfDualOn = choice.HfDual ? 1 : 0;
+  radio.DigiOn = choice.Digi ? 1 : 0;
+  radio.TxAudioLevel =
+      WholeVal(controls_.TxLevel.Text, 0, kHighestLevel).value_or(radio.TxAudioLevel);
+  IdentityState& own = sections_.Identity;
+  own.MySsid = Trim(controls_.TxSsid.Text);
+  own.MyCall = std::string(Trim(own.MyCall));
+  // Kept: whatever is typed is used, also what is no number from 1 to 15.
+  own.MyCallFull = own.MySsid.empty() ? own.MyCall : own.MyCall + "-" + own.MySsid;
+}
+
+void TxSetup::TakeStation() {
+  TransmissionState& own = sections_.Transmission;
+  own.TxIntervalMinutes = WholeVal(controls_.TxInterval.Text, 0, kLongestInterval).value_or(0);
+  own.TxDestination = PathOf(controls_.TxDestinationField.Text);
+  if (own.TxDestination.empty()) own.TxDestination = "ZEPR";
+  own.TxPath = PathOf(controls_.TxPathField.Text);
+  for (std::size_t at = 0; at < TxSetupControls::kPaths; ++at)
+    own.TxPathMemory[at] = controls_.PathMemory[at].ToolTip;
+  own.TxSymbolIndex = controls_.SymbolIndex;
+  own.TxOverlay = OverlayOf(controls_.TxOverlayField.Text);
+  own.TxTimestamp = controls_.TxTimestampBox.Value;
+  sections_.Internet.IGateOn = transmit_.Check15.Value;
+}
+
+void TxSetup::TakeLines() {
+  TransmissionState& own = sections_.Transmission;
+  for (std::size_t line = 0; line < TxSetupControls::kLines; ++line) {
+    own.InfoLine[line] = Trim(controls_.InfoField[line].Text);
+    own.InfoLineActive[line] = controls_.fr4ta[line].Value;
+    own.InfoLineMemory[line] = controls_.InfoMemory[line].ToolTip;
+  }
+}
+
+void TxSetup::ProgramRadio() {
+  if (ModeOf(sections_.Radio) == RadioMode::AgwLocal) return tools_.Actions.ReopenLocalEngine();
+  RunModemScript(ApplyTxSetupScript({sections_.Identity, sections_.Radio, sections_.Transmission}),
+                 tools_.Modem, tools_.LocalClock);
+}
+
+}  // namespace zepril

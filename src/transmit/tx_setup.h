@@ -1,0 +1,97 @@
+// The TX SETUP panel of the main window: fills its fields from the state, lets fields and buttons
+// work on each other, and on OK takes them, programs the radio and saves.
+#pragma once
+
+#include <optional>
+
+#include "core/actions/settings_actions.h"
+#include "core/main_window_controls.h"
+#include "core/state/identity.h"
+#include "core/state/internet.h"
+#include "core/state/radio.h"
+#include "core/state/reception.h"
+#include "core/state/transmission.h"
+#include "core/symbol_table.h"
+#include "core/timer.h"
+#include "links/modem_script.h"
+#include "platform/clock.h"
+#include "platform/serial_port.h"
+#include "transmit/tx_setup_rules.h"
+#include "transmit/tx_switches.h"
+
+namespace zepril {
+
+// What OK asks of the rest of the program.
+class TxSetupActions {
+ public:
+  virtual ~TxSetupActions() = default;
+  // The speed's label in the status line.
+  virtual void RefreshStatusLine() = 0;
+  // The local packet engine is opened anew under the call, the digipeater beside it follows DIGI.
+  virtual void ReopenLocalEngine() = 0;
+  virtual void ShowTitleMarkers() = 0;
+  virtual void SetLabels() = 0;
+};
+
+struct TxSetupSections {
+  IdentityState& Identity;
+  RadioState& Radio;
+  TransmissionState& Transmission;
+  InternetState& Internet;
+  ReceptionState& Reception;
+};
+
+struct TxSetupTools {
+  TxSetupActions& Actions;
+  SettingsActions& Settings;
+  TxSwitches& Switches;
+  SerialPort& Modem;
+  Clock& LocalClock;
+  const SymbolTable& Symbols;
+  Timer& Timer1;
+  Timer& Timer2;
+};
+
+class TxSetup {
+ public:
+  // Sets the right click of `Check6` and the events of the panel.
+  TxSetup(TxSetupSections sections, TxSetupControls& controls, TransmitControls& transmit,
+          TxSetupTools tools);
+  TxSetup(const TxSetup&) = delete;
+  TxSetup& operator=(const TxSetup&) = delete;
+
+  void Open();
+  void ApplyTxSetup();
+  void Abort();
+
+ private:
+  void BindFields();
+  void BindLines();
+  void BindPath();
+  void BindSpeeds();
+
+  void FillStation();
+  void FillLines();
+  void FillRadio();
+  void ShowByMode();
+  void TakeRadio();
+  void TakeStation();
+  void TakeLines();
+  void ProgramRadio();
+
+  SpeedChoice ShownSpeeds() const;
+  void ShowSpeeds(const SpeedChoice& choice);
+  void HfDualClicked();
+  void StepSymbol(int direction);
+  void ShowSymbol();
+  void RecallInfo(std::size_t button);
+  void StoreInfo(std::size_t button);
+
+  TxSetupSections sections_;
+  TxSetupControls& controls_;
+  TransmitControls& transmit_;
+  TxSetupTools tools_;
+  std::optional<std::size_t> focused_line_;
+};
+
+}  // namespace zepril

@@ -1,0 +1,92 @@
+#include "transmit/tx_switches.h"
+
+#include "core/text_fields.h"
+#include "transmit/tx_setup_rules.h"
+
+namespace zepril {
+
+TxSwitches::TxSwitches(TxSwitchesSections sections, TxSwitchesControls controls,
+                       PositionBeacon& beacon, MapActions& map)
+    : sections_(sections), controls_(controls), beacon_(beacon), map_(map) {
+  controls_.Transmit.Check6.Click = [this] { TxClicked(); };
+  controls_.Transmit.Check18.Click = [this] { ObjectClicked(); };
+  controls_.Transmit.Check18.BackColour = kObjectDimmed;
+  EnableChatButtons(false);
+}
+
+bool TxSwitches::PositionKnown() const {
+  return sections_.View.OwnNorthKm != 0.0 || sections_.View.OwnEastKm != 0.0;
+}
+
+void TxSwitches::EnableChatButtons(bool enabled) {
+  controls_.Record.Command10.Enabled = enabled;
+  controls_.Record.Command41.Enabled = enabled;
+}
+
+void TxSwitches::ShowInterval() {
+  CheckBox& tx = controls_.Transmit.Check6;
+  const int interval = sections_.Transmission.TxIntervalMinutes;
+  tx.Caption = TxCaption(interval);
+  const bool was_on = tx.Value == 1;
+  if (interval == 0 || !PositionKnown()) tx.Value = 0;
+  // Without a position neither reports nor messages make sense.
+  controls_.Transmit.Check7.Enabled = PositionKnown();
+  if (!PositionKnown()) controls_.Transmit.Check7.Value = 0;
+  if (was_on && tx.Value == 0) SwitchedOff();
+}
+
+void TxSwitches::TxClicked() {
+  CheckBox& tx = controls_.Transmit.Check6;
+  if (sections_.Transmission.TxIntervalMinutes == 0) {
+    // By hand: one report, and the switch falls back.
+    tx.Value = 0;
+    beacon_.SendPositionBeacon();
+    return;
+  }
+  if (tx.Value == 1 && !PositionKnown()) tx.Value = 0;
+  tx.Value == 1 ? SwitchedOn() : SwitchedOff();
+}
+
+void TxSwitches::SwitchedOn() {
+  // The first report leaves with the next tick.
+  sections_.Transmission.LastBeaconTime = 0;
+  controls_.Transmit.Check18.BackColour.reset();
+  EnableChatButtons(true);
+  // A station on the move answers by itself.
+  const bool moving = sections_.Gps.GpsFixValid == 1 || sections_.Gps.GpsFixValidBefore == 1;
+  if (moving && sections_.Chat.AutoAnswerOn == 0) {
+    sections_.Chat.AutoAnswerOn = 1;
+    controls_.Transmit.Check16.Value = 1;
+  }
+}
+
+void TxSwitches::SwitchedOff() {
+  ObjectOff();
+  controls_.Transmit.Check18.BackColour = kObjectDimmed;
+  controls_.Transmit.Frame3.Visible = false;
+  controls_.Transmit.Check7.Value = 0;
+  EnableChatButtons(false);
+  map_.MapRedraw();
+}
+
+void TxSwitches::ObjectOff() {
+  controls_.Transmit.Check18.Value = 0;
+  sections_.Transmission.ObjectTxOn = 0;
+}
+
+void TxSwitches::ObjectClicked() {
+  const bool may =
+      controls_.Transmit.Check6.Value == 1 && !Trim(sections_.Transmission.ObjectName).empty();
+  if (!may || controls_.Transmit.Check18.Value != 1) {
+    const bool was_on = sections_.Transmission.ObjectTxOn == 1;
+    ObjectOff();
+    if (was_on) map_.MapRedraw();
+    return;
+  }
+  sections_.Transmission.ObjectTxOn = 1;
+  // The first report leaves with the next tick, later ones at twice the position's interval.
+  sections_.Transmission.LastObjectTime = 0;
+  map_.MapRedraw();
+}
+
+}  // namespace zepril

@@ -1,0 +1,290 @@
+#include "platform/qt/qt_serial_port.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+
+#include "platform/qt/qt_loop.h"
+#include "tests/doubles/pseudo_terminal.h"
+#include "tests/doubles/temp_folder.h"
+#include "tests/platform/qt/application_support.h"
+
+namespace zepril {
+namespace {
+
+constexpr double kShort = 0.03;  // seconds
+
+class QtSerialPortTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    modem = std::make_unique<PseudoTerminal>();
+    ASSERT_FALSE(modem->Path().empty());
+  }
+  bool Open() { return port.Open(modem->Path(), 9600); }
+  // Reads until `size` bytes have come.
+  std::string Read(std::size_t size) {
+    std::string got;
+    PumpUntil([&] {
+      got += port.ReadAll();
+      return got.size() >= size;
+    });
+    return got;
+  }
+  std::string Heard(std::size_t size) {
+    std::string heard;
+    PumpUntil([&] {
+      heard += modem->Heard();
+      return heard.size() >= size;
+    });
+    return heard;
+  }
+  static std::string AllBytes() {
+    std::string bytes;
+    for (int code = 0; code < 256; ++code)
+      bytes += static_cast<char>(code);
+    return bytes;
+  }
+
+  std::unique_ptr<PseudoTerminal> modem;
+  QtLoop loop;
+  QtSerialPort port;
+};
+
+TEST_F(QtSerialPortTest, EveryByteArrivesAsItIs) {
+  ASSERT_TRUE(Open()) << port.Trouble();
+  EXPECT_TRUE(port.IsOpen());
+  EXPECT_EQ(modem->Say(AllBytes()), 256U);
+  EXPECT_EQ(Read(256), AllBytes());
+  EXPECT_EQ(port.ReadAll(), "");
+}
+
+TEST_F(QtSerialPortTest, EveryByteIsSentAsItIs) {
+  ASSERT_TRUE(Open());
+  port.Write(AllBytes());
+  EXPECT_EQ(Heard(256), AllBytes());
+  EXPECT_EQ(port.BytesToWrite(), 0U);
+}
+
+TEST_F(QtSerialPortTest, BytesComeAndGoWhileTheProgramWaits) {
+  ASSERT_TRUE(Open());
+  port.Write("MYCALL QX7KB\r");
+  modem->Say("cmd:");
+  loop.Wait(kShort);
+  EXPECT_EQ(modem->Heard(), "MYCALL QX7KB\r");
+  EXPECT_EQ(port.ReadAll(), "cmd:");
+}
+
+TEST_F(QtSerialPortTest, ArrivalIsToldWhileThePortIsOpen) {
+  ASSERT_TRUE(Open());
+  int told = 0;
+  port.DataArrived = [&] { ++told; };
+  modem->Say("x");
+  EXPECT_TRUE(PumpUntil([&] { return told == 1; }));
+  EXPECT_EQ(port.ReadAll(), "x");
+}
+
+TEST_F(QtSerialPortTest, TheSpeedIsSetAndMayBeAnotherOneNextTime) {
+  ASSERT_TRUE(port.Open(modem->Path(), 1200));
+  EXPECT_EQ(modem->Speed(), static_cast<speed_t>(B1200));
+  ASSERT_TRUE(port.Open(modem->Path(), 38400));
+  EXPECT_EQ(modem->Speed(), static_cast<speed_t>(B38400));
+}
+
+TEST_F(QtSerialPortTest, AMegabyteOfGarbageStaysBounded) {
+  ASSERT_TRUE(Open());
+  const std::string garbage(1 << 12, '\xA5');
+  std::size_t said = 0;
+  ASSERT_TRUE(PumpUntil([&] {
+    said += modem->Say(garbage);
+    return said >= 1 << 20;
+  }));
+  loop.Wait(kShort);
+  modem->Say("end");
+  loop.Wait(kShort);
+  const std::string rest = port.ReadAll();
+  EXPECT_LE(rest.size(), QtSerialPort::kLongestBuffer);
+  EXPECT_TRUE(rest.ends_with("end"));
+}
+
+TEST_F(QtSerialPortTest, ALineThatTakesNothingHoldsNobodyUp) {
+  ASSERT_TRUE(Open());
+  for (int texts = 0; texts < 1000; ++texts)
+    port.Write(std::string(1000, 'x'));
+  loop.Wait(kShort);
+  EXPECT_TRUE(port.IsOpen());
+  EXPECT_GT(port.BytesToWrite(), 0U);
+  EXPECT_LE(port.BytesToWrite(), QtSerialPort::kLongestBuffer + 1000);
+  port.Close();
+  EXPECT_EQ(port.BytesToWrite(), 0U);
+}
+
+TEST_F(QtSerialPortTest, BytesThatTheLineTakesLaterAreNotLost) {
+  ASSERT_TRUE(Open());
+  std::string sent;
+  for (int i = 0; i < 40000; ++i)
+    sent += static_cast<char>(i % 251);
+  port.Write(sent);
+  loop.Wait(kShort);  // the line is full by now
+  EXPECT_EQ(Heard(sent.size()), sent);
+  EXPECT_TRUE(port.IsOpen());
+}
+
+TEST_F(QtSerialPortTest, AVanishedDeviceClosesThePortAndKeepsWhatCame) {
+  ASSERT_TRUE(Open());
+  modem->Say("last words");
+  loop.Wait(kShort);
+  modem->HangUp();
+  EXPECT_TRUE(PumpUntil([this] { return !port.IsOpen(); }));
+  EXPECT_EQ(port.Trouble(), modem->Path() + " is not there.");
+  EXPECT_EQ(port.ReadAll(), "last words");
+  port.Write("x");
+  EXPECT_EQ(port.BytesToWrite(), 0U);
+}
+
+TEST_F(QtSerialPortTest, AVanishedDeviceIsNoticedByWritingToo) {
+  ASSERT_TRUE(Open());
+  modem->HangUp();
+  port.Write("x");
+  loop.Wait(kShort);
+  EXPECT_TRUE(PumpUntil([this] { return !port.IsOpen(); }));
+}
+
+TEST_F(QtSerialPortTest, ThePortOpensAgainWhenTheDeviceIsBack) {
+  const TempFolder folder;
+  const std::string link = folder.Sub("modem");
+  std::filesystem::create_symlink(modem->Path(), link);
+  ASSERT_TRUE(port.Open(link, 9600)) << port.Trouble();
+  modem->HangUp();
+  ASSERT_TRUE(PumpUntil([this] { return !port.IsOpen(); }));
+  std::filesystem::remove(link);
+  EXPECT_FALSE(port.Open(link, 9600));
+  EXPECT_EQ(port.Trouble(), link + " is not there.");
+
+  modem = std::make_unique<PseudoTerminal>();
+  std::filesystem::create_symlink(modem->Path(), link);
+  ASSERT_TRUE(port.Open(link, 9600)) << port.Trouble();
+  EXPECT_EQ(port.Trouble(), "");
+  modem->Say("here again");
+  EXPECT_EQ(Read(10), "here again");
+}
+
+TEST_F(QtSerialPortTest, ANumberOpensTheDeviceThatWasChosenForIt) {
+  port.DeviceOfNumber = [this](int number) { return number == 77 ? modem->Path() : ""; };
+  EXPECT_TRUE(port.Open("77", 9600)) << port.Trouble();
+  EXPECT_FALSE(port.Open("78", 9600));
+  EXPECT_EQ(port.Trouble(), "/dev/ttyS77 is not there.");
+}
+
+TEST_F(QtSerialPortTest, ASecondProgramIsToldThatThePortIsTaken) {
+  ASSERT_TRUE(Open());
+  QtSerialPort second;
+  EXPECT_FALSE(second.Open(modem->Path(), 9600));
+  EXPECT_FALSE(second.IsOpen());
+  EXPECT_EQ(second.Trouble(), modem->Path() + " is used by another program.");
+  port.Close();
+  EXPECT_TRUE(second.Open(modem->Path(), 9600)) << second.Trouble();
+}
+
+TEST_F(QtSerialPortTest, WithoutPermissionTheGroupAndTheCommandAreNamed) {
+  if (::geteuid() == 0) GTEST_SKIP() << "the administrator may open every device";
+  ASSERT_EQ(::chmod(modem->Path().c_str(), 0), 0);
+  EXPECT_FALSE(Open());
+  EXPECT_NE(port.Trouble().find(" may not be opened by you"), std::string::npos) << port.Trouble();
+}
+
+TEST_F(QtSerialPortTest, WhatIsNoPortIsNotOpened) {
+  const TempFolder folder;
+  const std::string file = folder.Sub("file");
+  std::ofstream(file) << "text";
+  EXPECT_FALSE(port.Open(file, 9600));
+  EXPECT_EQ(port.Trouble(), file + " is no serial device.");
+  EXPECT_FALSE(port.Open("/dev/null", 9600));
+  EXPECT_EQ(port.Trouble(), "/dev/null is no serial device.");
+  EXPECT_FALSE(port.Open("no-such-device", 9600));
+  EXPECT_EQ(port.Trouble(), "/dev/no-such-device is not there.");
+  EXPECT_FALSE(port.Open("", 9600));
+  EXPECT_EQ(port.Trouble(), "No serial port is set.");
+  EXPECT_FALSE(port.Open(modem->Path(), 0));
+  EXPECT_EQ(port.Trouble(), modem->Path() + " can't be opened at that speed.");
+  EXPECT_FALSE(port.IsOpen());
+}
+
+TEST_F(QtSerialPortTest, AClosedPortDoesNothing) {
+  port.Write("x");
+  EXPECT_EQ(port.ReadAll(), "");
+  EXPECT_EQ(port.BytesToWrite(), 0U);
+  ASSERT_TRUE(Open());
+  modem->Say("x");
+  loop.Wait(kShort);
+  port.Close();
+  port.Close();
+  EXPECT_EQ(port.ReadAll(), "");
+  EXPECT_EQ(modem->Heard(), "");
+}
+
+// Whoever is told of arrival may close the port at once.
+TEST_F(QtSerialPortTest, ThePortMayBeClosedWhenDataArrive) {
+  ASSERT_TRUE(Open());
+  port.DataArrived = [this] { port.Close(); };
+  modem->Say("x");
+  EXPECT_TRUE(PumpUntil([this] { return !port.IsOpen(); }));
+  port.DataArrived = nullptr;
+  EXPECT_TRUE(Open());
+}
+
+TEST(SerialDevicePath, ANumberIsABuiltInPortUnlessTheEnvironmentNamesAnother) {
+  ::unsetenv("ZEPRIL_COM3");
+  EXPECT_EQ(SerialDevicePath("3"), "/dev/ttyS2");
+  EXPECT_EQ(SerialDevicePath(" com3 "), "/dev/ttyS2");
+  ::setenv("ZEPRIL_COM3", "no-such-adapter", 1);
+  EXPECT_EQ(SerialDevicePath("3"), "/dev/no-such-adapter");
+  ::setenv("ZEPRIL_COM3", "/no/such/adapter", 1);
+  EXPECT_EQ(SerialDevicePath("COM3"), "/no/such/adapter");
+  ::unsetenv("ZEPRIL_COM3");
+}
+
+TEST(SerialDevicePath, TheOperatorsChoiceHoldsUnlessTheEnvironmentNamesAnother) {
+  ::unsetenv("ZEPRIL_COM3");
+  const PortBook book = [](int number) {
+    return number == 3 ? std::string("no-such-adapter") : std::string();
+  };
+  EXPECT_EQ(SerialDevicePath("3", book), "/dev/no-such-adapter");
+  EXPECT_EQ(SerialDevicePath("4", book), "/dev/ttyS3");
+  ::setenv("ZEPRIL_COM3", "other-adapter", 1);
+  EXPECT_EQ(SerialDevicePath("3", book), "/dev/other-adapter");
+  ::unsetenv("ZEPRIL_COM3");
+}
+
+TEST(SerialDevicePath, ANumberBelowOneIsNoPort) {
+  EXPECT_EQ(SerialDevicePath("0"), "");
+  EXPECT_EQ(SerialDevicePath(""), "");
+  EXPECT_EQ(SerialDevicePath("COM99999999999999999999"), "");
+}
+
+TEST(SerialDevicePath, OtherTextIsADevice) {
+  EXPECT_EQ(SerialDevicePath("no-such-device"), "/dev/no-such-device");
+  EXPECT_EQ(SerialDevicePath("/dev/no-such-device"), "/dev/no-such-device");
+  EXPECT_EQ(SerialDevicePath("COMPUTER"), "/dev/COMPUTER");
+}
+
+TEST(SerialTroubleTexts, APortThatMayNotBeOpenedNamesTheCommandThatMendsIt) {
+  EXPECT_EQ(
+      SerialTroubleText(SerialTrouble::NotPermitted, "/dev/no-such-device"),
+      "/dev/no-such-device may not be opened by you: it belongs to the group dialout. To join "
+      "it: sudo usermod -aG dialout $USER, then log in again.");
+}
+
+TEST(PresentSerialDevices, EachHasAPathThatIsThere) {
+  for (const SerialDevice& device : PresentSerialDevices())
+    EXPECT_TRUE(device.Path.starts_with("/dev/")) << device.Path;
+}
+
+}  // namespace
+}  // namespace zepril

@@ -1,0 +1,84 @@
+// The transmitting rooms on doubles: an engine and a serial line that write down what they are
+// given.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/actions/map_actions.h"
+#include "core/actions/program_actions.h"
+#include "core/actions/settings_actions.h"
+#include "core/runtime_state.h"
+#include "tests/doubles/fake_serial.h"
+#include "tests/doubles/fake_socket.h"
+#include "tests/doubles/memory_files.h"
+#include "tests/doubles/scripted_dialogs.h"
+#include "tests/doubles/virtual_clock.h"
+#include "transmit/position_beacon.h"
+#include "transmit/tx_switches.h"
+
+namespace zepril {
+
+class RecordingEngine final : public MonitorEngine {
+ public:
+  bool AGWStartPoll(std::string_view, std::string_view) override { return true; }
+  std::string AGWGetData() override { return {}; }
+  bool AGWPutData(std::string_view header, std::string_view text) override {
+    Sent.push_back(std::string(header) + " | " + std::string(text));
+    return true;
+  }
+  void AGWClose() override {}
+  std::vector<std::string> Sent;
+};
+
+class CountedActions final : public MapActions, public SettingsActions, public ProgramActions {
+ public:
+  void MapRedraw() override { ++Redraws; }
+  void MapRefresh() override {}
+  void WriteConfigFromMainWindow() override { ++Saves; }
+  void ReplaceConfigLine(const std::string&, const std::string&) override {}
+  void EndProgram() override {}
+  int Redraws = 0;
+  int Saves = 0;
+};
+
+struct TransmitWorld {
+  TransmitWorld() {
+    State.Identity.MyCall = "QX7KB";
+    State.Identity.MySsid = "10";
+    State.Identity.MyCallFull = "QX7KB-10";
+    State.Map.OwnNorthKm = 5395.283;
+    State.Map.OwnEastKm = -10.517;
+    State.Transmission.TxSymbolIndex = 30;
+    State.Transmission.InfoLine[0] = "Test";
+    State.Transmission.InfoLineActive = {1, 0, 0, 0, 0, 0};
+    State.Transmission.TxIntervalMinutes = 10;
+  }
+
+  RuntimeState State;
+  MainWindowControls Controls;
+  RecordingEngine Engine;
+  FakeSocket Socket;
+  FakeSerial Port;
+  VirtualClock Clock{{2024, 5, 14, 14, 30, 0}};
+  ScriptedDialogs Boxes;
+  CountedActions Actions;
+  Timer Timer1{6000};
+  Timer Timer2{3000};
+  Timer Reopen{kReopenMilliseconds};
+  MemoryFiles Disk;
+  SymbolTable Symbols;
+  AgwLink Link{State.Radio, State.Identity, State.Transmission, Socket, Clock, Boxes,
+               Actions,     Reopen};
+  FrameSender Sender{State.Radio, State.Transmission, {Engine, Link, Port, Clock}};
+  PositionBeacon Beacon{{State.Identity, State.Transmission, State.Map, State.Gps, State.Settings},
+                        {Sender, Symbols, Disk, Clock, Controls.Window, Controls.Map}};
+  TxSwitches Switches{{State.Transmission, State.Chat, State.Gps, State.Map},
+                      {Controls.Transmit, Controls.Record},
+                      Beacon,
+                      Actions};
+};
+
+}  // namespace zepril

@@ -1,0 +1,277 @@
+#include "transmit/tx_setup.h"
+
+#include "tests/transmit/transmit_world.h"
+
+namespace zepril {
+namespace {
+
+class ListedActions final : public TxSetupActions {
+ public:
+  void RefreshStatusLine() override { Calls.emplace_back("status"); }
+  void ReopenLocalEngine() override { Calls.emplace_back("engine"); }
+  void ShowTitleMarkers() override { Calls.emplace_back("title"); }
+  void SetLabels() override { Calls.emplace_back("labels"); }
+  std::vector<std::string> Calls;
+};
+
+class TxSetupTest : public ::testing::Test {
+ protected:
+  TxSetupControls& Panel() { return world.Controls.TxSetup; }
+  TransmitControls& Transmit() { return world.Controls.Transmit; }
+  void Use(RadioMode mode) { world.State.Radio.RadioMode = static_cast<int>(mode); }
+  void Open() { Transmit().Check6.RightClick(); }
+  void Ok() { Panel().TxOk.Click(); }
+  // Chooses one of the speeds as a click on its option does.
+  void Choose(std::size_t speed) {
+    for (OptionButton& option : Panel().Speeds)
+      option.Value = false;
+    Panel().Speeds[speed].Value = true;
+    Panel().Speeds[speed].Click();
+  }
+
+  TransmitWorld world;
+  ListedActions actions;
+  TxSetup setup{{world.State.Identity, world.State.Radio, world.State.Transmission,
+                 world.State.Internet, world.State.Reception},
+                world.Controls.TxSetup,
+                world.Controls.Transmit,
+                {actions, world.Actions, world.Switches, world.Port, world.Clock, world.Symbols,
+                 world.Timer1, world.Timer2}};
+};
+
+// ---- Opening --------------------------------------------------------------------------------
+
+TEST_F(TxSetupTest, ItOpensWithTheStateAndTheTimersStopped) {
+  world.Timer1.Arm(6000);
+  world.Timer2.Arm(3000);
+  world.State.Transmission.InfoLineMemory[2] = "145.500 MHz";
+  world.State.Transmission.TxPathMemory[1] = "WIDE2-2";
+  Open();
+  EXPECT_TRUE(Panel().Frame4.Visible);
+  EXPECT_FALSE(world.Timer1.Enabled());
+  EXPECT_FALSE(world.Timer2.Enabled());
+  EXPECT_EQ(Panel().TxSsid.Text, "10");
+  EXPECT_EQ(Panel().TxDestinationField.Text, "ZEPR");
+  EXPECT_EQ(Panel().TxPathField.Text, "WIDE1-1");
+  EXPECT_EQ(Panel().TxInterval.Text, "10");
+  EXPECT_EQ(Panel().InfoField[0].Text, "Test");
+  EXPECT_EQ(Panel().fr4ta[0].Value, 1);
+  EXPECT_EQ(Panel().fr4ta[1].Value, 0);
+  EXPECT_EQ(Panel().InfoMemory[2].ToolTip, "145.500 MHz");
+  EXPECT_EQ(Panel().PathMemory[1].ToolTip, "WIDE2-2");
+  EXPECT_TRUE(Panel().Speeds[1].Value);  // 300
+}
+
+TEST_F(TxSetupTest, WhatIsOfferedDependsOnTheInterface) {
+  const struct {
+    RadioMode Mode;
+    bool Level;
+    bool Second;
+    bool Digi;
+  } rows[] = {{RadioMode::AgwLocal, false, false, true},   {RadioMode::Pk232, false, false, true},
+              {RadioMode::AgwRemote, false, false, false}, {RadioMode::None, false, false, false},
+              {RadioMode::ScsTnc, true, true, true},       {RadioMode::ScsPtc, true, false, true}};
+  for (const auto& row : rows) {
+    Use(row.Mode);
+    Open();
+    EXPECT_EQ(Panel().TxLevel.Visible, row.Level) << static_cast<int>(row.Mode);
+    EXPECT_EQ(Panel().CrossField.Visible, row.Second);
+    EXPECT_EQ(Transmit().Check2.Visible, row.Second);
+    EXPECT_EQ(Panel().DigiBox.Visible, row.Digi);
+    Panel().TxAbort.Click();
+  }
+  Use(RadioMode::ScsTnc);
+  Open();
+  EXPECT_EQ(Panel().TxLevelLabel.Caption, " SCS TNC: AFSK TX LEVEL ( 30 mV - 3000 mV )");
+  Panel().TxAbort.Click();
+  Use(RadioMode::ScsPtc);
+  Open();
+  EXPECT_EQ(Panel().TxLevelLabel.Caption, " SCS PTC: AFSK TX LEVEL ( 30 mV - 3000 mV )");
+}
+
+TEST_F(TxSetupTest, AbortChangesNothing) {
+  Open();
+  Panel().TxSsid.Text = "7";
+  Panel().InfoField[0].Text = "other";
+  Panel().TxAbort.Click();
+  EXPECT_FALSE(Panel().Frame4.Visible);
+  EXPECT_EQ(world.State.Identity.MySsid, "10");
+  EXPECT_EQ(world.State.Transmission.InfoLine[0], "Test");
+  EXPECT_TRUE(world.Timer1.Enabled());
+  EXPECT_EQ(world.Actions.Saves, 0);
+  EXPECT_TRUE(actions.Calls.empty());
+}
+
+// ---- OK -------------------------------------------------------------------------------------
+
+TEST_F(TxSetupTest, OkTakesEverythingInItsOrder) {
+  Open();
+  Panel().TxSsid.Text = " 7 ";
+  Panel().TxDestinationField.Text = " apzzz ";
+  Panel().TxPathField.Text = " wide2-2 ";
+  Panel().TxInterval.Text = "15";
+  Panel().InfoField[1].Text = " more ";
+  Panel().fr4ta[1].Value = 1;
+  Panel().InfoMemory[0].ToolTip = "kept";
+  Panel().TxOverlayField.Text = "ab";
+  Panel().TxTimestampBox.Value = 1;
+  Panel().SymbolUp.Click();
+  world.State.Transmission.LastBeaconTime = 99;
+  Ok();
+  const TransmissionState& own = world.State.Transmission;
+  EXPECT_EQ(world.State.Identity.MySsid, "7");
+  EXPECT_EQ(world.State.Identity.MyCallFull, "QX7KB-7");
+  EXPECT_EQ(own.TxDestination, "APZZZ");
+  EXPECT_EQ(own.TxPath, "WIDE2-2");
+  EXPECT_EQ(own.TxIntervalMinutes, 15);
+  EXPECT_EQ(own.InfoLine[1], "more");
+  EXPECT_EQ(own.InfoLineActive[1], 1);
+  EXPECT_EQ(own.InfoLineMemory[0], "kept");
+  EXPECT_EQ(own.TxOverlay, "B");
+  EXPECT_EQ(own.TxTimestamp, 1);
+  EXPECT_EQ(own.TxSymbolIndex, 31);
+  EXPECT_EQ(own.LastBeaconTime, 0);
+  EXPECT_EQ(world.State.Reception.OwnHeaderPattern, "QX7KB-7*>WIDE2-2>APZZZ");
+  EXPECT_EQ(Transmit().Check6.Caption, "TX 15");
+  EXPECT_EQ(actions.Calls, (std::vector<std::string>{"status", "engine", "title", "labels"}));
+  EXPECT_EQ(world.Actions.Saves, 1);
+  EXPECT_FALSE(Panel().Frame4.Visible);
+  EXPECT_EQ(Panel().TxOk.Caption, "OK");
+  EXPECT_TRUE(world.Timer1.Enabled());
+}
+
+TEST_F(TxSetupTest, AnySsidIsUsedAndAnEmptyDestinationIsFilled) {
+  Open();
+  Panel().TxSsid.Text = "AB";
+  Panel().TxDestinationField.Text = " ";
+  Panel().TxInterval.Text = "MANUAL";
+  Ok();
+  EXPECT_EQ(world.State.Identity.MyCallFull, "QX7KB-AB");
+  EXPECT_EQ(world.State.Transmission.TxDestination, "ZEPR");
+  EXPECT_EQ(world.State.Transmission.TxIntervalMinutes, 0);
+  EXPECT_EQ(Transmit().Check6.Caption, "TX !");
+}
+
+TEST_F(TxSetupTest, TheButtonReadsDotsWhileTheModemIsProgrammed) {
+  Use(RadioMode::Pk232);
+  world.Port.Open("2", 1200);
+  std::string caption;
+  world.Clock.OnWait = [&](double, bool) { caption = Panel().TxOk.Caption; };
+  Open();
+  Ok();
+  EXPECT_EQ(caption, "...");
+  EXPECT_EQ(world.Port.Written,
+            "\x03MYCALL QX7KB-10\rUNPROTO ZEPR VIA WIDE1-1\rDIGIPEAT OFF\rDFROM NONE\r"
+            "MYALIAS NONE\r\rK\r");
+}
+
+TEST_F(TxSetupTest, TheScsTncGetsItsLinesInTheirOrder) {
+  Use(RadioMode::ScsTnc);
+  world.Port.Open("3", 38400);
+  Open();
+  Choose(1);  // 300
+  Transmit().Check2.Value = 1;
+  Transmit().Check2.Click();
+  EXPECT_EQ(Panel().CrossField.Caption, "R300");
+  Panel().DigiBox.Value = 1;
+  Ok();
+  EXPECT_EQ(world.Port.Written,
+            "\x1B%B300\r\x1BIQX7KB-10\r\x1B%AMQX7KB-10\r\x1B"
+            "CZEPR WIDE1-1\r\x1B%X 300\r\x1B%AGH\r\x1BR1\r\x1B%AD3\r\x1B%AU1\r\x1B%F 2000\r");
+  EXPECT_EQ(world.State.Radio.BaudModeLabel, "300 Bd");
+  EXPECT_EQ(world.State.Radio.HfDualOn, 1);
+}
+
+TEST_F(TxSetupTest, ARemoteEngineAndNoRadioAreSentNothing) {
+  for (RadioMode mode : {RadioMode::AgwRemote, RadioMode::None}) {
+    Use(mode);
+    actions.Calls.clear();
+    Open();
+    Ok();
+    EXPECT_EQ(actions.Calls, (std::vector<std::string>{"status", "title", "labels"}));
+    EXPECT_EQ(world.Clock.MonotonicSeconds(), 0.0);
+  }
+}
+
+// ---- Fields ---------------------------------------------------------------------------------
+
+TEST_F(TxSetupTest, TheIntervalFieldCorrectsItselfAndSteps) {
+  Open();
+  Panel().TxInterval.Text = "61";
+  Panel().TxInterval.Change();
+  EXPECT_EQ(Panel().TxInterval.Text, "MANUAL");
+  Panel().TxIntervalDown.Click();
+  EXPECT_EQ(Panel().TxInterval.Text, "60");
+  Panel().TxIntervalUp.Click();
+  EXPECT_EQ(Panel().TxInterval.Text, "MANUAL");
+}
+
+TEST_F(TxSetupTest, PathButtonsFillStoreAndClear) {
+  Open();
+  Panel().TxPathField.Text = " WIDE1-1 ";
+  Panel().PathQuick[4].Click();
+  EXPECT_EQ(Panel().TxPathField.Text, "WIDE1-1,ECHO");
+  Panel().TxPathField.Text = " relay ";
+  Panel().PathMemory[3].RightClick();
+  EXPECT_EQ(Panel().PathMemory[3].ToolTip, "RELAY");
+  Panel().PathClear.Click();
+  EXPECT_EQ(Panel().TxPathField.Text, "");
+  Panel().PathMemory[3].Click();
+  EXPECT_EQ(Panel().TxPathField.Text, "RELAY");
+  Ok();
+  EXPECT_EQ(world.State.Transmission.TxPathMemory[3], "RELAY");
+}
+
+TEST_F(TxSetupTest, QuickButtonsNameTheirPaths) {
+  std::vector<std::string> captions;
+  for (const Button& quick : Panel().PathQuick)
+    captions.push_back(quick.Caption);
+  EXPECT_EQ(captions,
+            (std::vector<std::string>{"WIDE1-1", "WIDE2-1", "WIDE2-2", "RELAY", "ECHO", "GATE"}));
+}
+
+TEST_F(TxSetupTest, InfoMemoriesStoreAndRecallTheLineWithTheFocus) {
+  Open();
+  Panel().InfoMemory[0].ToolTip = "Hello";
+  Panel().InfoMemory[0].Click();  // no line had the focus
+  EXPECT_EQ(Panel().InfoField[0].Text, "Test");
+  Panel().InfoField[4].GotFocus();
+  Panel().InfoMemory[0].Click();
+  EXPECT_EQ(Panel().InfoField[4].Text, "Hello");
+  Panel().InfoField[4].Text = "145.500 MHz";
+  Panel().InfoMemory[1].RightClick();
+  EXPECT_EQ(Panel().InfoMemory[1].ToolTip, "145.500 MHz");
+  EXPECT_TRUE(Panel().InfoField[4].FocusWanted);
+  // A frequency goes where a frequency stands.
+  Panel().InfoField[5].GotFocus();
+  Panel().InfoMemory[1].ToolTip = "144.800 MHz";
+  Panel().InfoMemory[1].Click();
+  EXPECT_EQ(Panel().InfoField[4].Text, "144.800 MHz");
+}
+
+TEST_F(TxSetupTest, SpeedsSecondModeAndHfDualWorkOnEachOther) {
+  Use(RadioMode::ScsTnc);
+  Open();
+  Panel().DigiBox.Value = 1;
+  Choose(2);  // 1200
+  EXPECT_EQ(Panel().DigiBox.Value, 0);
+  Panel().TxPathField.Text = "";
+  Panel().TxInterval.Text = "1";
+  Transmit().Check2.Value = 1;
+  Transmit().Check2.Click();
+  EXPECT_TRUE(Panel().Speeds[0].Value);  // RPR 300
+  EXPECT_EQ(Panel().CrossField.Caption, "300");
+  EXPECT_EQ(Panel().TxInterval.Text, "2");
+  EXPECT_EQ(Panel().TxPathField.Text, "");
+  Panel().CrossUp.Click();
+  EXPECT_EQ(Panel().CrossField.Caption, "R300");
+  EXPECT_EQ(Transmit().Check2.Value, 0);
+  Panel().CrossDown.Click();
+  EXPECT_EQ(Panel().CrossField.Caption, "300");
+  Transmit().Check2.Value = 0;
+  Transmit().Check2.Click();
+  EXPECT_EQ(Panel().CrossField.Caption, "NONE");
+}
+
+}  // namespace
+}  // namespace zepril

@@ -1,0 +1,106 @@
+#include "transmit/tx_switches.h"
+
+#include "tests/transmit/transmit_world.h"
+
+namespace zepril {
+namespace {
+
+class TxSwitchesTest : public ::testing::Test {
+ protected:
+  TransmitControls& Transmit() { return world.Controls.Transmit; }
+  void ClickTx(int value) {
+    Transmit().Check6.Value = value;
+    Transmit().Check6.Click();
+  }
+  void ClickObject(int value) {
+    Transmit().Check18.Value = value;
+    Transmit().Check18.Click();
+  }
+  TransmitWorld world;
+};
+
+TEST_F(TxSwitchesTest, TheCaptionNamesTheInterval) {
+  world.Switches.ShowInterval();
+  EXPECT_EQ(Transmit().Check6.Caption, "TX 10");
+  world.State.Transmission.TxIntervalMinutes = 0;
+  Transmit().Check6.Value = 1;
+  world.Switches.ShowInterval();
+  EXPECT_EQ(Transmit().Check6.Caption, "TX !");
+  EXPECT_EQ(Transmit().Check6.Value, 0);
+}
+
+TEST_F(TxSwitchesTest, WithoutAnIntervalAClickSendsOneReportAtOnce) {
+  world.State.Transmission.TxIntervalMinutes = 0;
+  ClickTx(1);
+  EXPECT_EQ(world.Engine.Sent.size(), 1U);
+  EXPECT_EQ(Transmit().Check6.Value, 0);
+  EXPECT_FALSE(world.Controls.Record.Command10.Enabled);
+  EXPECT_FALSE(world.Controls.Record.Command41.Enabled);
+}
+
+TEST_F(TxSwitchesTest, SwitchedOnTheFirstReportIsDueAtOnce) {
+  world.State.Transmission.LastBeaconTime = 12345;
+  ClickTx(1);
+  EXPECT_TRUE(world.Engine.Sent.empty());
+  EXPECT_EQ(world.State.Transmission.LastBeaconTime, 0);
+  EXPECT_TRUE(world.Controls.Record.Command10.Enabled);
+  EXPECT_TRUE(world.Controls.Record.Command41.Enabled);
+  EXPECT_FALSE(Transmit().Check18.BackColour.has_value());
+  EXPECT_EQ(world.State.Chat.AutoAnswerOn, 0);
+}
+
+TEST_F(TxSwitchesTest, AMovingStationAnswersByItself) {
+  world.State.Gps.GpsFixValidBefore = 1;
+  ClickTx(1);
+  EXPECT_EQ(world.State.Chat.AutoAnswerOn, 1);
+  EXPECT_EQ(Transmit().Check16.Value, 1);
+}
+
+TEST_F(TxSwitchesTest, SwitchedOffEverythingGoesOffWithIt) {
+  ClickTx(1);
+  world.State.Transmission.ObjectName = "ABC      ";
+  ClickObject(1);
+  Transmit().Check7.Value = 1;
+  Transmit().Frame3.Visible = true;
+  const int redraws = world.Actions.Redraws;
+  ClickTx(0);
+  EXPECT_EQ(Transmit().Check18.Value, 0);
+  EXPECT_EQ(world.State.Transmission.ObjectTxOn, 0);
+  EXPECT_EQ(Transmit().Check7.Value, 0);
+  EXPECT_FALSE(Transmit().Frame3.Visible);
+  EXPECT_FALSE(world.Controls.Record.Command10.Enabled);
+  EXPECT_EQ(Transmit().Check18.BackColour, TxSwitches::kObjectDimmed);
+  EXPECT_EQ(world.Actions.Redraws, redraws + 1);
+}
+
+TEST_F(TxSwitchesTest, WithoutAPositionTheSwitchesAreHeldOff) {
+  world.State.Map.OwnNorthKm = 0.0;
+  world.State.Map.OwnEastKm = 0.0;
+  ClickTx(1);
+  EXPECT_EQ(Transmit().Check6.Value, 0);
+  Transmit().Check7.Value = 1;
+  world.Switches.ShowInterval();
+  EXPECT_EQ(Transmit().Check7.Value, 0);
+  EXPECT_FALSE(Transmit().Check7.Enabled);
+}
+
+TEST_F(TxSwitchesTest, TheObjectGoesOnTheAirOnlyWithTxAndAName) {
+  world.State.Transmission.ObjectName = "ABC      ";
+  ClickObject(1);
+  EXPECT_EQ(Transmit().Check18.Value, 0);
+  ClickTx(1);
+  world.State.Transmission.ObjectName = "";
+  ClickObject(1);
+  EXPECT_EQ(Transmit().Check18.Value, 0);
+  world.State.Transmission.ObjectName = "ABC      ";
+  world.State.Transmission.LastObjectTime = 12345;
+  ClickObject(1);
+  EXPECT_EQ(Transmit().Check18.Value, 1);
+  EXPECT_EQ(world.State.Transmission.ObjectTxOn, 1);
+  EXPECT_EQ(world.State.Transmission.LastObjectTime, 0);
+  ClickObject(0);
+  EXPECT_EQ(world.State.Transmission.ObjectTxOn, 0);
+}
+
+}  // namespace
+}  // namespace zepril
