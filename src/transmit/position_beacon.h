@@ -1,4 +1,4 @@
-// The own station's position report, its object, and the retransmission of a heard station.
+// The own station's position report and its object.
 #pragma once
 
 #include <string>
