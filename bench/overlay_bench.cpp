@@ -2,7 +2,6 @@
 // cursor's read-out a mouse move. Limits: all grids 10 ms, circles with frequencies 3 ms, 0.1 ms a
 // move.
 #include <QByteArray>
-#include <QGuiApplication>
 #include <benchmark/benchmark.h>
 
 #include <string>
@@ -109,12 +108,3 @@ BENCHMARK(CursorMove)->DenseRange(0, kDisplayModes - 1)->Unit(benchmark::kMicros
 
 }  // namespace
 }  // namespace zepril
-
-// The fonts need an application, which must be gone before the toolkit's own globals are.
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-}

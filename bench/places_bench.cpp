@@ -1,7 +1,6 @@
 // How long large tracks and place files take: drawing on a 1200 x 800 map (limits 40 ms for a
 // track, 60 ms for places), reading a million lines, and finding a point under a press.
 #include <QByteArray>
-#include <QGuiApplication>
 #include <benchmark/benchmark.h>
 
 #include <cmath>
@@ -137,12 +136,3 @@ BENCHMARK(FindAmongMillion)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace zepril
-
-// The fonts need an application, which must be gone before the toolkit's own globals are.
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-}

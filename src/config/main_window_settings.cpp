@@ -5,6 +5,7 @@
 
 #include "config/config_file.h"
 #include "config/start_panel_settings.h"
+#include "core/baud_mode.h"
 #include "core/text_fields.h"
 
 namespace zepril {
@@ -89,11 +90,6 @@ void MergeKeys(std::vector<std::string>& lines, const std::array<std::string_vie
 }
 
 }  // namespace
-
-std::string BaudModeLabelOf(std::string_view baud_mode) {
-  if (baud_mode == "300R") return "RPR 300";
-  return std::string(baud_mode) + " Bd";
-}
 
 std::string FullCall(std::string_view call, std::string_view ssid) {
   const double number = Val(ssid);

@@ -1,6 +1,7 @@
 #include "core/main_window_captions.h"
 
 #include <initializer_list>
+#include <span>
 
 namespace zepril {
 namespace {
@@ -10,7 +11,15 @@ struct ToolTipRow {
   const char* English;
 };
 
-void SetMapToolTips(MainWindowControls& c, const char* (*pick)(const char*)) {
+// A tool tip's text as it is shown, or blank.
+using TipPick = const char* (*)(const char*);
+
+void SetToolTips(std::span<const ToolTipRow> rows, TipPick pick) {
+  for (const ToolTipRow& row : rows)
+    row.Subject.ToolTip = pick(row.English);
+}
+
+void SetMapToolTips(MainWindowControls& c, TipPick pick) {
   const ToolTipRow rows[] = {
       {c.Map.Command72, "Background map: normal-dark-bright / Rclick: Show palette (16-inks)"},
       {c.Palette.Command42, "No ink chosen"},
@@ -48,8 +57,7 @@ void SetMapToolTips(MainWindowControls& c, const char* (*pick)(const char*)) {
       {c.Scales.Command6, "Hide all tile frames"},
       {c.Scales.Command37, "Scan the map folders again"},
   };
-  for (const ToolTipRow& row : rows)
-    row.Subject.ToolTip = pick(row.English);
+  SetToolTips(rows, pick);
   for (ComboBox& folder : c.Scales.Folder)
     folder.ToolTip = pick("Select the map folder of this scale");
   for (CheckBox& box : c.Scales.FrameBox) {
@@ -57,7 +65,7 @@ void SetMapToolTips(MainWindowControls& c, const char* (*pick)(const char*)) {
   }
 }
 
-void SetOverlayToolTips(MainWindowControls& c, const char* (*pick)(const char*)) {
+void SetOverlayToolTips(MainWindowControls& c, TipPick pick) {
   const ToolTipRow rows[] = {
       {c.Tracks.Combo1, "TRK file name"},
       {c.Tracks.Frame10, "Center map to end of TRK"},
@@ -83,11 +91,10 @@ void SetOverlayToolTips(MainWindowControls& c, const char* (*pick)(const char*))
       {c.Picture.Command70, "Open the picture outside"},
       {c.Picture.Command71, "Close the picture"},
   };
-  for (const ToolTipRow& row : rows)
-    row.Subject.ToolTip = pick(row.English);
+  SetToolTips(rows, pick);
 }
 
-void SetStationToolTips(MainWindowControls& c, const char* (*pick)(const char*)) {
+void SetStationToolTips(MainWindowControls& c, TipPick pick) {
   const ToolTipRow rows[] = {
       {c.Moni1.Combo9, "Call of the station that is followed / Enter: follow"},
       {c.Moni1.Label6, "Count of MONI 1 records"},
@@ -123,8 +130,7 @@ void SetStationToolTips(MainWindowControls& c, const char* (*pick)(const char*))
       {c.Qth.TextQthNorth, "North in km / Enter: center the map there"},
       {c.Qth.TextQthEast, "East in km / Enter: center the map there"},
   };
-  for (const ToolTipRow& row : rows)
-    row.Subject.ToolTip = pick(row.English);
+  SetToolTips(rows, pick);
 }
 
 void HidePanels(MainWindowControls& c) {

@@ -49,6 +49,15 @@ int IndexOfName(const std::vector<std::string>& names, std::string_view name) {
   return found == names.end() ? -1 : static_cast<int>(found - names.begin());
 }
 
+bool ShowsItsEntry(const ComboBox& list) {
+  return list.ListIndex >= 0 && list.Text == list.Selected();
+}
+
+void ShowFileName(ComboBox& list, const std::string& name) {
+  list.ListIndex = IndexOfName(list.Items, name);
+  list.Text = Upper(name);
+}
+
 std::optional<PointFileContent> ReadPointFile(const Files& disk, const std::string& path,
                                               const PointList& like, int most_lines,
                                               Progress& progress, std::string_view what) {

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/controls.h"
 #include "core/point_list.h"
 #include "core/progress.h"
 #include "platform/files.h"
@@ -37,5 +38,10 @@ inline constexpr std::int64_t kLargestPointFile = std::int64_t{1} << 30;  // byt
 std::optional<PointFileContent> ReadPointFile(const Files& disk, const std::string& path,
                                               const PointList& like, int most_lines,
                                               Progress& progress, std::string_view what);
+
+// Whether the field of a file list shows the entry that is selected; an empty field shows none.
+bool ShowsItsEntry(const ComboBox& list);
+// Shows `name`, upper-cased, in the field of a file list, and selects its entry if there is one.
+void ShowFileName(ComboBox& list, const std::string& name);
 
 }  // namespace zepril

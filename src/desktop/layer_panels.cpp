@@ -21,11 +21,6 @@ constexpr int kPlaceWidth = 400;
 constexpr int kIonoWidth = 260;
 constexpr int kProgressWidth = 320;
 
-void ShowAsCaption(QLabel* label, const Frame& frame) {
-  const QString caption = ToQt(frame.Caption);
-  if (label->text() != caption) label->setText(caption);
-}
-
 }  // namespace
 
 LayerPanels::LayerPanels(WindowParts& parts, MainWindowControls& controls, QWidget& map,
@@ -64,12 +59,7 @@ void LayerPanels::MakePicturePanel(const Files& files) {
 void LayerPanels::MakePlacePanel() {
   PlaceControls& p = controls_.Places;
   place_ = parts_.Panel("PoiPanel", &map_);
-  auto* grid = new QGridLayout(place_);
-  grid->setContentsMargins(12, 8, 12, 12);
-  grid->setSpacing(8);
-  auto* caption = new QLabel;
-  caption->setProperty("group", true);
-  grid->addWidget(caption, 0, 0, 1, 4);
+  QGridLayout* grid = parts_.SetUpGrid(place_, p.PoiPanel, 4);
   auto* name = new QLineEdit;
   name->setObjectName(QStringLiteral("Text4"));
   name->setAccessibleName(QStringLiteral("name of the POI"));
@@ -87,36 +77,20 @@ void LayerPanels::MakePlacePanel() {
   grid->addWidget(parts_.BoundButton("Command67", p.Command67), 3, 2);
   grid->addWidget(parts_.BoundButton("PoiClose", p.PoiClose), 3, 3);
   parts_.Binding.Bind(place_, p.PoiPanel);
-  parts_.Binding.OnControlsOut([caption, &p] { ShowAsCaption(caption, p.PoiPanel); });
 }
 
 void LayerPanels::MakeIonoPanel() {
   IonoControls& i = controls_.Iono;
   iono_ = parts_.Panel("Frame18", &map_);
-  auto* grid = new QGridLayout(iono_);
-  grid->setContentsMargins(12, 8, 12, 12);
-  grid->setSpacing(8);
-  auto* caption = new QLabel;
-  caption->setProperty("group", true);
-  grid->addWidget(caption, 0, 0, 1, 2);
-  const auto field = [&](int row, const char* name, const char* text, TextBox& control) {
-    auto* edit = new QLineEdit;
-    edit->setObjectName(QString::fromLatin1(name));
-    edit->setAccessibleName(QString::fromLatin1(text));
-    edit->setFont(parts_.FixedFont);
-    grid->addWidget(new QLabel(QString::fromLatin1(text)), row, 0);
-    grid->addWidget(edit, row, 1);
-    parts_.Binding.Bind(edit, control);
-  };
-  field(1, "Text11", "SUNSPOT(R)", i.Text11);
-  field(2, "Text12", "K", i.Text12);
+  QGridLayout* grid = parts_.SetUpGrid(iono_, i.Frame18, 2);
+  parts_.FieldRow(grid, 1, "Text11", "SUNSPOT(R)", i.Text11);
+  parts_.FieldRow(grid, 2, "Text12", "K", i.Text12);
   QPushButton* detailed = NamedButton("FoptDetailed");
   grid->addWidget(detailed, 3, 0, 1, 2);
   parts_.Binding.Bind(detailed, i.FoptDetailed);
   grid->addWidget(parts_.BoundButton("IonoOk", i.IonoOk), 4, 0);
   grid->addWidget(parts_.BoundButton("IonoClose", i.IonoClose), 4, 1);
   parts_.Binding.Bind(iono_, i.Frame18);
-  parts_.Binding.OnControlsOut([caption, &i] { ShowAsCaption(caption, i.Frame18); });
 }
 
 void LayerPanels::MakeSunPanel(const QtSurface& sun) {

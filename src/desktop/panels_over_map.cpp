@@ -55,9 +55,7 @@ void PanelsOverMap::MakeRecordPanel() {
   QLabel* mode = parts_.FixedLabel("Label19");
   parts_.Binding.Bind(mode, r.Label19);
   const auto button = [&](const char* name, Button& control) {
-    QPushButton* made = NamedButton(name);
-    row->addWidget(made);
-    parts_.Binding.Bind(made, control);
+    row->addWidget(parts_.BoundButton(name, control));
   };
   button("Command18", r.Command18);
   row->addWidget(mode);
@@ -89,31 +87,11 @@ void PanelsOverMap::MakeAlarmPanel() {
 void PanelsOverMap::MakeQthSetup() {
   QthSetupControls& q = controls_.Qth;
   qth_panel_ = parts_.Panel("Frame2", &map_);
-  auto* grid = new QGridLayout(qth_panel_);
-  grid->setContentsMargins(12, 8, 12, 12);
-  grid->setSpacing(8);
-  auto* caption = new QLabel;
-  caption->setProperty("group", true);
-  caption->setWordWrap(true);
-  grid->addWidget(caption, 0, 0, 1, 2);
-  parts_.Binding.OnControlsOut([caption, &q] { caption->setText(ToQt(q.Frame2.Caption)); });
-  const auto field = [&](int row, const char* name, const char* text, TextBox& control) {
-    auto* edit = new QLineEdit;
-    edit->setObjectName(QString::fromLatin1(name));
-    edit->setAccessibleName(QString::fromLatin1(text));
-    edit->setFont(parts_.FixedFont);
-    grid->addWidget(new QLabel(QString::fromLatin1(text)), row, 0);
-    grid->addWidget(edit, row, 1);
-    parts_.Binding.Bind(edit, control);
-  };
-  field(1, "TextQthNorth", "North km", q.TextQthNorth);
-  field(2, "TextQthEast", "East km", q.TextQthEast);
-  QPushButton* ok = NamedButton("QthOk");
-  QPushButton* cancel = NamedButton("Command22");
-  grid->addWidget(ok, 3, 0);
-  grid->addWidget(cancel, 3, 1);
-  parts_.Binding.Bind(ok, q.QthOk);
-  parts_.Binding.Bind(cancel, q.Command22);
+  QGridLayout* grid = parts_.SetUpGrid(qth_panel_, q.Frame2, 2);
+  parts_.FieldRow(grid, 1, "TextQthNorth", "North km", q.TextQthNorth);
+  parts_.FieldRow(grid, 2, "TextQthEast", "East km", q.TextQthEast);
+  grid->addWidget(parts_.BoundButton("QthOk", q.QthOk), 3, 0);
+  grid->addWidget(parts_.BoundButton("Command22", q.Command22), 3, 1);
   parts_.Binding.Bind(qth_panel_, q.Frame2);
 }
 
@@ -150,12 +128,8 @@ void PanelsOverMap::MakePalettePanel() {
     parts_.Binding.OnControlsOut(
         [this, button, ink] { button->SetFill(PlainColour(view_.InkColours[ink])); });
   }
-  QPushButton* none = NamedButton("Command42");
-  QPushButton* close = NamedButton("Command43");
-  grid->addWidget(none, 2, 0, 1, 4);
-  grid->addWidget(close, 2, 4, 1, 4);
-  parts_.Binding.Bind(none, p.Command42);
-  parts_.Binding.Bind(close, p.Command43);
+  grid->addWidget(parts_.BoundButton("Command42", p.Command42), 2, 0, 1, 4);
+  grid->addWidget(parts_.BoundButton("Command43", p.Command43), 2, 4, 1, 4);
   parts_.Binding.Bind(palette_panel_, p.PalettePanel);
 }
 

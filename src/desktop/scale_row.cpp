@@ -4,7 +4,6 @@
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QPainter>
-#include <QStyle>
 
 namespace zepril {
 namespace {
@@ -70,11 +69,6 @@ void ScaleRow::Show(bool covered, bool active) {
   if (active != active_) {
     active_ = active;
     update();
-  }
-  const bool empty = folders_->count() == 0;
-  if (folders_->property("empty").toBool() != empty) {
-    folders_->setProperty("empty", empty);
-    folders_->style()->polish(folders_);
   }
 }
 

@@ -1,10 +1,14 @@
 #include "desktop/window_parts.h"
 
 #include <QFrame>
+#include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QToolButton>
+
+#include "platform/qt/text.h"
 
 namespace zepril {
 
@@ -71,6 +75,31 @@ QFrame* WindowParts::Panel(const char* name, QWidget* parent) const {
   panel->setObjectName(QString::fromLatin1(name));
   panel->setProperty("panel", true);
   return panel;
+}
+
+QGridLayout* WindowParts::SetUpGrid(QFrame* panel, const Frame& frame, int columns) {
+  auto* grid = new QGridLayout(panel);
+  grid->setContentsMargins(12, 8, 12, 12);
+  grid->setSpacing(8);
+  QLabel* caption = GroupCaption("");
+  caption->setWordWrap(true);
+  grid->addWidget(caption, 0, 0, 1, columns);
+  Binding.OnControlsOut([caption, &frame] {
+    const QString text = ToQt(frame.Caption);
+    if (caption->text() != text) caption->setText(text);
+  });
+  return grid;
+}
+
+void WindowParts::FieldRow(QGridLayout* grid, int row, const char* name, const char* text,
+                           TextBox& control) {
+  auto* edit = new QLineEdit;
+  edit->setObjectName(QString::fromLatin1(name));
+  edit->setAccessibleName(QString::fromLatin1(text));
+  edit->setFont(FixedFont);
+  grid->addWidget(new QLabel(QString::fromLatin1(text)), row, 0);
+  grid->addWidget(edit, row, 1);
+  Binding.Bind(edit, control);
 }
 
 QPushButton* WindowParts::BoundButton(const char* name, Button& control) {

@@ -12,6 +12,7 @@
 #include "platform/qt/qt_loop.h"
 
 class QFrame;
+class QGridLayout;
 class QLabel;
 class QPushButton;
 class QToolButton;
@@ -32,6 +33,10 @@ struct WindowParts {
   QToolButton* Tool(const char* name, Picture picture, bool caption) const;
   QLabel* FixedLabel(const char* name) const;
   QFrame* Panel(const char* name, QWidget* parent) const;
+  // The grid of a set-up panel, with the frame's caption over `columns` columns in its first row.
+  QGridLayout* SetUpGrid(QFrame* panel, const Frame& frame, int columns);
+  // A row of it: what the field is, and the field.
+  void FieldRow(QGridLayout* grid, int row, const char* name, const char* text, TextBox& control);
   // A button that is bound already.
   QPushButton* BoundButton(const char* name, Button& control);
 };

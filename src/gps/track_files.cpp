@@ -13,11 +13,6 @@ constexpr const char* kBoxTitle = "ZEP RIL";
 constexpr std::string_view kExtension = ".TRK";
 constexpr int kEnterKey = 13;
 
-// Whether the field shows the entry that is selected; an empty field shows none.
-bool IsChosen(const ComboBox& list) {
-  return list.ListIndex >= 0 && list.Text == list.Selected();
-}
-
 }  // namespace
 
 TrackFiles::TrackFiles(const IdentityState& identity, MapViewState& view, SettingsState& settings,
@@ -32,7 +27,7 @@ TrackFiles::TrackFiles(const IdentityState& identity, MapViewState& view, Settin
       tools_(tools) {
   // Typing changes the field too: only an entry that is chosen, or Enter, is a choice.
   controls_.Combo1.Change = [this] {
-    if (IsChosen(controls_.Combo1)) SelectTrack();
+    if (ShowsItsEntry(controls_.Combo1)) SelectTrack();
   };
   controls_.Combo1.KeyDown = [this](KeyPress key) {
     if (key.Code == kEnterKey) SelectTrack();
@@ -61,8 +56,7 @@ void TrackFiles::ListTrackFiles() {
 }
 
 void TrackFiles::ShowLoaded() {
-  controls_.Combo1.ListIndex = IndexOfName(controls_.Combo1.Items, settings_.TrackFile);
-  controls_.Combo1.Text = Upper(settings_.TrackFile);
+  ShowFileName(controls_.Combo1, settings_.TrackFile);
 }
 
 bool TrackFiles::Load(const std::string& name) {

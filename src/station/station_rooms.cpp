@@ -6,6 +6,7 @@
 #include "core/position_text.h"
 #include "core/text_fields.h"
 #include "core/title_line.h"
+#include "transmit/tx_setup_rules.h"
 
 namespace zepril {
 namespace {
@@ -123,14 +124,11 @@ void StationRooms::ReadConfig() {
 
 void StationRooms::SetOwnNames() {
   // The beginning of what this station transmits, as it comes back through a digipeater.
-  std::string path;
-  for (std::string_view element : Split(State.Transmission.TxPath, ',')) {
-    if (!Trim(element).empty()) path += std::string(Trim(element)) + ">";
-  }
   State.Reception.OwnHeaderPattern =
       State.Identity.MyCallFull.empty()
           ? std::string()
-          : State.Identity.MyCallFull + "*>" + path + State.Transmission.TxDestination;
+          : OwnHeaderPatternOf(State.Identity.MyCallFull, State.Transmission.TxPath,
+                               State.Transmission.TxDestination);
 }
 
 void StationRooms::ScanMapLibrary() {

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/baud_mode.h"
 #include "core/text_fields.h"
 #include "links/setup_sequences.h"
 

@@ -96,11 +96,6 @@ HfDualFields WithHfDualOn(HfDualFields fields) {
   return fields;
 }
 
-std::string BaudModeLabelOf(std::string_view baud_mode) {
-  if (baud_mode == "300R") return "RPR 300";
-  return std::string(baud_mode) + " Bd";
-}
-
 std::string PathWith(std::string_view path, std::string_view element) {
   std::string trimmed(Trim(path));
   if (!trimmed.empty()) trimmed += ",";
@@ -121,10 +116,8 @@ std::string OwnHeaderPatternOf(std::string_view call, std::string_view path,
                                std::string_view destination) {
   std::string pattern(call);
   pattern += "*>";
-  if (!path.empty()) {
-    std::string elements(path);
-    std::replace(elements.begin(), elements.end(), ',', '>');
-    pattern += elements + ">";
+  for (std::string_view element : Split(path, ',')) {
+    if (!Trim(element).empty()) pattern.append(Trim(element)).append(">");
   }
   return pattern.append(destination);
 }

@@ -52,9 +52,6 @@ struct HfDualFields {
 };
 HfDualFields WithHfDualOn(HfDualFields fields);
 
-// "300 Bd", "RPR 300", "1200 Bd", "9600 Bd", "19200 Bd".
-std::string BaudModeLabelOf(std::string_view baud_mode);
-
 // ---- Path and texts -------------------------------------------------------------------------
 
 // The path field with the caption of a quick button behind it.
@@ -66,7 +63,8 @@ std::optional<std::size_t> LineForMemory(std::string_view text,
                                          const std::array<std::string, 6>& lines,
                                          std::optional<std::size_t> focused);
 
-// How a packet of the own station comes back through a digipeater: "QX7KB-10*>WIDE1-1>ZEPR".
+// How a packet of the own station comes back through a digipeater: "QX7KB-10*>WIDE1-1>ZEPR". Blanks
+// around an element of the path, and empty elements, do not come back.
 std::string OwnHeaderPatternOf(std::string_view call, std::string_view path,
                                std::string_view destination);
 

@@ -30,11 +30,6 @@ std::string CleanName(std::string_view text) {
   return std::string(Trim(name));
 }
 
-// Whether the field shows the entry that is selected; an empty field shows none.
-bool IsChosen(const ComboBox& list) {
-  return list.ListIndex >= 0 && list.Text == list.Selected();
-}
-
 }  // namespace
 
 std::string_view LinkOf(std::string_view text) {
@@ -58,7 +53,7 @@ PlaceFiles::PlaceFiles(const IdentityState& identity, MapViewState& view, Settin
   map_.Command73.Click = [this] { StepLevel(); };
   // Typing changes the field too: only an entry that is chosen counts.
   controls_.Combo2.Change = [this] {
-    if (IsChosen(controls_.Combo2)) SelectPoiFile();
+    if (ShowsItsEntry(controls_.Combo2)) SelectPoiFile();
   };
   controls_.Combo2.KeyDown = [this](KeyPress key) {
     if (key.Code == kEnterKey) CreatePoiFile();
@@ -97,8 +92,7 @@ void PlaceFiles::ListPoiFiles() {
 }
 
 void PlaceFiles::ShowLoaded() {
-  controls_.Combo2.ListIndex = IndexOfName(controls_.Combo2.Items, settings_.PoiFile);
-  controls_.Combo2.Text = Upper(settings_.PoiFile);
+  ShowFileName(controls_.Combo2, settings_.PoiFile);
 }
 
 bool PlaceFiles::Load(const std::string& name) {

@@ -7,6 +7,7 @@
 #include "config/config_file.h"
 #include "config/main_window_settings.h"
 #include "config/start_panel_settings.h"
+#include "core/baud_mode.h"
 #include "core/text_fields.h"
 #include "platform/native/native_files.h"
 #include "tests/doubles/temp_folder.h"

@@ -7,21 +7,10 @@
 #include "tests/doubles/memory_files.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/virtual_clock.h"
+#include "tests/transmit/transmit_world.h"
 
 namespace zepril {
 namespace {
-
-class RecordingEngine final : public MonitorEngine {
- public:
-  bool AGWStartPoll(std::string_view, std::string_view) override { return true; }
-  std::string AGWGetData() override { return {}; }
-  bool AGWPutData(std::string_view header, std::string_view text) override {
-    Sent.push_back(std::string(header) + " | " + std::string(text));
-    return true;
-  }
-  void AGWClose() override {}
-  std::vector<std::string> Sent;
-};
 
 class NoProgram final : public ProgramActions {
  public:

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "core/baud_mode.h"
+
 #include <vector>
 
 namespace zepril {
