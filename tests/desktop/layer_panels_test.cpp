@@ -60,6 +60,14 @@ TEST_F(LayerPanelsTest, EachLayerHasAKey) {
   EXPECT_FALSE(Find<QToolButton>(*window, "Check4")->isChecked());
 }
 
+TEST_F(LayerPanelsTest, ControlSAsksBeforeTheMapIsSaved) {
+  dialogs.Expect("ZEP RIL", "SAVE MAP WINDOW TO FILE...  C:\\ZEPRIL\\MY_MAPS\\MAP_0001.BMP",
+                 DialogAnswer::Ok);
+  Map()->setFocus();
+  QTest::keyClick(Map(), Qt::Key_S, Qt::ControlModifier);
+  EXPECT_TRUE(files.Exists("C:\\ZEPRIL\\MY_MAPS\\MAP_0001.BMP"));
+}
+
 TEST_F(LayerPanelsTest, EveryControlIsReachedByTheKeyboard) {
   for (const char* name :
        {"Command1",  "Command2",  "Command7",     "Command9", "Command8",  "Command12",
@@ -166,12 +174,16 @@ TEST_F(LayerPanelsTest, PanelsStayOnTheMapAtEverySize) {
   loop.RunStep([this] {
     Controls().Places.PoiPanel.Visible = true;
     Controls().Iono.Frame18.Visible = true;
+    Controls().Qth.Frame2.Visible = true;
+    Controls().MoniAll.HeardPanel.Visible = true;
+    Controls().Palette.PalettePanel.Visible = true;
     Controls().Sun.SunPanel.Visible = true;
     Controls().Progress.ProgressPanel.Visible = true;
   });
   for (const QSize size : {QSize(640, 480), QSize(800, 600), QSize(1280, 800), QSize(3840, 2160)}) {
     Resize(size.width(), size.height());
-    for (const char* name : {"PoiPanel", "Frame18", "SunPanel", "ProgressPanel"}) {
+    for (const char* name : {"PoiPanel", "Frame18", "Frame2", "HeardPanel", "PalettePanel",
+                             "SunPanel", "ProgressPanel"}) {
       EXPECT_TRUE(OnMap(name)) << name << " at " << size.width();
     }
   }
