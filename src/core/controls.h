@@ -50,6 +50,7 @@ struct Label : Control {
 
 struct Button : Control {
   std::string Caption;
+  int RepeatMs = 0;  // held down it clicks again after each of these; 0: once
 };
 
 struct CheckBox : Control {
@@ -67,6 +68,9 @@ struct TextBox : Control {
   Event Change;
   Event GotFocus;
   std::function<void(KeyPress)> KeyDown;
+  // Where this is set the field takes no typing by itself: each single key with a character comes
+  // here (13 Enter, 8 Backspace, 27 Esc, 1 to 26 with Ctrl), a pasted text does not.
+  std::function<void(char)> KeyTyped;
 };
 
 struct ComboBox : Control {
@@ -94,6 +98,8 @@ struct ListBox : Control {
   std::uint64_t Revision = 0;  // raised by whoever changes Items
   int ListIndex = -1;          // 0-based
   int TopIndex = 0;            // first row shown
+  Event RightDown;             // the second mouse button goes down over the list, and up again
+  Event RightUp;
 };
 
 struct Frame : Control {

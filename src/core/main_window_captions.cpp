@@ -138,7 +138,8 @@ void HidePanels(MainWindowControls& c) {
            &c.Record.Frame1, &c.Picture.Frame8, &c.Transmit.Frame3, &c.Transmit.Frame7,
            &c.Status.Text10, &c.Status.Frame12, &c.Status.Frame14, &c.Qth.Frame2,
            &c.Palette.PalettePanel, &c.MoniAll.HeardPanel, &c.Map.PictureBase, &c.Raw.RawList,
-           &c.Places.PoiPanel, &c.Iono.Frame18, &c.Sun.SunPanel, &c.Progress.ProgressPanel}) {
+           &c.Status.LinkNotice, &c.Places.PoiPanel, &c.Iono.Frame18, &c.Sun.SunPanel,
+           &c.Progress.ProgressPanel}) {
     panel->Visible = false;
   }
 }

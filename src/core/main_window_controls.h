@@ -180,17 +180,18 @@ struct ProgressControls {
 
 // Transmission switches.
 struct TransmitControls {
-  CheckBox Check6;   // TX
-  CheckBox Check18;  // OBJECT TX
-  CheckBox Check7;   // CHAT
-  CheckBox Check8;   // messages from and to me only
-  CheckBox Check16;  // auto answer
-  CheckBox Check15;  // IGATE
-  CheckBox Check2;   // HF-DUAL
-  TextBox Text2;     // addressee
-  TextBox Text3;     // message
-  Frame Frame3;      // chat panel
-  Frame Frame7;      // chat log
+  CheckBox Check6;     // TX
+  FillBar NextBeacon;  // fills towards the next report of the own position
+  CheckBox Check18;    // OBJECT TX
+  CheckBox Check7;     // CHAT
+  CheckBox Check8;     // messages from and to me only
+  CheckBox Check16;    // auto answer
+  CheckBox Check15;    // IGATE
+  CheckBox Check2;     // HF-DUAL
+  TextBox Text2;       // addressee
+  TextBox Text3;       // message
+  Frame Frame3;        // chat panel
+  Frame Frame7;        // chat log
 };
 
 // TX SETUP: what the station is on the air.
@@ -215,6 +216,7 @@ struct TxSetupControls {
   Button SymbolDown;
   Button SymbolUp;
   Label SymbolName;  // row of the table
+  PictureBox SymbolPicture;
   int SymbolIndex = 0;
   TextBox TxOverlayField;
   CheckBox TxTimestampBox;  // "TX TIMESTAMP (GPS)"
@@ -238,6 +240,7 @@ struct ObjectSetupControls {
   Button ObjectSymbolDown;
   Button ObjectSymbolUp;
   Label ObjectSymbolName;
+  PictureBox ObjectSymbolPicture;
   int SymbolIndex = 0;
   Button ObjectOk;
   Button Command31;  // DELETE OBJECT
@@ -268,7 +271,8 @@ struct StatusControls {
   Label Label15;  // status line
   Label Text10;   // internet banner
   Label IonoLabel;
-  Frame Frame12;  // distance alarm
+  Label LinkNotice;  // why the modem's port can't be opened; a click closes it
+  Frame Frame12;     // distance alarm
   Label Label25;
   Frame Frame14;  // emergency
 };

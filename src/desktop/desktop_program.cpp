@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "map/symbol_sheets.h"
 #include "platform/qt/text.h"
 #include "viewers/sun_curve.h"
 
@@ -20,7 +21,9 @@ DesktopProgram::DesktopProgram(const ProgramPlaces& places)
       dialogs_(loop_),
       map_surface_(kFirstMapWidth, kFirstMapHeight, fonts_),
       base_surface_(kFirstMapWidth, kFirstMapHeight, fonts_),
-      sun_surface_(SunCurve::kPlotWidth, SunCurve::kPlotHeight, fonts_) {}
+      sun_surface_(SunCurve::kPlotWidth, SunCurve::kPlotHeight, fonts_),
+      tx_symbol_surface_(kSymbolCellPixels, kSymbolCellPixels, fonts_),
+      object_symbol_surface_(kSymbolCellPixels, kSymbolCellPixels, fonts_) {}
 
 DesktopProgram::~DesktopProgram() {
   loop_.ControlsOut = nullptr;
@@ -84,9 +87,9 @@ void DesktopProgram::DrawMissingSampleMaps() {
 void DesktopProgram::OpenMainWindow() {
   start_asked_ = false;
   loop_.StepEnded = nullptr;
-  program_ = std::make_unique<StationProgram>(StationPlatform{files_, loop_, dialogs_, desktop_,
-                                                              socket_, modem_, map_surface_,
-                                                              base_surface_, sun_surface_});
+  program_ = std::make_unique<StationProgram>(
+      StationPlatform{files_, loop_, dialogs_, desktop_, socket_, modem_, map_surface_,
+                      base_surface_, sun_surface_, tx_symbol_surface_, object_symbol_surface_});
   loop_.Drive(program_->Timer1(), false);
   loop_.Drive(program_->Timer2(), true);
   loop_.Drive(program_->ReopenTimer(), true);

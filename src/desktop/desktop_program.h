@@ -59,6 +59,8 @@ class DesktopProgram {
   QtSurface map_surface_;
   QtSurface base_surface_;
   QtSurface sun_surface_;
+  QtSurface tx_symbol_surface_;
+  QtSurface object_symbol_surface_;
   std::unique_ptr<StartPanel> panel_;
   std::unique_ptr<StartWindow> start_window_;
   std::unique_ptr<SampleMapWorker> worker_;

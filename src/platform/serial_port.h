@@ -20,6 +20,8 @@ class SerialPort {
   // Takes everything received so far out of the buffer.
   virtual std::string ReadAll() = 0;
   virtual std::size_t BytesToWrite() const = 0;
+  // Why the port is not open, as a sentence for the operator; empty when all is well.
+  virtual std::string Trouble() const { return {}; }
 
   // Bytes have come into the buffer; may be empty.
   std::function<void()> DataArrived;

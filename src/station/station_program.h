@@ -28,11 +28,13 @@ struct StationPlatform {
   Clock& LocalClock;
   Dialogs& Boxes;
   DesktopActions& Desktop;
-  TcpSocket& Winsock1;          // the packet engine
-  SerialPort& MSComm1;          // the modem
-  DrawingSurface& MapSurface;   // `Picture1`
-  DrawingSurface& BaseSurface;  // the second map window under it
-  DrawingSurface& SunSurface;   // plot of the sun's path
+  TcpSocket& Winsock1;                  // the packet engine
+  SerialPort& MSComm1;                  // the modem
+  DrawingSurface& MapSurface;           // `Picture1`
+  DrawingSurface& BaseSurface;          // the second map window under it
+  DrawingSurface& SunSurface;           // plot of the sun's path
+  DrawingSurface& TxSymbolSurface;      // the symbol in TX SETUP
+  DrawingSurface& ObjectSymbolSurface;  // and in OBJECT SETUP, each of one cell
 };
 
 class StationRooms;

@@ -124,8 +124,9 @@ class DirewolfTest : public ::testing::Test {
                     WholeNumber(engine->Port) +
                     "\r\nHBAUD=1200\r\nCALL=QX1AB-9\r\nLOGS=1\r\nIONA=0\r\nUTN=5800\r\nUTE=400\r\n"
                     "UUN=5817.860\r\nUUE=391.394\r\n");
-    program = std::make_unique<StationProgram>(StationPlatform{
-        files, loop, dialogs, desktop, socket, modem, map_surface, base_surface, sun_surface});
+    program = std::make_unique<StationProgram>(
+        StationPlatform{files, loop, dialogs, desktop, socket, modem, map_surface, base_surface,
+                        sun_surface, tx_symbol_surface, object_symbol_surface});
   }
 
   // Serves the sockets until `reached`; false when that lasts too long.
@@ -167,6 +168,8 @@ class DirewolfTest : public ::testing::Test {
   RecorderSurface map_surface{800, 600};
   RecorderSurface base_surface{800, 600};
   RecorderSurface sun_surface{361, 91};
+  RecorderSurface tx_symbol_surface{22, 22};
+  RecorderSurface object_symbol_surface{22, 22};
   std::unique_ptr<Engine> engine;
   std::unique_ptr<StationProgram> program;
 };

@@ -94,13 +94,16 @@ class StationHarness {
   RecorderSurface map_surface{800, 600};
   RecorderSurface base_surface{800, 600};
   RecorderSurface sun_surface{361, 91};
+  RecorderSurface tx_symbol_surface{22, 22};
+  RecorderSurface object_symbol_surface{22, 22};
   std::unique_ptr<StationProgram> program;
 
  private:
   void Make() {
     program.reset();
-    program = std::make_unique<StationProgram>(StationPlatform{
-        files, clock, dialogs, desktop, socket, modem, map_surface, base_surface, sun_surface});
+    program = std::make_unique<StationProgram>(
+        StationPlatform{files, clock, dialogs, desktop, socket, modem, map_surface, base_surface,
+                        sun_surface, tx_symbol_surface, object_symbol_surface});
     clock.ForgetTimers();
     clock.Drive(program->Timer1(), false);
     clock.Drive(program->Timer2(), true);

@@ -41,7 +41,7 @@ class QtSerialPort final : public SerialPort {
 
   // Why the last opening failed or the port closed by itself, as a sentence for the operator; empty
   // when all is well.
-  const std::string& Trouble() const { return trouble_; }
+  std::string Trouble() const override { return trouble_; }
 
  private:
   bool Fail(SerialTrouble trouble);
