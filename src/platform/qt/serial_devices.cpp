@@ -13,29 +13,19 @@
 #include <cstdlib>
 #include <optional>
 
+#include "core/port_number.h"
 #include "core/text_fields.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
 namespace {
 
-constexpr int kHighestNumber = 256;
-
-// The number of "3" and "COM3"; nothing for any other text.
-std::optional<int> PortNumber(std::string_view device) {
-  std::string_view digits = device;
-  if (EqualFolded(digits.substr(0, 3), "COM")) digits.remove_prefix(3);
-  const bool whole = !digits.empty() && std::all_of(digits.begin(), digits.end(), IsDigit);
-  if (!whole) return std::nullopt;
-  return WholeVal(digits, 1, kHighestNumber).value_or(0);
-}
-
 std::string PathOfName(const std::string& name) {
   return name.find('/') == std::string::npos ? "/dev/" + name : name;
 }
 
 std::string PathOfNumber(int number, const PortBook& book, const SerialDeviceList& present) {
-  if (number < 1) return {};
+  if (number < 1 || number > kHighestPortNumber) return {};
   const std::string variable = "ZEPRIL_COM" + WholeNumber(number);
   const char* other = std::getenv(variable.c_str());
   if (other != nullptr && *other != '\0') return PathOfName(other);
@@ -111,7 +101,7 @@ std::string SerialDevicePath(std::string_view device, const PortBook& book,
                              const SerialDeviceList& present) {
   const std::string text(Trim(device));
   if (text.empty()) return {};
-  const std::optional<int> number = PortNumber(text);
+  const std::optional<int> number = PortNumberOfText(text);
   const std::string path = number ? PathOfNumber(*number, book, present) : PathOfName(text);
   if (!IsPath(path)) return path;
   // Programs that share a port agree on it by the device's own name.
