@@ -71,7 +71,7 @@ QPushButton:focus, QToolButton:focus, QLineEdit:focus, QComboBox:focus { border:
 QPushButton:disabled, QToolButton:disabled { color: %6; }
 QLineEdit, QComboBox { background: %3; color: %5; border: 1px solid %4; border-radius: 3px;
   padding: 1px 4px; min-height: 20px; }
-QLineEdit:disabled { color: %6; background: %1; }
+QLineEdit:disabled, QComboBox:disabled { color: %6; background: %1; }
 QComboBox::drop-down { border: none; width: 16px; }
 QComboBox QAbstractItemView { background: %3; color: %5; border: 1px solid %4; }
 QListView { background: %3; color: %5; border: 1px solid %4; }
