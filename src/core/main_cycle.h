@@ -36,6 +36,8 @@ class MainCycle {
   void Tick();
   // `Timer2` has fired.
   void Timer2Elapsed();
+  // `Label15`: speed, time.
+  void RenewStatusLine();
   bool InTick() const { return in_tick_; }
 
  private:
@@ -46,7 +48,6 @@ class MainCycle {
   void RenewTitle();
   void LookForCompanion();
   Outcome CountScan();
-  void RenewStatusLine();
   Outcome FollowCallField();
   void SelectLastRawLine();
   void BringEmergencyBack();

@@ -10,9 +10,12 @@
 #include <string>
 #include <string_view>
 
+#include "core/state/radio.h"
+
 namespace zepril {
 
 inline constexpr std::size_t kTitleColumns = 90;
+inline constexpr std::size_t kTitleBaseColumns = 55;
 
 // "ZEP RIL  V 8.08  QX7KB-9", padded.
 std::string BaseTitle(std::string_view version, std::string_view call);
@@ -20,5 +23,10 @@ std::string BaseTitle(std::string_view version, std::string_view call);
 void PutInTitle(std::string& title, std::size_t first, std::string_view text);
 // Blanks columns `first` to `last`.
 void BlankInTitle(std::string& title, std::size_t first, std::size_t last);
+
+// What stands in columns 61-71 once the modem was set up: "Digi active", "Digi X-mode" when an SCS
+// TNC relays to another mode, else blanks. With a local packet engine each tick looks for its
+// digipeater program and writes over it.
+std::string DigiMarker(const RadioState& radio);
 
 }  // namespace zepril

@@ -9,11 +9,11 @@
 #include "desktop/qt_dialogs.h"
 #include "desktop/sample_map_worker.h"
 #include "desktop/start_window.h"
-#include "platform/absent_devices.h"
 #include "platform/native/native_files.h"
 #include "platform/native/program_folder.h"
 #include "platform/qt/map_fonts.h"
 #include "platform/qt/qt_loop.h"
+#include "platform/qt/qt_serial_port.h"
 #include "platform/qt/qt_socket.h"
 #include "platform/qt/qt_surface.h"
 #include "station/start_panel.h"
@@ -54,7 +54,7 @@ class DesktopProgram {
   QtDialogs dialogs_;
   QtDesktopActions desktop_;
   QtSocket socket_;
-  AbsentSerialPort modem_;
+  QtSerialPort modem_;
   MapFonts fonts_;
   QtSurface map_surface_;
   QtSurface base_surface_;
@@ -67,7 +67,7 @@ class DesktopProgram {
   std::unique_ptr<StationProgram> program_;
   std::unique_ptr<MainWindow> window_;
   bool start_asked_ = false;
-  bool close_asked_ = false;  // while the station starts
+  bool close_asked_ = false;  // while START is under way
   bool ending_ = false;
   bool ended_ = false;
 };

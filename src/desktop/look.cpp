@@ -71,7 +71,7 @@ QPushButton:focus, QToolButton:focus, QLineEdit:focus, QComboBox:focus { border:
 QPushButton:disabled, QToolButton:disabled { color: %6; }
 QLineEdit, QComboBox { background: %3; color: %5; border: 1px solid %4; border-radius: 3px;
   padding: 1px 4px; min-height: 20px; }
-QLineEdit:disabled { color: %6; background: %1; }
+QLineEdit:disabled, QComboBox:disabled { color: %6; background: %1; }
 QPushButton[on_air="true"]:checked { background: %8; color: %9; }
 QPushButton[own_object="true"]:checked { background: %10; color: %11; }
 QLabel[notice="true"] { background: %2; color: %5; border: 1px solid %5; border-radius: 4px;

@@ -62,8 +62,8 @@ bool AgwLocal::AGWPutData(std::string_view header, std::string_view text) {
   const std::string_view path =
       comma == std::string_view::npos ? std::string_view{} : header.substr(comma + 1);
   // Port 1 for 1200 Bd, port 0 for every other speed.
-  return socket_.Send(
-      MakeAgwFrame(AgwPortOf(radio_.BaudMode, 0), 'V', call_, destination, AgwUnprotoData(path, text)));
+  return socket_.Send(MakeAgwFrame(AgwPortOf(radio_.BaudMode, 0), 'V', call_, destination,
+                                   AgwUnprotoData(path, text)));
 }
 
 void AgwLocal::AGWClose() {

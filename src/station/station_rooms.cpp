@@ -14,6 +14,7 @@ namespace {
 constexpr int kEnterKey = 13;
 constexpr int kFirstLabelLevel = 2;  // marks and calls: what a new operator wants to see
 constexpr int kJumpToTyped = 3;
+constexpr double kEngineSeconds = 2.0;
 constexpr std::uint32_t kLayerOnColour = 0xD08030;  // as a switch that is on
 
 }  // namespace
@@ -66,14 +67,18 @@ StationRooms::StationRooms(StationPlatform machine)
           {collector_, history_, browser_, distance_, *this, *this, *this}, symbols_,
           machine.LocalClock, machine.FileSystem, Timer1, &Controls.Raw.RawList),
       cycle_(State, Controls, machine.LocalClock, machine.Desktop, Timer1, Timer2, *this, *this),
-      raw_search_(Controls.Raw, State.Settings, Timer1) {
+      raw_search_(Controls.Raw, State.Settings, Timer1),
+      transmit_(State, Controls,
+                {machine_, agw_link_, agw_local_, sheets_, symbols_, progress_, Timer1, Timer2,
+                 ReopenTimer, *this, *this, *this}) {
   SetInitialControls(Controls);
   State.Map.StationLabelLevel = kFirstLabelLevel;
   State.Map.ViewWidthPx = machine_.MapSurface.Width();
   State.Map.ViewHeightPx = machine_.MapSurface.Height();
-  Timer1.Elapsed = [this] { cycle_.Tick(); };
+  Timer1.Elapsed = [this] { Tick(); };
   Timer2.Elapsed = [this] { cycle_.Timer2Elapsed(); };
   overlays_.PictureShower = [this] { ShowPicture(); };
+  transmit_.SetMayReopen([this] { return !cycle_.InTick(); });
   BindControls();
 }
 
@@ -95,12 +100,39 @@ void StationRooms::MapResized(int width, int height) {
 
 LinkLamp StationRooms::Lamp() const {
   const auto mode = static_cast<RadioMode>(State.Radio.RadioMode);
-  const bool engine = mode == RadioMode::AgwLocal || mode == RadioMode::AgwRemote;
-  const bool up = mode == RadioMode::AgwRemote ? agw_link_.LinkIsUp() : agw_local_.LinkIsUp();
-  return LampOf(engine, up, State.Radio.LastDataSeconds, machine_.LocalClock.MonotonicSeconds());
+  bool has_link = true;
+  bool up = false;
+  switch (mode) {
+    case RadioMode::AgwLocal:
+      up = agw_local_.LinkIsUp();
+      break;
+    case RadioMode::AgwRemote:
+      up = agw_link_.LinkIsUp();
+      break;
+    case RadioMode::Pk232:
+    case RadioMode::ScsTnc:
+    case RadioMode::ScsPtc:
+      up = transmit_.ModemIsUp();
+      break;
+    default:
+      has_link = false;
+  }
+  LinkLamp lamp =
+      LampOf(has_link, up, State.Radio.LastDataSeconds, machine_.LocalClock.MonotonicSeconds());
+  if (const std::string trouble = machine_.MSComm1.Trouble(); !trouble.empty() && !up) {
+    lamp.ToolTip += "\n" + trouble;
+  }
+  return lamp;
 }
 
 // ---- Tick -----------------------------------------------------------------------------------
+
+void StationRooms::Tick() {
+  // While the operator talks to the modem the cycle stands, whatever has started the timer again.
+  if (transmit_.TerminalIsOpen()) return Timer1.Stop();
+  cycle_.Tick();
+  transmit_.ShowNextBeacon();
+}
 
 // The call stays as typed, in the file too; everywhere it is compared without regard to case.
 void StationRooms::ChangeFollowedStation() {
@@ -150,8 +182,15 @@ void StationRooms::OpenLocalEngine() {
   const std::string name = call.empty() ? std::string("MYCALL") : call;
   if (agw_local_.AGWStartPoll("ZEPRIL", name)) return;
   // The engine might just be starting.
-  machine_.LocalClock.WaitPumping(2.0);
+  machine_.LocalClock.Wait(kEngineSeconds);
   agw_local_.AGWStartPoll("ZEPRIL", name);
+}
+
+// The engine knows the station by its call, which TX SETUP may have changed.
+void StationRooms::ReopenLocalEngine() {
+  agw_local_.AGWClose();
+  machine_.LocalClock.Wait(kEngineSeconds);
+  OpenLocalEngine();
 }
 
 bool StationRooms::ConnectAgw() {
@@ -164,13 +203,23 @@ void StationRooms::RestoreTracksPlacesAndChat() {
 }
 
 void StationRooms::ShowTitleMarkers() {
-  if (State.Internet.IGateOn == 1) PutInTitle(State.Settings.TitleText, 76, "IGate");
-  Controls.Window.Title = std::string(Trim(State.Settings.TitleText));
+  std::string& title = State.Settings.TitleText;
+  // The call may have got another SSID.
+  const std::string base = BaseTitle(State.Identity.ProgramVersion, State.Identity.MyCallFull);
+  PutInTitle(title, 1, base.substr(0, kTitleBaseColumns));
+  PutInTitle(title, 61, DigiMarker(State.Radio));
+  if (State.Internet.IGateOn == 1) {
+    PutInTitle(title, 76, "IGate");
+  } else {
+    BlankInTitle(title, 76, 80);
+  }
+  Controls.Window.Title = std::string(Trim(title));
 }
 
 void StationRooms::SetLabels() {
   SetMainWindowLabels(Controls, State.Settings.Language);
   interaction_.ShowState();
+  transmit_.ShowSwitches();
 }
 
 void StationRooms::ShowAndDrawMap() {

@@ -39,6 +39,7 @@
 #include "reception/record_browser.h"
 #include "station/raw_list_search.h"
 #include "station/station_program.h"
+#include "station/transmit_rooms.h"
 #include "viewers/picture_viewer.h"
 #include "viewers/place_files.h"
 #include "viewers/sun_curve.h"
@@ -57,6 +58,7 @@ class StationRooms final : public TickActions,
                            public MessageActions,
                            public ProgramActions,
                            public RecordPanelOpener,
+                           public TxSetupActions,
                            public MapPanels {
  public:
   explicit StationRooms(StationPlatform machine);
@@ -75,9 +77,10 @@ class StationRooms final : public TickActions,
 
  private:
   // The tick.
+  void Tick();
   void PollAprsIsLink() override {}
   void RunScanSwitchHandler() override {}
-  void KeepSecondModeMonitored() override {}
+  void KeepSecondModeMonitored() override { transmit_.KeepSecondModeMonitored(); }
   void ChangeFollowedStation() override;
   void ShowEmergencyPanel() override {}
   void SendIdentification() override {}
@@ -86,8 +89,8 @@ class StationRooms final : public TickActions,
   void PollGps() override {}
   void RunReceivePass() override;
   void RunChatPass() override {}
-  void SendObjectReport() override {}
-  void SendBeacon() override {}
+  void SendObjectReport() override { transmit_.SendObjectReport(); }
+  void SendBeacon() override { transmit_.SendBeacon(); }
 
   // The start; the ionosphere update serves the tick too.
   void ReadConfig() override;
@@ -96,7 +99,7 @@ class StationRooms final : public TickActions,
   void ScanMapLibrary() override;
   void LoadHistory() override;
   void OpenLocalEngine() override;
-  void OpenSerialModem() override {}
+  void OpenSerialModem() override { transmit_.OpenSerialModem(); }
   bool ConnectAgw() override;
   void OpenGpsPort() override {}
   void RestoreTracksPlacesAndChat() override;
@@ -104,19 +107,23 @@ class StationRooms final : public TickActions,
   void StartIonoUpdate() override {}
   void SetLabels() override;
   void ShowAndDrawMap() override;
-  void RunTerminalHandler() override {}
+  void RunTerminalHandler() override { transmit_.RunTerminalHandler(); }
 
   // The stop.
   void CloseSound() override {}
   void StopPageLoading() override {}
   void StopPicturePanel() override { pictures_.ClosePicture(); }
   void CloseLocalEngine() override;
-  void LeaveSerialModem() override {}
+  void LeaveSerialModem() override { transmit_.LeaveSerialModem(); }
   void DisconnectAgw() override;
   void ClosePorts() override;
   void WriteNavigationFiles() override {}
   void MergeConfigAtExit() override;
   void DeleteRunFiles() override;
+
+  // What TX SETUP asks for when it is confirmed; markers and labels serve the start too.
+  void RefreshStatusLine() override { cycle_.RenewStatusLine(); }
+  void ReopenLocalEngine() override;
 
   // What rooms ask of each other.
   void MapRedraw() override;
@@ -183,6 +190,7 @@ class StationRooms final : public TickActions,
 
   MainCycle cycle_;
   RawListSearch raw_search_;
+  TransmitRooms transmit_;
 
  public:
   MainCycle& Cycle() { return cycle_; }

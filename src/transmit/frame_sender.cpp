@@ -7,6 +7,7 @@
 namespace zepril {
 
 void FrameSender::SendFrame(std::string_view text, SecondMode second_mode) {
+  if (HeldBack && HeldBack()) return;
   const auto mode = static_cast<RadioMode>(radio_.RadioMode);
   switch (mode) {
     case RadioMode::AgwLocal:

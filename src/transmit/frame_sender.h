@@ -4,6 +4,7 @@
 // business. After each frame the program stands still for 0.8 s.
 #pragma once
 
+#include <functional>
 #include <string_view>
 
 #include "core/state/radio.h"
@@ -34,6 +35,8 @@ class FrameSender {
       : radio_(radio), transmission_(transmission), tools_(tools) {}
 
   void SendFrame(std::string_view text, SecondMode second_mode = SecondMode::SwitchOff);
+  // True while the operator talks to the modem himself: nothing is sent. May be empty.
+  std::function<bool()> HeldBack;
 
  private:
   void ToLocalEngine(std::string_view text);

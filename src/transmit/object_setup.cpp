@@ -32,6 +32,9 @@ ObjectSetup::ObjectSetup(TransmissionState& transmission, MapViewState& view,
   controls_.ObjectOk.Click = [this] { Apply(); };
   controls_.Command31.Click = [this] { Delete(); };
   controls_.Command32.Click = [this] { Cancel(); };
+  controls_.ObjectSymbolDown.RepeatMs = kRepeatMs;
+  controls_.ObjectSymbolUp.RepeatMs = kRepeatMs;
+  controls_.ObjectOverlayField.Change = [this] { ShowSymbol(); };
   controls_.ObjectSymbolDown.Click = [this] { StepSymbol(-1); };
   controls_.ObjectSymbolUp.Click = [this] { StepSymbol(+1); };
 }
@@ -67,6 +70,7 @@ void ObjectSetup::StepSymbol(int direction) {
 
 void ObjectSetup::ShowSymbol() {
   controls_.ObjectSymbolName.Caption = tools_.Symbols.Name(controls_.SymbolIndex);
+  tools_.Preview.Show(controls_.SymbolIndex, OverlayOf(controls_.ObjectOverlayField.Text));
 }
 
 // Text, symbol and place; the name is the caller's.

@@ -8,6 +8,7 @@
 #include "core/state/transmission.h"
 #include "core/symbol_table.h"
 #include "core/timer.h"
+#include "transmit/symbol_preview.h"
 #include "transmit/tx_switches.h"
 
 namespace zepril {
@@ -16,6 +17,7 @@ struct ObjectSetupTools {
   MapActions& Map;
   SettingsActions& Settings;
   const SymbolTable& Symbols;
+  SymbolPreview& Preview;
   TxSwitches& Switches;
   Timer& Timer1;
   Timer& Timer2;

@@ -13,7 +13,7 @@ namespace {
 constexpr std::ptrdiff_t kLongestComment = 63;
 constexpr std::ptrdiff_t kOverlayPosition = 10;
 constexpr int kInfoLines = 6;
-constexpr int kLongestFileLines = 100000;  // a file that another program writes may be anything
+constexpr std::size_t kReadOfFile = 4U << 20;  // bytes; what another program writes may be anything
 constexpr double kMetresPerKm = 1000.0;
 constexpr std::int64_t kHourSeconds = 3600;
 
@@ -34,13 +34,15 @@ bool IsBraced(std::string_view text) {
 
 // The longest line of the file, the first of equals, without control characters.
 std::string LongestLine(const std::string& path, const Files& files) {
+  const std::string text = files.ReadRange(path, 0, kReadOfFile).value_or(std::string());
   std::string longest;
-  int lines = 0;
-  files.ReadLines(path, [&](std::string_view line) {
-    const std::string_view trimmed = Trim(line);
-    if (trimmed.size() > longest.size()) longest = trimmed;
-    return ++lines < kLongestFileLines;
-  });
+  std::string_view rest = text;
+  while (!rest.empty()) {
+    const std::size_t end = std::min(rest.find_first_of("\r\n"), rest.size());
+    const std::string_view line = Trim(rest.substr(0, end));
+    if (line.size() > longest.size()) longest = line;
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+  }
   std::erase_if(longest, [](char c) { return static_cast<unsigned char>(c) < 32; });
   return longest;
 }

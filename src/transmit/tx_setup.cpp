@@ -4,12 +4,12 @@
 
 #include "core/baud_mode.h"
 #include "core/text_fields.h"
-#include "links/setup_sequences.h"
 
 namespace zepril {
 namespace {
 
 constexpr std::array<const char*, 5> kSpeeds{"300R", "300", "1200", "9600", "19200"};
+constexpr std::array<const char*, 5> kSpeedCaptions{"RPR 300", "300", "1200", "9600", "19200"};
 constexpr std::array<const char*, TxSetupControls::kQuick> kQuickPaths{
     "WIDE1-1", "WIDE2-1", "WIDE2-2", "RELAY", "ECHO", "GATE"};
 constexpr int kLongestInterval = 60;
@@ -51,6 +51,11 @@ void TxSetup::BindFields() {
   controls_.TxIntervalDown.Click = [&interval] {
     interval.Text = SteppedInterval(interval.Text, -1);
   };
+  for (Button* held : {&controls_.TxIntervalUp, &controls_.TxIntervalDown, &controls_.SymbolDown,
+                       &controls_.SymbolUp}) {
+    held->RepeatMs = kRepeatMs;
+  }
+  controls_.TxOverlayField.Change = [this] { ShowSymbol(); };
   controls_.SymbolDown.Click = [this] { StepSymbol(-1); };
   controls_.SymbolUp.Click = [this] { StepSymbol(+1); };
 }
@@ -83,6 +88,7 @@ void TxSetup::BindPath() {
 
 void TxSetup::BindSpeeds() {
   for (std::size_t at = 0; at < kSpeeds.size(); ++at) {
+    controls_.Speeds[at].Caption = kSpeedCaptions[at];
     controls_.Speeds[at].Click = [this, at] { ShowSpeeds(WithSpeed(ShownSpeeds(), kSpeeds[at])); };
   }
   controls_.CrossUp.Click = [this] { ShowSpeeds(WithSecondModeStepped(ShownSpeeds(), +1)); };
@@ -97,6 +103,7 @@ void TxSetup::StepSymbol(int direction) {
 
 void TxSetup::ShowSymbol() {
   controls_.SymbolName.Caption = tools_.Symbols.Name(controls_.SymbolIndex);
+  tools_.Preview.Show(controls_.SymbolIndex, OverlayOf(controls_.TxOverlayField.Text));
 }
 
 void TxSetup::RecallInfo(std::size_t button) {
@@ -148,7 +155,7 @@ void TxSetup::HfDualClicked() {
 // ---- Opening --------------------------------------------------------------------------------
 
 void TxSetup::Open() {
-  if (controls_.Frame4.Visible) return;
+  if (controls_.Frame4.Visible || !transmit_.Check6.Enabled) return;
   tools_.Timer1.Stop();
   tools_.Timer2.Stop();
   FillStation();
@@ -168,8 +175,8 @@ void TxSetup::FillStation() {
     controls_.PathMemory[at].ToolTip = own.TxPathMemory[at];
   controls_.TxInterval.Text = IntervalText(WholeNumber(own.TxIntervalMinutes));
   controls_.SymbolIndex = own.TxSymbolIndex;
-  ShowSymbol();
   controls_.TxOverlayField.Text = own.TxOverlay;
+  ShowSymbol();
   controls_.TxTimestampBox.Value = own.TxTimestamp;
   transmit_.Check15.Value = sections_.Internet.IGateOn;
 }
@@ -203,6 +210,9 @@ void TxSetup::ShowByMode() {
   controls_.CrossUp.Visible = tnc;
   controls_.CrossDown.Visible = tnc;
   controls_.DigiBox.Visible = level || mode == RadioMode::AgwLocal || mode == RadioMode::Pk232;
+  // The other interfaces know 300 and 1200 Bd only.
+  for (const std::size_t scs_only : {std::size_t{0}, std::size_t{3}, std::size_t{4}})
+    controls_.Speeds[scs_only].Visible = level;
 }
 
 void TxSetup::Abort() {
@@ -221,12 +231,12 @@ void TxSetup::ApplyTxSetup() {
   // Interval, destination, path, symbol, lines, memories.
   TakeStation();
   TakeLines();
-  controls_.TxOk.Caption = "...";
+  ShowWorking(true);
   // The radio, the title, the file.
   ProgramRadio();
   tools_.Actions.ShowTitleMarkers();
   tools_.Settings.WriteConfigFromMainWindow();
-  controls_.TxOk.Caption = "OK";
+  ShowWorking(false);
   controls_.Frame4.Visible = false;
   // The TX switch by the new interval.
   tools_.Switches.ShowInterval();
@@ -237,6 +247,13 @@ void TxSetup::ApplyTxSetup() {
   tools_.Actions.SetLabels();
   sections_.Transmission.LastBeaconTime = 0;
   tools_.Timer1.Enable();
+}
+
+// Events come in between: nothing is confirmed twice.
+void TxSetup::ShowWorking(bool working) {
+  controls_.TxOk.Caption = working ? "..." : "OK";
+  controls_.TxOk.Enabled = !working;
+  controls_.TxAbort.Enabled = !working;
 }
 
 void TxSetup::TakeRadio() {
@@ -282,8 +299,7 @@ void TxSetup::TakeLines() {
 
 void TxSetup::ProgramRadio() {
   if (ModeOf(sections_.Radio) == RadioMode::AgwLocal) return tools_.Actions.ReopenLocalEngine();
-  RunModemScript(ApplyTxSetupScript({sections_.Identity, sections_.Radio, sections_.Transmission}),
-                 tools_.Modem, tools_.LocalClock);
+  tools_.Modem.Program(tools_.LongWork);
 }
 
 }  // namespace zepril

@@ -6,6 +6,7 @@
 
 #include "core/actions/settings_actions.h"
 #include "core/main_window_controls.h"
+#include "core/progress.h"
 #include "core/state/identity.h"
 #include "core/state/internet.h"
 #include "core/state/radio.h"
@@ -13,9 +14,8 @@
 #include "core/state/transmission.h"
 #include "core/symbol_table.h"
 #include "core/timer.h"
-#include "links/modem_script.h"
-#include "platform/clock.h"
-#include "platform/serial_port.h"
+#include "links/serial_modem.h"
+#include "transmit/symbol_preview.h"
 #include "transmit/tx_setup_rules.h"
 #include "transmit/tx_switches.h"
 
@@ -45,9 +45,10 @@ struct TxSetupTools {
   TxSetupActions& Actions;
   SettingsActions& Settings;
   TxSwitches& Switches;
-  SerialPort& Modem;
-  Clock& LocalClock;
+  SerialModem& Modem;
+  Progress& LongWork;
   const SymbolTable& Symbols;
+  SymbolPreview& Preview;
   Timer& Timer1;
   Timer& Timer2;
 };
@@ -74,6 +75,7 @@ class TxSetup {
   void FillLines();
   void FillRadio();
   void ShowByMode();
+  void ShowWorking(bool working);
   void TakeRadio();
   void TakeStation();
   void TakeLines();

@@ -1,7 +1,9 @@
 // A serial line played by the test.
 #pragma once
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/serial_port.h"
@@ -19,7 +21,9 @@ class FakeSerial final : public SerialPort {
   void Close() override { open_ = false; }
   bool IsOpen() const override { return open_; }
   void Write(std::string_view bytes) override {
-    if (open_) Written += bytes;
+    if (!open_) return;
+    Written += bytes;
+    if (OnWrite) OnWrite(bytes);
   }
   std::string ReadAll() override {
     if (!open_) return {};
@@ -32,12 +36,19 @@ class FakeSerial final : public SerialPort {
   }
   std::size_t BytesToWrite() const override { return open_ ? Waiting : 0; }
 
+  // Pulled out; as long as `Absent` stays it can't be opened again.
+  void Vanish() {
+    open_ = false;
+    Absent = true;
+  }
+
   bool Absent = false;
   std::string Device;
   int Baud = 0;
   std::string Written;
   std::size_t Waiting = 0;  // bytes not yet taken by the line
   std::vector<std::string> Reads;
+  std::function<void(std::string_view)> OnWrite;
 
  private:
   bool open_ = false;

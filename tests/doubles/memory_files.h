@@ -21,9 +21,13 @@ class MemoryFiles final : public Files {
     if (found == Contents.end() || found->second.size() > limit) return std::nullopt;
     return found->second;
   }
-  std::optional<std::string> ReadRange(const std::string&, std::int64_t,
-                                       std::size_t) const override {
-    return std::nullopt;
+  std::optional<std::string> ReadRange(const std::string& path, std::int64_t offset,
+                                       std::size_t length) const override {
+    const auto found = Contents.find(path);
+    if (found == Contents.end() || Unreadable(path) || offset < 0) return std::nullopt;
+    const std::string& text = found->second;
+    const auto from = std::min(static_cast<std::size_t>(offset), text.size());
+    return text.substr(from, length);
   }
   bool ReadLines(const std::string& path, const LineReader& line) const override {
     const auto found = Contents.find(path);

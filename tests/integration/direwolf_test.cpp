@@ -1,23 +1,20 @@
 // The station against a real packet engine: direwolf decodes the sound of made packets, the station
-// is connected to it over TCP, and what was heard is read back from its log.
+// is connected to it over TCP, and what was heard is read back from its log. In the other direction
+// the sound of what the station sends is decoded and compared.
 #include <gtest/gtest.h>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <QApplication>
 #include <QtTest/QTest>
 
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "core/text_fields.h"
 #include "desktop/desktop_program.h"
+#include "links/agw_local.h"
 #include "platform/absent_devices.h"
 #include "platform/native/native_files.h"
 #include "platform/qt/qt_loop.h"
@@ -26,7 +23,8 @@
 #include "tests/doubles/recorder_surface.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/temp_folder.h"
-#include "tests/integration/child_process_support.h"
+#include "tests/integration/engine_support.h"
+#include "transmit/position_beacon.h"
 
 namespace zepril {
 namespace {
@@ -42,81 +40,50 @@ class NoDesktop final : public DesktopActions {
   bool MovePointerOnMap(int, int) override { return false; }
 };
 
-std::string ReadWhole(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
-// direwolf with two channels, fed with sound through a pipe.
-class Engine {
- public:
-  explicit Engine(const TempFolder& folder) : folder_(folder), Port(FreePort()) {
-    std::ofstream(folder.Sub("engine.conf"))
-        << "ADEVICE stdin null\nARATE 44100\nACHANNELS 2\n"
-           "CHANNEL 0\nMYCALL N0DW\nMODEM 1200\nCHANNEL 1\nMYCALL N0DW\nMODEM 1200\n"
-        << "AGWPORT " << WholeNumber(Port) << "\nKISSPORT 0\n";
-    const std::string pipe = folder.Sub("sound");
-    EXPECT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
-    // Held open for writing too, so that the engine never sees an end.
-    sound_ = ::open(pipe.c_str(), O_RDWR | O_CLOEXEC);
-    child_ = std::make_unique<ChildProcess>(
-        std::vector<std::string>{"direwolf", "-t", "0", "-d", "a", "-c", folder.Sub("engine.conf"),
-                                 "-"},
-        sound_, folder.Sub("engine.log"));
-  }
-  ~Engine() {
-    child_->End();
-    ::close(sound_);
-  }
-  Engine(const Engine&) = delete;
-  Engine& operator=(const Engine&) = delete;
-
-  bool Runs() { return child_->Runs(); }
-  void End() { child_->End(); }
-  std::string Log() const { return ReadWhole(folder_.Sub("engine.log")); }
-
-  // The packet's sound on channel 1, with a pause behind it.
-  void Play(const std::string& packet) {
-    std::ofstream(folder_.Sub("packet"), std::ios::binary) << packet;
-    const std::string wav = folder_.Sub("packet.wav");
-    const std::string command = "gen_packets -r 44100 -o '" + wav + "' - <'" +
-                                folder_.Sub("packet") + "' >'" + folder_.Sub("gen.log") + "' 2>&1";
-    ASSERT_EQ(std::system(command.c_str()), 0) << packet;
-    constexpr std::size_t kWavHeader = 44;
-    constexpr std::size_t kPause = 44100 / 5;
-    const std::string samples = ReadWhole(wav).substr(kWavHeader);
-    std::string stereo;
-    for (std::size_t at = 0; at + 1 < samples.size(); at += 2) {
-      stereo.append(2, '\0');
-      stereo += samples.substr(at, 2);
-    }
-    stereo.append(4 * kPause, '\0');
-    for (std::size_t at = 0; at < stereo.size();) {
-      const ssize_t written = ::write(sound_, stereo.data() + at, stereo.size() - at);
-      ASSERT_GT(written, 0);
-      at += static_cast<std::size_t>(written);
-    }
-  }
-
- private:
-  const TempFolder& folder_;
-  int sound_ = -1;
-  std::unique_ptr<ChildProcess> child_;
-
- public:
-  const int Port;
-};
-
-class DirewolfTest : public ::testing::Test {
+// An engine that runs, and a loop.
+class EngineTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    for (const char* peer : {"direwolf", "gen_packets"}) {
-      if (!IsInstalled(peer)) GTEST_SKIP() << peer << " (package direwolf) is not installed";
-    }
+    const std::string missing = MissingOfTheEngine();
+    if (!missing.empty()) GTEST_SKIP() << missing << " (package direwolf) is not installed";
     engine = std::make_unique<Engine>(folder);
     ASSERT_TRUE(Until([this] { return !engine->Runs() || Listens(engine->Port); }))
         << engine->Log();
     ASSERT_TRUE(engine->Runs()) << engine->Log();
+  }
+  // Serves the sockets until `reached`; false when that lasts too long.
+  template <typename Condition>
+  bool Until(Condition reached) {
+    const double end = loop.MonotonicSeconds() + kPatience;
+    while (!reached()) {
+      if (loop.MonotonicSeconds() > end) return false;
+      loop.Wait(0.02);
+    }
+    return true;
+  }
+  // All that was on the air, as soon as it is this many packets.
+  std::vector<OnAir> OnAirWhen(std::size_t packets) {
+    std::vector<OnAir> decoded;
+    Until([&] {
+      decoded = engine->Transmitted();
+      return decoded.size() >= packets;
+    });
+    return decoded;
+  }
+
+  TempFolder folder;
+  NativeFiles files{folder.Path()};
+  QtLoop loop;
+  ScriptedDialogs dialogs;
+  QtSocket socket;
+  std::unique_ptr<Engine> engine;
+};
+
+class DirewolfTest : public EngineTest {
+ protected:
+  void SetUp() override {
+    EngineTest::SetUp();
+    if (IsSkipped() || HasFatalFailure()) return;
     files.MakeFolder(kFolder);
     files.Write(std::string(kFolder) + "\\ZEPRIL.INI",
                 "USER=QX7KB\r\nMSYS=U33\r\nUMAPS=C:\\ZEPRIL\\U33\r\nTEMP=C:\\ZEPRIL\\TEMP\r\n"
@@ -129,21 +96,11 @@ class DirewolfTest : public ::testing::Test {
                         sun_surface, tx_symbol_surface, object_symbol_surface});
   }
 
-  // Serves the sockets until `reached`; false when that lasts too long.
-  template <typename Condition>
-  bool Until(Condition reached) {
-    const double end = loop.MonotonicSeconds() + kPatience;
-    while (!reached()) {
-      if (loop.MonotonicSeconds() > end) return false;
-      loop.Wait(0.02);
-    }
-    return true;
-  }
   // The tick comes when the test says so, not every six seconds.
   void Tick() { loop.RunStep(program->Timer1().Elapsed); }
   // Plays, waits for the engine to hand the frame over, and lets one tick take it.
   void Hear(const std::string& packet) {
-    engine->Play(packet);
+    ASSERT_TRUE(engine->Play(packet)) << packet;
     ASSERT_TRUE(Until([this] { return !program->State().Radio.AgwRxBuffer.empty(); }))
         << packet << "\n"
         << engine->Log();
@@ -158,19 +115,13 @@ class DirewolfTest : public ::testing::Test {
     return records;
   }
 
-  TempFolder folder;
-  NativeFiles files{folder.Path()};
-  QtLoop loop;
-  ScriptedDialogs dialogs;
   NoDesktop desktop;
-  QtSocket socket;
   AbsentSerialPort modem;
   RecorderSurface map_surface{800, 600};
   RecorderSurface base_surface{800, 600};
   RecorderSurface sun_surface{361, 91};
   RecorderSurface tx_symbol_surface{22, 22};
   RecorderSurface object_symbol_surface{22, 22};
-  std::unique_ptr<Engine> engine;
   std::unique_ptr<StationProgram> program;
 };
 
@@ -224,7 +175,7 @@ TEST_F(DirewolfTest, TheWholeProgramHearsItFromTheStartWindowOn) {
   QTest::keyClick(whole.Starting()->findChild<QWidget*>(QStringLiteral("Text8")), Qt::Key_Return);
   ASSERT_NE(whole.Window(), nullptr) << engine->Log();
   StationProgram& station = *whole.Station();
-  engine->Play("N0CALL>APRS,QX0DIG*:=5230.00N/01324.00E>Test");
+  ASSERT_TRUE(engine->Play("N0CALL>APRS,QX0DIG*:=5230.00N/01324.00E>Test"));
   ASSERT_TRUE(QTest::qWaitFor([&] { return !station.State().Radio.AgwRxBuffer.empty(); },
                               static_cast<int>(kPatience * 1000)))
       << engine->Log();
@@ -237,6 +188,103 @@ TEST_F(DirewolfTest, TheWholeProgramHearsItFromTheStartWindowOn) {
   whole.Window()->close();
   EXPECT_TRUE(QTest::qWaitFor([&] { return ended; }, static_cast<int>(kPatience * 1000)));
   ::unsetenv("ZEPRIL_DRIVE_C");
+}
+
+// ---- What is sent ----------------------------------------------------------------------------
+
+class NoProgram final : public ProgramActions {
+ public:
+  void EndProgram() override {}
+};
+
+// The rooms through which a report goes out by an engine.
+class SendingTest : public EngineTest {
+ protected:
+  SendingTest() {
+    state.Identity.MyCall = "QX7KB";
+    state.Identity.MySsid = "10";
+    state.Identity.MyCallFull = "QX7KB-10";
+    state.Map.OwnNorthKm = 5395.276;
+    state.Map.OwnEastKm = -10.523;
+    state.Transmission.TxPath = "WIDE1-1,WIDE2-1";
+    state.Transmission.TxSymbolIndex = 30;
+    state.Transmission.InfoLine[0] = "Test";
+    state.Transmission.InfoLineActive = {1, 0, 0, 0, 0, 0};
+  }
+  void ConnectRemote(const std::string& baud_mode) {
+    state.Radio.RadioMode = static_cast<int>(RadioMode::AgwRemote);
+    state.Radio.BaudMode = baud_mode;
+    state.Radio.AgwHost = "127.0.0.1";
+    state.Radio.AgwTcpPort = WholeNumber(engine->Port);
+    remote.emplace(state.Radio, state.Identity, state.Transmission, socket, loop, dialogs, nobody,
+                   reopen);
+    ASSERT_TRUE(remote->ConnectAgw()) << engine->Log();
+    MakeBeacon();
+  }
+  void ConnectLocal(const std::string& baud_mode) {
+    state.Radio.RadioMode = static_cast<int>(RadioMode::AgwLocal);
+    state.Radio.BaudMode = baud_mode;
+    remote.emplace(state.Radio, state.Identity, state.Transmission, unused, loop, dialogs, nobody,
+                   unused_timer);
+    local.UsePort(engine->Port);
+    ASSERT_TRUE(local.AGWStartPoll("ZEPRIL", state.Identity.MyCallFull)) << engine->Log();
+    MakeBeacon();
+  }
+  void MakeBeacon() {
+    sender.emplace(state.Radio, state.Transmission, FrameSenderTools{local, *remote, modem, loop});
+    beacon.emplace(
+        BeaconSections{state.Identity, state.Transmission, state.Map, state.Gps, state.Settings},
+        BeaconTools{*sender, symbols, files, loop, controls.Window, controls.Map});
+  }
+
+  RuntimeState state;
+  MainWindowControls controls;
+  SymbolTable symbols;
+  NoProgram nobody;
+  AbsentSerialPort modem;
+  QtSocket unused;
+  Timer reopen{kReopenMilliseconds};
+  Timer unused_timer{kReopenMilliseconds};
+  AgwLocal local{state.Radio, socket, loop, reopen};
+  std::optional<AgwLink> remote;
+  std::optional<FrameSender> sender;
+  std::optional<PositionBeacon> beacon;
+};
+
+TEST_F(SendingTest, ARemoteEnginePutsTheReportOnTheAir) {
+  ConnectRemote("1200");
+  beacon->SendPositionBeacon();
+  EXPECT_EQ(OnAirWhen(1),
+            (std::vector<OnAir>{{1, "QX7KB-10>ZEPR,WIDE1-1,WIDE2-1:=4830.15N/00805.20E> Test"}}))
+      << engine->Log();
+  // Another speed keeps the engine's port but for 300 Bd; an empty path is no path.
+  state.Radio.BaudMode = "9600";
+  state.Transmission.TxPath.clear();
+  state.Transmission.TxDestination = "APRS";
+  beacon->SendPositionBeacon();
+  EXPECT_EQ(OnAirWhen(2).back(), (OnAir{1, "QX7KB-10>APRS:=4830.15N/00805.20E> Test"}))
+      << engine->Log();
+  state.Radio.BaudMode = "300R";
+  state.Transmission.InfoLine[0].clear();
+  beacon->SendPositionBeacon();
+  EXPECT_EQ(OnAirWhen(3).front(), (OnAir{0, "QX7KB-10>APRS:=4830.15N/00805.20E>"}))
+      << engine->Log();
+  remote->DisconnectAgw();
+}
+
+TEST_F(SendingTest, ALocalEnginePutsTheReportOnTheAir) {
+  ConnectLocal("1200");
+  beacon->SendPositionBeacon();
+  EXPECT_EQ(OnAirWhen(1),
+            (std::vector<OnAir>{{1, "QX7KB-10>ZEPR,WIDE1-1,WIDE2-1:=4830.15N/00805.20E> Test"}}))
+      << engine->Log();
+  // Every other speed goes out on the first port.
+  state.Radio.BaudMode = "9600";
+  state.Transmission.TxPath.clear();
+  beacon->SendPositionBeacon();
+  EXPECT_EQ(OnAirWhen(2).front(), (OnAir{0, "QX7KB-10>ZEPR:=4830.15N/00805.20E> Test"}))
+      << engine->Log();
+  local.AGWClose();
 }
 
 }  // namespace

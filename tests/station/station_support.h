@@ -6,9 +6,9 @@
 
 #include "core/text_fields.h"
 #include "links/agw_frame.h"
-#include "platform/absent_devices.h"
 #include "platform/native/native_files.h"
 #include "station/station_program.h"
+#include "tests/doubles/fake_serial.h"
 #include "tests/doubles/fake_socket.h"
 #include "tests/doubles/recorder_surface.h"
 #include "tests/doubles/scripted_dialogs.h"
@@ -90,7 +90,7 @@ class StationHarness {
   ScriptedDialogs dialogs;
   FakeDesktop desktop;
   FakeSocket socket;
-  AbsentSerialPort modem;
+  FakeSerial modem;
   RecorderSurface map_surface{800, 600};
   RecorderSurface base_surface{800, 600};
   RecorderSurface sun_surface{361, 91};

@@ -17,13 +17,15 @@ class ObjectSetupTest : public ::testing::Test {
   void Open() { world.Controls.Transmit.Check18.RightClick(); }
 
   TransmitWorld world;
-  ObjectSetup setup{
-      world.State.Transmission,
-      world.State.Map,
-      world.Controls.ObjectSetup,
-      world.Controls.Map,
-      world.Controls.Transmit,
-      {world.Actions, world.Actions, world.Symbols, world.Switches, world.Timer1, world.Timer2}};
+  SymbolPreview preview{world.Cell, world.Controls.ObjectSetup.ObjectSymbolPicture, world.Sheets,
+                        world.Symbols};
+  ObjectSetup setup{world.State.Transmission,
+                    world.State.Map,
+                    world.Controls.ObjectSetup,
+                    world.Controls.Map,
+                    world.Controls.Transmit,
+                    {world.Actions, world.Actions, world.Symbols, preview, world.Switches,
+                     world.Timer1, world.Timer2}};
 };
 
 TEST_F(ObjectSetupTest, ItOpensWithTheTimersStopped) {

@@ -81,6 +81,13 @@ TEST(CommentField, TheLongestLineOfAFileCountsWithoutABlank) {
   EXPECT_EQ(CommentField("{C:\\WX.TXT}", files), std::string(63, 'y'));
 }
 
+TEST(CommentField, OfAHugeFileTheFirstMegabytesCount) {
+  MemoryFiles files;
+  files.Contents["C:\\WX.TXT"] =
+      "here\n" + std::string(5U << 20, '\n') + "longer, and too far behind\n";
+  EXPECT_EQ(CommentField("{C:\\WX.TXT}", files), "here");
+}
+
 TEST(CommentField, AFileThatCanNotBeReadGivesNothing) {
   MemoryFiles files;
   EXPECT_EQ(CommentField("{C:\\WX.TXT}", files), "");

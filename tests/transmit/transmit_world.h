@@ -11,9 +11,13 @@
 #include "core/actions/program_actions.h"
 #include "core/actions/settings_actions.h"
 #include "core/runtime_state.h"
+#include "links/serial_modem.h"
+#include "map/symbol_sheets.h"
 #include "tests/doubles/fake_serial.h"
 #include "tests/doubles/fake_socket.h"
 #include "tests/doubles/memory_files.h"
+#include "tests/doubles/recorded_progress.h"
+#include "tests/doubles/recorder_surface.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/virtual_clock.h"
 #include "transmit/position_beacon.h"
@@ -70,6 +74,11 @@ struct TransmitWorld {
   Timer Reopen{kReopenMilliseconds};
   MemoryFiles Disk;
   SymbolTable Symbols;
+  std::string ProgramFolder = "C:\\ZEPRIL";
+  SymbolSheets Sheets{Disk, ProgramFolder};
+  RecorderSurface Cell{kSymbolCellPixels, kSymbolCellPixels};
+  RecordedProgress LongWork;
+  SerialModem Modem{State.Identity, State.Radio, State.Transmission, {Port, Clock, Reopen}};
   AgwLink Link{State.Radio, State.Identity, State.Transmission, Socket, Clock, Boxes,
                Actions,     Reopen};
   FrameSender Sender{State.Radio, State.Transmission, {Engine, Link, Port, Clock}};

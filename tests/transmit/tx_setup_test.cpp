@@ -30,13 +30,15 @@ class TxSetupTest : public ::testing::Test {
   }
 
   TransmitWorld world;
+  SymbolPreview preview{world.Cell, world.Controls.TxSetup.SymbolPicture, world.Sheets,
+                        world.Symbols};
   ListedActions actions;
   TxSetup setup{{world.State.Identity, world.State.Radio, world.State.Transmission,
                  world.State.Internet, world.State.Reception},
                 world.Controls.TxSetup,
                 world.Controls.Transmit,
-                {actions, world.Actions, world.Switches, world.Port, world.Clock, world.Symbols,
-                 world.Timer1, world.Timer2}};
+                {actions, world.Actions, world.Switches, world.Modem, world.LongWork,
+                 world.Symbols, preview, world.Timer1, world.Timer2}};
 };
 
 // ---- Opening --------------------------------------------------------------------------------

@@ -1,0 +1,52 @@
+// The terminal window: the operator talks to the serial modem himself.
+//
+// As long as it is open the main cycle stands still: nothing is decoded, nothing is transmitted,
+// and what the modem prints is shown here only.
+#pragma once
+
+#include <string>
+
+#include "core/actions/map_actions.h"
+#include "core/main_window_controls.h"
+#include "core/state/radio.h"
+#include "core/timer.h"
+#include "platform/serial_port.h"
+
+namespace zepril {
+
+struct TerminalTools {
+  SerialPort& Port;
+  MapActions& Map;
+  Timer& Timer1;
+  Timer& Timer2;
+};
+
+class Terminal {
+ public:
+  // Beyond so many characters a field keeps only its last ones.
+  static constexpr std::size_t kLongestText = 1000;
+  static constexpr std::size_t kKeptText = 300;
+
+  // Sets the events of the panel; the button is disabled until EnableFor.
+  Terminal(TerminalControls& controls, TerminalTools tools);
+  Terminal(const Terminal&) = delete;
+  Terminal& operator=(const Terminal&) = delete;
+
+  // Only a serial modem has a terminal.
+  void EnableFor(RadioMode mode);
+  void Open();
+  void Close();
+  bool IsOpen() const { return controls_.Frame19.Visible; }
+  // The port has received something. Left alone while the terminal is closed.
+  void DataArrived();
+  // It was opened or closed; may be empty.
+  Event Changed;
+
+ private:
+  void KeyTyped(char character);
+
+  TerminalControls& controls_;
+  TerminalTools tools_;
+};
+
+}  // namespace zepril

@@ -1,0 +1,104 @@
+#include "station/transmit_rooms.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/text_fields.h"
+
+namespace zepril {
+namespace {
+
+constexpr std::uint32_t kOnTheAir = 0x4848E0;
+
+}  // namespace
+
+TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
+                             TransmitRoomsTools tools)
+    : state_(state),
+      controls_(controls),
+      tools_(tools),
+      modem_(state.Identity, state.Radio, state.Transmission,
+             {tools.Machine.MSComm1, tools.Machine.LocalClock, tools.ReopenTimer}),
+      terminal_(controls.Terminal, {tools.Machine.MSComm1, tools.Map, tools.Timer1, tools.Timer2}),
+      temporary_mode_(state.Radio, controls.Raw, controls.Terminal, tools.Machine.MSComm1),
+      sender_(
+          state.Radio, state.Transmission,
+          {tools.LocalEngine, tools.RemoteEngine, tools.Machine.MSComm1, tools.Machine.LocalClock}),
+      beacon_({state.Identity, state.Transmission, state.Map, state.Gps, state.Settings},
+              {sender_, tools.Symbols, tools.Machine.FileSystem, tools.Machine.LocalClock,
+               controls.Window, controls.Map}),
+      switches_({state.Transmission, state.Chat, state.Gps, state.Map},
+                {controls.Transmit, controls.Record}, beacon_, tools.Map),
+      tx_symbol_(tools.Machine.TxSymbolSurface, controls.TxSetup.SymbolPicture, tools.Sheets,
+                 tools.Symbols),
+      object_symbol_(tools.Machine.ObjectSymbolSurface, controls.ObjectSetup.ObjectSymbolPicture,
+                     tools.Sheets, tools.Symbols),
+      tx_setup_({state.Identity, state.Radio, state.Transmission, state.Internet, state.Reception},
+                controls.TxSetup, controls.Transmit,
+                {tools.Joins, tools.Settings, switches_, modem_, tools.LongWork, tools.Symbols,
+                 tx_symbol_, tools.Timer1, tools.Timer2}),
+      object_setup_(state.Transmission, state.Map, controls.ObjectSetup, controls.Map,
+                    controls.Transmit,
+                    {tools.Map, tools.Settings, tools.Symbols, object_symbol_, switches_,
+                     tools.Timer1, tools.Timer2}),
+      retransmission_(state.Identity, state.Radio, state.Map, controls.Record,
+                      {sender_, tools.Machine.Boxes, tools.Machine.LocalClock, tools.Timer1}) {
+  sender_.HeldBack = [this] { return terminal_.IsOpen(); };
+  modem_.DataArrived = [this] { terminal_.DataArrived(); };
+  controls_.Terminal.Command65.Click = [this] {
+    if (!modem_.IsBusy()) terminal_.Open();
+  };
+  terminal_.Changed = [this] { TerminalChanged(); };
+  controls_.Status.LinkNotice.Click = [this] { controls_.Status.LinkNotice.Visible = false; };
+  controls_.Transmit.NextBeacon.Colour = kOnTheAir;
+  controls_.Transmit.NextBeacon.Visible = false;
+}
+
+void TransmitRooms::SetMayReopen(std::function<bool()> may_reopen) {
+  modem_.MayReopen = [this, may = std::move(may_reopen)] { return !terminal_.IsOpen() && may(); };
+}
+
+void TransmitRooms::OpenSerialModem() {
+  modem_.Open();
+  terminal_.EnableFor(static_cast<RadioMode>(state_.Radio.RadioMode));
+  ShowLinkTrouble();
+}
+
+// Once, and no box: the lamp goes on telling.
+void TransmitRooms::ShowLinkTrouble() {
+  Label& notice = controls_.Status.LinkNotice;
+  notice.Caption = tools_.Machine.MSComm1.Trouble();
+  notice.Visible = !notice.Caption.empty();
+}
+
+void TransmitRooms::RunTerminalHandler() {
+  if (terminal_.IsOpen()) terminal_.Open();
+}
+
+void TransmitRooms::KeepSecondModeMonitored() {
+  RunModemScript(SecondModeScript(true), tools_.Machine.MSComm1, tools_.Machine.LocalClock);
+}
+
+// What would speak to the modem too waits until the terminal is closed.
+void TransmitRooms::TerminalChanged() {
+  const bool open = terminal_.IsOpen();
+  for (Control* control : std::initializer_list<Control*>{
+           &controls_.Transmit.Check6, &controls_.TxSetup.TxOk, &controls_.Record.Label20}) {
+    control->Enabled = !open;
+  }
+  controls_.Terminal.Command65.Enabled = !open;
+}
+
+void TransmitRooms::ShowNextBeacon() {
+  FillBar& bar = controls_.Transmit.NextBeacon;
+  const TransmissionState& own = state_.Transmission;
+  bar.Visible = controls_.Transmit.Check6.Value == 1 && own.TxIntervalMinutes > 0;
+  if (!bar.Visible) return;
+  const std::int64_t interval = 60LL * own.TxIntervalMinutes;
+  const std::int64_t gone = SecondsOf(tools_.Machine.LocalClock.Now()) - own.LastBeaconTime;
+  const std::int64_t shown = std::clamp<std::int64_t>(gone, 0, interval);
+  bar.FilledPx = static_cast<int>(shown * bar.FullWidthPx / interval);
+  bar.ToolTip = "next position report in " + WholeNumber((interval - shown + 59) / 60) + " min";
+}
+
+}  // namespace zepril

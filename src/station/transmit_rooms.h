@@ -1,0 +1,91 @@
+// The rooms that own the serial modem and that transmit, and what joins them to the running
+// program: the modem's life from start to stop, the terminal, the beacon, the object, TX SETUP.
+#pragma once
+
+#include "core/actions/map_actions.h"
+#include "core/actions/settings_actions.h"
+#include "core/main_window_controls.h"
+#include "core/progress.h"
+#include "core/runtime_state.h"
+#include "core/symbol_table.h"
+#include "core/timer.h"
+#include "links/agw_link.h"
+#include "links/agw_local.h"
+#include "links/serial_modem.h"
+#include "links/temporary_mode.h"
+#include "links/terminal.h"
+#include "map/symbol_sheets.h"
+#include "station/station_program.h"
+#include "transmit/frame_sender.h"
+#include "transmit/object_setup.h"
+#include "transmit/position_beacon.h"
+#include "transmit/retransmission.h"
+#include "transmit/symbol_preview.h"
+#include "transmit/tx_setup.h"
+#include "transmit/tx_switches.h"
+
+namespace zepril {
+
+struct TransmitRoomsTools {
+  StationPlatform& Machine;
+  AgwLink& RemoteEngine;
+  AgwLocal& LocalEngine;
+  SymbolSheets& Sheets;
+  const SymbolTable& Symbols;
+  Progress& LongWork;
+  Timer& Timer1;
+  Timer& Timer2;
+  Timer& ReopenTimer;
+  MapActions& Map;
+  SettingsActions& Settings;
+  TxSetupActions& Joins;  // what TX SETUP asks of the rest of the program
+};
+
+class TransmitRooms {
+ public:
+  TransmitRooms(RuntimeState& state, MainWindowControls& controls, TransmitRoomsTools tools);
+  TransmitRooms(const TransmitRooms&) = delete;
+  TransmitRooms& operator=(const TransmitRooms&) = delete;
+
+  // The start.
+  void OpenSerialModem();
+  void RunTerminalHandler();
+  // Captions and colours of the TX switches by the settings.
+  void ShowSwitches() { switches_.ShowInterval(); }
+  // The tick.
+  void KeepSecondModeMonitored();
+  void SendBeacon() { beacon_.SendPositionBeacon(); }
+  void SendObjectReport() { beacon_.SendObjectReport(); }
+  // How much of the time to the next report is over; after each tick.
+  void ShowNextBeacon();
+  // The stop.
+  void LeaveSerialModem() { modem_.Leave(); }
+
+  // The operator talks to the modem: the program's work stands still.
+  bool TerminalIsOpen() const { return terminal_.IsOpen(); }
+  bool ModemIsUp() const { return modem_.LinkIsUp(); }
+  // Asked before a lost modem is opened anew; set by the owner of the main cycle.
+  void SetMayReopen(std::function<bool()> may_reopen);
+
+ private:
+  void TerminalChanged();
+  void ShowLinkTrouble();
+
+  RuntimeState& state_;
+  MainWindowControls& controls_;
+  TransmitRoomsTools tools_;
+
+  SerialModem modem_;
+  Terminal terminal_;
+  TemporaryMode temporary_mode_;
+  FrameSender sender_;
+  PositionBeacon beacon_;
+  TxSwitches switches_;
+  SymbolPreview tx_symbol_;
+  SymbolPreview object_symbol_;
+  TxSetup tx_setup_;
+  ObjectSetup object_setup_;
+  Retransmission retransmission_;
+};
+
+}  // namespace zepril

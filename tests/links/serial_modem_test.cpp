@@ -1,0 +1,139 @@
+#include "links/serial_modem.h"
+
+#include <gtest/gtest.h>
+
+#include "links/agw_link.h"
+#include "tests/doubles/fake_serial.h"
+#include "tests/doubles/recorded_progress.h"
+#include "tests/doubles/virtual_clock.h"
+
+namespace zepril {
+namespace {
+
+class SerialModemTest : public ::testing::Test {
+ protected:
+  SerialModemTest() {
+    identity.MyCall = "QX7KB";
+    identity.MyCallFull = "QX7KB";
+    Use(RadioMode::Pk232);
+    clock.Drive(reopen, true);
+  }
+  void Use(RadioMode mode) { radio.RadioMode = static_cast<int>(mode); }
+
+  IdentityState identity;
+  RadioState radio;
+  TransmissionState transmission;
+  FakeSerial port;
+  VirtualClock clock;
+  Timer reopen{kReopenMilliseconds};
+  RecordedProgress progress;
+  SerialModem modem{identity, radio, transmission, {port, clock, reopen}};
+};
+
+TEST_F(SerialModemTest, ItOpensThePortOfTheMode) {
+  radio.TncPort = 2;
+  radio.TncBaud = "1200";
+  modem.Open();
+  EXPECT_EQ(port.Device, "2");
+  EXPECT_EQ(port.Baud, 1200);
+  EXPECT_EQ(port.Written, "ECHO ON\rK\r");
+  EXPECT_TRUE(modem.LinkIsUp());
+  Use(RadioMode::ScsTnc);
+  radio.ScsPort = 4;
+  radio.ScsBaud = "38400";
+  modem.Open();
+  EXPECT_EQ(port.Device, "4");
+  EXPECT_EQ(port.Baud, 38400);
+}
+
+TEST_F(SerialModemTest, AVanishedPortIsOpenedAgainWithWhatTheModemIsToldAtStart) {
+  modem.Open();
+  port.Close();
+  port.Written.clear();
+  clock.Run(9.9);
+  EXPECT_FALSE(modem.LinkIsUp());
+  clock.Run(0.2);
+  EXPECT_TRUE(modem.LinkIsUp());
+  EXPECT_EQ(port.Written, "ECHO ON\rK\r");
+}
+
+TEST_F(SerialModemTest, AnAbsentDeviceCostsNoTimeAtEachAttempt) {
+  port.Absent = true;
+  modem.Open();
+  double waited = 0.0;
+  clock.OnWait = [&](double seconds, bool) { waited += seconds; };
+  clock.Run(60.0);
+  EXPECT_EQ(waited, 0.0);
+  EXPECT_FALSE(modem.LinkIsUp());
+  port.Absent = false;
+  clock.Run(10.0);
+  EXPECT_TRUE(modem.LinkIsUp());
+}
+
+TEST_F(SerialModemTest, APortThatStandsIsLeftAlone) {
+  modem.Open();
+  port.Written.clear();
+  clock.Run(60.0);
+  EXPECT_EQ(port.Written, "");
+}
+
+TEST_F(SerialModemTest, ItIsNotOpenedWhileTheProgramSaysNo) {
+  modem.Open();
+  port.Close();
+  bool may = false;
+  modem.MayReopen = [&] { return may; };
+  clock.Run(30.0);
+  EXPECT_FALSE(modem.LinkIsUp());
+  may = true;
+  clock.Run(10.0);
+  EXPECT_TRUE(modem.LinkIsUp());
+}
+
+TEST_F(SerialModemTest, ItIsNotOpenedInTheMiddleOfAConversation) {
+  modem.Open();
+  // The line is lost in the first wait, which lets timers run.
+  bool busy = false;
+  clock.OnWait = [&](double, bool pumping) {
+    if (!pumping) return;
+    port.Close();
+    busy = modem.IsBusy();
+    modem.ReopenElapsed();
+    EXPECT_FALSE(port.IsOpen());
+  };
+  modem.Program(progress);
+  EXPECT_TRUE(busy);
+  EXPECT_FALSE(modem.IsBusy());
+}
+
+TEST_F(SerialModemTest, ProgrammingTellsHowFarItIs) {
+  modem.Open();
+  modem.Program(progress);
+  EXPECT_EQ(progress.What, "TX SETUP");
+  EXPECT_EQ(progress.Shares.front(), 0.0);
+  EXPECT_EQ(progress.Shares.back(), 1.0);
+  EXPECT_EQ(progress.Ended, 1);
+}
+
+TEST_F(SerialModemTest, TheLastDataIsNoted) {
+  modem.Open();
+  clock.Run(5.0);
+  int told = 0;
+  modem.DataArrived = [&] { ++told; };
+  port.DataArrived();
+  EXPECT_EQ(radio.LastDataSeconds, clock.MonotonicSeconds());
+  EXPECT_EQ(told, 1);
+}
+
+TEST_F(SerialModemTest, LeavingEndsTheAttemptsToo) {
+  Use(RadioMode::ScsPtc);
+  modem.Open();
+  port.Written.clear();
+  modem.Leave();
+  EXPECT_EQ(port.Written, "\x1BQ\r\x1BRESET\r");
+  port.Close();
+  clock.Run(60.0);
+  EXPECT_FALSE(modem.LinkIsUp());
+}
+
+}  // namespace
+}  // namespace zepril
