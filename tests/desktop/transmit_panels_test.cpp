@@ -244,6 +244,52 @@ TEST_F(TransmitPanelsTest, TabGoesThroughTheFieldsFromTopToBottom) {
     EXPECT_LT(place(order[at - 1]), place(order[at])) << order[at];
 }
 
+TEST_F(TransmitPanelsTest, TxSetupIsOpenedFilledInAndTaken) {
+  AskForMenu(Find<>(*window, "Check6"), false);
+  EXPECT_TRUE(Find<>(*window, "Frame4")->isVisible());
+  const auto type = [this](const char* name, const QString& text) {
+    auto* field = Find<QLineEdit>(*window, name);
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, text);
+  };
+  type("TxInterval", QStringLiteral("61"));
+  EXPECT_EQ(Find<QLineEdit>(*window, "TxInterval")->text(), QStringLiteral("MANUAL"));
+  Click("TxIntervalDown");
+  EXPECT_EQ(Find<QLineEdit>(*window, "TxInterval")->text(), QStringLiteral("60"));
+  type("TxSsid", QStringLiteral("9"));
+  Click("PathClear");
+  Click("PathQuick1");
+  Click("PathQuick2");
+  // A memory takes the line that was in last, and gives it back to another.
+  type("InfoField2", QStringLiteral("145.500 MHz"));
+  AskForMenu(Find<>(*window, "InfoMemory4"), true);
+  EXPECT_EQ(Find<>(*window, "InfoMemory4")->toolTip(), QStringLiteral("145.500 MHz"));
+  EXPECT_EQ(window->focusWidget(), Find<>(*window, "InfoField2"));
+  Click("TxOk");
+  EXPECT_FALSE(Find<>(*window, "Frame4")->isVisible());
+  EXPECT_EQ(State().Transmission.TxIntervalMinutes, 60);
+  EXPECT_EQ(State().Transmission.TxPath, "WIDE1-1,WIDE2-1");
+  EXPECT_EQ(State().Transmission.InfoLine[1], "145.500 MHz");
+  EXPECT_EQ(State().Transmission.InfoLineMemory[3], "145.500 MHz");
+  EXPECT_EQ(State().Identity.MyCallFull, "QX7KB-9");
+  EXPECT_EQ(Find<QPushButton>(*window, "Check6")->text(), QStringLiteral("TX 60"));
+}
+
+TEST_F(TransmitPanelsTest, TheObjectIsPutWhereTheMapIsMovedTo) {
+  AskForMenu(Find<>(*window, "Check18"), true);
+  auto* name = Find<QLineEdit>(*window, "ObjectNameField");
+  EXPECT_EQ(window->focusWidget(), name);
+  QTest::keyClicks(name, QStringLiteral("hut"));
+  QTest::mouseClick(Map(), Qt::LeftButton, {}, QPoint(Map()->width() - 60, 80));
+  EXPECT_TRUE(Find<>(*window, "Frame11")->isVisible());
+  Click("ObjectOk");
+  EXPECT_FALSE(Find<>(*window, "Frame11")->isVisible());
+  EXPECT_EQ(State().Transmission.ObjectName, "HUT      ");
+  EXPECT_EQ(State().Transmission.ObjectEast, State().Map.CentreEastKm);
+  EXPECT_GT(State().Transmission.ObjectEast, 391.394 + 5.0);
+}
+
 // ---- Symbols --------------------------------------------------------------------------------
 
 TEST_F(TransmitPanelsTest, TheSymbolIsShownTwiceAsLargeAndUnfiltered) {
@@ -418,6 +464,7 @@ TEST_F(TransmitPanelsTest, ASwitchThatIsOnTheAirIsRedAndTheObjectsAmber) {
 
 TEST_F(TransmitPanelsTest, TheBarFillsTowardsTheNextReport) {
   loop.RunStep([this] {
+    Controls().Transmit.NextBeacon.Visible = true;
     Controls().Transmit.NextBeacon.FilledPx = 60;
     Controls().Transmit.NextBeacon.FullWidthPx = 120;
     Controls().Transmit.NextBeacon.Colour = 0x0000FF;
