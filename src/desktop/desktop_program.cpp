@@ -111,8 +111,10 @@ void DesktopProgram::OpenMainWindow() {
     End(started);
     return;
   }
-  window_ = std::make_unique<MainWindow>(*program_, loop_, fonts_, map_surface_, base_surface_,
-                                         sun_surface_, files_);
+  window_ = std::make_unique<MainWindow>(*program_, loop_, fonts_,
+                                         WindowSurfaces{map_surface_, base_surface_, sun_surface_,
+                                                        tx_symbol_surface_, object_symbol_surface_},
+                                         files_);
   dialogs_.SetOwner(window_.get());
   desktop_.SetWindows(window_.get(), window_->Map());
   window_->Closed = [this] { End(true); };

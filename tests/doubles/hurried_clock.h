@@ -1,7 +1,15 @@
 // The program's time, some times faster than the world's: a wait of 1 s takes 50 ms at a factor of
-// 20. For programs that are played against real devices. Timers are not driven.
+// 20. For programs that are played against real devices.
+//
+// Its timers fire between waits, in the order in which they fall due, as on the virtual clock: each
+// at its second of the program's time or, on a computer that is busy, as soon as that is past.
 #pragma once
 
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+#include "core/timer.h"
 #include "platform/clock.h"
 
 namespace zepril {
@@ -29,25 +37,77 @@ class HurriedClock final : public Clock {
 
   void Wait(double seconds) override {
     Waited += seconds;
-    world_.Wait(seconds / factor_);
+    // The shortest waits are too short for the world's clock to end in time.
+    const double end = MonotonicSeconds() + seconds;
+    do {
+      world_.Wait(std::max(end - MonotonicSeconds(), 0.0) / factor_);
+    } while (MonotonicSeconds() < end);
   }
+  // Pumped timers fire in here too.
   void WaitPumping(double seconds) override {
     Waited += seconds;
-    world_.WaitPumping(seconds / factor_);
+    ServeUntil(MonotonicSeconds() + seconds, true);
   }
   void HandOver() override { world_.HandOver(); }
   std::int64_t LoopsPerSecond() override { return world_.LoopsPerSecond(); }
+
+  // A timer of the program; `pumped` ones also fire while control is handed over inside a routine.
+  void Drive(Timer& timer, bool pumped) {
+    driven_.push_back(std::make_unique<Driven>(Driven{&timer, pumped, MonotonicSeconds()}));
+    Driven& driven = *driven_.back();
+    timer.Changed = [this, &driven] { driven.Since = MonotonicSeconds(); };
+  }
+  void ForgetTimers() {
+    for (const auto& driven : driven_)
+      driven->Subject->Changed = nullptr;
+    driven_.clear();
+  }
+  // Lets the program run: whatever falls due within these seconds of its time has fired afterwards.
+  void Run(double seconds) { ServeUntil(MonotonicSeconds() + seconds, false); }
 
   // All that the program has asked to wait, in its own seconds. Unlike the time gone by it does not
   // depend on what else the computer does.
   double Waited = 0.0;
 
  private:
+  struct Driven {
+    Timer* Subject;
+    bool Pumped;
+    double Since;
+    double Due() const { return Since + Subject->IntervalMs() / 1000.0; }
+  };
+
+  Driven* NextTimer(bool pumped_only) {
+    Driven* next = nullptr;
+    for (const auto& timer : driven_) {
+      if (!timer->Subject->Enabled() || (pumped_only && !timer->Pumped)) continue;
+      if (next == nullptr || timer->Due() < next->Due()) next = timer.get();
+    }
+    return next;
+  }
+
+  void ServeUntil(double end, bool pumping) {
+    for (;;) {
+      Driven* next = NextTimer(pumping);
+      const double until = next != nullptr ? std::min(end, next->Due()) : end;
+      const double left = until - MonotonicSeconds();
+      if (left > 0.0) {
+        pumping ? world_.WaitPumping(left / factor_) : world_.Wait(left / factor_);
+      } else if (next != nullptr && next->Due() <= end) {
+        next->Since = MonotonicSeconds();
+        if (next->Subject->Elapsed) next->Subject->Elapsed();
+      } else {
+        return;
+      }
+    }
+  }
+
   Clock& world_;
   double factor_;
   double begin_;
   double begin_of_day_;
   std::int64_t begin_of_clock_;
+  std::vector<std::unique_ptr<Driven>> driven_;
 };
 
 }  // namespace zepril

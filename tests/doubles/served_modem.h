@@ -26,6 +26,9 @@ class ServedModem {
     modem_->Model().Sent = [this, name](const ModemSending& sending) {
       sent_.push_back(ModemSentLine(name, sending));
     };
+    modem_->Model().CommandCame = [this](const std::string& command) {
+      commands_.push_back(command);
+    };
     thread_ = std::thread([this] { Run(); });
   }
   ~ServedModem() {
@@ -50,6 +53,11 @@ class ServedModem {
   }
   std::vector<std::string> Sent() {
     return Ask<std::vector<std::string>>([this](PtyModem&) { return sent_; });
+  }
+  // Commands it was given since the last question.
+  std::vector<std::string> NewCommands() {
+    return Ask<std::vector<std::string>>(
+        [this](PtyModem&) { return std::exchange(commands_, {}); });
   }
   void Hear(const AirPacket& packet) {
     Ask<bool>([&](PtyModem& modem) {
@@ -87,6 +95,7 @@ class ServedModem {
 
   std::unique_ptr<PtyModem> modem_;
   std::vector<std::string> sent_;
+  std::vector<std::string> commands_;
   std::mutex mutex_;
   std::vector<std::function<void(PtyModem&)>> questions_;
   std::atomic<std::size_t> longest_{static_cast<std::size_t>(-1)};

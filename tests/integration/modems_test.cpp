@@ -8,7 +8,6 @@
 
 #include <QCoreApplication>
 
-#include <atomic>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -16,7 +15,6 @@
 #include <iterator>
 #include <memory>
 #include <string>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -32,6 +30,7 @@
 #include "platform/qt/qt_loop.h"
 #include "platform/qt/qt_serial_port.h"
 #include "reception/collector.h"
+#include "tests/doubles/babbler.h"
 #include "tests/doubles/hurried_clock.h"
 #include "tests/doubles/pseudo_terminal.h"
 #include "tests/doubles/served_modem.h"
@@ -348,28 +347,6 @@ TEST_F(ModelsTest, TheToolPlaysAFileAndReportsWhatItIsAskedToSend) {
 // ---- Against lines that misbehave -------------------------------------------------------------
 
 constexpr RadioMode kSerialModes[] = {RadioMode::Pk232, RadioMode::ScsTnc, RadioMode::ScsPtc};
-
-// Says the same again and again to whoever has the line open.
-class Babbler {
- public:
-  Babbler(PseudoTerminal& line, std::string text)
-      : thread_([this, &line, text = std::move(text)] {
-          while (!ended_) {
-            line.Heard();
-            if (line.Say(text) == 0) std::this_thread::yield();
-          }
-        }) {}
-  ~Babbler() {
-    ended_ = true;
-    thread_.join();
-  }
-  Babbler(const Babbler&) = delete;
-  Babbler& operator=(const Babbler&) = delete;
-
- private:
-  std::atomic<bool> ended_{false};
-  std::thread thread_;
-};
 
 class BadLinesTest : public ModemsTest {
  protected:

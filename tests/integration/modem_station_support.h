@@ -1,0 +1,105 @@
+// A whole station with a serial modem on a real pseudo-terminal. Its time runs faster than the
+// world's, and its timers with it.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/state/radio.h"
+#include "links/modem_script.h"
+#include "platform/native/native_files.h"
+#include "platform/qt/qt_loop.h"
+#include "platform/qt/qt_serial_port.h"
+#include "station/station_program.h"
+#include "tests/doubles/fake_socket.h"
+#include "tests/doubles/hurried_clock.h"
+#include "tests/doubles/recorder_surface.h"
+#include "tests/doubles/scripted_dialogs.h"
+#include "tests/doubles/served_modem.h"
+#include "tests/doubles/temp_folder.h"
+
+namespace zepril {
+
+inline constexpr double kTickSeconds = 6.0;
+inline constexpr double kReopenSeconds = 10.0;
+
+class DesktopOfModems final : public DesktopActions {
+ public:
+  bool MainWindowActive() const override { return false; }
+  bool WindowExists(const std::string&) const override { return false; }
+  void Open(const std::string&) override {}
+  bool MovePointerOnMap(int, int) override { return false; }
+};
+
+class ModemStation {
+ public:
+  // `extra_settings`: lines of the configuration, which count before the usual ones.
+  explicit ModemStation(RadioMode mode, const std::string& extra_settings = {}, double hurry = 40);
+  ~ModemStation();
+  ModemStation(const ModemStation&) = delete;
+  ModemStation& operator=(const ModemStation&) = delete;
+
+  static constexpr const char* kFolder = "C:\\ZEPRIL";
+
+  // What START says to the modem.
+  ModemScript SetUp() const;
+  // What the main window says when it opens the port.
+  ModemScript Opening() const;
+  // Runs START's conversation on the port.
+  void SetUpModem() { RunModemScript(SetUp(), port, clock); }
+  bool Start() { return program->Start(kFolder, 32); }
+
+  // The program runs for `seconds` of its time.
+  void Run(double seconds) { clock.Run(seconds); }
+  // Just so long that a tick has come.
+  void RunATick() { Run(kTickSeconds + 0.1); }
+  // Runs until `done`; false when that lasts too long.
+  bool RunUntil(const std::function<bool()>& done);
+  // Waits for the world while the program stands still.
+  bool Comes(const std::function<bool()>& done);
+
+  RuntimeState& State() { return program->State(); }
+  MainWindowControls& Controls() { return program->Controls(); }
+  int Records() { return program->State().Stores.MoniAllRecords.Count(); }
+  bool Switch(CheckBox& box, int value) {
+    box.Value = value;
+    box.Click();
+    return box.Value == value;
+  }
+
+  // The name by which the station knows its modem.
+  std::string Link() const { return folder.Sub("modem"); }
+
+  TempFolder folder;
+  NativeFiles files{folder.Path()};
+  QtLoop loop;
+  HurriedClock clock;
+  ScriptedDialogs dialogs;
+  DesktopOfModems desktop;
+  FakeSocket socket;
+  QtSerialPort port;
+  RecorderSurface map_surface{800, 600};
+  RecorderSurface base_surface{800, 600};
+  RecorderSurface sun_surface{361, 91};
+  RecorderSurface tx_symbol_surface{22, 22};
+  RecorderSurface object_symbol_surface{22, 22};
+  std::unique_ptr<StationProgram> program;
+
+ private:
+  RadioMode mode_;
+};
+
+// The model of the modem that belongs to `mode`, fresh from the shop.
+std::unique_ptr<ModemModel> MakeModel(RadioMode mode);
+// The same with the settings of START in it.
+std::unique_ptr<ModemModel> MakeModelSetUpBy(RadioMode mode, const ModemScript& set_up);
+
+// Name of a test by its mode.
+std::string NameOfModem(const ::testing::TestParamInfo<RadioMode>& info);
+
+}  // namespace zepril

@@ -1,0 +1,245 @@
+// The whole program with each of the three serial modems, over real pseudo-terminals: what it hears
+// from them, what they are asked to transmit, what they are set to, and what they are left in.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/text_fields.h"
+#include "tests/integration/modem_station_support.h"
+#include "tool/tnc2.h"
+
+namespace zepril {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class ModemStationTest : public ::testing::TestWithParam<RadioMode> {
+ protected:
+  RadioMode Mode() const { return GetParam(); }
+  // A modem that START has set up lies on the line.
+  void PlugIn() {
+    modem =
+        std::make_unique<ServedModem>(station.Link(), MakeModelSetUpBy(Mode(), station.SetUp()));
+    ASSERT_TRUE(modem->Stands());
+    modem->NewCommands();
+  }
+  void Unplug() { modem.reset(); }
+  void PlugInAndStart() {
+    PlugIn();
+    ASSERT_TRUE(station.Start());
+    ASSERT_TRUE(station.port.IsOpen()) << station.port.Trouble();
+    ASSERT_TRUE(station.Comes([this] { return modem->Runs(); }));
+  }
+  void Hear(const std::string& packet) { modem->Hear(ReadAirScript(packet).Packets.at(0)); }
+  // The packet is heard and becomes the newest station of the store.
+  void ExpectHeard(const std::string& call, const std::string& text) {
+    const int before = station.Records();
+    Hear(call + ">APRS,QX0DIG*,WIDE2-1:=5230." + ZeroPadded(before, 2) + "N/01324.00E>" + text);
+    ASSERT_TRUE(station.RunUntil([&] { return station.Records() > before; }));
+    const StationRecord& record = station.State().Stores.MoniAllRecords.At(before + 1);
+    EXPECT_EQ(Trim(record.Columns(33, 41)), call);
+    EXPECT_EQ(Trim(record.Columns(43, 89)), text);
+    EXPECT_EQ(Trim(record.Columns(91, 99)), "QX0DIG");
+    EXPECT_EQ(station.Records(), before + 1);
+  }
+  // What the modem was asked to transmit since the last look, as soon as it is anything.
+  Lines Sent() {
+    station.Comes([this] { return modem->Sent().size() > seen; });
+    const Lines all = modem->Sent();
+    const Lines fresh(all.begin() + static_cast<std::ptrdiff_t>(seen), all.end());
+    seen = all.size();
+    return fresh;
+  }
+  // "SENT pk232 300 QX7KB-10>ZEPR,WIDE1-1,WIDE2-1:text".
+  Lines SentLineOf(const std::string& path, const std::string& text) const {
+    return {std::string("SENT ") + Word() + " 300 QX7KB-10>" + path + ":" + text + "\n"};
+  }
+  const char* Word() const {
+    if (Mode() == RadioMode::Pk232) return "pk232";
+    return Mode() == RadioMode::ScsTnc ? "scs-tnc" : "scs-ptc";
+  }
+  LampState Lamp() const { return station.program->Lamp().State; }
+  TransmitControls& Transmit() { return station.Controls().Transmit; }
+  TerminalControls& Terminal() { return station.Controls().Terminal; }
+  void Type(const std::string& text) {
+    for (const char character : text)
+      Terminal().Text19.KeyTyped(character);
+  }
+
+  ModemStation station{GetParam()};
+  std::unique_ptr<ServedModem> modem;
+  std::size_t seen = 0;
+};
+
+INSTANTIATE_TEST_SUITE_P(EveryModem, ModemStationTest,
+                         ::testing::Values(RadioMode::Pk232, RadioMode::ScsTnc, RadioMode::ScsPtc),
+                         NameOfModem);
+
+constexpr const char* kReport = "=4830.15N/00805.20E> Test";
+
+TEST_P(ModemStationTest, AnUntouchedModemIsSetUpHeardMadeToSendAndLeft) {
+  modem = std::make_unique<ServedModem>(station.Link(), MakeModel(Mode()));
+  station.SetUpModem();
+  ASSERT_TRUE(station.Start());
+  ASSERT_TRUE(station.Comes([this] { return modem->Runs(); }));
+  EXPECT_NE(Lamp(), LampState::Lost);
+  EXPECT_FALSE(station.Controls().Status.LinkNotice.Visible);
+  ExpectHeard("QX2CD", "hello");
+  EXPECT_EQ(Lamp(), LampState::Data);
+  EXPECT_EQ(modem->Sent(), Lines{});
+
+  EXPECT_TRUE(station.Switch(Transmit().Check6, 1));
+  station.RunATick();
+  EXPECT_EQ(Sent(), SentLineOf("ZEPR,WIDE1-1,WIDE2-1", kReport));
+  // What the modem answers to it, its echo too, stands in nobody's way.
+  ExpectHeard("QX3EF", "behind the report");
+
+  modem->NewCommands();
+  station.program->Stop(true);
+  EXPECT_FALSE(station.port.IsOpen());
+  const Lines farewell = Mode() == RadioMode::Pk232    ? Lines{}
+                         : Mode() == RadioMode::ScsTnc ? Lines{"%ZL"}
+                                                       : Lines{"Q", "RESET"};
+  Lines commands;
+  EXPECT_TRUE(station.Comes([&] {
+    for (const std::string& command : modem->NewCommands())
+      commands.push_back(command);
+    return commands.size() >= farewell.size() && (Mode() == RadioMode::ScsTnc || !modem->Runs());
+  }));
+  EXPECT_EQ(commands, farewell);
+  EXPECT_EQ(modem->Sent().size(), seen);
+}
+
+TEST_P(ModemStationTest, TxSetupProgramsTheModemAndTheNextReportTakesTheNewPath) {
+  PlugInAndStart();
+  station.Switch(Transmit().Check6, 1);
+  Transmit().Check6.RightClick();
+  ASSERT_TRUE(station.Controls().TxSetup.Frame4.Visible);
+  // While the panel is open nothing goes out.
+  station.RunATick();
+  EXPECT_EQ(modem->Sent(), Lines{});
+  modem->NewCommands();
+  station.Controls().TxSetup.TxPathField.Text = "wide2-2";
+  station.Controls().TxSetup.TxDestinationField.Text = "aprs";
+  station.Controls().TxSetup.TxInterval.Text = "2";
+  station.Controls().TxSetup.TxOk.Click();
+  EXPECT_FALSE(station.Controls().TxSetup.Frame4.Visible);
+  EXPECT_EQ(Transmit().Check6.Caption, "TX 2");
+  const std::string setting = Mode() == RadioMode::ScsTnc ? "C" : "UNPROTO";
+  const std::string value = Mode() == RadioMode::Pk232 ? "APRS VIA WIDE2-2" : "APRS WIDE2-2";
+  EXPECT_TRUE(station.Comes([&] { return modem->Setting(setting) == value; }));
+  EXPECT_TRUE(modem->Runs());
+  EXPECT_NE(station.files.ReadAll("C:\\ZEPRIL\\ZEPRIL.INI", 1 << 20)->find("TXPA=WIDE2-2\r\n"),
+            std::string::npos);
+  station.RunATick();
+  EXPECT_EQ(Sent(), SentLineOf("APRS,WIDE2-2", kReport));
+  ExpectHeard("QX2CD", "hello");
+}
+
+TEST_P(ModemStationTest, TheObjectGoesOutFirstAndTheReportInTheTickBehindIt) {
+  PlugInAndStart();
+  station.Switch(Transmit().Check6, 1);
+  EXPECT_TRUE(station.Switch(Transmit().Check18, 1));
+  station.RunATick();
+  const Lines object = Sent();
+  ASSERT_EQ(object.size(), 1U);
+  const std::string begin = SentLineOf("ZEPR,WIDE1-1,WIDE2-1", ";WORKS    *").front();
+  EXPECT_EQ(object[0].substr(0, begin.size() - 1), begin.substr(0, begin.size() - 1));
+  EXPECT_TRUE(object[0].ends_with("z5230.00N/01324.00Er one lane\n")) << object[0];
+  station.Run(2 * kTickSeconds);
+  EXPECT_EQ(Sent(), SentLineOf("ZEPR,WIDE1-1,WIDE2-1", kReport));
+}
+
+TEST_P(ModemStationTest, InTheTerminalTheOperatorTalksToTheModemAndTheCycleStands) {
+  PlugInAndStart();
+  station.Switch(Transmit().Check6, 1);
+  ASSERT_TRUE(Terminal().Command65.Enabled);
+  Terminal().Command65.Click();
+  ASSERT_TRUE(Terminal().Frame19.Visible);
+  modem->NewCommands();
+  // A command in the modem's own way, and what it answers.
+  const std::string begin = Mode() == RadioMode::Pk232 ? "\x03" : "\x1B";
+  const std::string command = Mode() == RadioMode::ScsTnc ? "I" : "MYCALL";
+  Type(begin + command + "\r");
+  EXPECT_TRUE(station.Comes([&] { return InStr(Terminal().Text20.Text, "QX7KB-10") > 0; }))
+      << Terminal().Text20.Text;
+  EXPECT_EQ(modem->NewCommands(), Lines{command});
+  EXPECT_EQ(Terminal().Text19.Text, begin + command + "\r");
+  if (Mode() == RadioMode::Pk232) Type("K\r");
+  EXPECT_TRUE(station.Comes([this] { return modem->Runs(); }));
+  // What is heard is shown here only, and no report goes out.
+  Hear("QX2CD>APRS:=5231.00N/01324.00E>lost");
+  EXPECT_TRUE(station.Comes([&] { return InStr(Terminal().Text20.Text, "E>lost") > 0; }));
+  station.Run(2 * kTickSeconds);
+  EXPECT_EQ(station.Records(), 0);
+  EXPECT_EQ(modem->Sent(), Lines{});
+  // A line typed in converse is a frame.
+  Type(">by hand\r");
+  EXPECT_EQ(Sent(), SentLineOf("ZEPR,WIDE1-1,WIDE2-1", ">by hand"));
+  // Closed: the cycle goes on.
+  Terminal().Command66.Click();
+  EXPECT_FALSE(Terminal().Frame19.Visible);
+  station.RunATick();
+  EXPECT_EQ(Sent(), SentLineOf("ZEPR,WIDE1-1,WIDE2-1", kReport));
+  ExpectHeard("QX3EF", "behind the terminal");
+  EXPECT_EQ(station.Records(), 1);
+}
+
+TEST_P(ModemStationTest, AnUnpluggedModemIsFoundAgainAndToldTheSameAsAtStart) {
+  PlugInAndStart();
+  ExpectHeard("QX2CD", "before");
+  Unplug();
+  EXPECT_TRUE(station.Comes([this] { return Lamp() == LampState::Lost; }));
+  // The program goes on, and what it would send goes nowhere.
+  station.Switch(Transmit().Check6, 1);
+  station.Run(3 * kTickSeconds);
+  EXPECT_EQ(Lamp(), LampState::Lost);
+  EXPECT_TRUE(station.program->Timer1().Enabled());
+  PlugIn();
+  EXPECT_FALSE(modem->Runs() && Mode() != RadioMode::ScsTnc);
+  station.Run(kReopenSeconds + 0.1);
+  EXPECT_NE(Lamp(), LampState::Lost) << station.port.Trouble();
+  ASSERT_TRUE(station.Comes([this] { return modem->Runs(); }));
+  const Lines opening = Mode() == RadioMode::Pk232    ? Lines{"ECHO ON", "K"}
+                        : Mode() == RadioMode::ScsTnc ? Lines{}
+                                                      : Lines{"K"};
+  EXPECT_EQ(modem->NewCommands(), opening);
+  ExpectHeard("QX3EF", "after");
+  EXPECT_EQ(Lamp(), LampState::Data);
+  // The report that fell due meanwhile went nowhere; the next one comes in its time.
+  EXPECT_EQ(modem->Sent(), Lines{});
+  station.State().Transmission.LastBeaconTime = 0;
+  station.Run(2 * kTickSeconds);
+  seen = 0;
+  EXPECT_EQ(Sent(), SentLineOf("ZEPR,WIDE1-1,WIDE2-1", kReport));
+}
+
+TEST_P(ModemStationTest, AModemThatComesBackUnderAnOpenTerminalWaitsForItsEnd) {
+  PlugInAndStart();
+  Terminal().Command65.Click();
+  Unplug();
+  ASSERT_TRUE(station.Comes([this] { return !station.port.IsOpen(); }));
+  Type("nobody listens\r");
+  PlugIn();
+  station.Run(2 * kReopenSeconds);
+  EXPECT_FALSE(station.port.IsOpen());
+  EXPECT_EQ(modem->BytesTaken(), 0U);
+  Terminal().Command66.Click();
+  station.Run(kReopenSeconds + 0.1);
+  EXPECT_TRUE(station.port.IsOpen()) << station.port.Trouble();
+  ExpectHeard("QX3EF", "after");
+}
+
+}  // namespace
+}  // namespace zepril
+
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  ::testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
