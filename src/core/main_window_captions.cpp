@@ -1,5 +1,6 @@
 #include "core/main_window_captions.h"
 
+#include <array>
 #include <initializer_list>
 #include <span>
 
@@ -133,13 +134,80 @@ void SetStationToolTips(MainWindowControls& c, TipPick pick) {
   SetToolTips(rows, pick);
 }
 
+void SetTxSetupToolTips(MainWindowControls& c, TipPick pick) {
+  TxSetupControls& t = c.TxSetup;
+  const ToolTipRow rows[] = {
+      {t.TxSsid, "SSID of the own call on the air (1-15 or empty)"},
+      {t.TxDestinationField, "Destination of all frames / empty: ZEPR"},
+      {t.TxPathField, "Digipeaters, with a comma between them"},
+      {t.PathClear, "Clear the path"},
+      {t.TxInterval, "Minutes between two reports (1-60) or MANUAL"},
+      {t.TxIntervalDown, "One minute less / hold: repeats"},
+      {t.TxIntervalUp, "One minute more / hold: repeats"},
+      {t.SymbolDown, "Previous symbol / hold: repeats"},
+      {t.SymbolUp, "Next symbol / hold: repeats"},
+      {t.SymbolName, "Row of the symbol table"},
+      {t.TxOverlayField, "Character that stands in for # in numbered symbols"},
+      {t.TxTimestampBox, "Reports carry the time, once GPS has set the clock"},
+      {t.DigiBox, "Digipeater"},
+      {t.TxLevel, "Level of the modem's signal in mV (30-3000)"},
+      {t.CrossField, "Second mode of HF-DUAL and of the cross-mode digipeater"},
+      {t.CrossDown, "Step the second mode"},
+      {t.CrossUp, "Step the second mode"},
+      {t.TxOk, "Program the radio, save, the first report follows"},
+      {t.TxAbort, "Close, nothing is changed"},
+      {c.Transmit.Check15, "Hand received packets to the internet"},
+      {c.Transmit.Check2, "Listen on RPR 300 and FSK 300 in turn"},
+  };
+  SetToolTips(rows, pick);
+  for (Button& quick : t.PathQuick)
+    quick.ToolTip = pick("Append to the path");
+  for (CheckBox& active : t.fr4ta)
+    active.ToolTip = pick("This line takes its turn in the reports");
+  for (OptionButton& speed : t.Speeds)
+    speed.ToolTip = pick("Radio speed");
+}
+
+void SetTransmitToolTips(MainWindowControls& c, TipPick pick) {
+  ObjectSetupControls& o = c.ObjectSetup;
+  const ToolTipRow rows[] = {
+      {c.Transmit.Check6,
+       "TX in this interval of minutes / TX !: one report at once / Rclick: TX SETUP"},
+      {c.Transmit.NextBeacon, "Time to the next report of the own position"},
+      {c.Transmit.Check18, "Own object, while TX is on / Rclick: OBJECT SETUP"},
+      {o.ObjectNameField, "Name of the object on the air, up to nine characters"},
+      {o.ObjectTextField, "Text of the object"},
+      {o.ObjectOverlayField, "Character that stands in for # in numbered symbols"},
+      {o.ObjectSymbolDown, "Previous symbol / hold: repeats"},
+      {o.ObjectSymbolUp, "Next symbol / hold: repeats"},
+      {o.ObjectSymbolName, "Row of the symbol table"},
+      {o.ObjectOk, "The object is at the map center"},
+      {o.Command31, "No object any more / other stations are not told"},
+      {o.Command32, "Close, nothing is changed"},
+      {c.Terminal.Command65, "Terminal of the serial modem (PK 232, SCS TNC, SCS PTC)"},
+      {c.Terminal.Text19,
+       "Every key goes to the modem, Tab, Esc and Ctrl too / Alt+C closes / Shift+Tab leaves"},
+      {c.Terminal.Text20, "What the modem prints"},
+      {c.Terminal.Command66, "Close the terminal (Alt+C), the program goes on"},
+      {c.Status.LinkNotice, "Lclick closes / a text can be selected and copied"},
+      {c.Record.Label20, "Station record / Lclick: retransmit its position"},
+  };
+  SetToolTips(rows, pick);
+}
+
 void HidePanels(MainWindowControls& c) {
-  for (Control* panel : std::initializer_list<Control*>{
-           &c.Record.Frame1, &c.Picture.Frame8, &c.Transmit.Frame3, &c.Transmit.Frame7,
-           &c.Status.Text10, &c.Status.Frame12, &c.Status.Frame14, &c.Qth.Frame2,
-           &c.Palette.PalettePanel, &c.MoniAll.HeardPanel, &c.Map.PictureBase, &c.Raw.RawList,
-           &c.Status.LinkNotice, &c.Places.PoiPanel, &c.Iono.Frame18, &c.Sun.SunPanel,
-           &c.Progress.ProgressPanel}) {
+  for (Control* panel :
+       std::initializer_list<Control*>{&c.Record.Frame1,          &c.Picture.Frame8,
+                                       &c.Transmit.Frame3,        &c.Transmit.Frame7,
+                                       &c.Status.Text10,          &c.Status.Frame12,
+                                       &c.Status.Frame14,         &c.Qth.Frame2,
+                                       &c.Palette.PalettePanel,   &c.MoniAll.HeardPanel,
+                                       &c.Map.PictureBase,        &c.Raw.RawList,
+                                       &c.Status.LinkNotice,      &c.Places.PoiPanel,
+                                       &c.Iono.Frame18,           &c.Sun.SunPanel,
+                                       &c.Progress.ProgressPanel, &c.TxSetup.Frame4,
+                                       &c.ObjectSetup.Frame11,    &c.Terminal.Frame19,
+                                       &c.Terminal.Label49}) {
     panel->Visible = false;
   }
 }
@@ -148,10 +216,37 @@ void HidePanels(MainWindowControls& c) {
 void HideWhatIsNotThereYet(MainWindowControls& c) {
   for (Control* control : std::initializer_list<Control*>{
            &c.Moni1.Check22, &c.Moni1.Check27, &c.MoniAll.Check23, &c.Record.Command10,
-           &c.Record.Command41, &c.Record.Command40, &c.Transmit.Check6, &c.Transmit.Check18,
-           &c.Transmit.Check7, &c.Transmit.Check8, &c.Transmit.Check16, &c.Transmit.Check15,
-           &c.Transmit.Check2, &c.Transmit.Text2, &c.Transmit.Text3, &c.Status.IonoLabel}) {
+           &c.Record.Command41, &c.Record.Command40, &c.Transmit.Check7, &c.Transmit.Check8,
+           &c.Transmit.Check16, &c.Transmit.Text2, &c.Transmit.Text3, &c.Status.IonoLabel}) {
     control->Visible = false;
+  }
+}
+
+void SetTxSetupCaptions(TxSetupControls& t) {
+  t.Frame4.Caption = "TX SETUP / APRS PARAMETERS";
+  for (std::size_t at = 0; at < t.PathMemory.size(); ++at)
+    t.PathMemory[at].Caption = {'M', static_cast<char>('1' + at)};
+  for (std::size_t at = 0; at < t.InfoMemory.size(); ++at)
+    t.InfoMemory[at].Caption = {'M', static_cast<char>('1' + at)};
+  t.TxTimestampBox.Caption = "TX TIMESTAMP (GPS)";
+  t.DigiBox.Caption = "DIGI";
+  constexpr std::array<const char*, 5> kSpeeds{"RPR 300", "300", "1200", "9600", "19200"};
+  for (std::size_t at = 0; at < t.Speeds.size(); ++at)
+    t.Speeds[at].Caption = kSpeeds[at];
+}
+
+// Buttons that step to both sides; held, some step on.
+void SetSteppers(MainWindowControls& c) {
+  constexpr int kStepMs = 200;
+  TxSetupControls& t = c.TxSetup;
+  ObjectSetupControls& o = c.ObjectSetup;
+  for (Button* down : {&t.TxIntervalDown, &t.SymbolDown, &o.ObjectSymbolDown, &t.CrossDown})
+    down->Caption = "<";
+  for (Button* up : {&t.TxIntervalUp, &t.SymbolUp, &o.ObjectSymbolUp, &t.CrossUp})
+    up->Caption = ">";
+  for (Button* held : {&t.TxIntervalDown, &t.TxIntervalUp, &t.SymbolDown, &t.SymbolUp,
+                       &o.ObjectSymbolDown, &o.ObjectSymbolUp}) {
+    held->RepeatMs = kStepMs;
   }
 }
 
@@ -214,6 +309,15 @@ void SetInitialControls(MainWindowControls& c) {
   c.Iono.FoptDetailed.Caption = "THREE VALUES";
   c.Iono.IonoOk.Caption = "OK";
   c.Iono.IonoClose.Caption = "CLOSE";
+  c.Transmit.Check6.Caption = "TX";
+  c.Transmit.Check18.Caption = "OBJECT";
+  c.Transmit.Check15.Caption = "IGATE";
+  c.Transmit.Check2.Caption = "HF-DUAL";
+  c.ObjectSetup.ObjectOk.Caption = "OK";
+  c.Terminal.Command65.Caption = "TERMINAL";
+  c.Terminal.Command66.Caption = "CLOSE";
+  SetTxSetupCaptions(c.TxSetup);
+  SetSteppers(c);
   SetMainWindowLabels(c, 11);
 }
 
@@ -223,6 +327,14 @@ void SetMainWindowLabels(MainWindowControls& c, int language) {
   c.Places.Label14.Caption = "DELETE POINT: CLEAR TEXT  /  CREATE POINT: TYPE TEXT";
   c.Places.Command64.Caption = " POS->CENTER";
   c.Places.Command67.Caption = "OPEN LINK";
+  c.ObjectSetup.Frame11.Caption = "OBJECT SETUP: CENTER THE MAP TO THE OBJECT!";
+  c.ObjectSetup.Command31.Caption = "DELETE OBJECT";
+  c.ObjectSetup.Command32.Caption = "CANCEL";
+  for (CheckBox& active : c.TxSetup.fr4ta)
+    active.Caption = "ACTIVE";
+  c.Terminal.Label47.Caption =
+      "THIS TERMINAL WINDOW ALLOWS TO COMMUNICATE DIRECTLY WITH/VIA THE TNC. AS LONG AS IT IS HELD "
+      "OPEN, ALL NORMAL PROGRAM FUNCTIONS ARE STOPPED.";
   // Tool tips are shown with a ten in the number and stay blank without.
   const bool tool_tips = language / 10 == 1;
   const auto shown = [](const char* text) { return text; };
@@ -230,6 +342,8 @@ void SetMainWindowLabels(MainWindowControls& c, int language) {
   SetMapToolTips(c, tool_tips ? +shown : +blank);
   SetOverlayToolTips(c, tool_tips ? +shown : +blank);
   SetStationToolTips(c, tool_tips ? +shown : +blank);
+  SetTxSetupToolTips(c, tool_tips ? +shown : +blank);
+  SetTransmitToolTips(c, tool_tips ? +shown : +blank);
 }
 
 }  // namespace zepril

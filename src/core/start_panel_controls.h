@@ -7,14 +7,22 @@ namespace zepril {
 
 struct StartPanelControls {
   TextBox Text8;          // USER CALL
+  OptionButton Option1;   // PK-232
   OptionButton Option2;   // packet engine on this computer
   OptionButton Option9;   // packet engine on another computer
   OptionButton Option10;  // no radio
-  TextBox Text3;          // host name
-  TextBox Text4;          // host port
+  OptionButton Option11;  // SCS TNC
+  OptionButton Option13;  // SCS PTC
+  Label PortLabel;        // what Text3 is with this interface
+  ComboBox Text3;         // serial port, offering the devices that are there, or host name
+  Label SpeedLabel;       // what Text4 is
+  TextBox Text4;          // speed of the serial port, or host port
+  Label PortFault;        // what is wrong with the port, beside its fields
   TextBox Text5;          // MONI CALL
   TextBox Text1;          // MAPS PATH
   Button Command1;        // START
+  Label SetupText;        // what the set-up of a modem is doing
+  FillBar SetupBar;       // how far it is
   Label Fault;            // what is missing or wrong, beside its field
 };
 

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStringListModel>
@@ -14,6 +15,8 @@
 #include "desktop/corner_mark.h"
 #include "desktop/fill_bar_widget.h"
 #include "desktop/keys.h"
+#include "desktop/right_hold.h"
+#include "desktop/typed_keys.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
@@ -36,7 +39,7 @@ void ShowColours(QWidget* widget, const Control& control, const Look& look) {
   }
   QString sheet;
   const QColor back = control.BackColour ? StateShade(*control.BackColour, look) : look.Window;
-  const QColor usual = control.BackColour ? TextOn(back) : look.Text;
+  const QColor usual = control.BackColour ? StateInk(*control.BackColour, look) : look.Text;
   if (control.BackColour) sheet += QStringLiteral("background: %1;").arg(back.name());
   const QColor ink = control.ForeColour ? InkOn(*control.ForeColour, back, usual) : usual;
   sheet += QStringLiteral("color: %1;").arg(ink.name());
@@ -49,10 +52,6 @@ void ShowCommon(QWidget* widget, Control& control, Shown& shown, const Look& loo
   if (!shown.Known || shown.ToolTip != control.ToolTip) widget->setToolTip(ToQt(control.ToolTip));
   if (shown.BackColour != control.BackColour || shown.ForeColour != control.ForeColour) {
     ShowColours(widget, control, look);
-  }
-  if (control.FocusWanted) {
-    control.FocusWanted = false;
-    widget->setFocus(Qt::OtherFocusReason);
   }
   shown = {true,
            control.Visible,
@@ -70,6 +69,32 @@ QString ButtonText(const std::string& caption) {
   return CaptionText(caption).replace(QStringLiteral("&"), QStringLiteral("&&"));
 }
 
+// A modem's text: CR, LF or both end a line, what has no picture shows as the key that types it.
+QString LinesOf(const std::string& text) {
+  QString lines;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const char c = text[at];
+    if (c == '\r' || c == '\n') {
+      if (c == '\n' && at > 0 && text[at - 1] == '\r') continue;
+      lines += QLatin1Char('\n');
+    } else if (static_cast<unsigned char>(c) < ' ' && c != '\t') {
+      lines += QLatin1Char('^');
+      lines += QLatin1Char(static_cast<char>(c + '@'));
+    } else {
+      lines += ToQt(std::string_view(&c, 1));
+    }
+  }
+  return lines;
+}
+
+// Held for `repeat_ms` and each time again; 0: once, when it is let go.
+void ShowRepeat(QAbstractButton* widget, int repeat_ms) {
+  if (widget->autoRepeat() == (repeat_ms > 0)) return;
+  widget->setAutoRepeat(repeat_ms > 0);
+  widget->setAutoRepeatDelay(repeat_ms);
+  widget->setAutoRepeatInterval(repeat_ms);
+}
+
 }  // namespace
 
 void Binder::Raise(const Event& event) {
@@ -80,6 +105,7 @@ void Binder::BindCommon(QWidget* widget, Control& control, bool press_is_click) 
   watched_.push_back({widget, &control, nullptr, press_is_click});
   widget->installEventFilter(this);
   if (control.RightClick) new CornerMark(widget);
+  focus_wishes_.push_back({widget, &control});
   outs_.push_back([widget, &control, this, shown = Shown{}]() mutable {
     ShowCommon(widget, control, shown, look_);
   });
@@ -93,8 +119,15 @@ void Binder::BindKeys(QWidget* widget, std::function<void(KeyPress)> key_down) {
 
 void Binder::Bind(QAbstractButton* widget, Button& control) {
   BindCommon(widget, control);
-  connect(widget, &QAbstractButton::clicked, this, [this, &control] { Raise(control.Click); });
+  // One that repeats acts when it goes down, and not once more when it is let go.
+  connect(widget, &QAbstractButton::clicked, this, [this, &control] {
+    if (control.RepeatMs == 0) Raise(control.Click);
+  });
+  connect(widget, &QAbstractButton::pressed, this, [this, &control] {
+    if (control.RepeatMs > 0) Raise(control.Click);
+  });
   outs_.push_back([widget, &control, caption = std::string("\x01")]() mutable {
+    ShowRepeat(widget, control.RepeatMs);
     if (caption == control.Caption) return;
     caption = control.Caption;
     if (!widget->property("picture_only").toBool()) widget->setText(ButtonText(caption));
@@ -169,10 +202,34 @@ void Binder::Bind(QLineEdit* widget, TextBox& control) {
   BindKeys(widget, [&control](KeyPress key) {
     if (control.KeyDown) control.KeyDown(key);
   });
+  BindFocus(widget, control);
   outs_.push_back([widget, &control] {
     const QString text = ToQt(control.Text);
-    if (widget->text() != text) widget->setText(text);
+    if (widget->text() != text) widget->setText(text);  // the caret goes to its end
   });
+}
+
+void Binder::Bind(QPlainTextEdit* widget, TextBox& control) {
+  BindCommon(widget, control);
+  BindFocus(widget, control);
+  widget->setReadOnly(true);
+  widget->setUndoRedoEnabled(false);
+  // Presses come to the part that scrolls.
+  watched_.push_back({widget->viewport(), &control, nullptr, true});
+  widget->viewport()->installEventFilter(this);
+  new TypedKeys(widget, loop_, control);
+  outs_.push_back([widget, &control, text = std::string()]() mutable {
+    if (text == control.Text) return;
+    text = control.Text;
+    widget->setPlainText(LinesOf(text));
+    widget->moveCursor(QTextCursor::End);
+  });
+}
+
+void Binder::BindFocus(QWidget* widget, const TextBox& control) {
+  for (Watched& watched : watched_) {
+    if (watched.Widget == widget) watched.Field = &control;
+  }
 }
 
 void Binder::Bind(QComboBox* widget, ComboBox& control) {
@@ -232,6 +289,7 @@ void Binder::BindTyping(QComboBox* widget, ComboBox& control) {
 
 void Binder::Bind(QListView* widget, QStringListModel* model, ListBox& control) {
   BindCommon(widget, control);
+  new RightHold(widget, loop_, control);
   widget->setModel(model);
   connect(widget, &QListView::clicked, this, [this, &control](const QModelIndex& index) {
     control.ListIndex = index.row();
@@ -281,6 +339,44 @@ void Binder::Bind(QWidget* widget, Frame& control) {
 void Binder::ControlsOut() {
   for (const auto& out : outs_)
     out();
+  TakeFocusWishes();
+}
+
+// When all is visible that is to be.
+void Binder::TakeFocusWishes() {
+  for (const FocusWish& wish : focus_wishes_) {
+    if (!wish.Subject->FocusWanted) continue;
+    wish.Subject->FocusWanted = false;
+    if (wish.Widget) wish.Widget->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+// True: the widget itself does not get it.
+bool Binder::Released(const Watched& row, const QMouseEvent& event) {
+  const Event& click = row.Subject->Click;
+  if (!row.PressIsClick || !click || event.button() != Qt::LeftButton) return false;
+  const auto* label = qobject_cast<const QLabel*>(row.Widget);
+  const bool selects =
+      label != nullptr && label->textInteractionFlags().testFlag(Qt::TextSelectableByMouse);
+  // Whoever has just selected a text wants to copy it.
+  const bool selected = selects && label->hasSelectedText();
+  const bool of_text = qobject_cast<const QPlainTextEdit*>(row.Widget->parent()) != nullptr;
+  if (!selected) Raise(click);
+  return !selects && !of_text;
+}
+
+bool Binder::Pressed(const Watched& row, const QKeyEvent& event) {
+  const Control& control = *row.Subject;
+  if (control.RightClick && IsRightClickKey(event)) {
+    Raise(control.RightClick);
+    return true;
+  }
+  if (row.PressIsClick && control.Click && IsClickKey(event)) {
+    Raise(control.Click);
+    return true;
+  }
+  if (row.KeyDown) loop_.RunStep([&] { row.KeyDown(KeyPressOf(event)); });
+  return false;
 }
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
@@ -290,6 +386,7 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
       case QEvent::FocusIn:
         control.HasFocus = true;
+        if (row.Field != nullptr) Raise(row.Field->GotFocus);
         break;
       case QEvent::FocusOut:
         control.HasFocus = false;
@@ -299,25 +396,11 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
         Raise(control.RightClick);
         return true;
       case QEvent::MouseButtonRelease:
-        if (!row.PressIsClick || !control.Click) break;
-        if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) break;
-        Raise(control.Click);
-        return true;
-      case QEvent::KeyPress: {
-        const auto& pressed = *static_cast<QKeyEvent*>(event);
-        if (control.RightClick && IsRightClickKey(pressed)) {
-          Raise(control.RightClick);
-          return true;
-        }
-        if (row.PressIsClick && control.Click && IsClickKey(pressed)) {
-          Raise(control.Click);
-          return true;
-        }
-        if (!row.KeyDown) break;
-        const KeyPress key = KeyPressOf(pressed);
-        loop_.RunStep([&] { row.KeyDown(key); });
+        if (Released(row, *static_cast<QMouseEvent*>(event))) return true;
         break;
-      }
+      case QEvent::KeyPress:
+        if (Pressed(row, *static_cast<QKeyEvent*>(event))) return true;
+        break;
       case QEvent::Wheel:
         // A list under a scrolling hand keeps its choice.
         if (qobject_cast<QComboBox*>(watched) == nullptr || control.HasFocus) break;

@@ -14,9 +14,12 @@
 #include "platform/qt/qt_loop.h"
 
 class QAbstractButton;
+class QKeyEvent;
 class QLabel;
 class QLineEdit;
 class QListView;
+class QMouseEvent;
+class QPlainTextEdit;
 class QStringListModel;
 class QWidget;
 
@@ -33,6 +36,8 @@ class Binder final : public QObject {
   void Bind(QAbstractButton* widget, OptionButton& control);
   void Bind(QLabel* widget, Label& control);
   void Bind(QLineEdit* widget, TextBox& control);
+  // A text of several lines that takes no typing by itself.
+  void Bind(QPlainTextEdit* widget, TextBox& control);
   void Bind(QComboBox* widget, ComboBox& control);
   void Bind(QListView* widget, QStringListModel* model, ListBox& control);
   void Bind(FillBarWidget* widget, FillBar& control);
@@ -46,22 +51,33 @@ class Binder final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  // Widgets without a click signal of their own tell by the button that is let go over them.
   struct Watched {
     QObject* Widget;
     Control* Subject;
     std::function<void(KeyPress)> KeyDown;
-    bool PressIsClick;  // widgets without a click signal of their own
+    bool PressIsClick;
+    const TextBox* Field = nullptr;  // tells when it gets the focus
+  };
+  struct FocusWish {
+    QPointer<QWidget> Widget;
+    Control* Subject;
   };
 
   void BindCommon(QWidget* widget, Control& control, bool press_is_click = false);
   void BindTyping(QComboBox* widget, ComboBox& control);
   void BindKeys(QWidget* widget, std::function<void(KeyPress)> key_down);
+  void BindFocus(QWidget* widget, const TextBox& control);
   void Raise(const Event& event);
+  void TakeFocusWishes();
+  bool Released(const Watched& row, const QMouseEvent& event);
+  bool Pressed(const Watched& row, const QKeyEvent& event);
 
   QtLoop& loop_;
   const Look& look_;
   std::vector<std::function<void()>> outs_;
   std::vector<Watched> watched_;
+  std::vector<FocusWish> focus_wishes_;
 };
 
 }  // namespace zepril

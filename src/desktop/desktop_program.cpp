@@ -2,7 +2,9 @@
 
 #include <cstdlib>
 
+#include "config/ports_file.h"
 #include "map/symbol_sheets.h"
+#include "platform/qt/serial_devices.h"
 #include "platform/qt/text.h"
 #include "viewers/sun_curve.h"
 
@@ -41,8 +43,8 @@ void DesktopProgram::CloseAsOperator() {
   dialogs_.AnswerNoMore();
   if (window_) {
     window_->close();
-  } else if (program_) {
-    // The station is starting: its end follows when the start has returned.
+  } else if (program_ || (panel_ && panel_->Starting())) {
+    // The modem is set up, or the station is starting: the end follows when that has returned.
     close_asked_ = true;
   } else {
     TellEnded();
@@ -52,13 +54,22 @@ void DesktopProgram::CloseAsOperator() {
 void DesktopProgram::ShowStartWindow() {
   const char* temp = std::getenv("TEMP");
   FillProgramFolder(files_, places_);
-  panel_ = std::make_unique<StartPanel>(files_, dialogs_, places_.ProgramFolder,
-                                        temp != nullptr ? temp : "");
+  modem_.DeviceOfNumber = [this](int number) {
+    return DeviceOfPort(files_, places_.ProgramFolder, number);
+  };
+  panel_ = std::make_unique<StartPanel>(
+      StartPanelPlatform{files_, loop_, dialogs_, modem_, PresentSerialDevices},
+      places_.ProgramFolder, temp != nullptr ? temp : "");
   start_window_ = std::make_unique<StartWindow>(*panel_, loop_, fonts_);
   dialogs_.SetOwner(start_window_.get());
   loop_.ControlsOut = [this] { start_window_->ControlsOut(); };
   loop_.StepEnded = [this] {
-    if (start_asked_) OpenMainWindow();
+    if (close_asked_) {
+      start_window_->hide();
+      TellEnded();
+    } else if (start_asked_) {
+      OpenMainWindow();
+    }
   };
   panel_->Started = [this] { start_asked_ = true; };
   start_window_->Closed = [this] { CloseAsOperator(); };
@@ -100,8 +111,10 @@ void DesktopProgram::OpenMainWindow() {
     End(started);
     return;
   }
-  window_ = std::make_unique<MainWindow>(*program_, loop_, fonts_, map_surface_, base_surface_,
-                                         sun_surface_, files_);
+  window_ = std::make_unique<MainWindow>(*program_, loop_, fonts_,
+                                         WindowSurfaces{map_surface_, base_surface_, sun_surface_,
+                                                        tx_symbol_surface_, object_symbol_surface_},
+                                         files_);
   dialogs_.SetOwner(window_.get());
   desktop_.SetWindows(window_.get(), window_->Map());
   window_->Closed = [this] { End(true); };

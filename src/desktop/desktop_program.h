@@ -67,7 +67,7 @@ class DesktopProgram {
   std::unique_ptr<StationProgram> program_;
   std::unique_ptr<MainWindow> window_;
   bool start_asked_ = false;
-  bool close_asked_ = false;  // while the station starts
+  bool close_asked_ = false;  // while START is under way
   bool ending_ = false;
   bool ended_ = false;
 };

@@ -4,7 +4,20 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include "platform/code_page.h"
+
 namespace zepril {
+namespace {
+
+constexpr const char* kKeepsKeys = "keeps_keys";
+
+// The control code of a key with Ctrl: "A" to "Z", and the signs that follow "Z" in ASCII.
+std::optional<char> ControlCode(int key) {
+  if (key <= Qt::Key_At || key > Qt::Key_Underscore) return std::nullopt;
+  return static_cast<char>(key - Qt::Key_At);
+}
+
+}  // namespace
 
 KeyPress KeyPressOf(const QKeyEvent& event) {
   KeyPress key;
@@ -43,9 +56,49 @@ bool IsClickKey(const QKeyEvent& event) {
 }
 
 bool IsTypedIn(const QWidget* widget) {
+  if (widget == nullptr) return false;
   if (qobject_cast<const QLineEdit*>(widget) != nullptr) return true;
+  if (widget->property(kKeepsKeys).toBool()) return true;
   const auto* list = qobject_cast<const QComboBox*>(widget);
   return list != nullptr && list->isEditable();
+}
+
+void KeepKeysIn(QWidget* widget, bool kept) {
+  widget->setProperty(kKeepsKeys, kept);
+}
+
+std::optional<char> TypedByte(const QString& text) {
+  if (text.size() != 1) return std::nullopt;
+  const unsigned char byte = ByteOfCodePoint(text.front().unicode(), 0);
+  if (byte == 0) return std::nullopt;
+  return static_cast<char>(byte);
+}
+
+std::optional<char> TypedByte(const QKeyEvent& event) {
+  const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier);
+  const bool alt = event.modifiers().testFlag(Qt::AltModifier);
+  // Both together are AltGr, which makes characters.
+  if (alt && !ctrl) return std::nullopt;
+  switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return '\r';
+    case Qt::Key_Backspace:
+      return '\b';
+    case Qt::Key_Tab:
+      return '\t';
+    case Qt::Key_Escape:
+      return '\x1B';
+    case Qt::Key_Delete:
+      return '\x7F';
+    case Qt::Key_Backtab:
+    case Qt::Key_Insert:
+      return std::nullopt;
+    default:
+      break;
+  }
+  if (ctrl && !alt) return ControlCode(event.key());
+  return TypedByte(event.text());
 }
 
 bool IsRightClickKey(const QKeyEvent& event) {

@@ -1,9 +1,12 @@
 // Keys as the program's logic knows them.
 #pragma once
 
+#include <optional>
+
 #include "core/controls.h"
 
 class QKeyEvent;
+class QString;
 class QWidget;
 
 namespace zepril {
@@ -16,5 +19,16 @@ bool IsClickKey(const QKeyEvent& event);
 bool IsRightClickKey(const QKeyEvent& event);
 // True for a field that takes what is typed while it has the focus.
 bool IsTypedIn(const QWidget* widget);
+
+// The byte that a key gives to a terminal: its character in code page 1252, 13 Enter, 8 Backspace,
+// 9 Tab, 27 Esc, 127 Delete, 1 to 26 for a letter with Ctrl (28 to 31 for the signs behind "Z").
+// Nothing for keys without a character, for those with Alt, and for characters of no code page
+// 1252.
+std::optional<char> TypedByte(const QKeyEvent& event);
+// The same of one character.
+std::optional<char> TypedByte(const QString& text);
+// A widget that is no field is made one that takes the keys (or none any more): the window's own do
+// not act there, and the map leaves it the focus.
+void KeepKeysIn(QWidget* widget, bool kept);
 
 }  // namespace zepril

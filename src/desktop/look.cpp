@@ -63,7 +63,7 @@ QLabel[group="true"] { color: %6; font-weight: bold; font-size: 11px; }
 QLabel[dim="true"] { color: %6; }
 QPushButton, QToolButton { background: %2; color: %5; border: 1px solid %4; border-radius: 3px;
   padding: 2px 8px; min-height: 20px; }
-QToolButton { padding: 2px 4px; }
+QToolButton, QPushButton[tight="true"] { padding: 2px 4px; }
 QPushButton:hover, QToolButton:hover { border-color: %6; }
 QPushButton:pressed, QToolButton:pressed { background: %3; }
 QPushButton:checked, QToolButton:checked { background: %7; border-color: %5; font-weight: bold; }
@@ -71,7 +71,14 @@ QPushButton:focus, QToolButton:focus, QLineEdit:focus, QComboBox:focus { border:
 QPushButton:disabled, QToolButton:disabled { color: %6; }
 QLineEdit, QComboBox { background: %3; color: %5; border: 1px solid %4; border-radius: 3px;
   padding: 1px 4px; min-height: 20px; }
-QLineEdit:disabled { color: %6; background: %1; }
+QLineEdit:disabled, QComboBox:disabled { color: %6; background: %1; }
+QPushButton[on_air="true"]:checked { background: %8; color: %9; }
+QPushButton[own_object="true"]:checked { background: %10; color: %11; }
+QLabel[notice="true"] { background: %2; color: %5; border: 1px solid %5; border-radius: 4px;
+  padding: 8px; }
+QPlainTextEdit { background: %3; color: %5; border: 1px solid %4; border-radius: 3px; }
+QPlainTextEdit:focus { border: 1px solid %5; }
+QScrollArea[bare="true"], QScrollArea[bare="true"] > QWidget > QWidget { background: transparent; }
 QComboBox::drop-down { border: none; width: 16px; }
 QComboBox QAbstractItemView { background: %3; color: %5; border: 1px solid %4; }
 QListView { background: %3; color: %5; border: 1px solid %4; }
@@ -85,7 +92,9 @@ QScrollBar::handle:vertical { background: %4; border-radius: 3px; min-height: 24
 QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
 )")
       .arg(look.Window.name(), look.Panel.name(), look.Field.name(), look.Line.name(),
-           look.Text.name(), look.Dim.name(), look.Accent.name());
+           look.Text.name(), look.Dim.name(), look.Accent.name())
+      .arg(PlainColour(kOnTheAir).name(), TextOn(PlainColour(kOnTheAir)).name(),
+           PlainColour(kOwnObject).name(), TextOn(PlainColour(kOwnObject)).name());
 }
 
 QColor PlainColour(std::uint32_t state_colour) {
@@ -95,12 +104,18 @@ QColor PlainColour(std::uint32_t state_colour) {
 }
 
 QColor StateShade(std::uint32_t state_colour, const Look& look) {
+  // What can't go on sinks into the window.
+  if (state_colour == kOwnObjectDimmed) return look.Window;
   const QColor plain = PlainColour(state_colour);
   // Greys name "nothing special": they take the field's own colour, or its line when darker.
   if (plain.saturation() < 24) return plain.lightness() > 160 ? look.Field : look.Line;
   // Other hues keep their hue at the lightness of the look.
   const bool night = look.Window.lightness() < 128;
   return QColor::fromHsl(plain.hslHue(), std::min(plain.hslSaturation(), 150), night ? 70 : 195);
+}
+
+QColor StateInk(std::uint32_t state_colour, const Look& look) {
+  return state_colour == kOwnObjectDimmed ? look.Dim : TextOn(StateShade(state_colour, look));
 }
 
 double ContrastOf(const QColor& one, const QColor& other) {

@@ -29,6 +29,13 @@ QString StyleSheetOf(const Look& look);
 // A colour that the program's logic gives to a control (0xBBGGRR names a state) in a shade of this
 // look that stays readable behind its text.
 QColor StateShade(std::uint32_t state_colour, const Look& look);
+// What is written on that shade.
+QColor StateInk(std::uint32_t state_colour, const Look& look);
+// The ground of a switch that is on, where being on means one thing all over the program.
+inline constexpr std::uint32_t kOnTheAir = 0x4848E0;
+inline constexpr std::uint32_t kOwnObject = 0x00C0C0;
+// The own object's switch while it can't go on.
+inline constexpr std::uint32_t kOwnObjectDimmed = 0x007070;
 // The colour itself, for fill bars and inks.
 QColor PlainColour(std::uint32_t state_colour);
 // Contrast of two colours, 1 to 21; text wants kReadable on its ground.

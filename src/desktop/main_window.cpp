@@ -16,6 +16,7 @@
 
 #include "desktop/keys.h"
 #include "desktop/map_bar.h"
+#include "desktop/terminal_page.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
@@ -31,8 +32,7 @@ constexpr int kLowestDrawer = 140;
 }  // namespace
 
 MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fonts,
-                       QtSurface& map_surface, QtSurface& base_surface,
-                       const QtSurface& sun_surface, const Files& files)
+                       WindowSurfaces surfaces, const Files& files)
     : program_(program),
       controls_(program.Controls()),
       loop_(loop),
@@ -44,8 +44,8 @@ MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fo
   setMinimumSize(640, 480);
   resize(1280, 800);
 
-  map_ = new MapWidget(loop, controls_.Map.Picture1, controls_.Map.PictureBase, map_surface,
-                       base_surface);
+  map_ = new MapWidget(loop, controls_.Map.Picture1, controls_.Map.PictureBase, surfaces.Map,
+                       surfaces.Base);
   map_->Resized = [this](int width, int height) {
     loop_.RunStep([&] { program_.MapResized(width, height); });
   };
@@ -74,8 +74,10 @@ MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fo
   all->addWidget(new MapBar(parts_, controls_.Map));
   all->addWidget(split_, 1);
   all->addWidget(MakeBottomLine());
-  layer_panels_ = std::make_unique<LayerPanels>(parts_, controls_, *map_, sun_surface, files);
+  layer_panels_ = std::make_unique<LayerPanels>(parts_, controls_, *map_, surfaces.Sun, files);
   panels_ = std::make_unique<PanelsOverMap>(parts_, controls_, program_.State().Map, *map_);
+  transmit_panels_ = std::make_unique<TransmitPanels>(
+      parts_, controls_, *map_, TransmitPanels::Symbols{surfaces.TxSymbol, surfaces.ObjectSymbol});
   map_->PlaceOverlays = [this] { PlacePanels(); };
 
   // The lamp's age of the last data grows also when nothing happens.
@@ -112,9 +114,18 @@ QWidget* MainWindow::MakeDrawer() {
   drawer_->setObjectName(QStringLiteral("Drawer"));
   drawer_->setVisible(false);
   drawer_->setMinimumHeight(kLowestDrawer);
-  raw_page_ = new QWidget(this);
-  raw_page_->hide();
-  auto* box = TightBox(QBoxLayout::TopToBottom, raw_page_);
+  raw_page_ = MakeRawPage();
+  terminal_page_ = MakeTerminalPage(parts_, controls_.Terminal);
+  for (QWidget* page : {raw_page_, terminal_page_}) {
+    page->setParent(this);
+    page->hide();
+  }
+  return drawer_;
+}
+
+QWidget* MainWindow::MakeRawPage() {
+  auto* page = new QWidget;
+  auto* box = TightBox(QBoxLayout::TopToBottom, page);
   box->setContentsMargins(4, 4, 4, 4);
   auto* list = new QListView;
   list->setObjectName(QStringLiteral("RawList"));
@@ -135,7 +146,7 @@ QWidget* MainWindow::MakeDrawer() {
   binder_.Bind(list, &raw_lines_, controls_.Raw.RawList);
   binder_.Bind(text, controls_.Raw.Text14);
   binder_.Bind(search, controls_.Raw.Command38);
-  return drawer_;
+  return page;
 }
 
 // ---- Folding and the drawer -----------------------------------------------------------------
@@ -169,18 +180,33 @@ void MainWindow::ShareHeight() {
 }
 
 void MainWindow::ShowDrawer() {
-  const bool raw = controls_.Raw.RawList.Visible;
-  if (raw != (drawer_->indexOf(raw_page_) >= 0)) {
-    if (raw) {
-      drawer_->insertTab(0, raw_page_, QStringLiteral("RAW"));
-      drawer_->setCurrentWidget(raw_page_);
-    } else {
-      drawer_->removeTab(drawer_->indexOf(raw_page_));
-    }
-  }
   const bool was_open = !drawer_->isHidden();
+  const bool terminal = controls_.Terminal.Frame19.Visible;
+  const bool terminal_changes = terminal != (drawer_->indexOf(terminal_page_) >= 0);
+  ShowPage(raw_page_, controls_.Raw.RawList.Visible, "RAW");
+  ShowPage(terminal_page_, terminal, "TERMINAL");
   drawer_->setVisible(drawer_->count() > 0);
   if (!was_open && !drawer_->isHidden()) ShareHeight();
+  if (terminal_changes) MakeRoomForTerminal(terminal);
+}
+
+// A page that comes is the one that is seen.
+void MainWindow::ShowPage(QWidget* page, bool shown, const char* title) {
+  const int at = drawer_->indexOf(page);
+  if (shown == (at >= 0)) return;
+  if (!shown) return drawer_->removeTab(at);
+  drawer_->insertTab(0, page, QString::fromLatin1(title));
+  drawer_->setCurrentWidget(page);
+}
+
+// The map stands still while the terminal is open: half of the height is enough for it.
+void MainWindow::MakeRoomForTerminal(bool open) {
+  if (open) {
+    sizes_without_terminal_ = split_->sizes();
+    split_->setSizes({split_->height() / 2, split_->height() / 2});
+  } else if (!drawer_->isHidden()) {
+    split_->setSizes(sizes_without_terminal_);
+  }
 }
 
 void MainWindow::ControlsOut() {
@@ -196,7 +222,7 @@ void MainWindow::ControlsOut() {
   }
   const bool busy = controls_.Window.Pointer == PointerShape::Hourglass;
   setCursor(busy ? Qt::WaitCursor : Qt::ArrowCursor);
-  if (panels_) PlacePanels();
+  if (transmit_panels_) PlacePanels();
 }
 
 // ---- Window events --------------------------------------------------------------------------
@@ -241,15 +267,37 @@ void MainWindow::FocusOn(const char* name) {
 
 // Keys act nowhere but outside of the fields, which Esc leaves.
 void MainWindow::keyPressEvent(QKeyEvent* event) {
+  const TerminalControls& terminal = controls_.Terminal;
+  // The terminal takes all other keys for the modem.
+  if (event->key() == Qt::Key_C && event->modifiers() == Qt::AltModifier &&
+      terminal.Frame19.Visible) {
+    return Press(terminal.Command66);
+  }
   if (IsTypedIn(focusWidget())) {
     if (event->key() == Qt::Key_Escape) map_->setFocus();
     return;
   }
-  if (event->modifiers().testFlag(Qt::ControlModifier)) {
-    if (event->key() == Qt::Key_F) return FocusOn("Text15");
-    if (event->key() == Qt::Key_R) return Press(controls_.Raw.Command57);
-    if (event->key() == Qt::Key_S) return Press(controls_.Map.Command59);
+  if (event->modifiers().testFlag(Qt::ControlModifier)) return PressControlKey(*event);
+  PressKey(event);
+}
+
+void MainWindow::PressControlKey(const QKeyEvent& event) {
+  switch (event.key()) {
+    case Qt::Key_F:
+      return FocusOn("Text15");
+    case Qt::Key_R:
+      return Press(controls_.Raw.Command57);
+    case Qt::Key_S:
+      return Press(controls_.Map.Command59);
+    case Qt::Key_T:
+      if (controls_.Transmit.Check6.RightClick) loop_.RunStep(controls_.Transmit.Check6.RightClick);
+      return;
+    default:
+      return;
   }
+}
+
+void MainWindow::PressKey(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Escape:
       return CloseTopmostPanel();
@@ -287,9 +335,12 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 void MainWindow::PlacePanels() {
   layer_panels_->Place();
   panels_->Place();
+  transmit_panels_->Place();
 }
 
 void MainWindow::CloseTopmostPanel() {
+  if (controls_.Terminal.Frame19.Visible) return Press(controls_.Terminal.Command66);
+  if (const Button* close = transmit_panels_->CloseOfTopmost()) return Press(*close);
   if (const Button* close = panels_->CloseOfTopmost()) return Press(*close);
   if (const Button* close = layer_panels_->CloseOfTopmost()) return Press(*close);
   map_->setFocus();

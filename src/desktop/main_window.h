@@ -16,6 +16,7 @@
 #include "desktop/map_widget.h"
 #include "desktop/panels_over_map.h"
 #include "desktop/side_columns.h"
+#include "desktop/transmit_panels.h"
 #include "desktop/window_parts.h"
 #include "platform/qt/map_fonts.h"
 #include "station/station_program.h"
@@ -26,10 +27,19 @@ class QTabWidget;
 
 namespace zepril {
 
+// What the program paints for the window.
+struct WindowSurfaces {
+  QtSurface& Map;
+  QtSurface& Base;  // the second map window under it
+  const QtSurface& Sun;
+  const QtSurface& TxSymbol;
+  const QtSurface& ObjectSymbol;
+};
+
 class MainWindow final : public QWidget {
  public:
-  MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fonts, QtSurface& map_surface,
-             QtSurface& base_surface, const QtSurface& sun_surface, const Files& files);
+  MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fonts, WindowSurfaces surfaces,
+             const Files& files);
 
   MapWidget* Map() { return map_; }
   // The operator has closed the window (or the program wants to end), and no step is under way.
@@ -46,12 +56,17 @@ class MainWindow final : public QWidget {
  private:
   QWidget* MakeBottomLine();
   QWidget* MakeDrawer();
+  QWidget* MakeRawPage();
   void Arrange();
   void ShowDrawer();
+  void ShowPage(QWidget* page, bool shown, const char* title);
+  void MakeRoomForTerminal(bool open);
   void ShareHeight();
   void FocusOn(const char* name);
   void Press(const Button& control);
   void Switch(CheckBox& control);
+  void PressControlKey(const QKeyEvent& event);
+  void PressKey(QKeyEvent* event);
   void PlacePanels();
   void CloseTopmostPanel();
 
@@ -64,6 +79,7 @@ class MainWindow final : public QWidget {
   SideColumns columns_;
   std::unique_ptr<LayerPanels> layer_panels_;
   std::unique_ptr<PanelsOverMap> panels_;
+  std::unique_ptr<TransmitPanels> transmit_panels_;
 
   MapWidget* map_ = nullptr;
   QWidget* left_column_ = nullptr;
@@ -72,6 +88,8 @@ class MainWindow final : public QWidget {
   QTabWidget* drawer_ = nullptr;
   QSplitter* split_ = nullptr;
   QWidget* raw_page_ = nullptr;
+  QWidget* terminal_page_ = nullptr;
+  QList<int> sizes_without_terminal_;
   LampWidget* lamp_ = nullptr;
   QTimer lamp_timer_;
   QStringListModel raw_lines_;

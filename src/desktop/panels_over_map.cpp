@@ -20,6 +20,7 @@ constexpr int kRecordWidth = 984;  // 120 columns of 8 pixels and a frame
 constexpr int kQthWidth = 260;
 constexpr int kHeardWidth = 168;
 constexpr int kHeardHeight = 420;
+constexpr int kNoticeWidth = 760;
 
 }  // namespace
 
@@ -40,6 +41,23 @@ void PanelsOverMap::MakePanels() {
   banner_->setAlignment(Qt::AlignCenter);
   banner_->setMargin(6);
   parts_.Binding.Bind(banner_, controls_.Status.Text10);
+  MakeNotices();
+}
+
+void PanelsOverMap::MakeNotices() {
+  const auto notice = [this](const char* name, Label& control) {
+    auto* label = new QLabel(&map_);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setProperty("notice", true);
+    label->setWordWrap(true);
+    label->setAttribute(Qt::WA_NoMousePropagation);
+    parts_.Binding.Bind(label, control);
+    return label;
+  };
+  link_notice_ = notice("LinkNotice", controls_.Status.LinkNotice);
+  // It may name a command that is to be copied.
+  link_notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  mode_notice_ = notice("Label49", controls_.Terminal.Label49);
 }
 
 void PanelsOverMap::MakeRecordPanel() {
@@ -49,6 +67,7 @@ void PanelsOverMap::MakeRecordPanel() {
   box->setContentsMargins(8, 8, 8, 8);
   record_text_ = parts_.FixedLabel("Label20");
   record_text_->setWordWrap(true);
+  record_text_->setFocusPolicy(Qt::TabFocus);
   box->addWidget(record_text_);
   parts_.Binding.Bind(record_text_, r.Label20);
   auto* row = TightBox(QBoxLayout::LeftToRight);
@@ -168,6 +187,20 @@ void PanelsOverMap::Place() {
   if (!banner_->isHidden()) {
     banner_->adjustSize();
     banner_->move((width - banner_->width()) / 2, kOverlayMargin);
+  }
+  PlaceNotices();
+}
+
+// Wide, over everything else on the map: the reason of a dead link at the top, the mode that lasts
+// while the button is held at the bottom, next to the list.
+void PanelsOverMap::PlaceNotices() {
+  const int width = std::min(kNoticeWidth, std::max(map_.width() - 2 * kOverlayMargin, 100));
+  for (QLabel* notice : {link_notice_, mode_notice_}) {
+    if (notice->isHidden()) continue;
+    const int height = notice->heightForWidth(width);
+    const int y = notice == link_notice_ ? kOverlayMargin : map_.height() - height - kOverlayMargin;
+    notice->setGeometry((map_.width() - width) / 2, y, width, height);
+    notice->raise();
   }
 }
 

@@ -1,4 +1,5 @@
-// The panels that lie over the map: station record, alarm, set-ups, lists, palette, banner.
+// The panels that lie over the map: station record, alarm, set-ups, lists, palette, banner,
+// notices.
 #pragma once
 
 #include <QStringListModel>
@@ -32,6 +33,8 @@ class PanelsOverMap {
   void MakeQthSetup();
   void MakeHeardList();
   void MakePalettePanel();
+  void MakeNotices();
+  void PlaceNotices();
 
   WindowParts& parts_;
   MainWindowControls& controls_;
@@ -45,6 +48,8 @@ class PanelsOverMap {
   QFrame* heard_panel_ = nullptr;
   QFrame* palette_panel_ = nullptr;
   QLabel* banner_ = nullptr;
+  QLabel* link_notice_ = nullptr;
+  QLabel* mode_notice_ = nullptr;
   QLabel* record_text_ = nullptr;
 };
 

@@ -4,9 +4,9 @@
 
 namespace zepril {
 
-PlotView::PlotView(const PictureBox& control, const QtSurface& surface, QWidget* parent)
-    : QWidget(parent), control_(control), surface_(surface) {
-  setFixedSize(surface.Picture().size());
+PlotView::PlotView(const PictureBox& control, const QtSurface& surface, int scale)
+    : control_(control), surface_(surface) {
+  setFixedSize(surface.Picture().size() * scale);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAttribute(Qt::WA_TransparentForMouseEvents);
 }
@@ -19,7 +19,7 @@ void PlotView::ControlsOut() {
 
 void PlotView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.drawImage(0, 0, surface_.Picture());
+  painter.drawImage(rect(), surface_.Picture());  // unfiltered
 }
 
 }  // namespace zepril

@@ -1,5 +1,5 @@
-// A small drawing that the program paints itself, shown unscaled: each pixel as it was painted, a
-// block of them on a screen of a higher scale. Presses go through to what lies below.
+// A small drawing that the program paints itself: each pixel as it was painted, a block of them
+// where it is shown larger or on a screen of a higher scale. Presses go through to what lies below.
 #pragma once
 
 #include <QWidget>
@@ -11,8 +11,8 @@ namespace zepril {
 
 class PlotView final : public QWidget {
  public:
-  // Both must outlive the widget.
-  PlotView(const PictureBox& control, const QtSurface& surface, QWidget* parent = nullptr);
+  // Both must outlive the widget. `scale`: how many times as wide and high it is shown.
+  PlotView(const PictureBox& control, const QtSurface& surface, int scale = 1);
 
   // Repaints when the drawing has changed since the last call.
   void ControlsOut();

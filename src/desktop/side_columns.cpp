@@ -135,10 +135,12 @@ QWidget* SideColumns::MakeRightColumn() {
   box->setSpacing(12);
   box->addWidget(MakeMoni1());
   box->addWidget(MakeMoniAll());
+  box->addWidget(MakeTransmit());
   box->addStretch(1);
-  QPushButton* raw = NamedButton("Command57");
-  box->addWidget(raw);
-  parts_.Binding.Bind(raw, controls_.Raw.Command57);
+  auto* pages = TightBox(QBoxLayout::LeftToRight);
+  pages->addWidget(parts_.BoundButton("Command57", controls_.Raw.Command57), 1);
+  pages->addWidget(parts_.BoundButton("Command65", controls_.Terminal.Command65), 1);
+  box->addLayout(pages);
   return column;
 }
 
@@ -266,6 +268,26 @@ QWidget* SideColumns::MakeMoniAll() {
   QPushButton* stations = NamedButton("Command3");
   box->addWidget(stations);
   parts_.Binding.Bind(stations, m.Command3);
+  return group;
+}
+
+QWidget* SideColumns::MakeTransmit() {
+  auto* group = new QWidget;
+  auto* box = TightBox(QBoxLayout::TopToBottom, group);
+  TransmitControls& t = controls_.Transmit;
+  box->addWidget(GroupCaption("TRANSMIT"));
+  auto* switches = TightBox(QBoxLayout::LeftToRight);
+  QPushButton* tx = parts_.BoundButton("Check6", t.Check6);
+  tx->setProperty("on_air", true);
+  QPushButton* object = parts_.BoundButton("Check18", t.Check18);
+  object->setProperty("own_object", true);
+  switches->addWidget(tx, 1);
+  switches->addWidget(object, 1);
+  box->addLayout(switches);
+  auto* bar = new FillBarWidget;
+  bar->setObjectName(QStringLiteral("NextBeacon"));
+  box->addWidget(bar);
+  parts_.Binding.Bind(bar, t.NextBeacon);
   return group;
 }
 

@@ -26,6 +26,7 @@ class SideColumns {
   QWidget* MakeMoni1();
   QBoxLayout* MakeClassRow();
   QWidget* MakeMoniAll();
+  QWidget* MakeTransmit();
 
   WindowParts& parts_;
   MainWindowControls& controls_;

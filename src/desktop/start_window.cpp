@@ -8,16 +8,55 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRegularExpression>
 
+#include "desktop/device_box.h"
+#include "desktop/fill_bar_widget.h"
+#include "desktop/window_parts.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
 namespace {
 
-QLabel* GroupCaption(const char* text) {
-  auto* label = new QLabel(QString::fromLatin1(text));
-  label->setProperty("group", true);
-  return label;
+constexpr int kFirstWidth = 760;
+constexpr int kFirstHeight = 640;
+constexpr int kOptionWidth = 84;
+constexpr int kLabelWidth = 84;
+constexpr int kFaultLines = 4;
+
+// A column's grid under its group caption: what a field is, and the field.
+QGridLayout* AddGroup(QBoxLayout* column, const char* caption) {
+  column->addWidget(GroupCaption(caption));
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(12);
+  grid->setVerticalSpacing(8);
+  grid->setColumnMinimumWidth(0, kLabelWidth);
+  grid->setColumnStretch(1, 1);
+  column->addLayout(grid);
+  return grid;
+}
+
+// What is hidden keeps its place: nothing else moves.
+void KeepPlace(QWidget* widget) {
+  QSizePolicy policy = widget->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget->setSizePolicy(policy);
+}
+
+// However long a text is, it does not widen the window.
+void KeepWidth(QWidget* widget) {
+  widget->setSizePolicy(QSizePolicy::Ignored, widget->sizePolicy().verticalPolicy());
+}
+
+// Paths of devices are one long word: a label folds them at their marks. To be called behind the
+// label's binding.
+void LetLongNamesBreak(QLabel* label, Binder& binder) {
+  label->setWordWrap(true);
+  KeepWidth(label);
+  binder.OnControlsOut([label] {
+    static const QRegularExpression mark(QStringLiteral("([/_-])(?!\\x{200B})"));
+    label->setText(label->text().replace(mark, QStringLiteral("\\1\u200B")));
+  });
 }
 
 }  // namespace
@@ -26,49 +65,87 @@ StartWindow::StartWindow(StartPanel& panel, QtLoop& loop, const MapFonts& fonts)
     : panel_(panel), loop_(loop), binder_(loop, NightLook()), fixed_font_(fonts.TextFont()) {
   setObjectName(QStringLiteral("Form0"));
   setWindowTitle(QStringLiteral("ZEP RIL  START   V 8.08"));
-  StartPanelControls& c = panel_.Controls;
   auto* all = new QBoxLayout(QBoxLayout::TopToBottom, this);
   all->setContentsMargins(24, 20, 24, 20);
   all->setSpacing(12);
 
   auto* title = new QLabel(QStringLiteral("ZEP RIL"));
   title->setStyleSheet(QStringLiteral("font-size: 28px; font-weight: bold; letter-spacing: 4px;"));
-  auto* under = new QLabel(QStringLiteral("APRS station program"));
-  under->setProperty("dim", true);
   all->addWidget(title);
-  all->addWidget(under);
+  all->addWidget(DimLabel("APRS station program"));
+  all->addSpacing(8);
 
-  auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(12);
-  grid->setVerticalSpacing(8);
-  grid->setColumnMinimumWidth(0, 120);
-  grid->setColumnStretch(1, 1);
-  grid->addWidget(GroupCaption("STATION"), 0, 0);
-  AddField(grid, 1, "Text8", "USER CALL", c.Text8);
-  auto* fault = new QLabel;
-  fault->setObjectName(QStringLiteral("Fault"));
-  grid->addWidget(fault, 2, 1);
-  binder_.Bind(fault, c.Fault);
-  fault->setStyleSheet(QStringLiteral("color: #E88A8A;"));
-  AddField(grid, 3, "Text5", "MONI CALL", c.Text5);
-  AddField(grid, 4, "Text1", "MAPS PATH", c.Text1);
-  grid->addWidget(GroupCaption("RADIO"), 5, 0);
-  AddInterface(grid, 6, "Option2", "packet engine on this computer, port 8000", c.Option2);
-  AddInterface(grid, 7, "Option9", "packet engine on another computer, by TCP/IP", c.Option9);
-  AddInterface(grid, 8, "Option10", "no radio interface", c.Option10);
-  AddField(grid, 9, "Text3", "HOST NAME", c.Text3);
-  AddField(grid, 10, "Text4", "HOST PORT", c.Text4);
-  all->addLayout(grid);
+  auto* columns = new QBoxLayout(QBoxLayout::LeftToRight);
+  columns->setSpacing(32);
+  columns->addLayout(StationColumn(), 4);
+  columns->addLayout(RadioColumn(), 5);
+  all->addLayout(columns);
   all->addStretch(1);
+  all->addLayout(BottomLine());
+  resize(kFirstWidth, kFirstHeight);
+  ControlsOut();
+}
 
-  progress_text_ = new QLabel(QStringLiteral("The sample maps are being drawn, once ..."));
-  progress_text_->setProperty("dim", true);
+// ---- Parts ----------------------------------------------------------------------------------
+
+QBoxLayout* StartWindow::StationColumn() {
+  StartPanelControls& c = panel_.Controls;
+  auto* column = new QBoxLayout(QBoxLayout::TopToBottom);
+  column->setSpacing(8);
+  QGridLayout* station = AddGroup(column, "STATION");
+  AddField(station, 0, "Text8", "USER CALL", c.Text8);
+  station->addWidget(FaultLabel("Fault", c.Fault), 1, 1);
+  AddField(station, 2, "Text5", "MONI CALL", c.Text5);
+  column->addSpacing(12);
+  QGridLayout* maps = AddGroup(column, "MAPS");
+  AddField(maps, 0, "Text1", "MAPS PATH", c.Text1);
+  column->addStretch(1);
+  return column;
+}
+
+QBoxLayout* StartWindow::RadioColumn() {
+  StartPanelControls& c = panel_.Controls;
+  auto* column = new QBoxLayout(QBoxLayout::TopToBottom);
+  column->setSpacing(8);
+  QGridLayout* radio = AddGroup(column, "RADIO");
+  AddInterface(radio, 0, "Option1", "serial modem PK-232, HF and VHF", c.Option1);
+  AddInterface(radio, 1, "Option2", "packet engine on this computer, port 8000", c.Option2);
+  AddInterface(radio, 2, "Option9", "packet engine on another computer, TCP/IP", c.Option9);
+  AddInterface(radio, 3, "Option10", "no radio interface", c.Option10);
+  AddInterface(radio, 4, "Option11", "serial modem SCS TNC, Robust Packet Radio", c.Option11);
+  AddInterface(radio, 5, "Option13", "serial controller SCS PTC", c.Option13);
+  radio->setRowMinimumHeight(6, 4);
+  AddPort(radio, 7);
+  AddSpeed(radio, 8);
+  QLabel* fault = FaultLabel("PortFault", c.PortFault);
+  LetLongNamesBreak(fault, binder_);
+  fault->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  fault->setMinimumHeight(kFaultLines * fault->fontMetrics().lineSpacing());
+  radio->addWidget(fault, 9, 0, 1, 2);
+  column->addStretch(1);
+  return column;
+}
+
+QBoxLayout* StartWindow::BottomLine() {
+  StartPanelControls& c = panel_.Controls;
+  progress_text_ = DimLabel("The sample maps are being drawn, once ...");
   progress_ = new QProgressBar;
   progress_->setObjectName(QStringLiteral("MapProgress"));
-  all->addWidget(progress_text_);
-  all->addWidget(progress_);
   progress_text_->hide();
   progress_->hide();
+  QLabel* set_up = BoundLabel("SetupText", c.SetupText);
+  KeepWidth(set_up);
+  auto* set_up_bar = new FillBarWidget;
+  set_up_bar->setObjectName(QStringLiteral("SetupBar"));
+  set_up_bar->setFixedHeight(10);
+  binder_.Bind(set_up_bar, c.SetupBar);
+  auto* told = new QBoxLayout(QBoxLayout::TopToBottom);
+  told->setSpacing(8);
+  told->addStretch(1);
+  for (QWidget* widget : {static_cast<QWidget*>(progress_text_), static_cast<QWidget*>(progress_),
+                          static_cast<QWidget*>(set_up), static_cast<QWidget*>(set_up_bar)}) {
+    told->addWidget(widget);
+  }
 
   auto* start = new QPushButton;
   start->setObjectName(QStringLiteral("Command1"));
@@ -76,40 +153,94 @@ StartWindow::StartWindow(StartPanel& panel, QtLoop& loop, const MapFonts& fonts)
   start->setAutoDefault(true);
   start->setMinimumSize(160, 40);
   start->setStyleSheet(QStringLiteral("font-size: 15px; font-weight: bold; min-height: 36px;"));
-  auto* bottom = new QBoxLayout(QBoxLayout::LeftToRight);
-  bottom->addStretch(1);
-  bottom->addWidget(start);
-  all->addLayout(bottom);
   binder_.Bind(start, c.Command1);
-  setMinimumSize(560, 520);
-  ControlsOut();
+  auto* bottom = new QBoxLayout(QBoxLayout::LeftToRight);
+  bottom->setSpacing(24);
+  bottom->addLayout(told, 1);
+  bottom->addWidget(start, 0, Qt::AlignBottom);
+  return bottom;
+}
+
+QLineEdit* StartWindow::Field(const char* name, TextBox& control) {
+  auto* edit = new QLineEdit;
+  edit->setObjectName(QString::fromLatin1(name));
+  edit->setFont(fixed_font_);
+  edit->setFixedHeight(kControlHeight);
+  binder_.Bind(edit, control);
+  return edit;
 }
 
 void StartWindow::AddField(QGridLayout* grid, int row, const char* name, const char* text,
                            TextBox& control) {
-  auto* edit = new QLineEdit;
-  edit->setObjectName(QString::fromLatin1(name));
+  QLineEdit* edit = Field(name, control);
   edit->setAccessibleName(QString::fromLatin1(text));
-  edit->setFont(fixed_font_);
-  edit->setFixedHeight(26);
   auto* label = new QLabel(QString::fromLatin1(text));
   label->setBuddy(edit);
   grid->addWidget(label, row, 0);
   grid->addWidget(edit, row, 1);
-  binder_.Bind(edit, control);
 }
 
 void StartWindow::AddInterface(QGridLayout* grid, int row, const char* name,
                                const char* explanation, OptionButton& control) {
-  auto* option = new QPushButton;
-  option->setObjectName(QString::fromLatin1(name));
-  option->setFixedHeight(26);
+  QPushButton* option = NamedButton(name);
+  option->setMinimumWidth(kOptionWidth);
   option->setAutoDefault(false);
+  option->setAccessibleDescription(QString::fromLatin1(explanation));
   grid->addWidget(option, row, 0);
-  auto* label = new QLabel(QString::fromLatin1(explanation));
-  label->setProperty("dim", true);
-  grid->addWidget(label, row, 1);
+  grid->addWidget(DimLabel(explanation), row, 1);
   binder_.Bind(option, control);
+}
+
+void StartWindow::AddPort(QGridLayout* grid, int row) {
+  StartPanelControls& c = panel_.Controls;
+  auto* port = new DeviceBox;
+  port->setObjectName(QStringLiteral("Text3"));
+  port->setFont(fixed_font_);
+  port->lineEdit()->setFont(fixed_font_);
+  port->setFixedHeight(kControlHeight);
+  port->setMinimumContentsLength(16);
+  port->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  binder_.Bind(port, c.Text3);
+  // What is typed is looked at as it is typed.
+  connect(port->lineEdit(), &QLineEdit::textEdited, this,
+          [this, &c] { loop_.RunStep(c.Text3.Change); });
+  port->Entered = [this] { loop_.RunStep([this] { panel_.ReadDevices(); }); };
+  port->ListOpens = [this] { loop_.RunStep([this] { panel_.DeviceListOpens(); }); };
+  binder_.OnControlsOut([port, &c] { port->setAccessibleName(ToQt(c.PortLabel.Caption)); });
+  grid->addWidget(BoundLabel("PortLabel", c.PortLabel), row, 0);
+  grid->addWidget(port, row, 1);
+  KeepPlace(port);
+}
+
+void StartWindow::AddSpeed(QGridLayout* grid, int row) {
+  StartPanelControls& c = panel_.Controls;
+  QLineEdit* speed = Field("Text4", c.Text4);
+  binder_.OnControlsOut([speed, &c] { speed->setAccessibleName(ToQt(c.SpeedLabel.Caption)); });
+  grid->addWidget(BoundLabel("SpeedLabel", c.SpeedLabel), row, 0);
+  grid->addWidget(speed, row, 1);
+  KeepPlace(speed);
+}
+
+QLabel* StartWindow::BoundLabel(const char* name, Label& control) {
+  auto* label = new QLabel;
+  label->setObjectName(QString::fromLatin1(name));
+  binder_.Bind(label, control);
+  return label;
+}
+
+QLabel* StartWindow::FaultLabel(const char* name, Label& control) {
+  QLabel* label = BoundLabel(name, control);
+  label->setStyleSheet(QStringLiteral("color: #E88A8A;"));
+  return label;
+}
+
+// ---- What comes and goes --------------------------------------------------------------------
+
+void StartWindow::ControlsOut() {
+  binder_.ControlsOut();
+  if (panel_.Starting() != testAttribute(Qt::WA_SetCursor)) {
+    panel_.Starting() ? setCursor(Qt::BusyCursor) : unsetCursor();
+  }
 }
 
 void StartWindow::ShowMapProgress(int done, int total) {
@@ -121,7 +252,7 @@ void StartWindow::ShowMapProgress(int done, int total) {
 }
 
 void StartWindow::closeEvent(QCloseEvent* event) {
-  event->accept();
+  event->setAccepted(!panel_.Starting() || !Closed);
   if (Closed) Closed();
 }
 

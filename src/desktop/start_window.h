@@ -1,4 +1,4 @@
-// The start window: the few settings that matter on the first day, and START.
+// The start window: the settings that must be known before the main window opens, and START.
 #pragma once
 
 #include <QWidget>
@@ -9,8 +9,10 @@
 #include "platform/qt/map_fonts.h"
 #include "station/start_panel.h"
 
+class QBoxLayout;
 class QGridLayout;
 class QLabel;
+class QLineEdit;
 class QProgressBar;
 
 namespace zepril {
@@ -19,10 +21,11 @@ class StartWindow final : public QWidget {
  public:
   StartWindow(StartPanel& panel, QtLoop& loop, const MapFonts& fonts);
 
-  void ControlsOut() { binder_.ControlsOut(); }
+  void ControlsOut();
   // Progress of the sample maps at a first run; done >= total hides it.
   void ShowMapProgress(int done, int total);
-  // The window was closed without START.
+  // The window was closed without START, or is asked to close while START is under way: then it
+  // stays until that has come to its end.
   std::function<void()> Closed;
 
  protected:
@@ -30,9 +33,17 @@ class StartWindow final : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  QBoxLayout* StationColumn();
+  QBoxLayout* RadioColumn();
+  QBoxLayout* BottomLine();
+  QLineEdit* Field(const char* name, TextBox& control);
   void AddField(QGridLayout* grid, int row, const char* name, const char* text, TextBox& control);
   void AddInterface(QGridLayout* grid, int row, const char* name, const char* explanation,
                     OptionButton& control);
+  void AddPort(QGridLayout* grid, int row);
+  void AddSpeed(QGridLayout* grid, int row);
+  QLabel* BoundLabel(const char* name, Label& control);
+  QLabel* FaultLabel(const char* name, Label& control);
 
   StartPanel& panel_;
   QtLoop& loop_;

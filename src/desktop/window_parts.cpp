@@ -74,6 +74,7 @@ QFrame* WindowParts::Panel(const char* name, QWidget* parent) const {
   auto* panel = new QFrame(parent);
   panel->setObjectName(QString::fromLatin1(name));
   panel->setProperty("panel", true);
+  panel->setAttribute(Qt::WA_NoMousePropagation);  // what lies below has no part in a press
   return panel;
 }
 
@@ -93,16 +94,32 @@ QGridLayout* WindowParts::SetUpGrid(QFrame* panel, const Frame& frame, int colum
 
 void WindowParts::FieldRow(QGridLayout* grid, int row, const char* name, const char* text,
                            TextBox& control) {
+  grid->addWidget(new QLabel(QString::fromLatin1(text)), row, 0);
+  grid->addWidget(BoundField(name, text, control), row, 1);
+}
+
+QLineEdit* WindowParts::BoundField(const char* name, const char* text, TextBox& control) {
   auto* edit = new QLineEdit;
   edit->setObjectName(QString::fromLatin1(name));
   edit->setAccessibleName(QString::fromLatin1(text));
   edit->setFont(FixedFont);
-  grid->addWidget(new QLabel(QString::fromLatin1(text)), row, 0);
-  grid->addWidget(edit, row, 1);
   Binding.Bind(edit, control);
+  return edit;
 }
 
 QPushButton* WindowParts::BoundButton(const char* name, Button& control) {
+  QPushButton* button = NamedButton(name);
+  Binding.Bind(button, control);
+  return button;
+}
+
+QPushButton* WindowParts::BoundButton(const char* name, CheckBox& control) {
+  QPushButton* button = NamedButton(name);
+  Binding.Bind(button, control);
+  return button;
+}
+
+QPushButton* WindowParts::BoundButton(const char* name, OptionButton& control) {
   QPushButton* button = NamedButton(name);
   Binding.Bind(button, control);
   return button;

@@ -14,6 +14,7 @@
 class QFrame;
 class QGridLayout;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 class QToolButton;
 class QWidget;
@@ -37,8 +38,12 @@ struct WindowParts {
   QGridLayout* SetUpGrid(QFrame* panel, const Frame& frame, int columns);
   // A row of it: what the field is, and the field.
   void FieldRow(QGridLayout* grid, int row, const char* name, const char* text, TextBox& control);
-  // A button that is bound already.
+  // A field that is bound already, in the fixed font; `text` tells what it is.
+  QLineEdit* BoundField(const char* name, const char* text, TextBox& control);
+  // A button, a switch or an option that is bound already.
   QPushButton* BoundButton(const char* name, Button& control);
+  QPushButton* BoundButton(const char* name, CheckBox& control);
+  QPushButton* BoundButton(const char* name, OptionButton& control);
 };
 
 QPushButton* NamedButton(const char* name, QWidget* parent = nullptr);

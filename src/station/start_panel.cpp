@@ -1,35 +1,87 @@
 #include "station/start_panel.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
-#include "core/state/radio.h"
+#include "config/ports_file.h"
+#include "core/port_number.h"
 #include "core/text_fields.h"
+#include "station/modem_set_up.h"
 
 namespace zepril {
 namespace {
 
 constexpr std::size_t kShortestCall = 3;
 constexpr const char* kBoxTitle = "ZEP RIL  START";
+// Numbers that a device is kept under where the settings hold none that can be.
+constexpr int kUsualPk232Port = 2;
+constexpr int kUsualScsPort = 3;
+constexpr int kBarSteps = 1000;
+
+bool HasFastSpeeds(RadioMode mode) {
+  return mode == RadioMode::ScsTnc || mode == RadioMode::ScsPtc;
+}
+
+// START while it is under way: with a modem, how long its set-up takes.
+const char* StartingCaption(RadioMode mode) {
+  switch (mode) {
+    case RadioMode::Pk232:
+      return "40 s ...";
+    case RadioMode::ScsTnc:
+      return "12 s ...";
+    case RadioMode::ScsPtc:
+      return "25 s ...";
+    default:
+      return "...";
+  }
+}
+
+std::string ListText(const SerialDevice& device) {
+  return device.Name.empty() ? device.Path : device.Path + "   " + device.Name;
+}
+
+bool IsPortNumber(double number) {
+  return number == Int(number) && number >= 1 && number <= kHighestPortNumber;
+}
 
 }  // namespace
 
-StartPanel::StartPanel(Files& files, Dialogs& dialogs, std::string program_folder,
+StartPanel::StartPanel(StartPanelPlatform platform, std::string program_folder,
                        const std::string& temp)
-    : files_(files),
-      dialogs_(dialogs),
+    : files_(platform.FileSystem),
+      clock_(platform.LocalClock),
+      dialogs_(platform.Boxes),
+      modem_(platform.Modem),
+      devices_(std::move(platform.Devices)),
       program_folder_(std::move(program_folder)),
-      settings_(DefaultStartPanelSettings(program_folder_, temp)) {
+      settings_(DefaultStartPanelSettings(program_folder_, temp)),
+      interfaces_{{{&Controls.Option1, RadioMode::Pk232, &pk232_fields_},
+                   {&Controls.Option2, RadioMode::AgwLocal, nullptr},
+                   {&Controls.Option9, RadioMode::AgwRemote, &host_fields_},
+                   {&Controls.Option10, RadioMode::None, nullptr},
+                   {&Controls.Option11, RadioMode::ScsTnc, &scs_fields_},
+                   {&Controls.Option13, RadioMode::ScsPtc, &scs_fields_}}} {
   Controls.Command1.Caption = "START";
+  Controls.Option1.Caption = "PK 232";
   Controls.Option2.Caption = "AGW PE";
   Controls.Option9.Caption = "AGW LAN";
   Controls.Option10.Caption = "-";
+  Controls.Option11.Caption = "SCS TNC";
+  Controls.Option13.Caption = "SCS PTC";
+  Controls.SetupText.Visible = false;
+  Controls.SetupBar.Visible = false;
+  Controls.SetupBar.FullWidthPx = kBarSteps;
   Controls.Command1.Click = [this] { Command1Click(); };
-  for (OptionButton* option : {&Controls.Option2, &Controls.Option9, &Controls.Option10}) {
-    option->Click = [this, option] { ChooseInterface(*option); };
-  }
+  for (const Interface& one : interfaces_)
+    one.Option->Click = [this, &one] { ChooseInterface(one); };
+  Controls.Text3.Change = [this] { PortChanged(); };
+  Controls.Text4.Change = [this] { SpeedChanged(); };
   Controls.Text8.Change = [this] { Controls.Fault.Caption.clear(); };
   Load();
 }
+
+// ---- Load -----------------------------------------------------------------------------------
 
 void StartPanel::Load() {
   files_.MakeFolder(program_folder_);
@@ -52,59 +104,183 @@ void StartPanel::DeleteRunLogs() {
 }
 
 void StartPanel::ShowSettings() {
-  Controls.Text8.Text = settings_.MyCall;
-  Controls.Text3.Text = settings_.AgwHost;
-  Controls.Text4.Text = settings_.AgwTcpPort;
-  Controls.Text5.Text = settings_.Moni1Call;
-  if (settings_.MapZoneName.starts_with("U")) Controls.Text1.Text = settings_.MapsPath;
+  // The speed on the air: any text of the number 300 is that one, but for Robust Packet Radio.
   const auto mode = static_cast<RadioMode>(settings_.RadioMode);
-  Controls.Option9.Value = mode == RadioMode::AgwRemote;
-  Controls.Option10.Value = mode == RadioMode::None;
-  Controls.Option2.Value = !Controls.Option9.Value && !Controls.Option10.Value;
-  ShowPortFields();
+  const bool robust = settings_.BaudMode == "300R" && HasFastSpeeds(mode);
+  if (!robust && Val(settings_.BaudMode) == 300.0) settings_.BaudMode = "300";
+  Controls.Text8.Text = settings_.MyCall;
+  if (settings_.MapZoneName.starts_with("U")) Controls.Text1.Text = settings_.MapsPath;
+  const std::string pk232 = PortText(settings_.TncPort);
+  const std::string scs = PortText(settings_.ScsPort);
+  pk232_fields_ = {pk232, settings_.TncBaud, pk232};
+  scs_fields_ = {scs, settings_.ScsBaud, scs};
+  host_fields_ = {settings_.AgwHost, settings_.AgwTcpPort, {}};
+  const auto held = std::find_if(interfaces_.begin(), interfaces_.end(),
+                                 [mode](const Interface& one) { return one.Mode == mode; });
+  ChooseInterface(held != interfaces_.end() ? *held : Chosen());
+  Controls.Text5.Text = settings_.Moni1Call;
   (settings_.MyCall.empty() ? Controls.Text8.FocusWanted : Controls.Command1.FocusWanted) = true;
 }
 
-// Of the radio interfaces one is chosen.
-void StartPanel::ChooseInterface(const OptionButton& chosen) {
-  for (OptionButton* option : {&Controls.Option2, &Controls.Option9, &Controls.Option10}) {
-    option->Value = option == &chosen;
+// The device that was chosen for a port, or its number.
+std::string StartPanel::PortText(double number) const {
+  std::string device;
+  if (IsPortNumber(number)) {
+    device = DeviceOfPort(files_, program_folder_, static_cast<int>(number));
   }
+  return device.empty() ? ShortNumber(number) : device;
+}
+
+// ---- The radio interface --------------------------------------------------------------------
+
+// The packet engine on this computer where nothing else is chosen.
+const StartPanel::Interface& StartPanel::Chosen() const {
+  const auto found = std::find_if(interfaces_.begin(), interfaces_.end(),
+                                  [](const Interface& one) { return one.Option->Value; });
+  return found != interfaces_.end() ? *found : interfaces_[1];
+}
+
+void StartPanel::ChooseInterface(const Interface& chosen) {
+  KeepPortFields();
+  for (const Interface& one : interfaces_)
+    one.Option->Value = &one == &chosen;
+  FallBackToSlowSpeed();
   ShowPortFields();
 }
 
-void StartPanel::ShowPortFields() {
-  Controls.Text3.Enabled = Controls.Option9.Value;
-  Controls.Text4.Enabled = Controls.Option9.Value;
+// The other interfaces know two speeds only.
+void StartPanel::FallBackToSlowSpeed() {
+  if (HasFastSpeeds(Chosen().Mode)) return;
+  for (const char* fast : {"300R", "9600", "19200"}) {
+    if (settings_.BaudMode == fast) settings_.BaudMode = "300";
+  }
 }
+
+void StartPanel::KeepPortFields() {
+  if (shown_ == nullptr) return;
+  shown_->Port = Controls.Text3.Text;
+  shown_->Speed = Controls.Text4.Text;
+}
+
+void StartPanel::ShowPortFields() {
+  const Interface& chosen = Chosen();
+  shown_ = chosen.Fields;
+  for (Control* control :
+       {static_cast<Control*>(&Controls.PortLabel), static_cast<Control*>(&Controls.SpeedLabel),
+        static_cast<Control*>(&Controls.Text3), static_cast<Control*>(&Controls.Text4)}) {
+    control->Visible = shown_ != nullptr;
+  }
+  Controls.PortLabel.Caption = chosen.Serial() ? "COMM PORT" : "HOST NAME";
+  Controls.SpeedLabel.Caption = chosen.Serial() ? "COMM BAUD" : "HOST PORT";
+  Controls.PortFault.Caption.clear();
+  Controls.Text3.Text = shown_ != nullptr ? shown_->Port : std::string();
+  Controls.Text4.Text = shown_ != nullptr ? shown_->Speed : std::string();
+  ReadDevices();
+}
+
+void StartPanel::ReadDevices() {
+  present_.clear();
+  if (Chosen().Serial() && devices_) present_ = devices_();
+  ComboBox& field = Controls.Text3;
+  field.Items.clear();
+  field.ListIndex = -1;
+  for (const SerialDevice& device : present_) {
+    if (!field.Text.empty() && (field.Text == device.Path || field.Text == device.StablePath)) {
+      field.ListIndex = static_cast<int>(field.Items.size());
+    }
+    field.Items.push_back(ListText(device));
+  }
+}
+
+void StartPanel::DeviceListOpens() {
+  ReadDevices();
+  if (Chosen().Serial() && present_.empty()) {
+    Controls.PortFault.Caption = "no serial device is there";
+  }
+}
+
+// Chosen from the list or typed.
+void StartPanel::PortChanged() {
+  Controls.PortFault.Caption.clear();
+  if (!Chosen().Serial()) return;
+  ComboBox& field = Controls.Text3;
+  for (const SerialDevice& device : present_) {
+    if (field.Text == ListText(device)) field.Text = device.Path;
+  }
+  const auto number = PortNumberOfText(field.Text);
+  if (number && !IsPortNumber(*number)) {
+    Controls.PortFault.Caption = "port numbers go from 1 to " + WholeNumber(kHighestPortNumber);
+  }
+}
+
+void StartPanel::SpeedChanged() {
+  Controls.PortFault.Caption.clear();
+  const std::string_view speed = Trim(Controls.Text4.Text);
+  if (speed.empty() || Val(speed) > 0.0) return;
+  Controls.PortFault.Caption =
+      Chosen().Serial() ? "the speed is a number, such as 9600" : "the port is a number";
+}
+
+// ---- START ----------------------------------------------------------------------------------
 
 void StartPanel::Command1Click() {
   // A second press while the first is under way does nothing.
   if (starting_) return;
   starting_ = true;
-  if (Trim(Controls.Text8.Text).size() < kShortestCall) {
-    dialogs_.Tell(kBoxTitle, "SET USER CALL !");
-    Controls.Fault.Caption = "your call sign, 3 characters or more";
-    Controls.Text8.FocusWanted = true;
+  if (!CallIsThere()) {
     starting_ = false;
     return;
   }
-  Controls.Command1.Caption = "...";
-  if (!TakeFields()) {
-    dialogs_.Tell(kBoxTitle, "CAN'T WRITE  " + program_folder_ + "\\ZEPRIL.INI");
+  // Shown at once, with nothing to be changed from here on.
+  Controls.Command1.Caption = StartingCaption(Chosen().Mode);
+  EnableFields(false);
+  clock_.HandOver();
+  if (!StoreFields()) {
     Controls.Command1.Caption = "START";
+    EnableFields(true);
     starting_ = false;
     return;
   }
+  SetUpModem();
   if (Started) Started();
 }
 
-bool StartPanel::TakeFields() {
+bool StartPanel::CallIsThere() {
+  if (Trim(Controls.Text8.Text).size() >= kShortestCall) return true;
+  dialogs_.Tell(kBoxTitle, "SET USER CALL !");
+  Controls.Fault.Caption = "your call sign, 3 characters or more";
+  Controls.Text8.FocusWanted = true;
+  return false;
+}
+
+void StartPanel::EnableFields(bool enabled) {
+  for (const Interface& one : interfaces_)
+    one.Option->Enabled = enabled;
+  for (TextBox* field : {&Controls.Text8, &Controls.Text5, &Controls.Text1, &Controls.Text4})
+    field->Enabled = enabled;
+  Controls.Text3.Enabled = enabled;
+  Controls.Command1.Enabled = enabled;
+}
+
+bool StartPanel::StoreFields() {
+  TakeFields();
+  if (!TakeModem()) return CantWrite("PORTS.TXT");
+  return WriteConfigFromStartPanel(files_, program_folder_, settings_) || CantWrite("ZEPRIL.INI");
+}
+
+bool StartPanel::CantWrite(const char* name) {
+  dialogs_.Tell(kBoxTitle, "CAN'T WRITE  " + program_folder_ + "\\" + name);
+  return false;
+}
+
+// An empty field leaves the held value.
+void StartPanel::TakeFields() {
   settings_.MyCall = Upper(Trim(Controls.Text8.Text));
-  RadioMode mode = RadioMode::AgwLocal;
-  if (Controls.Option9.Value) mode = RadioMode::AgwRemote;
-  if (Controls.Option10.Value) mode = RadioMode::None;
-  settings_.RadioMode = static_cast<int>(mode);
+  TakeMapsPath();
+  if (!Trim(Controls.Text5.Text).empty()) settings_.Moni1Call = Trim(Controls.Text5.Text);
+}
+
+void StartPanel::TakeMapsPath() {
   std::string maps = Upper(Trim(Controls.Text1.Text));
   if (!maps.empty() && maps.back() == '\\') maps.pop_back();
   if (!maps.empty() && settings_.MapZoneName.starts_with("U")) {
@@ -112,13 +288,77 @@ bool StartPanel::TakeFields() {
     settings_.MapZoneName = Right(maps, 3);
   }
   settings_.MapSystemFolder = program_folder_ + "\\" + settings_.MapZoneName;
-  // An empty field leaves the held value.
-  if (mode == RadioMode::AgwRemote) {
-    if (!Trim(Controls.Text3.Text).empty()) settings_.AgwHost = Trim(Controls.Text3.Text);
-    if (!Trim(Controls.Text4.Text).empty()) settings_.AgwTcpPort = Trim(Controls.Text4.Text);
+}
+
+// Takes the interface and its two fields; those of the others stay as they were held. False when
+// the device that was chosen can't be kept.
+bool StartPanel::TakeModem() {
+  KeepPortFields();
+  const Interface& chosen = Chosen();
+  settings_.RadioMode = static_cast<int>(chosen.Mode);
+  if (chosen.Fields == nullptr) return true;
+  const std::string speed(Trim(chosen.Fields->Speed));
+  if (chosen.Mode == RadioMode::AgwRemote) {
+    if (!Trim(chosen.Fields->Port).empty()) settings_.AgwHost = Trim(chosen.Fields->Port);
+    if (!speed.empty()) settings_.AgwTcpPort = speed;
+    return true;
   }
-  if (!Trim(Controls.Text5.Text).empty()) settings_.Moni1Call = Trim(Controls.Text5.Text);
-  return WriteConfigFromStartPanel(files_, program_folder_, settings_);
+  const bool pk232 = chosen.Mode == RadioMode::Pk232;
+  if (!speed.empty()) (pk232 ? settings_.TncBaud : settings_.ScsBaud) = speed;
+  const PortChoice choice = pk232 ? ChosenPort(*chosen.Fields, settings_.TncPort, kUsualPk232Port)
+                                  : ChosenPort(*chosen.Fields, settings_.ScsPort, kUsualScsPort);
+  if (!choice.Device.empty() &&
+      !ChooseDeviceOfPort(files_, program_folder_, static_cast<int>(choice.Number),
+                          choice.Device)) {
+    return false;
+  }
+  if (pk232) {
+    settings_.TncPort = static_cast<int>(choice.Number);
+  } else {
+    settings_.ScsPort = choice.Number;
+  }
+  chosen.Fields->Held = Trim(chosen.Fields->Port);
+  return true;
+}
+
+// The settings hold a number; a device is kept under it.
+StartPanel::PortChoice StartPanel::ChosenPort(const PortFields& fields, double held,
+                                              int usual_number) const {
+  const std::string port(Trim(fields.Port));
+  if (port.empty() || port == fields.Held) return {held, {}};
+  if (const auto number = PortNumberOfText(port)) return {static_cast<double>(*number), {}};
+  return {IsPortNumber(held) ? held : usual_number, StableName(port)};
+}
+
+// The name that stays with a device when others are plugged in.
+std::string StartPanel::StableName(const std::string& device) const {
+  const std::string path = device.find('/') == std::string::npos ? "/dev/" + device : device;
+  for (const SerialDevice& present : devices_ ? devices_() : std::vector<SerialDevice>()) {
+    if (present.Path == path && !present.StablePath.empty()) return present.StablePath;
+  }
+  return path;
+}
+
+// "port 3", or a device's name without its folders.
+std::string StartPanel::ShownPort() const {
+  const std::string port(Trim(Controls.Text3.Text));
+  if (const auto number = PortNumberOfText(port)) return "port " + WholeNumber(*number);
+  return port.substr(port.rfind('/') + 1);
+}
+
+void StartPanel::SetUpModem() {
+  if (!Chosen().Serial()) return;
+  const std::string what =
+      " s left   modem on " + ShownPort() + ", " + std::string(Trim(Controls.Text4.Text)) + " Bd";
+  Controls.SetupText.Visible = true;
+  Controls.SetupBar.Visible = true;
+  TncSetup(settings_, modem_, clock_, [&](const SetUpProgress& progress) {
+    Controls.SetupText.Caption = ShortNumber(std::ceil(progress.SecondsLeft)) + what;
+    Controls.SetupBar.FilledPx = static_cast<int>(progress.Share * kBarSteps);
+    Controls.PortFault.Caption = progress.Trouble;
+  });
+  // A close that was asked for meanwhile is heard before the main window opens.
+  clock_.HandOver();
 }
 
 }  // namespace zepril

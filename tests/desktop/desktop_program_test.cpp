@@ -3,6 +3,7 @@
 #include "desktop/desktop_program.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -83,20 +84,20 @@ TEST_F(DesktopProgramTest, TheFieldsShowTheSettings) {
   WriteSettings("MODEM=3\r\nHOSTC=radio.local\r\nHOSTP=8123\r\n");
   Begin();
   EXPECT_EQ(Find<QLineEdit>(Start(), "Text8")->text(), QStringLiteral("QX7KB"));
-  EXPECT_EQ(Find<QLineEdit>(Start(), "Text3")->text(), QStringLiteral("radio.local"));
+  EXPECT_EQ(Find<QComboBox>(Start(), "Text3")->currentText(), QStringLiteral("radio.local"));
   EXPECT_EQ(Find<QLineEdit>(Start(), "Text4")->text(), QStringLiteral("8123"));
   EXPECT_EQ(Find<QLineEdit>(Start(), "Text5")->text(), QStringLiteral("QX1AB-9"));
   EXPECT_EQ(Find<QLineEdit>(Start(), "Text1")->text(), QStringLiteral("C:\\ZEPRIL\\U33"));
   EXPECT_TRUE(Find<QPushButton>(Start(), "Option9")->isChecked());
   EXPECT_FALSE(Find<QPushButton>(Start(), "Option2")->isChecked());
   QTest::mouseClick(Find<QPushButton>(Start(), "Option10"), Qt::LeftButton);
-  EXPECT_FALSE(Find<QLineEdit>(Start(), "Text3")->isEnabled());
+  EXPECT_FALSE(Find<QComboBox>(Start(), "Text3")->isVisible());
   EXPECT_TRUE(Find<QPushButton>(Start(), "Option10")->isChecked());
   EXPECT_FALSE(Find<QPushButton>(Start(), "Option9")->isChecked());
 }
 
 TEST_F(DesktopProgramTest, EnterInAnyFieldPressesStartOnce) {
-  for (const char* field : {"Text8", "Text5", "Text1", "Command1"}) {
+  for (const char* field : {"Text8", "Text5", "Text1", "Option10", "Command1"}) {
     WriteSettings("MODEM=4\r\n");
     Begin();
     auto* widget = Find<>(Start(), field);
@@ -210,17 +211,44 @@ TEST_F(DesktopProgramTest, ASessionThatEndsWhileTheStationStartsIsEndedAfterTheS
   LoopbackEngine engine;
   WriteSettings("MODEM=3\r\nHOSTC=127.0.0.1\r\nHOSTP=" + WholeNumber(engine.Port()) + "\r\n");
   Begin();
-  QTimer::singleShot(0, &Start(), [this] {
-    EXPECT_NE(program->Station(), nullptr);  // it is being started
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, [&] {
+    if (program->Station() == nullptr) return;  // it is not being started yet
+    watch.stop();
     EXPECT_EQ(program->Window(), nullptr);
     program->CloseAsOperator();
   });
+  watch.start(0);
   QTest::mouseClick(StartButton(), Qt::LeftButton);
   EXPECT_TRUE(PumpUntil([this] { return ended == 1; }));
   EXPECT_EQ(program->Window(), nullptr);
   EXPECT_FALSE(Start().isVisible());
   EXPECT_TRUE(files.List("C:\\ZEPRIL\\TEMP", "*.DIR").empty());
   EXPECT_TRUE(Has("UTN=5817.86"));
+}
+
+// As while a modem is set up: whoever asks, the window or the system.
+TEST_F(DesktopProgramTest, ACloseBeforeTheStationStartsKeepsItFromStarting) {
+  const std::function<void()> asks[] = {[this] { program->CloseAsOperator(); },
+                                        [this] { Start().close(); },
+                                        [this] { QTest::keyClick(&Start(), Qt::Key_Escape); }};
+  for (const auto& ask : asks) {
+    WriteSettings("MODEM=4\r\n");
+    ended = 0;
+    Begin();
+    QTimer::singleShot(0, &Start(), [&] {
+      ASSERT_EQ(program->Station(), nullptr);
+      ask();
+      EXPECT_EQ(ended, 0);
+      EXPECT_TRUE(Start().isVisible());
+    });
+    QTest::mouseClick(StartButton(), Qt::LeftButton);
+    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(program->Station(), nullptr);
+    EXPECT_FALSE(Start().isVisible());
+    EXPECT_TRUE(Has("LANG=11"));  // what START has stored stays
+    program.reset();
+  }
 }
 
 TEST_F(DesktopProgramTest, ASessionThatEndsClosesTheBoxThatWaits) {

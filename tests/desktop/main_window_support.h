@@ -51,13 +51,16 @@ class MainWindowTest : public ::testing::Test {
                 "UUN=5830\r\nUUE=380\r\n");
     socket.OnConnect = [this] { socket.SetState(SocketState::Connected); };
     EXPECT_TRUE(fonts.LoadFonts(QStringLiteral(ZEPRIL_SOURCE_DIR "/data/fonts")));
-    program = std::make_unique<StationProgram>(StationPlatform{
-        files, loop, dialogs, desktop, socket, modem, map_surface, base_surface, sun_surface});
+    program = std::make_unique<StationProgram>(
+        StationPlatform{files, loop, dialogs, desktop, socket, modem, map_surface, base_surface,
+                        sun_surface, tx_symbol_surface, object_symbol_surface});
     loop.RunStep([this] { EXPECT_TRUE(program->Start("C:\\ZEPRIL", 32)); });
     State().Map.MapTileKm = 50.0;
     State().Map.ZoomFactor = 1.0;
-    window = std::make_unique<MainWindow>(*program, loop, fonts, map_surface, base_surface,
-                                          sun_surface, files);
+    window = std::make_unique<MainWindow>(*program, loop, fonts,
+                                          WindowSurfaces{map_surface, base_surface, sun_surface,
+                                                         tx_symbol_surface, object_symbol_surface},
+                                          files);
     window->Closed = [this] { ++closed; };
     loop.ControlsOut = [this] { window->ControlsOut(); };
     loop.StepEnded = [this] { window->CloseWhenAsked(); };
@@ -109,6 +112,8 @@ class MainWindowTest : public ::testing::Test {
   QtSurface map_surface{880, 700, fonts};
   QtSurface base_surface{880, 700, fonts};
   QtSurface sun_surface{361, 91, fonts};
+  QtSurface tx_symbol_surface{22, 22, fonts};
+  QtSurface object_symbol_surface{22, 22, fonts};
   std::unique_ptr<StationProgram> program;
   std::unique_ptr<MainWindow> window;
   int closed = 0;

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSerialPortInfo>
 
@@ -12,34 +13,32 @@
 #include <cstdlib>
 #include <optional>
 
+#include "core/port_number.h"
 #include "core/text_fields.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
 namespace {
 
-constexpr int kHighestNumber = 256;
-
-// The number of "3" and "COM3"; nothing for any other text.
-std::optional<int> PortNumber(std::string_view device) {
-  std::string_view digits = device;
-  if (EqualFolded(digits.substr(0, 3), "COM")) digits.remove_prefix(3);
-  const bool whole = !digits.empty() && std::all_of(digits.begin(), digits.end(), IsDigit);
-  if (!whole) return std::nullopt;
-  return WholeVal(digits, 1, kHighestNumber).value_or(0);
-}
-
 std::string PathOfName(const std::string& name) {
   return name.find('/') == std::string::npos ? "/dev/" + name : name;
 }
 
-std::string PathOfNumber(int number, const PortBook& book) {
-  if (number < 1) return {};
+std::string PathOfNumber(int number, const PortBook& book, const SerialDeviceList& present) {
+  if (number < 1 || number > kHighestPortNumber) return {};
   const std::string variable = "ZEPRIL_COM" + WholeNumber(number);
   const char* other = std::getenv(variable.c_str());
   if (other != nullptr && *other != '\0') return PathOfName(other);
   const std::string chosen = book ? book(number) : std::string();
-  return chosen.empty() ? "/dev/ttyS" + WholeNumber(number - 1) : PathOfName(chosen);
+  if (!chosen.empty()) return PathOfName(chosen);
+  const std::vector<SerialDevice> devices = present();
+  const auto place = static_cast<std::size_t>(number - 1);
+  // The number's own name is no path: it is found absent.
+  return place < devices.size() ? devices[place].Path : "COM" + WholeNumber(number);
+}
+
+bool IsPath(const std::string& path) {
+  return path.find('/') != std::string::npos;
 }
 
 // Place in the list: adapters come before what a computer has built in and mostly unused.
@@ -80,17 +79,31 @@ std::vector<SerialDevice> PresentSerialDevices() {
     const QString& maker = port.manufacturer();
     QString name = port.description();
     if (!maker.isEmpty()) name = name.isEmpty() ? maker : maker + QLatin1Char(' ') + name;
-    devices.push_back({FromQt(port.systemLocation()), FromQt(name)});
+    const std::string path = FromQt(port.systemLocation());
+    devices.push_back({path, FromQt(name), StableSerialPath(path)});
   }
   std::sort(devices.begin(), devices.end(), ComesBefore);
   return devices;
 }
 
-std::string SerialDevicePath(std::string_view device, const PortBook& book) {
+std::string StableSerialPath(const std::string& path, const std::string& folder) {
+  const QString device = QFileInfo(ToQt(path)).canonicalFilePath();
+  if (device.isEmpty()) return {};
+  // Devices count as entries of the system's own, not as files.
+  const QDir links(ToQt(folder), QString(), QDir::Name, QDir::Files | QDir::System);
+  for (const QFileInfo& link : links.entryInfoList()) {
+    if (link.canonicalFilePath() == device) return FromQt(link.filePath());
+  }
+  return {};
+}
+
+std::string SerialDevicePath(std::string_view device, const PortBook& book,
+                             const SerialDeviceList& present) {
   const std::string text(Trim(device));
   if (text.empty()) return {};
-  const std::optional<int> number = PortNumber(text);
-  const std::string path = number ? PathOfNumber(*number, book) : PathOfName(text);
+  const std::optional<int> number = PortNumberOfText(text);
+  const std::string path = number ? PathOfNumber(*number, book, present) : PathOfName(text);
+  if (!IsPath(path)) return path;
   // Programs that share a port agree on it by the device's own name.
   const QString real = QFileInfo(ToQt(path)).canonicalFilePath();
   return real.isEmpty() ? path : FromQt(real);
@@ -99,7 +112,7 @@ std::string SerialDevicePath(std::string_view device, const PortBook& book) {
 SerialTrouble SerialTroubleOf(const std::string& path) {
   struct stat found {};
   if (path.empty()) return SerialTrouble::NoPort;
-  if (::stat(path.c_str(), &found) != 0) return SerialTrouble::Absent;
+  if (!IsPath(path) || ::stat(path.c_str(), &found) != 0) return SerialTrouble::Absent;
   if (!S_ISCHR(found.st_mode)) return SerialTrouble::NoDevice;
   if (::access(path.c_str(), R_OK | W_OK) != 0) return SerialTrouble::NotPermitted;
   return SerialTrouble::Other;
@@ -110,7 +123,10 @@ std::string SerialTroubleText(SerialTrouble trouble, const std::string& path) {
     case SerialTrouble::NoPort:
       return "No serial port is set.";
     case SerialTrouble::Absent:
-      return path + " is not there.";
+      if (IsPath(path)) return path + " is not there.";
+      return path +
+             " is not there: this computer has fewer serial devices, and none is chosen for that "
+             "number.";
     case SerialTrouble::NoDevice:
       return path + " is no serial device.";
     case SerialTrouble::NotPermitted: {

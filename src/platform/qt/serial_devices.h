@@ -7,30 +7,33 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/serial_device.h"
+
 namespace zepril {
 
-struct SerialDevice {
-  std::string Path;  // "/dev/ttyUSB0"
-  std::string Name;  // what the device says of itself; may be empty
-};
-
-// The devices that are there: USB adapters first, then modems, radio links, built-in ports.
+// The devices that are there: USB adapters first, then modems, radio links, built-in ports. Port
+// number n is the n-th of them unless a device was chosen for it.
 std::vector<SerialDevice> PresentSerialDevices();
+
+// The link in `folder` that leads to the device; empty when none does.
+std::string StableSerialPath(const std::string& path,
+                             const std::string& folder = "/dev/serial/by-id");
 
 // What the operator has chosen for a port number: a device's name or path; empty when nothing.
 using PortBook = std::function<std::string(int number)>;
 
 // The native path that `device` means, links followed as far as they lead.
 //   "3" and "COM3": the text of ZEPRIL_COM3 in the environment when there is one, else what `book`
-//   says, else the third built-in port, "/dev/ttyS2"
+//     says, else the third of the `present` devices; "COM3" when there are fewer
 //   "ttyUSB0": "/dev/ttyUSB0"; a text with "/" is a path as it is
 // Empty for a number below 1 and for an empty text: these mean no port.
-std::string SerialDevicePath(std::string_view device, const PortBook& book = {});
+std::string SerialDevicePath(std::string_view device, const PortBook& book = {},
+                             const SerialDeviceList& present = PresentSerialDevices);
 
 // Why opening failed, as a sentence for the operator.
 enum class SerialTrouble {
   NoPort,         // the text means no port
-  Absent,         // nothing of that name
+  Absent,         // nothing of that name, or no device for the number
   NoDevice,       // a file or folder
   NotPermitted,   // this user may not
   UsedElsewhere,  // another program has it

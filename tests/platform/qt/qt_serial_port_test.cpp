@@ -10,6 +10,7 @@
 #include <fstream>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/qt/qt_loop.h"
 #include "tests/doubles/pseudo_terminal.h"
@@ -178,8 +179,10 @@ TEST_F(QtSerialPortTest, ThePortOpensAgainWhenTheDeviceIsBack) {
 TEST_F(QtSerialPortTest, ANumberOpensTheDeviceThatWasChosenForIt) {
   port.DeviceOfNumber = [this](int number) { return number == 77 ? modem->Path() : ""; };
   EXPECT_TRUE(port.Open("77", 9600)) << port.Trouble();
-  EXPECT_FALSE(port.Open("78", 9600));
-  EXPECT_EQ(port.Trouble(), "/dev/ttyS77 is not there.");
+  EXPECT_FALSE(port.Open("200", 9600));
+  EXPECT_EQ(port.Trouble(),
+            "COM200 is not there: this computer has fewer serial devices, and none is chosen for "
+            "that number.");
 }
 
 TEST_F(QtSerialPortTest, ASecondProgramIsToldThatThePortIsTaken) {
@@ -239,27 +242,52 @@ TEST_F(QtSerialPortTest, ThePortMayBeClosedWhenDataArrive) {
   EXPECT_TRUE(Open());
 }
 
-TEST(SerialDevicePath, ANumberIsABuiltInPortUnlessTheEnvironmentNamesAnother) {
-  ::unsetenv("ZEPRIL_COM3");
-  EXPECT_EQ(SerialDevicePath("3"), "/dev/ttyS2");
-  EXPECT_EQ(SerialDevicePath(" com3 "), "/dev/ttyS2");
+std::vector<SerialDevice> TwoDevices() {
+  return {{"/dev/no-adapter", "Adapter", ""}, {"/dev/no-port", "", ""}};
+}
+
+TEST(SerialDevicePath, ANumberCountsTheDevicesThatAreThere) {
+  EXPECT_EQ(SerialDevicePath("1", {}, TwoDevices), "/dev/no-adapter");
+  EXPECT_EQ(SerialDevicePath(" com2 ", {}, TwoDevices), "/dev/no-port");
+}
+
+TEST(SerialDevicePath, ANumberThatNoDeviceHasIsNamedByItsTrouble) {
+  const std::string path = SerialDevicePath("3", {}, TwoDevices);
+  EXPECT_EQ(path, "COM3");
+  EXPECT_EQ(SerialTroubleOf(path), SerialTrouble::Absent);
+  EXPECT_EQ(SerialTroubleText(SerialTrouble::Absent, path),
+            "COM3 is not there: this computer has fewer serial devices, and none is chosen for "
+            "that number.");
+}
+
+// A file of that name in the folder where the program was started is no port.
+TEST(SerialDevicePath, ANumbersNameIsNoPath) {
+  const TempFolder folder;
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(folder.Path());
+  std::ofstream("COM3") << "text";
+  EXPECT_EQ(SerialDevicePath("3", {}, TwoDevices), "COM3");
+  EXPECT_EQ(SerialTroubleOf("COM3"), SerialTrouble::Absent);
+  std::filesystem::current_path(before);
+}
+
+TEST(SerialDevicePath, TheEnvironmentNamesAnotherDeviceForANumber) {
   ::setenv("ZEPRIL_COM3", "no-such-adapter", 1);
-  EXPECT_EQ(SerialDevicePath("3"), "/dev/no-such-adapter");
+  EXPECT_EQ(SerialDevicePath("3", {}, TwoDevices), "/dev/no-such-adapter");
   ::setenv("ZEPRIL_COM3", "/no/such/adapter", 1);
-  EXPECT_EQ(SerialDevicePath("COM3"), "/no/such/adapter");
+  EXPECT_EQ(SerialDevicePath("COM3", {}, TwoDevices), "/no/such/adapter");
   ::unsetenv("ZEPRIL_COM3");
 }
 
 TEST(SerialDevicePath, TheOperatorsChoiceHoldsUnlessTheEnvironmentNamesAnother) {
-  ::unsetenv("ZEPRIL_COM3");
   const PortBook book = [](int number) {
-    return number == 3 ? std::string("no-such-adapter") : std::string();
+    return number == 1 ? std::string("no-such-adapter") : std::string();
   };
-  EXPECT_EQ(SerialDevicePath("3", book), "/dev/no-such-adapter");
-  EXPECT_EQ(SerialDevicePath("4", book), "/dev/ttyS3");
-  ::setenv("ZEPRIL_COM3", "other-adapter", 1);
-  EXPECT_EQ(SerialDevicePath("3", book), "/dev/other-adapter");
-  ::unsetenv("ZEPRIL_COM3");
+  EXPECT_EQ(SerialDevicePath("1", book, TwoDevices), "/dev/no-such-adapter");
+  EXPECT_EQ(SerialDevicePath("2", book, TwoDevices), "/dev/no-port");
+  ::setenv("ZEPRIL_COM1", "other-adapter", 1);
+  EXPECT_EQ(SerialDevicePath("1", book, TwoDevices), "/dev/other-adapter");
+  ::unsetenv("ZEPRIL_COM1");
 }
 
 TEST(SerialDevicePath, ANumberBelowOneIsNoPort) {
@@ -279,6 +307,19 @@ TEST(SerialTroubleTexts, APortThatMayNotBeOpenedNamesTheCommandThatMendsIt) {
       SerialTroubleText(SerialTrouble::NotPermitted, "/dev/no-such-device"),
       "/dev/no-such-device may not be opened by you: it belongs to the group dialout. To join "
       "it: sudo usermod -aG dialout $USER, then log in again.");
+}
+
+TEST(StableSerialPath, IsTheLinkThatLeadsToTheDevice) {
+  const PseudoTerminal modem;
+  const PseudoTerminal other;
+  const TempFolder folder;
+  std::filesystem::create_symlink(other.Path(), folder.Sub("a-other"));
+  std::filesystem::create_symlink(folder.Sub("nowhere"), folder.Sub("b-broken"));
+  std::filesystem::create_symlink(modem.Path(), folder.Sub("usb-modem"));
+  EXPECT_EQ(StableSerialPath(modem.Path(), folder.Path()), folder.Sub("usb-modem"));
+  EXPECT_EQ(StableSerialPath("/dev/null", folder.Path()), "");
+  EXPECT_EQ(StableSerialPath(modem.Path(), folder.Sub("no-folder")), "");
+  EXPECT_EQ(StableSerialPath("/dev/no-such-device", folder.Path()), "");
 }
 
 TEST(PresentSerialDevices, EachHasAPathThatIsThere) {

@@ -1,0 +1,65 @@
+#include "desktop/scrolling_panel.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QScrollArea>
+
+#include <algorithm>
+
+#include "platform/qt/text.h"
+
+namespace zepril {
+namespace {
+
+constexpr int kMargin = 8;
+
+}  // namespace
+
+ScrollingPanel::ScrollingPanel(WindowParts& parts, const char* name, zepril::Frame& frame,
+                               QWidget* parent, QWidget& focus_after)
+    : QFrame(parent), focus_after_(focus_after) {
+  setObjectName(QString::fromLatin1(name));
+  setProperty("panel", true);
+  setAttribute(Qt::WA_NoMousePropagation);
+  auto* box = TightBox(QBoxLayout::TopToBottom, this);
+  box->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  caption_ = GroupCaption("");
+  caption_->setWordWrap(true);
+  box->addWidget(caption_);
+
+  area_ = new QScrollArea;
+  area_->setProperty("bare", true);
+  area_->setWidgetResizable(true);
+  area_->setFrameShape(QFrame::NoFrame);
+  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area_->setFocusPolicy(Qt::NoFocus);
+  area_->setMinimumHeight(0);
+  auto* inside = new QWidget;
+  content_ = TightBox(QBoxLayout::TopToBottom, inside);
+  area_->setWidget(inside);
+  box->addWidget(area_, 1);
+
+  buttons_ = TightBox(QBoxLayout::LeftToRight);
+  box->addLayout(buttons_);
+  parts.Binding.Bind(this, frame);
+  parts.Binding.OnControlsOut([this, &frame] {
+    const QString text = ToQt(frame.Caption);
+    if (caption_->text() != text) caption_->setText(text);
+  });
+}
+
+void ScrollingPanel::PlaceIn(const QRect& place) {
+  const int inner = place.width() - 2 * kMargin;
+  const int around =
+      2 * kMargin + 2 * kGap + 2 + caption_->heightForWidth(inner) + buttons_->sizeHint().height();
+  const int height = std::min(around + content_->sizeHint().height(), place.height());
+  setGeometry(place.x(), place.y(), place.width(), height);
+}
+
+// Hidden with the focus in it, it would hand the focus to whatever field comes next.
+void ScrollingPanel::hideEvent(QHideEvent* event) {
+  if (isAncestorOf(QApplication::focusWidget())) focus_after_.setFocus(Qt::OtherFocusReason);
+  QFrame::hideEvent(event);
+}
+
+}  // namespace zepril

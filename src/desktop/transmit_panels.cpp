@@ -1,0 +1,88 @@
+#include "desktop/transmit_panels.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <algorithm>
+
+#include "desktop/plot_view.h"
+#include "desktop/scrolling_panel.h"
+
+namespace zepril {
+namespace {
+
+constexpr int kMargin = 8;
+constexpr int kWidth = 292;
+constexpr int kCentreRoom = 20;  // pixels around the map's centre that stay free
+constexpr int kStepWidth = 26;
+constexpr int kOverlayField = 44;
+
+}  // namespace
+
+TransmitPanels::TransmitPanels(WindowParts& parts, MainWindowControls& controls, QWidget& map,
+                               Symbols symbols)
+    : parts_(parts),
+      controls_(controls),
+      map_(map),
+      tx_setup_(parts, controls, map, symbols.OfStation),
+      object_(new ScrollingPanel(parts, "Frame11", controls.ObjectSetup.Frame11, map.parentWidget(),
+                                 map)) {
+  MakeObjectSetup(symbols.OfObject);
+}
+
+void TransmitPanels::MakeObjectSetup(const QtSurface& symbol) {
+  ObjectSetupControls& o = controls_.ObjectSetup;
+  auto* grid = new QGridLayout;
+  grid->setSpacing(kGap);
+  object_->Content()->addLayout(grid);
+  parts_.FieldRow(grid, 0, "ObjectNameField", "NAME", o.ObjectNameField);
+  parts_.FieldRow(grid, 1, "ObjectTextField", "TEXT", o.ObjectTextField);
+  grid->addWidget(new QLabel(QStringLiteral("SYMBOL")), 2, 0);
+  auto* row = TightBox(QBoxLayout::LeftToRight);
+  grid->addLayout(row, 2, 1);
+  for (QPushButton* step : {parts_.BoundButton("ObjectSymbolDown", o.ObjectSymbolDown),
+                            parts_.BoundButton("ObjectSymbolUp", o.ObjectSymbolUp)}) {
+    step->setFixedWidth(kStepWidth);
+    row->addWidget(step);
+  }
+  auto* picture = new PlotView(o.ObjectSymbolPicture, symbol, 2);
+  picture->setObjectName(QStringLiteral("ObjectSymbolPicture"));
+  row->addWidget(picture);
+  QLabel* name = parts_.FixedLabel("ObjectSymbolName");
+  name->setMinimumWidth(0);
+  name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  row->addWidget(name, 1);
+  parts_.Binding.Bind(name, o.ObjectSymbolName);
+  parts_.FieldRow(grid, 3, "ObjectOverlayField", "OVERLAY", o.ObjectOverlayField);
+  grid->itemAtPosition(3, 1)->widget()->setFixedWidth(kOverlayField);
+  object_->Content()->addStretch(1);
+  object_->Buttons()->addWidget(parts_.BoundButton("ObjectOk", o.ObjectOk), 1);
+  object_->Buttons()->addWidget(parts_.BoundButton("Command31", o.Command31));
+  object_->Buttons()->addWidget(parts_.BoundButton("Command32", o.Command32));
+  parts_.Binding.OnControlsOut([&o, picture] {
+    if (o.Frame11.Visible) picture->ControlsOut();
+  });
+}
+
+// At the map's top left; where that would reach its centre, over the column beside it.
+void TransmitPanels::PlaceObjectSetup() {
+  const QRect map = map_.geometry();
+  const int centre = map.x() + map.width() / 2;
+  const int x = std::max(std::min(map.x() + kMargin, centre - kCentreRoom - kWidth), 0);
+  object_->PlaceIn(QRect(x, kMargin, kWidth, map_.parentWidget()->height() - 2 * kMargin));
+}
+
+void TransmitPanels::Place() {
+  tx_setup_.Place();
+  if (!object_->isHidden()) PlaceObjectSetup();
+}
+
+const Button* TransmitPanels::CloseOfTopmost() const {
+  if (controls_.ObjectSetup.Frame11.Visible) return &controls_.ObjectSetup.Command32;
+  if (controls_.TxSetup.Frame4.Visible) return &controls_.TxSetup.TxAbort;
+  return nullptr;
+}
+
+}  // namespace zepril

@@ -1,0 +1,26 @@
+// The set-up of a serial modem at START: brought into a known state while the start panel shows how
+// far it is.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "config/start_panel_settings.h"
+#include "platform/clock.h"
+#include "platform/serial_port.h"
+
+namespace zepril {
+
+struct SetUpProgress {
+  double Share = 0.0;        // 0 to 1 of the expected time
+  double SecondsLeft = 0.0;  // of it
+  std::string Trouble;       // why the port is not open, as a sentence; empty when all is well
+};
+
+// Opens the port, carries the sequence of the settings' interface out and closes the port. Returns
+// at once for interfaces without a serial modem. Nothing fails: on a port that can't be opened only
+// the waits remain. `told` is called before each wait, and several times in a long one.
+void TncSetup(const StartPanelSettings& settings, SerialPort& port, Clock& clock,
+              const std::function<void(const SetUpProgress&)>& told);
+
+}  // namespace zepril
