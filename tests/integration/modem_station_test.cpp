@@ -84,7 +84,8 @@ constexpr const char* kReport = "=4830.15N/00805.20E> Test";
 
 TEST_P(ModemStationTest, AnUntouchedModemIsSetUpHeardMadeToSendAndLeft) {
   modem = std::make_unique<ServedModem>(station.Link(), MakeModel(Mode()));
-  station.SetUpModem();
+  ASSERT_TRUE(station.PressStart());
+  EXPECT_FALSE(station.port.IsOpen());
   ASSERT_TRUE(station.Start());
   ASSERT_TRUE(station.Comes([this] { return modem->Runs(); }));
   EXPECT_NE(Lamp(), LampState::Lost);

@@ -145,7 +145,7 @@ TEST_F(InfoFiles, ALockedFileIsNoComment) {
 // there, if need be half of a line and half of the next.
 TEST_F(InfoFiles, AFileThatChangesWhileItIsReadGivesWhatWasThere) {
   const std::vector<std::string> lines = {"wind 270 at 12", std::string(5000, 'w'), "calm"};
-  constexpr std::size_t kTurns = 300;
+  constexpr std::size_t kTurns = 60;
   std::atomic<bool> ended{false};
   std::atomic<std::size_t> turns{0};
   std::thread writer([&] {
@@ -158,7 +158,10 @@ TEST_F(InfoFiles, AFileThatChangesWhileItIsReadGivesWhatWasThere) {
   });
   for (std::size_t reports = 0; reports < kTurns || turns < kTurns; ++reports) {
     const std::string report = Report();
-    ASSERT_TRUE(report.starts_with(kPosition)) << report;
+    if (!report.starts_with(kPosition)) {
+      ADD_FAILURE() << report;
+      break;
+    }
     const std::string comment =
         report.substr(kPosition.size(), report.size() - kPosition.size() - 1);
     EXPECT_LE(comment.size(), 63U);
