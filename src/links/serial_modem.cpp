@@ -35,6 +35,7 @@ void SerialModem::ReopenElapsed() {
   if (!tools_.Port.Open(ModemDevice(radio_), ModemBaud(radio_))) return;
   Run(LeaveConverseScript(radio_));
   Run(OpenModemScript({identity_, radio_, transmission_}));
+  if (Reopened) Reopened();
 }
 
 void SerialModem::Run(const ModemScript& script, const ScriptProgress& progress) {

@@ -43,6 +43,8 @@ class SerialModem {
   void ReopenElapsed();
   // Whether a lost port may be opened just now; may be empty. Asked each time.
   std::function<bool()> MayReopen;
+  // A lost port was opened again; may be empty.
+  std::function<void()> Reopened;
   // Bytes have come; may be empty.
   std::function<void()> DataArrived;
 

@@ -230,6 +230,7 @@ TEST_P(ModemTroubleTest, APortOfAnotherProgramIsLeftAloneUntilItIsFree) {
   other.Close();
   station.Run(kReopenSeconds + 0.1);
   EXPECT_EQ(Lamp(), LampState::Silent) << station.port.Trouble();
+  EXPECT_FALSE(station.Controls().Status.LinkNotice.Visible);
   ExpectATickWithAReport();
   EXPECT_TRUE(line.Heard().ends_with(kReport));
 }
