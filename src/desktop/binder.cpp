@@ -217,7 +217,7 @@ void Binder::Bind(QPlainTextEdit* widget, TextBox& control) {
   // Presses come to the part that scrolls.
   watched_.push_back({widget->viewport(), &control, nullptr, true});
   widget->viewport()->installEventFilter(this);
-  new TypedKeys(widget, loop_, control);
+  new TypedKeys(widget, loop_, control, this);
   outs_.push_back([widget, &control, text = std::string()]() mutable {
     if (text == control.Text) return;
     text = control.Text;
@@ -289,7 +289,7 @@ void Binder::BindTyping(QComboBox* widget, ComboBox& control) {
 
 void Binder::Bind(QListView* widget, QStringListModel* model, ListBox& control) {
   BindCommon(widget, control);
-  new RightHold(widget, loop_, control);
+  new RightHold(widget, loop_, control, this);
   widget->setModel(model);
   connect(widget, &QListView::clicked, this, [this, &control](const QModelIndex& index) {
     control.ListIndex = index.row();

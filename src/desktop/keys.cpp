@@ -86,6 +86,7 @@ std::optional<char> TypedByte(const QKeyEvent& event) {
     case Qt::Key_Backspace:
       return '\b';
     case Qt::Key_Tab:
+      if (event.modifiers().testFlag(Qt::ShiftModifier)) return std::nullopt;
       return '\t';
     case Qt::Key_Escape:
       return '\x1B';

@@ -22,8 +22,8 @@ bool IsTypedIn(const QWidget* widget);
 
 // The byte that a key gives to a terminal: its character in code page 1252, 13 Enter, 8 Backspace,
 // 9 Tab, 27 Esc, 127 Delete, 1 to 26 for a letter with Ctrl (28 to 31 for the signs behind "Z").
-// Nothing for keys without a character, for those with Alt, and for characters of no code page
-// 1252.
+// Nothing for keys without a character, for those with Alt, for Shift+Tab, and for characters that
+// code page 1252 does not have.
 std::optional<char> TypedByte(const QKeyEvent& event);
 // The same of one character.
 std::optional<char> TypedByte(const QString& text);

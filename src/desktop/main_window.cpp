@@ -174,9 +174,11 @@ void MainWindow::Arrange() {
   if (drawer_->count() != pages) ShareHeight();
 }
 
-// The map keeps two thirds of the height.
+// The map keeps two thirds of the height, and half of it beside the terminal, while it stands
+// still.
 void MainWindow::ShareHeight() {
-  split_->setSizes({2 * split_->height() / 3, split_->height() / 3});
+  const int drawer = split_->height() / (controls_.Terminal.Frame19.Visible ? 2 : 3);
+  split_->setSizes({split_->height() - drawer, drawer});
 }
 
 void MainWindow::ShowDrawer() {
@@ -199,11 +201,10 @@ void MainWindow::ShowPage(QWidget* page, bool shown, const char* title) {
   drawer_->setCurrentWidget(page);
 }
 
-// The map stands still while the terminal is open: half of the height is enough for it.
 void MainWindow::MakeRoomForTerminal(bool open) {
   if (open) {
     sizes_without_terminal_ = split_->sizes();
-    split_->setSizes({split_->height() / 2, split_->height() / 2});
+    ShareHeight();
   } else if (!drawer_->isHidden()) {
     split_->setSizes(sizes_without_terminal_);
   }

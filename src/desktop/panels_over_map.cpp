@@ -58,6 +58,7 @@ void PanelsOverMap::MakeNotices() {
   // It may name a command that is to be copied.
   link_notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   mode_notice_ = notice("Label49", controls_.Terminal.Label49);
+  mode_notice_->setAlignment(Qt::AlignCenter);
 }
 
 void PanelsOverMap::MakeRecordPanel() {

@@ -8,8 +8,8 @@
 
 namespace zepril {
 
-RightHold::RightHold(QAbstractScrollArea* view, QtLoop& loop, ListBox& list)
-    : QObject(view), view_(view), loop_(loop), list_(list) {
+RightHold::RightHold(QAbstractScrollArea* view, QtLoop& loop, ListBox& list, QObject* parent)
+    : QObject(parent), view_(view), loop_(loop), list_(list) {
   view->installEventFilter(this);
   view->viewport()->installEventFilter(this);
 }

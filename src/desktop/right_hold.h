@@ -15,8 +15,8 @@ namespace zepril {
 
 class RightHold final : public QObject {
  public:
-  // Lives on `view`; acts while `RightDown` of the list is set.
-  RightHold(QAbstractScrollArea* view, QtLoop& loop, ListBox& list);
+  // Acts while `RightDown` of the list is set.
+  RightHold(QAbstractScrollArea* view, QtLoop& loop, ListBox& list, QObject* parent);
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

@@ -17,7 +17,7 @@ constexpr int kMargin = 8;
 constexpr int kWidth = 292;
 constexpr int kCentreRoom = 20;  // pixels around the map's centre that stay free
 constexpr int kStepWidth = 26;
-constexpr int kOverlayField = 44;
+constexpr int kOverlayField = 32;
 
 }  // namespace
 
@@ -50,13 +50,16 @@ void TransmitPanels::MakeObjectSetup(const QtSurface& symbol) {
   auto* picture = new PlotView(o.ObjectSymbolPicture, symbol, 2);
   picture->setObjectName(QStringLiteral("ObjectSymbolPicture"));
   row->addWidget(picture);
+  row->addStretch(1);
+  row->addWidget(new QLabel(QStringLiteral("OVERLAY")));
+  QLineEdit* overlay = parts_.BoundField("ObjectOverlayField", "OVERLAY", o.ObjectOverlayField);
+  overlay->setFixedWidth(kOverlayField);
+  row->addWidget(overlay);
   QLabel* name = parts_.FixedLabel("ObjectSymbolName");
   name->setMinimumWidth(0);
   name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  row->addWidget(name, 1);
+  grid->addWidget(name, 3, 1);
   parts_.Binding.Bind(name, o.ObjectSymbolName);
-  parts_.FieldRow(grid, 3, "ObjectOverlayField", "OVERLAY", o.ObjectOverlayField);
-  grid->itemAtPosition(3, 1)->widget()->setFixedWidth(kOverlayField);
   object_->Content()->addStretch(1);
   object_->Buttons()->addWidget(parts_.BoundButton("ObjectOk", o.ObjectOk), 1);
   object_->Buttons()->addWidget(parts_.BoundButton("Command31", o.Command31));

@@ -17,7 +17,10 @@ constexpr int kMargin = 8;
 constexpr int kWidth = 620;
 constexpr int kStepWidth = 26;
 constexpr int kShortField = 44;  // a few digits
+constexpr int kOverlayField = 32;
 constexpr int kCallField = 84;
+constexpr int kActiveWidth = 68;  // bold, when on
+constexpr int kButtonWidth = 88;
 constexpr int kIntervalField = 72;
 
 // The name of one control of several, counted from 1.
@@ -48,8 +51,11 @@ TxSetupPanel::TxSetupPanel(WindowParts& parts, MainWindowControls& controls, QWi
   MakeRadio(box);
   box->addStretch(1);
   panel_->Buttons()->addStretch(1);
-  panel_->Buttons()->addWidget(parts_.BoundButton("TxOk", controls_.TxOk));
-  panel_->Buttons()->addWidget(parts_.BoundButton("TxAbort", controls_.TxAbort));
+  for (QPushButton* button : {parts_.BoundButton("TxOk", controls_.TxOk),
+                              parts_.BoundButton("TxAbort", controls_.TxAbort)}) {
+    button->setMinimumWidth(kButtonWidth);
+    panel_->Buttons()->addWidget(button);
+  }
 }
 
 // SSID, destination, symbol.
@@ -80,7 +86,7 @@ void TxSetupPanel::MakeStation(QBoxLayout* box, const QtSurface& symbol) {
   name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   row->addWidget(name, 1);
   parts_.Binding.Bind(name, controls_.SymbolName);
-  field("TxOverlayField", "OVERLAY", controls_.TxOverlayField, kShortField);
+  field("TxOverlayField", "OVERLAY", controls_.TxOverlayField, kOverlayField);
   parts_.Binding.OnControlsOut([this, picture] {
     if (controls_.Frame4.Visible) picture->ControlsOut();
   });
@@ -126,7 +132,9 @@ void TxSetupPanel::MakeLines(QBoxLayout* box) {
     grid->addWidget(
         parts_.BoundField(Numbered("InfoField", line), "info line", controls_.InfoField[line]), row,
         1);
-    grid->addWidget(parts_.BoundButton(Numbered("fr4ta", line), controls_.fr4ta[line]), row, 2);
+    QPushButton* active = parts_.BoundButton(Numbered("fr4ta", line), controls_.fr4ta[line]);
+    active->setFixedWidth(kActiveWidth);
+    grid->addWidget(active, row, 2);
     grid->addWidget(
         Tight(parts_.BoundButton(Numbered("InfoMemory", line), controls_.InfoMemory[line])), row,
         3);

@@ -8,8 +8,8 @@
 
 namespace zepril {
 
-TypedKeys::TypedKeys(QWidget* widget, QtLoop& loop, TextBox& box)
-    : QObject(widget), loop_(loop), box_(box) {
+TypedKeys::TypedKeys(QWidget* widget, QtLoop& loop, TextBox& box, QObject* parent)
+    : QObject(parent), loop_(loop), box_(box) {
   widget->setAcceptDrops(false);
   widget->installEventFilter(this);
 }

@@ -15,8 +15,8 @@ namespace zepril {
 
 class TypedKeys final : public QObject {
  public:
-  // Lives on `widget`; acts while `box.KeyTyped` is set.
-  TypedKeys(QWidget* widget, QtLoop& loop, TextBox& box);
+  // Acts while `box.KeyTyped` is set.
+  TypedKeys(QWidget* widget, QtLoop& loop, TextBox& box, QObject* parent);
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

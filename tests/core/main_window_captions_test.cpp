@@ -18,6 +18,76 @@ TEST(MainWindowCaptions, PanelsCarryTheirTexts) {
   EXPECT_EQ(c.Places.Command64.Caption, " POS->CENTER");
   EXPECT_EQ(c.Places.Command67.Caption, "OPEN LINK");
   EXPECT_EQ(c.Iono.Frame18.Caption, "Input of ionospherical data");
+  EXPECT_EQ(c.ObjectSetup.Frame11.Caption, "OBJECT SETUP: CENTER THE MAP TO THE OBJECT!");
+  EXPECT_EQ(c.ObjectSetup.Command31.Caption, "DELETE OBJECT");
+  EXPECT_EQ(c.ObjectSetup.Command32.Caption, "CANCEL");
+  for (const CheckBox& active : c.TxSetup.fr4ta)
+    EXPECT_EQ(active.Caption, "ACTIVE");
+  EXPECT_EQ(c.Terminal.Label47.Caption,
+            "THIS TERMINAL WINDOW ALLOWS TO COMMUNICATE DIRECTLY WITH/VIA THE TNC. AS LONG AS IT "
+            "IS HELD OPEN, ALL NORMAL PROGRAM FUNCTIONS ARE STOPPED.");
+}
+
+TEST(MainWindowCaptions, TxSetupNamesItsButtonsAndSpeeds) {
+  MainWindowControls c;
+  SetInitialControls(c);
+  const TxSetupControls& t = c.TxSetup;
+  EXPECT_EQ(t.PathMemory[0].Caption, "M1");
+  EXPECT_EQ(t.PathMemory[3].Caption, "M4");
+  EXPECT_EQ(t.InfoMemory[5].Caption, "M6");
+  EXPECT_EQ(t.TxTimestampBox.Caption, "TX TIMESTAMP (GPS)");
+  const char* speeds[] = {"RPR 300", "300", "1200", "9600", "19200"};
+  for (std::size_t at = 0; at < t.Speeds.size(); ++at)
+    EXPECT_EQ(t.Speeds[at].Caption, speeds[at]);
+}
+
+TEST(MainWindowCaptions, MinutesAndSymbolsStepFiveTimesASecondWhileHeld) {
+  MainWindowControls c;
+  SetInitialControls(c);
+  for (const Button* held :
+       {&c.TxSetup.TxIntervalDown, &c.TxSetup.TxIntervalUp, &c.TxSetup.SymbolDown,
+        &c.TxSetup.SymbolUp, &c.ObjectSetup.ObjectSymbolDown, &c.ObjectSetup.ObjectSymbolUp}) {
+    EXPECT_EQ(held->RepeatMs, 200);
+  }
+  EXPECT_EQ(c.TxSetup.CrossUp.RepeatMs, 0);
+  EXPECT_EQ(c.TxSetup.TxOk.RepeatMs, 0);
+}
+
+TEST(MainWindowCaptions, TheTransmittersPanelsWaitUntilTheyAreAskedFor) {
+  MainWindowControls c;
+  SetInitialControls(c);
+  for (const Control* panel : std::initializer_list<const Control*>{
+           &c.TxSetup.Frame4, &c.ObjectSetup.Frame11, &c.Terminal.Frame19, &c.Terminal.Label49,
+           &c.Status.LinkNotice}) {
+    EXPECT_FALSE(panel->Visible);
+  }
+  for (const CheckBox* box :
+       {&c.Transmit.Check6, &c.Transmit.Check18, &c.Transmit.Check2, &c.Transmit.Check15}) {
+    EXPECT_TRUE(box->Visible);
+  }
+  EXPECT_FALSE(c.Transmit.Check7.Visible);
+}
+
+TEST(MainWindowCaptions, TheMemoriesToolTipsAreLeftToTheirTexts) {
+  MainWindowControls c;
+  SetInitialControls(c);
+  c.TxSetup.InfoMemory[1].ToolTip = "145.500 MHZ";
+  c.TxSetup.PathMemory[2].ToolTip = "WIDE1-1";
+  SetMainWindowLabels(c, 11);
+  SetMainWindowLabels(c, 1);
+  EXPECT_EQ(c.TxSetup.InfoMemory[1].ToolTip, "145.500 MHZ");
+  EXPECT_EQ(c.TxSetup.PathMemory[2].ToolTip, "WIDE1-1");
+}
+
+TEST(MainWindowCaptions, ARightClickIsToldInTheToolTip) {
+  MainWindowControls c;
+  SetInitialControls(c);
+  EXPECT_TRUE(c.Transmit.Check6.ToolTip.ends_with("/ Rclick: TX SETUP"));
+  EXPECT_TRUE(c.Transmit.Check18.ToolTip.ends_with("/ Rclick: OBJECT SETUP"));
+  SetMainWindowLabels(c, 1);
+  EXPECT_EQ(c.Transmit.Check6.ToolTip, "");
+  EXPECT_EQ(c.TxSetup.TxPathField.ToolTip, "");
+  EXPECT_EQ(c.TxSetup.PathQuick[0].ToolTip, "");
 }
 
 struct TipRow {

@@ -1,51 +1,22 @@
+// Each kind of control and its widget: what the operator does comes in, what the logic sets goes
+// out.
 #include "desktop/binder.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
-#include <QBoxLayout>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStringListModel>
 #include <QWheelEvent>
-#include <QtTest/QTest>
-#include <gtest/gtest.h>
 
 #include "desktop/fill_bar_widget.h"
-#include "tests/desktop/desktop_support.h"
+#include "tests/desktop/binder_support.h"
 
 namespace zepril {
 namespace {
-
-// A shown window with one widget of each kind, all bound.
-class BinderTest : public ::testing::Test {
- protected:
-  template <class Widget>
-  Widget* Place(Widget* widget) {
-    box_->addWidget(widget);
-    return widget;
-  }
-  void Show() {
-    loop.ControlsOut = [this] { binder.ControlsOut(); };
-    binder.ControlsOut();
-    window.resize(400, 400);
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(PumpUntil([this] { return QApplication::activeWindow() == &window; }));
-  }
-  Event Counted(int& count) {
-    return [&count] { ++count; };
-  }
-
-  QtLoop loop;
-  QWidget window;
-  Binder binder{loop, NightLook()};
-
- private:
-  QVBoxLayout* box_ = new QVBoxLayout(&window);
-};
 
 TEST_F(BinderTest, AButtonIsPressedByMouseAndBySpaceOnceEach) {
   Button control;
@@ -510,6 +481,163 @@ TEST_F(BinderTest, AnInkThatCouldNotBeReadGivesWay) {
   const QColor back = StateShade(0x00FFFF, NightLook());
   EXPECT_FALSE(widget->styleSheet().contains(QColor(0, 0, 0).name()));
   EXPECT_TRUE(widget->styleSheet().contains(TextOn(back).name()));
+}
+
+// ---- Held buttons ---------------------------------------------------------------------------
+
+TEST_F(BinderTest, AButtonThatRepeatsActsWhenItGoesDownAndOnWhileItIsHeld) {
+  Button control;
+  int clicks = 0;
+  control.Click = Counted(clicks);
+  control.RepeatMs = 2;
+  auto* widget = Place(new QPushButton);
+  binder.Bind(widget, control);
+  Show();
+  QTest::mousePress(widget, Qt::LeftButton);
+  EXPECT_EQ(clicks, 1);
+  EXPECT_TRUE(PumpUntil([&] { return clicks >= 4; }));
+  const int held = clicks;
+  QTest::mouseRelease(widget, Qt::LeftButton);
+  // Letting go is no further step: the operator stopped at what was shown.
+  EXPECT_EQ(clicks, held);
+}
+
+TEST_F(BinderTest, AButtonRepeatsAfterItsMilliseconds) {
+  Button control;
+  control.RepeatMs = 200;
+  auto* widget = Place(new QPushButton);
+  binder.Bind(widget, control);
+  Show();
+  EXPECT_TRUE(widget->autoRepeat());
+  EXPECT_EQ(widget->autoRepeatDelay(), 200);
+  EXPECT_EQ(widget->autoRepeatInterval(), 200);
+  loop.RunStep([&] { control.RepeatMs = 0; });
+  EXPECT_FALSE(widget->autoRepeat());
+}
+
+TEST_F(BinderTest, AShortPressOfARepeatingButtonIsOneStepAlsoBySpace) {
+  Button control;
+  int clicks = 0;
+  control.Click = Counted(clicks);
+  control.RepeatMs = 200000;
+  auto* widget = Place(new QPushButton);
+  binder.Bind(widget, control);
+  Show();
+  QTest::mouseClick(widget, Qt::LeftButton);
+  EXPECT_EQ(clicks, 1);
+  widget->setFocus();
+  QTest::keyClick(widget, Qt::Key_Space);
+  EXPECT_EQ(clicks, 2);
+}
+
+// ---- Fields ---------------------------------------------------------------------------------
+
+TEST_F(BinderTest, AFieldTellsEachTimeItGetsTheFocus) {
+  TextBox first;
+  TextBox second;
+  std::vector<int> told;
+  first.GotFocus = [&] {
+    EXPECT_TRUE(loop.InStep());
+    EXPECT_TRUE(first.HasFocus);
+    told.push_back(1);
+  };
+  second.GotFocus = [&] { told.push_back(2); };
+  auto* one = Place(new QLineEdit);
+  auto* two = Place(new QLineEdit);
+  binder.Bind(one, first);
+  binder.Bind(two, second);
+  Show();
+  told.clear();
+  one->setFocus();
+  two->setFocus();
+  loop.RunStep([&] { first.FocusWanted = true; });
+  EXPECT_EQ(told.back(), 1);
+  QTest::mouseClick(two, Qt::LeftButton);
+  EXPECT_EQ(told.back(), 2);
+  EXPECT_TRUE(two->hasFocus());
+}
+
+TEST_F(BinderTest, AFieldThatComesInTheSameStepGetsTheFocus) {
+  zepril::Frame panel;
+  panel.Visible = false;
+  TextBox field;
+  auto* widget = Place(new QWidget);
+  auto* edit = new QLineEdit(widget);
+  auto* other = Place(new QLineEdit);
+  binder.Bind(edit, field);
+  binder.Bind(widget, panel);
+  Show();
+  other->setFocus();
+  loop.RunStep([&] {
+    panel.Visible = true;
+    field.FocusWanted = true;
+  });
+  EXPECT_TRUE(edit->hasFocus());
+}
+
+TEST_F(BinderTest, WhatARuleMakesOfTheTypingIsShownWithTheCaretAtItsEnd) {
+  TextBox control;
+  control.Change = [&] {
+    if (control.Text == "61") control.Text = "MANUAL";
+  };
+  auto* widget = Place(new QLineEdit);
+  binder.Bind(widget, control);
+  Show();
+  widget->setFocus();
+  QTest::keyClicks(widget, QStringLiteral("6"));
+  EXPECT_EQ(widget->text(), QStringLiteral("6"));
+  QTest::keyClicks(widget, QStringLiteral("1"));
+  EXPECT_EQ(widget->text(), QStringLiteral("MANUAL"));
+  EXPECT_EQ(widget->cursorPosition(), 6);
+  QTest::keyClick(widget, Qt::Key_Backspace);
+  EXPECT_EQ(control.Text, "MANUA");
+}
+
+// ---- Texts of a modem -----------------------------------------------------------------------
+
+TEST_F(BinderTest, ATextOfLinesShowsItsEndAndCannotBeEdited) {
+  TextBox control;
+  auto* widget = Place(new QPlainTextEdit);
+  binder.Bind(widget, control);
+  Show();
+  loop.RunStep([&] { control.Text = "one\rtwo\r\nthree\nfour\xE4"; });
+  EXPECT_EQ(widget->toPlainText(), QStringLiteral("one\ntwo\nthree\nfour\u00E4"));
+  EXPECT_EQ(widget->textCursor().position(), static_cast<int>(widget->toPlainText().size()));
+  loop.RunStep([&] { control.Text += "\r\x07"; });
+  EXPECT_TRUE(widget->toPlainText().endsWith(QStringLiteral("\u00E4\n^G")));
+  EXPECT_TRUE(widget->textCursor().atEnd());
+  widget->setFocus();
+  QTest::keyClicks(widget, QStringLiteral("typed"));
+  EXPECT_FALSE(widget->toPlainText().contains(QStringLiteral("typed")));
+  EXPECT_EQ(control.Text, "one\rtwo\r\nthree\nfour\xE4\r\x07");
+}
+
+TEST_F(BinderTest, AClickIntoATextOfLinesIsTold) {
+  TextBox control;
+  int clicks = 0;
+  control.Click = Counted(clicks);
+  auto* widget = Place(new QPlainTextEdit);
+  binder.Bind(widget, control);
+  Show();
+  QTest::mouseClick(widget->viewport(), Qt::LeftButton);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(BinderTest, ALabelWhoseTextWasSelectedIsNotPressed) {
+  Label control;
+  int clicks = 0;
+  control.Click = Counted(clicks);
+  control.Caption = "sudo usermod -aG dialout $USER";
+  auto* widget = Place(new QLabel);
+  widget->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  binder.Bind(widget, control);
+  Show();
+  widget->setSelection(0, 4);
+  QTest::mouseRelease(widget, Qt::LeftButton);
+  EXPECT_EQ(clicks, 0);
+  widget->setSelection(0, 0);
+  QTest::mouseClick(widget, Qt::LeftButton);
+  EXPECT_EQ(clicks, 1);
 }
 
 }  // namespace

@@ -19,7 +19,8 @@ const std::vector<std::pair<std::string, std::uint32_t>> kStateColours = {
     {"scale with a tile", 0xC0C0A0},
     {"map dark", 0x606046},
     {"map bright", 0xFFFFD6},
-    {"distance alarm", 0x00FFFF}};
+    {"distance alarm", 0x00FFFF},
+    {"own object that can't go on", kOwnObjectDimmed}};
 
 class LookTest : public ::testing::TestWithParam<bool> {
  protected:
@@ -49,6 +50,7 @@ TEST_P(LookTest, TextIsReadableOnEveryStateColour) {
   for (const auto& [state, colour] : kStateColours) {
     const QColor shade = StateShade(colour, look);
     EXPECT_GE(ContrastOf(TextOn(shade), shade), kReadable) << state;
+    EXPECT_GE(ContrastOf(StateInk(colour, look), shade), kReadable) << state;
     // Every ink that the logic may want there.
     for (std::uint32_t ink : {0x000000U, 0xFFFFFFU, 0xC0C0C0U, 0x00FFFFU}) {
       EXPECT_GE(ContrastOf(InkOn(ink, shade, TextOn(shade)), shade), kReadable) << state;
@@ -65,6 +67,24 @@ TEST_P(LookTest, StatesOfDifferentHueStayApart) {
 TEST_P(LookTest, AnInkKeepsItsColourWhereItIsReadable) {
   EXPECT_EQ(InkOn(0x000000, QColor(Qt::white), look.Text), QColor(Qt::black));
   EXPECT_EQ(InkOn(0xC0C0C0, QColor(Qt::white), look.Text), look.Text);
+}
+
+TEST_P(LookTest, WhatIsOnTheAirKeepsItsColourAndIsReadable) {
+  EXPECT_EQ(PlainColour(kOnTheAir), QColor(0xE0, 0x48, 0x48));
+  EXPECT_EQ(PlainColour(kOwnObject), QColor(0xC0, 0xC0, 0x00));
+  const QString sheet = StyleSheetOf(look);
+  for (std::uint32_t colour : {kOnTheAir, kOwnObject}) {
+    const QColor ground = PlainColour(colour);
+    EXPECT_TRUE(sheet.contains(ground.name()));
+    EXPECT_GE(ContrastOf(TextOn(ground), ground), kReadable);
+  }
+  EXPECT_FALSE(sheet.contains(QLatin1Char('%')));
+}
+
+TEST_P(LookTest, ASwitchThatCannotGoOnIsDimmed) {
+  EXPECT_EQ(StateShade(kOwnObjectDimmed, look), look.Window);
+  EXPECT_EQ(StateInk(kOwnObjectDimmed, look), look.Dim);
+  EXPECT_EQ(StateInk(0x00E0E0, look), TextOn(StateShade(0x00E0E0, look)));
 }
 
 INSTANTIATE_TEST_SUITE_P(NightAndDay, LookTest, ::testing::Bool(),
