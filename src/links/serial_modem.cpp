@@ -33,7 +33,9 @@ void SerialModem::ReopenElapsed() {
   if (busy_ || tools_.Port.IsOpen() || (MayReopen && !MayReopen())) return;
   // The waits of the opening only for a device that is there.
   if (!tools_.Port.Open(ModemDevice(radio_), ModemBaud(radio_))) return;
+  Run(LeaveConverseScript(radio_));
   Run(OpenModemScript({identity_, radio_, transmission_}));
+  if (Reopened) Reopened();
 }
 
 void SerialModem::Run(const ModemScript& script, const ScriptProgress& progress) {

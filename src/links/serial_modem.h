@@ -3,7 +3,7 @@
 //
 // A port that can't be opened is passed over quietly; what is written to it goes nowhere. From then
 // on it is tried again every ten seconds by a timer of its own, without boxes; when it opens, the
-// modem is told the same as at start.
+// modem is brought back to its commands and told the same as at start.
 #pragma once
 
 #include <functional>
@@ -43,6 +43,8 @@ class SerialModem {
   void ReopenElapsed();
   // Whether a lost port may be opened just now; may be empty. Asked each time.
   std::function<bool()> MayReopen;
+  // A lost port was opened again; may be empty.
+  std::function<void()> Reopened;
   // Bytes have come; may be empty.
   std::function<void()> DataArrived;
 

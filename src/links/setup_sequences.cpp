@@ -275,6 +275,22 @@ ModemScript OpenModemScript(const ModemSections& sections) {
   return script;
 }
 
+ModemScript LeaveConverseScript(const RadioState& radio) {
+  ModemScript script;
+  switch (ModeOf(radio)) {
+    case RadioMode::Pk232:
+      script.Send(kBreak, 0.5);
+      break;
+    case RadioMode::ScsPtc:
+      AddEsc(script, "Q", 0.5);
+      script.Send(std::string("PAC") + kCr, 0.3);
+      break;
+    default:
+      break;
+  }
+  return script;
+}
+
 ModemScript ApplyTxSetupScript(const ModemSections& sections) {
   switch (ModeOf(sections.Radio)) {
     case RadioMode::Pk232:

@@ -37,6 +37,10 @@ ModemScript TncSetupScript(const ModemSections& sections);
 // The port opened for the run: the modem's rest is read away and it is brought to converse.
 ModemScript OpenModemScript(const ModemSections& sections);
 
+// On a port that was lost and found again: out of converse, in which the modem may have stayed and
+// would put every command on the air. Harmless for a modem that was switched off meanwhile.
+ModemScript LeaveConverseScript(const RadioState& radio);
+
 // TX SETUP was confirmed: on the open port.
 ModemScript ApplyTxSetupScript(const ModemSections& sections);
 

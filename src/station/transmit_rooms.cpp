@@ -45,6 +45,8 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
                       {sender_, tools.Machine.Boxes, tools.Machine.LocalClock, tools.Timer1}) {
   sender_.HeldBack = [this] { return terminal_.IsOpen(); };
   modem_.DataArrived = [this] { terminal_.DataArrived(); };
+  // A notice of trouble that is over goes by itself.
+  modem_.Reopened = [this] { ShowLinkTrouble(); };
   controls_.Terminal.Command65.Click = [this] {
     if (!modem_.IsBusy()) terminal_.Open();
   };

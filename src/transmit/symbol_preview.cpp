@@ -15,7 +15,9 @@ constexpr int kOverlayY = 3;
 void SymbolPreview::Show(int row, const std::string& overlay) {
   sheets_.BeginRedraw();
   surface_.Clear(kPaper);
-  sheets_.DrawSymbol(surface_, row, 0, 0);
+  // A row outside the table is shown as others will show it.
+  const bool in_table = row >= 1 && row <= SymbolTable::kLastIndex;
+  sheets_.DrawSymbol(surface_, in_table ? row : SymbolTable::kLastIndex, 0, 0);
   const bool takes_overlay = InStr(Upper(symbols_.Row(row)), "NO.") > 0;
   if (takes_overlay && !overlay.empty()) {
     surface_.Text(kOverlayX, kOverlayY, overlay.substr(0, 1), FontFace::Text, kBlack);

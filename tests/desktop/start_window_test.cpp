@@ -95,6 +95,18 @@ TEST_F(StartWindowTest, EachInterfaceShowsItsFieldsAndNothingMoves) {
   EXPECT_EQ(Start()->pos(), place);
 }
 
+TEST_F(StartWindowTest, EverythingHasRoomAtTheFirstSize) {
+  Show("MODEM=5\r\n");
+  EXPECT_EQ(window->size(), QSize(760, 640));
+  EXPECT_LE(window->minimumSizeHint().width(), 700);
+  EXPECT_LE(window->minimumSizeHint().height(), 540);
+  for (const QLabel* label : window->findChildren<QLabel*>()) {
+    if (label->wordWrap() || !label->isVisible()) continue;
+    EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
+    EXPECT_GE(label->height(), label->sizeHint().height()) << label->text().toStdString();
+  }
+}
+
 TEST_F(StartWindowTest, TheListIsMadeAnewWhenItOpensAndADeviceIsTaken) {
   Show("MODEM=5\r\n");
   devices = {{"/dev/ttyACM0", "Modem", ""}, {"/dev/ttyUSB3", "Adapter", ""}};

@@ -20,6 +20,7 @@
 #include "platform/qt/qt_loop.h"
 #include "platform/qt/qt_socket.h"
 #include "station/station_program.h"
+#include "tests/doubles/hurried_clock.h"
 #include "tests/doubles/recorder_surface.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/temp_folder.h"
@@ -84,16 +85,25 @@ class DirewolfTest : public EngineTest {
   void SetUp() override {
     EngineTest::SetUp();
     if (IsSkipped() || HasFatalFailure()) return;
+    MakeStation(RadioMode::AgwRemote);
+  }
+  void MakeStation(RadioMode mode) {
     files.MakeFolder(kFolder);
-    files.Write(std::string(kFolder) + "\\ZEPRIL.INI",
-                "USER=QX7KB\r\nMSYS=U33\r\nUMAPS=C:\\ZEPRIL\\U33\r\nTEMP=C:\\ZEPRIL\\TEMP\r\n"
-                "MODEM=3\r\nHOSTC=127.0.0.1\r\nHOSTP=" +
-                    WholeNumber(engine->Port) +
-                    "\r\nHBAUD=1200\r\nCALL=QX1AB-9\r\nLOGS=1\r\nIONA=0\r\nUTN=5800\r\nUTE=400\r\n"
-                    "UUN=5817.860\r\nUUE=391.394\r\n");
+    files.Write(
+        std::string(kFolder) + "\\ZEPRIL.INI",
+        "USER=QX7KB\r\nTXID=10\r\nMSYS=U33\r\nUMAPS=C:\\ZEPRIL\\U33\r\n"
+        "TEMP=C:\\ZEPRIL\\TEMP\r\nMODEM=" +
+            WholeNumber(static_cast<int>(mode)) +
+            "\r\nHOSTC=127.0.0.1\r\nHOSTP=" + WholeNumber(engine->Port) +
+            "\r\nHBAUD=1200\r\nCALL=QX1AB-9\r\nLOGS=1\r\nIONA=0\r\nUTN=5800\r\nUTE=400\r\n"
+            "UUN=5395.276\r\nUUE=-10.523\r\nTXON=10\r\nTXTO=ZEPR\r\n"
+            "TXPA=WIDE1-1,WIDE2-1\r\nTXSY=30\r\nTXI1=Test\r\nTXI1A=1\r\nTXI2A=0\r\nTXI3A=0\r\n"
+            "TXI4A=0\r\nTXI5A=0\r\nTXI6A=0\r\nONAM=WORKS\r\nOTXT=one lane\r\nOSYM=82\r\n"
+            "OUTN=5817.860\r\nOUTE=391.394\r\n");
     program = std::make_unique<StationProgram>(
         StationPlatform{files, loop, dialogs, desktop, socket, modem, map_surface, base_surface,
                         sun_surface, tx_symbol_surface, object_symbol_surface});
+    program->UseLocalEnginePort(engine->Port);
   }
 
   // The tick comes when the test says so, not every six seconds.
@@ -101,10 +111,57 @@ class DirewolfTest : public EngineTest {
   // Plays, waits for the engine to hand the frame over, and lets one tick take it.
   void Hear(const std::string& packet) {
     ASSERT_TRUE(engine->Play(packet)) << packet;
-    ASSERT_TRUE(Until([this] { return !program->State().Radio.AgwRxBuffer.empty(); }))
+    const double before = program->State().Radio.LastDataSeconds;
+    ASSERT_TRUE(Until([&] { return program->State().Radio.LastDataSeconds > before; }))
         << packet << "\n"
         << engine->Log();
     Tick();
+  }
+  // The operator's press, as a step of the program.
+  void Switch(CheckBox& box, int value) {
+    box.Value = value;
+    loop.RunStep(box.Click);
+  }
+  // Position and object on the air, TX SETUP, and what is heard meanwhile.
+  void ExpectASessionOnTheAir() {
+    TransmitControls& transmit = program->Controls().Transmit;
+    TxSetupControls& setup = program->Controls().TxSetup;
+    Switch(transmit.Check6, 1);
+    Tick();
+    const std::string report = "QX7KB-10>ZEPR,WIDE1-1,WIDE2-1:=4830.15N/00805.20E> Test";
+    EXPECT_EQ(OnAirWhen(1), (std::vector<OnAir>{{1, report}})) << engine->Log();
+    Hear("QX2CD-7>APRS,QX0DIG*,WIDE2-1:!5232.00N/01324.00E[on foot");
+    // The object first; the position, which is due too, a tick later.
+    Switch(transmit.Check18, 1);
+    program->State().Transmission.LastBeaconTime = 0;
+    Tick();
+    const std::vector<OnAir> object = OnAirWhen(2);
+    ASSERT_EQ(object.size(), 2U) << engine->Log();
+    EXPECT_TRUE(object[1].Packet.starts_with("QX7KB-10>ZEPR,WIDE1-1,WIDE2-1:;WORKS    *"));
+    EXPECT_TRUE(object[1].Packet.ends_with("z5230.00N/01324.00Er one lane"));
+    Tick();
+    EXPECT_EQ(OnAirWhen(3).back(), (OnAir{1, report}));
+    // What the engine shows of the own transmissions is no station.
+    Tick();
+    // Another name and path, and a speed of the other channel.
+    loop.RunStep(transmit.Check6.RightClick);
+    setup.TxSsid.Text = "7";
+    setup.TxPathField.Text = "wide2-2";
+    for (OptionButton& speed : setup.Speeds)
+      speed.Value = &speed == &setup.Speeds[1];
+    loop.RunStep(setup.Speeds[1].Click);
+    loop.RunStep(setup.TxOk.Click);
+    Switch(transmit.Check18, 0);
+    Tick();
+    EXPECT_EQ(OnAirWhen(4).front(), (OnAir{0, "QX7KB-7>ZEPR,WIDE2-2:=4830.15N/00805.20E> Test"}))
+        << engine->Log();
+    // The link still hears.
+    Hear("QX3EF>APRS:=5234.00N/01324.00E>afterwards");
+    Tick();
+    const std::vector<std::string> records = Heard();
+    ASSERT_EQ(records.size(), 2U) << ::testing::PrintToString(records);
+    EXPECT_TRUE(Mid(records[0], 33).starts_with("QX2CD-7   on foot "));
+    EXPECT_TRUE(Mid(records[1], 33).starts_with("QX3EF     afterwards "));
   }
   std::vector<std::string> Heard() const {
     std::vector<std::string> records;
@@ -162,6 +219,19 @@ TEST_F(DirewolfTest, AVanishedEngineShowsAsALostLinkWithoutABox) {
   EXPECT_TRUE(Until([this] { return program->Lamp().State == LampState::Lost; }));
   Tick();
   EXPECT_EQ(program->State().Stores.MoniAllRecords.Count(), 1);
+  program->Stop(true);
+}
+
+TEST_F(DirewolfTest, ASessionOnTheAirThroughARemoteEngine) {
+  ASSERT_TRUE(program->Start(kFolder, 32)) << engine->Log();
+  ExpectASessionOnTheAir();
+  program->Stop(true);
+}
+
+TEST_F(DirewolfTest, ASessionOnTheAirThroughALocalEngine) {
+  MakeStation(RadioMode::AgwLocal);
+  ASSERT_TRUE(program->Start(kFolder, 32)) << engine->Log();
+  ExpectASessionOnTheAir();
   program->Stop(true);
 }
 
@@ -231,7 +301,8 @@ class SendingTest : public EngineTest {
     MakeBeacon();
   }
   void MakeBeacon() {
-    sender.emplace(state.Radio, state.Transmission, FrameSenderTools{local, *remote, modem, loop});
+    sender.emplace(state.Radio, state.Transmission,
+                   FrameSenderTools{local, *remote, modem, hurried});
     beacon.emplace(
         BeaconSections{state.Identity, state.Transmission, state.Map, state.Gps, state.Settings},
         BeaconTools{*sender, symbols, files, loop, controls.Window, controls.Map});
@@ -242,6 +313,7 @@ class SendingTest : public EngineTest {
   SymbolTable symbols;
   NoProgram nobody;
   AbsentSerialPort modem;
+  HurriedClock hurried{loop, 20.0};  // for the pause behind each frame
   QtSocket unused;
   Timer reopen{kReopenMilliseconds};
   Timer unused_timer{kReopenMilliseconds};

@@ -5,6 +5,7 @@
 #include "config/main_window_settings.h"
 #include "core/text_fields.h"
 #include "links/setup_sequences.h"
+#include "station/start_panel.h"
 #include "tool/pk232_model.h"
 #include "tool/scs_ptc_model.h"
 #include "tool/scs_tnc_model.h"
@@ -62,6 +63,14 @@ ModemScript ModemStation::SetUp() const {
 ModemScript ModemStation::Opening() const {
   const RuntimeState state = SettingsOf(files);
   return OpenModemScript({state.Identity, state.Radio, state.Transmission});
+}
+
+bool ModemStation::PressStart() {
+  StartPanel panel({files, clock, dialogs, port, {}}, kFolder, "");
+  bool started = false;
+  panel.Started = [&] { started = true; };
+  panel.Controls.Command1.Click();
+  return started;
 }
 
 bool ModemStation::RunUntil(const std::function<bool()>& done) {

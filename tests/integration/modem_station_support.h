@@ -50,8 +50,8 @@ class ModemStation {
   ModemScript SetUp() const;
   // What the main window says when it opens the port.
   ModemScript Opening() const;
-  // Runs START's conversation on the port.
-  void SetUpModem() { RunModemScript(SetUp(), port, clock); }
+  // START of the start window; true when the main window may open.
+  bool PressStart();
   bool Start() { return program->Start(kFolder, 32); }
 
   // The program runs for `seconds` of its time.

@@ -84,7 +84,8 @@ constexpr const char* kReport = "=4830.15N/00805.20E> Test";
 
 TEST_P(ModemStationTest, AnUntouchedModemIsSetUpHeardMadeToSendAndLeft) {
   modem = std::make_unique<ServedModem>(station.Link(), MakeModel(Mode()));
-  station.SetUpModem();
+  ASSERT_TRUE(station.PressStart());
+  EXPECT_FALSE(station.port.IsOpen());
   ASSERT_TRUE(station.Start());
   ASSERT_TRUE(station.Comes([this] { return modem->Runs(); }));
   EXPECT_NE(Lamp(), LampState::Lost);
@@ -207,7 +208,7 @@ TEST_P(ModemStationTest, AnUnpluggedModemIsFoundAgainAndToldTheSameAsAtStart) {
   ASSERT_TRUE(station.Comes([this] { return modem->Runs(); }));
   const Lines opening = Mode() == RadioMode::Pk232    ? Lines{"ECHO ON", "K"}
                         : Mode() == RadioMode::ScsTnc ? Lines{}
-                                                      : Lines{"K"};
+                                                      : Lines{"Q", "PAC", "K"};
   EXPECT_EQ(modem->NewCommands(), opening);
   ExpectHeard("QX3EF", "after");
   EXPECT_EQ(Lamp(), LampState::Data);
@@ -217,6 +218,22 @@ TEST_P(ModemStationTest, AnUnpluggedModemIsFoundAgainAndToldTheSameAsAtStart) {
   station.Run(2 * kTickSeconds);
   seen = 0;
   EXPECT_EQ(Sent(), SentLineOf("ZEPR,WIDE1-1,WIDE2-1", kReport));
+}
+
+// Only the adapter was pulled: the modem has kept its settings and takes every line for a packet.
+TEST_P(ModemStationTest, AModemThatWasLeftTransmittingGetsNoCommandOnTheAir) {
+  PlugInAndStart();
+  Unplug();
+  ASSERT_TRUE(station.Comes([this] { return Lamp() == LampState::Lost; }));
+  std::unique_ptr<ModemModel> model = MakeModelSetUpBy(Mode(), station.SetUp());
+  model->Take("K\r");
+  ASSERT_TRUE(model->Runs());
+  modem = std::make_unique<ServedModem>(station.Link(), std::move(model));
+  station.Run(kReopenSeconds + 0.1);
+  EXPECT_NE(Lamp(), LampState::Lost) << station.port.Trouble();
+  ASSERT_TRUE(station.Comes([this] { return modem->Runs(); }));
+  ExpectHeard("QX3EF", "after");
+  EXPECT_EQ(modem->Sent(), Lines{});
 }
 
 TEST_P(ModemStationTest, AModemThatComesBackUnderAnOpenTerminalWaitsForItsEnd) {

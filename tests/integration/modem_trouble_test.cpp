@@ -38,6 +38,13 @@ class ModemTroubleTest : public ::testing::TestWithParam<RadioMode> {
     const RuntimeState& state = station.State();
     return ApplyTxSetupScript({state.Identity, state.Radio, state.Transmission}).Seconds();
   }
+  void ExpectStartTakesItsTime(double more = kPolls) {
+    bool started = false;
+    EXPECT_NEAR(WaitedFor([&] { started = station.PressStart(); }), station.SetUp().Seconds(),
+                more);
+    EXPECT_TRUE(started);
+    EXPECT_FALSE(station.port.IsOpen());
+  }
   double DescribedEnd() { return LeaveModemScript(station.State().Radio).Seconds(); }
   void ConfirmTxSetup() {
     Transmit().Check6.RightClick();
@@ -67,6 +74,7 @@ INSTANTIATE_TEST_SUITE_P(EveryModem, ModemTroubleTest,
                          NameOfModem);
 
 TEST_P(ModemTroubleTest, AnAbsentModemCostsTheDescribedWaitsAndSaysSoOnce) {
+  ExpectStartTakesItsTime();
   EXPECT_NEAR(WaitedFor([this] { ASSERT_TRUE(station.Start()); }), station.Opening().Seconds(),
               1e-6);
   EXPECT_EQ(Lamp(), LampState::Lost);
@@ -87,6 +95,7 @@ TEST_P(ModemTroubleTest, AnAbsentModemCostsTheDescribedWaitsAndSaysSoOnce) {
 TEST_P(ModemTroubleTest, AModemThatNeverAnswersCostsTheDescribedWaits) {
   PseudoTerminal line;
   Link(line);
+  ExpectStartTakesItsTime();
   EXPECT_NEAR(WaitedFor([this] { ASSERT_TRUE(station.Start()); }), station.Opening().Seconds(),
               1e-6);
   EXPECT_EQ(Lamp(), LampState::Silent);
@@ -122,6 +131,7 @@ TEST_P(ModemTroubleTest, AModemThatTakesNothingHoldsTheProgramNoLongerThanALimit
 class BabbledAt : public ModemTroubleTest {
  protected:
   void ExpectEverythingGoesOn() {
+    ExpectStartTakesItsTime(kMostPrompts + kPolls);
     EXPECT_NEAR(WaitedFor([this] { ASSERT_TRUE(station.Start()); }), station.Opening().Seconds(),
                 1e-6);
     EXPECT_TRUE(station.Comes([this] { return Lamp() == LampState::Data; }));
@@ -167,11 +177,25 @@ TEST_P(BabbledAt, GarbageWithoutEndStopsNothing) {
   ExpectEverythingGoesOn();
 }
 
-TEST_P(BabbledAt, PromptsWithoutEndStopNothing) {
+// Only for this modem the program waits until the prompts have ended.
+class PromptedAt : public BabbledAt {};
+
+INSTANTIATE_TEST_SUITE_P(Pk232, PromptedAt, ::testing::Values(RadioMode::Pk232), NameOfModem);
+
+TEST_P(PromptedAt, PromptsWithoutEndStopNothing) {
   PseudoTerminal line;
   Link(line);
   const Babbler babbler(line, "cmd:");
   ExpectEverythingGoesOn();
+}
+
+TEST_P(ModemTroubleTest, AModemThatHangsUpInTheMiddleOfStartCostsTheDescribedWaits) {
+  ServedModem modem(station.Link(), MakeModel(Mode()));
+  modem.HangUpBehind(20);
+  ExpectStartTakesItsTime();
+  ASSERT_TRUE(station.Start());
+  EXPECT_EQ(Lamp(), LampState::Lost);
+  EXPECT_TRUE(station.Controls().Status.LinkNotice.Visible);
 }
 
 TEST_P(ModemTroubleTest, AModemThatHangsUpInTheMiddleOfTxSetupCostsTheDescribedWaits) {
@@ -190,6 +214,7 @@ TEST_P(ModemTroubleTest, APortOfAnotherProgramIsLeftAloneUntilItIsFree) {
   Link(line);
   QtSerialPort other;
   ASSERT_TRUE(other.Open(line.Path(), 9600)) << other.Trouble();
+  ExpectStartTakesItsTime();
   EXPECT_NEAR(WaitedFor([this] { ASSERT_TRUE(station.Start()); }), station.Opening().Seconds(),
               1e-6);
   EXPECT_EQ(Lamp(), LampState::Lost);
@@ -205,6 +230,7 @@ TEST_P(ModemTroubleTest, APortOfAnotherProgramIsLeftAloneUntilItIsFree) {
   other.Close();
   station.Run(kReopenSeconds + 0.1);
   EXPECT_EQ(Lamp(), LampState::Silent) << station.port.Trouble();
+  EXPECT_FALSE(station.Controls().Status.LinkNotice.Visible);
   ExpectATickWithAReport();
   EXPECT_TRUE(line.Heard().ends_with(kReport));
 }

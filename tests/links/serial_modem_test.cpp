@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "links/agw_link.h"
 #include "tests/doubles/fake_serial.h"
 #include "tests/doubles/recorded_progress.h"
@@ -54,7 +58,22 @@ TEST_F(SerialModemTest, AVanishedPortIsOpenedAgainWithWhatTheModemIsToldAtStart)
   EXPECT_FALSE(modem.LinkIsUp());
   clock.Run(0.2);
   EXPECT_TRUE(modem.LinkIsUp());
-  EXPECT_EQ(port.Written, "ECHO ON\rK\r");
+  EXPECT_EQ(port.Written,
+            "\x03"
+            "ECHO ON\rK\r");
+}
+
+// It may have stayed in converse, where its commands would go on the air.
+TEST_F(SerialModemTest, AModemThatWasFoundAgainIsBroughtBackToItsCommandsFirst) {
+  for (const auto& [mode, told] : std::vector<std::pair<RadioMode, std::string>>{
+           {RadioMode::ScsTnc, ""}, {RadioMode::ScsPtc, "\x1BQ\rPAC\rK\r"}}) {
+    Use(mode);
+    modem.Open();
+    port.Close();
+    port.Written.clear();
+    clock.Run(kReopenMilliseconds / 1000.0 + 0.1);
+    EXPECT_EQ(port.Written, told);
+  }
 }
 
 TEST_F(SerialModemTest, AnAbsentDeviceCostsNoTimeAtEachAttempt) {

@@ -76,6 +76,19 @@ TEST_F(SymbolPreviewTest, OtherRowsTakeNoOverlay) {
   EXPECT_EQ(Drawn(), "clear image ");
 }
 
+TEST_F(SymbolPreviewTest, ARowOutsideTheTableIsShownAsItsLast) {
+  const auto cell_of = [this](int row) {
+    surface.Operations.clear();
+    preview.Show(row, "");
+    return surface.Operations.back();
+  };
+  const auto last = cell_of(194);
+  EXPECT_EQ(cell_of(0).Source, last.Source);
+  EXPECT_EQ(cell_of(-5).Source, last.Source);
+  EXPECT_EQ(cell_of(195).Source, last.Source);
+  EXPECT_NE(cell_of(1).Source, last.Source);
+}
+
 TEST_F(SymbolPreviewTest, AMissingSheetLeavesTheCellBlank) {
   folder = "C:\\ELSEWHERE";
   preview.Show(kCar, "");
