@@ -422,8 +422,10 @@ TEST_F(TransmitPanelsTest, EscInAFieldLeavesItFirst) {
   EXPECT_EQ(aborted, 1);
 }
 
-TEST_F(TransmitPanelsTest, AClosedPanelLeavesTheKeysToTheMap) {
+TEST_F(TransmitPanelsTest, AnOpenedPanelIsReadyToBeTypedInAndAClosedOneLeavesTheKeysToTheMap) {
+  Map()->setFocus();
   OpenTxSetup();
+  EXPECT_EQ(window->focusWidget(), Find<>(*window, "TxSsid"));
   Find<>(*window, "InfoField2")->setFocus();
   loop.RunStep([this] { Tx().Frame4.Visible = false; });
   EXPECT_EQ(window->focusWidget(), Map());
