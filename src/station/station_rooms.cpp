@@ -128,8 +128,8 @@ LinkLamp StationRooms::Lamp() const {
 // ---- Tick -----------------------------------------------------------------------------------
 
 void StationRooms::Tick() {
-  // While the operator talks to the modem the cycle stands, whatever has started the timer again.
-  if (transmit_.TerminalIsOpen()) return Timer1.Stop();
+  // Whatever has started the timer again meanwhile, a redraw for one.
+  if (transmit_.HoldsTheCycle()) return Timer1.Stop();
   cycle_.Tick();
   transmit_.ShowNextBeacon();
 }

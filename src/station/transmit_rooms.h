@@ -61,8 +61,8 @@ class TransmitRooms {
   // The stop.
   void LeaveSerialModem() { modem_.Leave(); }
 
-  // The operator talks to the modem: the program's work stands still.
-  bool TerminalIsOpen() const { return terminal_.IsOpen(); }
+  // The operator talks to the modem or sets the transmitter up: the main cycle stands still.
+  bool HoldsTheCycle() const { return terminal_.IsOpen() || controls_.TxSetup.Frame4.Visible; }
   bool ModemIsUp() const { return modem_.LinkIsUp(); }
   // Asked before a lost modem is opened anew; set by the owner of the main cycle.
   void SetMayReopen(std::function<bool()> may_reopen);
