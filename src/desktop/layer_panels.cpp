@@ -123,7 +123,8 @@ void LayerPanels::MakeSunPanel(const QtSurface& sun) {
 
 void LayerPanels::MakeProgressPanel() {
   ProgressControls& p = controls_.Progress;
-  progress_ = parts_.Panel("ProgressPanel", &map_);
+  // Beside the map: set-up panels, which stand there too, must not hide it.
+  progress_ = parts_.Panel("ProgressPanel", map_.parentWidget());
   auto* box = TightBox(QBoxLayout::TopToBottom, progress_);
   box->setContentsMargins(16, 12, 16, 12);
   auto* text = new QLabel;
@@ -160,7 +161,8 @@ void LayerPanels::Place() {
   if (!progress_->isHidden()) {
     progress_->setFixedWidth(std::min(kProgressWidth, inner));
     progress_->adjustSize();
-    progress_->move((width - progress_->width()) / 2, (height - progress_->height()) / 2);
+    const QPoint middle((width - progress_->width()) / 2, (height - progress_->height()) / 2);
+    progress_->move(map_.pos() + middle);
     progress_->raise();
   }
 }

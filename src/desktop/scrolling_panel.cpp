@@ -49,6 +49,8 @@ ScrollingPanel::ScrollingPanel(WindowParts& parts, const char* name, zepril::Fra
 }
 
 void ScrollingPanel::PlaceIn(const QRect& place) {
+  // Rows may have come or gone in this very pass.
+  content_->activate();
   const int inner = place.width() - 2 * kMargin;
   const int around =
       2 * kMargin + 2 * kGap + 2 + caption_->heightForWidth(inner) + buttons_->sizeHint().height();

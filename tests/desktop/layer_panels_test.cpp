@@ -18,7 +18,10 @@ class LayerPanelsTest : public MainWindowTest {
   // The widget lies wholly on the map.
   bool OnMap(const char* name) {
     const QWidget* panel = Find<>(*window, name);
-    return panel->isVisible() && Map()->rect().contains(panel->geometry());
+    const auto place = [this](const QWidget* widget) {
+      return QRect(widget->mapTo(window.get(), QPoint()), widget->size());
+    };
+    return panel->isVisible() && place(Map()).contains(place(panel));
   }
 };
 
@@ -168,6 +171,34 @@ TEST_F(LayerPanelsTest, LongWorkTellsHowFarItIs) {
     Controls().Progress.ProgressPanel.Visible = false;
   });
   EXPECT_FALSE(Find<>(*window, "ProgressPanel")->isVisible());
+}
+
+TEST_F(LayerPanelsTest, ProgressIsSeenOverASetUpPanel) {
+  loop.RunStep([this] {
+    Controls().TxSetup.Frame4.Visible = true;
+    Controls().Progress.ProgressPanel.Visible = true;
+  });
+  const QWidget* progress = Find<>(*window, "ProgressPanel");
+  const QPoint middle = progress->mapTo(window.get(), progress->rect().center());
+  const QWidget* seen = window->childAt(middle);
+  ASSERT_NE(seen, nullptr);
+  EXPECT_TRUE(seen == progress || progress->isAncestorOf(seen)) << seen->objectName().toStdString();
+}
+
+TEST_F(LayerPanelsTest, ASetUpPanelHasItsHeightAtOnce) {
+  // What the interface does not have is hidden in the same pass in which the panel comes.
+  loop.RunStep([this] {
+    TxSetupControls& tx = Controls().TxSetup;
+    tx.Frame4.Visible = true;
+    for (Control* row : std::initializer_list<Control*>{
+             &tx.TxLevel, &tx.TxLevelLabel, &tx.CrossField, &tx.CrossUp, &tx.CrossDown}) {
+      row->Visible = false;
+    }
+  });
+  const int first = Find<>(*window, "Frame4")->height();
+  Pump();
+  loop.RunStep([] {});
+  EXPECT_EQ(Find<>(*window, "Frame4")->height(), first);
 }
 
 TEST_F(LayerPanelsTest, PanelsStayOnTheMapAtEverySize) {
