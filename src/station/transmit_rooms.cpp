@@ -87,7 +87,10 @@ void TransmitRooms::TerminalChanged() {
   for (Control* control : std::initializer_list<Control*>{
            &controls_.Transmit.Check6, &controls_.TxSetup.TxOk, &controls_.Record.Label20}) {
     control->Enabled = !open;
+    if (open && !control->ToolTip.empty()) control->ToolTip = "Not while the terminal is open";
   }
+  // Closed, the usual tool tips are back.
+  if (!open) tools_.Joins.SetLabels();
   controls_.Terminal.Command65.Enabled = !open;
 }
 

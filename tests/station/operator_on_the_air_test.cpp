@@ -217,11 +217,13 @@ TEST_P(OperatorAtTheTerminal, OnlyWhatIsTypedGoesOutAndTheCycleComesBack) {
   // Neither by hand nor by OK anything comes between.
   EXPECT_FALSE(Transmit().Check6.Enabled);
   EXPECT_FALSE(TxPanel().TxOk.Enabled);
+  EXPECT_EQ(Transmit().Check6.ToolTip, "Not while the terminal is open");
   station.modem.Reads.emplace_back("cmd:");
   station.modem.DataArrived();
   EXPECT_EQ(Terminal().Text20.Text, "cmd:");
   Terminal().Command66.Click();
   EXPECT_TRUE(Transmit().Check6.Enabled);
+  EXPECT_NE(Transmit().Check6.ToolTip, "Not while the terminal is open");
   ExpectNext(Framed(GetParam(), kReport), NextSending());
 }
 
