@@ -240,6 +240,21 @@ TEST_P(OperatorAtTheTerminal, OnAVanishedLineNothingStandsStill) {
   EXPECT_NE(station.program->Lamp().State, LampState::Lost);
 }
 
+// Its waits let the operator's presses through.
+TEST_P(OperatorAtTheTerminal, APressOfTxInTheMiddleOfTxSetupSendsNothingIntoIt) {
+  station.State().Transmission.TxIntervalMinutes = 0;
+  Transmit().Check6.RightClick();
+  TxPanel().TxPathField.Text = "wide2-2";
+  TxPanel().TxInterval.Text = "MANUAL";
+  station.clock.OnWait = [this](double, bool pumping) {
+    if (pumping) SwitchOn(Transmit().Check6);
+  };
+  const double press = Now();
+  TxPanel().TxOk.Click();
+  station.clock.OnWait = nullptr;
+  ExpectSent(TxSetupOf(GetParam()).Sent, press);
+}
+
 class OperatorAtAnScsTnc : public OperatorOnTheAir {};
 
 INSTANTIATE_TEST_SUITE_P(ScsTnc, OperatorAtAnScsTnc, ::testing::Values(RadioMode::ScsTnc), NameOf);
