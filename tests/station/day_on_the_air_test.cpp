@@ -85,6 +85,7 @@ struct Rhythm {
   double Armed = 0.0;  // when the cycle's timer was started
   double End = kDay;
   std::vector<double> Presses;  // of the TX button, by hand
+  std::vector<double> Heard;    // when a frame came in, never two in one tick
 
   std::vector<Outgoing> Transmissions() const;
 
@@ -115,6 +116,7 @@ std::vector<Outgoing> Rhythm::Transmissions() const {
   std::int64_t last_report = -1'000'000;
   std::int64_t last_object = -1'000'000;
   auto press = Presses.begin();
+  auto frame = Heard.begin();
   double next = Armed + kTick;
   for (;;) {
     // By hand, between two ticks.
@@ -134,7 +136,13 @@ std::vector<Outgoing> Rhythm::Transmissions() const {
     const bool object = IntervalMinutes > 0 && Object && now - last_object > 120 * IntervalMinutes;
     const bool report = IntervalMinutes > 0 && !object && now - last_report > 60 * IntervalMinutes;
     next = progress.Now + (object || report ? kTickBehindFrame : kTick);
-    if (Mode == RadioMode::ScsTnc || Mode == RadioMode::ScsPtc) progress.Now += kListening;
+    const bool scs = Mode == RadioMode::ScsTnc || Mode == RadioMode::ScsPtc;
+    if (scs) progress.Now += kListening;
+    if (frame != Heard.end() && *frame <= progress.Now) {
+      // Behind a frame the timer begins anew.
+      ++frame;
+      if (scs) next += kListening;
+    }
     if (object) {
       Send(progress, ObjectText(SecondsOfDay(progress.Now)));
       last_object = SecondsOfDay(progress.Now);
@@ -174,6 +182,40 @@ TEST_P(DayOnTheAir, ReportsAndObjectGoOutAtTheirSecondsAndNothingElse) {
   const double end = Now();
   station.program->Stop(true);
   ExpectSent(Farewell(GetParam()), end);
+}
+
+// A frame as the engine or modem tells of it.
+std::string MonitorTextOf(RadioMode mode, const std::string& text) {
+  if (mode == RadioMode::Pk232) return "N0CALL*>APRS <UI>:\r\n" + text + "\r\n";
+  const std::string port = mode == RadioMode::ScsPtc ? "1:" : "";
+  return port + "fm N0CALL to APRS ctl UI pid F0\r\n" + text + "\r\n";
+}
+
+TEST_P(DayOnTheAir, WhatIsHeardKeepsNoTransmissionBack) {
+  constexpr double kBetweenFrames = 600.0;
+  ASSERT_TRUE(station.Start());
+  ExpectSent(Greeting(GetParam()));
+  Rhythm rhythm;
+  rhythm.Mode = GetParam();
+  rhythm.Object = true;
+  rhythm.Armed = Now();
+  rhythm.End = Now() + kDay;
+  SwitchOn(Transmit().Check6);
+  SwitchOn(Transmit().Check18);
+  for (int frames = 1; frames * kBetweenFrames < kDay; ++frames) {
+    RunTo(rhythm.Armed + frames * kBetweenFrames);
+    const std::string text =
+        "=" + TwoDigits(40 + frames / 60) + TwoDigits(frames % 60) + ".00N/01324.00E>Test";
+    if (IsEngine(GetParam())) {
+      station.Hear("N0CALL", text);
+    } else {
+      station.modem.Reads.push_back(MonitorTextOf(GetParam(), text));
+    }
+    rhythm.Heard.push_back(Now());
+  }
+  RunTo(rhythm.End);
+  EXPECT_EQ(station.State().Stores.MoniAllRecords.Count(), 143);
+  ExpectSent(rhythm.Transmissions());
 }
 
 TEST_P(DayOnTheAir, WithTheSwitchOffNothingGoesOut) {

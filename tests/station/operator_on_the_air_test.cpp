@@ -2,6 +2,7 @@
 // transcript, OBJECT SETUP, the terminal, the temporary mode, a station's position sent again.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -242,6 +243,21 @@ TEST_P(OperatorAtTheTerminal, OnAVanishedLineNothingStandsStill) {
   EXPECT_NE(station.program->Lamp().State, LampState::Lost);
 }
 
+// Its waits let the operator's presses through.
+TEST_P(OperatorAtTheTerminal, APressOfTxInTheMiddleOfTxSetupSendsNothingIntoIt) {
+  station.State().Transmission.TxIntervalMinutes = 0;
+  Transmit().Check6.RightClick();
+  TxPanel().TxPathField.Text = "wide2-2";
+  TxPanel().TxInterval.Text = "MANUAL";
+  station.clock.OnWait = [this](double, bool pumping) {
+    if (pumping) SwitchOn(Transmit().Check6);
+  };
+  const double press = Now();
+  TxPanel().TxOk.Click();
+  station.clock.OnWait = nullptr;
+  ExpectSent(TxSetupOf(GetParam()).Sent, press);
+}
+
 class OperatorAtAnScsTnc : public OperatorOnTheAir {};
 
 INSTANTIATE_TEST_SUITE_P(ScsTnc, OperatorAtAnScsTnc, ::testing::Values(RadioMode::ScsTnc), NameOf);
@@ -273,6 +289,50 @@ TEST_P(OperatorAtAnScsTnc, APositionSentAgainLeavesTheSecondModeAlone) {
   station.Controls().Record.Label20.Click();
   ASSERT_EQ(sent.size(), 1U);
   EXPECT_TRUE(sent[0].Bytes.starts_with("}N0CALL>"));
+}
+
+// ---- Engines ----------------------------------------------------------------------------------
+
+class OperatorAtAnEngine : public OperatorOnTheAir {
+ protected:
+  void EngineGoes() {
+    accepts_ = station.socket.OnConnect;
+    station.socket.SetState(SocketState::PeerClosed);
+    station.socket.FailSends = true;
+    station.socket.OnConnect = [this] { station.socket.SetState(SocketState::Error); };
+  }
+  void EngineComesBack() {
+    station.socket.FailSends = false;
+    station.socket.OnConnect = accepts_;
+  }
+
+ private:
+  std::function<void()> accepts_;
+};
+
+INSTANTIATE_TEST_SUITE_P(BothEngines, OperatorAtAnEngine,
+                         ::testing::Values(RadioMode::AgwLocal, RadioMode::AgwRemote), NameOf);
+
+TEST_P(OperatorAtAnEngine, ALostEngineCostsAtMostOneBoxAndTheReportsComeBackWithIt) {
+  SwitchOn(Transmit().Check6);
+  EngineGoes();
+  // A report between the loss and the first attempt to connect anew.
+  if (GetParam() == RadioMode::AgwRemote) {
+    station.dialogs.Expect("ZEP RIL  TCP/IP AGWPE", "TCP/IP AGWPE ERROR !");
+  }
+  RunTo(Now() + kHourSeconds);
+  ExpectSent({});
+  EXPECT_EQ(station.program->Lamp().State, LampState::Lost);
+  EngineComesBack();
+  RunTo(Now() + 21.0);
+  EXPECT_NE(station.program->Lamp().State, LampState::Lost);
+  ASSERT_EQ(sent.size(), 2U);
+  EXPECT_EQ(sent[0].Bytes, EngineFrame('X', "APRS", ""));
+  EXPECT_EQ(sent[1].Bytes, EngineFrame('m', "APRS", ""));
+  sent.clear();
+  RunTo(Now() + 610.0);
+  ASSERT_EQ(sent.size(), 1U);
+  EXPECT_EQ(sent[0].Bytes, Framed(GetParam(), kReport));
 }
 
 }  // namespace
