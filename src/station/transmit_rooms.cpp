@@ -43,7 +43,8 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
                      tools.Timer1, tools.Timer2}),
       retransmission_(state.Identity, state.Radio, state.Map, controls.Record,
                       {sender_, tools.Machine.Boxes, tools.Machine.LocalClock, tools.Timer1}) {
-  sender_.HeldBack = [this] { return terminal_.IsOpen(); };
+  // In the middle of a conversation a report would be taken for a command.
+  sender_.HeldBack = [this] { return terminal_.IsOpen() || modem_.IsBusy(); };
   modem_.DataArrived = [this] { terminal_.DataArrived(); };
   // A notice of trouble that is over goes by itself.
   modem_.Reopened = [this] { ShowLinkTrouble(); };

@@ -35,7 +35,7 @@ class FrameSender {
       : radio_(radio), transmission_(transmission), tools_(tools) {}
 
   void SendFrame(std::string_view text, SecondMode second_mode = SecondMode::SwitchOff);
-  // True while the operator talks to the modem himself: nothing is sent. May be empty.
+  // True while somebody else talks to the modem: nothing is sent. May be empty.
   std::function<bool()> HeldBack;
 
  private:
