@@ -79,6 +79,40 @@ TEST_F(BeaconTest, SerialModemsGetTheTextAndACarriageReturn) {
   EXPECT_NEAR(clock.MonotonicSeconds(), 2.4, 1e-9);
 }
 
+TEST_F(BeaconTest, NoByteOfATextIsACommandToASerialModem) {
+  // A heard station's comment may hold anything; it is sent again as it came.
+  const std::string heard =
+      "a\x03"
+      "MYCALL X\r\x1BQ\n\x7F\xE4";
+  port.Open("2", 1200);
+  for (RadioMode mode : {RadioMode::Pk232, RadioMode::ScsTnc, RadioMode::ScsPtc}) {
+    Use(mode);
+    port.Written.clear();
+    sender.SendFrame(heard);
+    EXPECT_EQ(port.Written, "a MYCALL X  Q  \xE4\r");
+  }
+  // An engine is told the length and takes each byte for what it is.
+  Use(RadioMode::AgwLocal);
+  sender.SendFrame(heard);
+  EXPECT_EQ(LastSent(), "ZEPR,WIDE1-1 | " + heard);
+}
+
+TEST_F(BeaconTest, AFrameIsHeldBackWhileSomebodyElseTalksToTheModem) {
+  bool held = true;
+  sender.HeldBack = [&held] { return held; };
+  port.Open("2", 1200);
+  for (RadioMode mode : {RadioMode::AgwLocal, RadioMode::Pk232}) {
+    Use(mode);
+    beacon.SendPositionBeacon();
+  }
+  EXPECT_TRUE(engine.Sent.empty());
+  EXPECT_EQ(port.Written, "");
+  EXPECT_EQ(clock.MonotonicSeconds(), 0.0);
+  held = false;
+  beacon.SendPositionBeacon();
+  EXPECT_NE(port.Written, "");
+}
+
 TEST_F(BeaconTest, TheSecondModeIsSwitchedOffForTheFrame) {
   port.Open("3", 38400);
   Use(RadioMode::ScsTnc);
