@@ -27,7 +27,10 @@ class BeaconTest : public ::testing::Test {
     transmission.TxSymbolIndex = 30;  // "/>"
     transmission.InfoLine[0] = "Test";
     transmission.InfoLineActive = {1, 0, 0, 0, 0, 0};
-    clock.OnWait = [this](double, bool) { pointer_while_waiting = window.Pointer; };
+    clock.OnWait = [this](double, bool) {
+      pointer_while_waiting = window.Pointer;
+      map_pointer_while_waiting = map.Picture1.Pointer;
+    };
   }
   void Use(RadioMode mode) { radio.RadioMode = static_cast<int>(mode); }
   std::string LastSent() { return engine.Sent.empty() ? "" : engine.Sent.back(); }
@@ -54,6 +57,7 @@ class BeaconTest : public ::testing::Test {
   PositionBeacon beacon{{identity, transmission, view, gps, settings},
                         {sender, symbols, files, clock, window, map}};
   PointerShape pointer_while_waiting = PointerShape::Default;
+  PointerShape map_pointer_while_waiting = PointerShape::Default;
 };
 
 TEST_F(BeaconTest, TheReportGoesToTheLocalEngineWithDestinationAndPath) {
@@ -61,6 +65,7 @@ TEST_F(BeaconTest, TheReportGoesToTheLocalEngineWithDestinationAndPath) {
   EXPECT_EQ(LastSent(), "ZEPR,WIDE1-1 | =4830.15N/00805.20E> Test");
   EXPECT_NEAR(clock.MonotonicSeconds(), 0.8, 1e-9);
   EXPECT_EQ(pointer_while_waiting, PointerShape::Hourglass);
+  EXPECT_EQ(map_pointer_while_waiting, PointerShape::Hourglass);
   EXPECT_EQ(window.Pointer, PointerShape::Default);
   EXPECT_EQ(map.Picture1.Pointer, PointerShape::Default);
   transmission.TxPath = "";
@@ -160,6 +165,7 @@ TEST_F(BeaconTest, WithoutCallOrPositionNothingIsBuilt) {
   transmission.ObjectNorth = 5378.123;
   transmission.ObjectEast = 412.345;
   beacon.SendObjectReport();
+  beacon.SendIdentification("IGate 8.08");
   EXPECT_TRUE(engine.Sent.empty());
   EXPECT_EQ(transmission.InfoLineIndex, 0);
   // One of the two is enough.
@@ -211,6 +217,26 @@ TEST_F(BeaconTest, TheObjectAlwaysTellsTheTime) {
   beacon.SendObjectReport();
   EXPECT_EQ(LastSent(), "ZEPR,WIDE1-1 | ;ABC      *141230z4833.00N/01348.73Er ");
   EXPECT_EQ(transmission.InfoLineIndex, 0);
+  EXPECT_NEAR(clock.MonotonicSeconds(), 0.8, 1e-9);
+  EXPECT_EQ(pointer_while_waiting, PointerShape::Hourglass);
+  EXPECT_EQ(map_pointer_while_waiting, PointerShape::Hourglass);
+  EXPECT_EQ(window.Pointer, PointerShape::Default);
+  EXPECT_EQ(map.Picture1.Pointer, PointerShape::Default);
+}
+
+TEST_F(BeaconTest, StationAndObjectHaveAnOverlayEach) {
+  transmission.TxSymbolIndex = 103;  // "\\#" takes one
+  transmission.TxOverlay = "S";
+  transmission.ObjectName = "ABC      ";
+  transmission.ObjectNorth = 5378.123;
+  transmission.ObjectEast = 412.345;
+  transmission.ObjectSymbol = 103;
+  transmission.ObjectOverlay = "J";
+  settings.UtcOffsetHours = 2;
+  beacon.SendPositionBeacon();
+  EXPECT_EQ(LastSent(), "ZEPR,WIDE1-1 | =4830.15N\\S0805.20E# Test");
+  beacon.SendObjectReport();
+  EXPECT_EQ(LastSent(), "ZEPR,WIDE1-1 | ;ABC      *312330z4833.00N\\J1348.73E# ");
 }
 
 }  // namespace
