@@ -111,6 +111,7 @@ void DesktopProgram::OpenMainWindow() {
     End(started);
     return;
   }
+  ShowWhatTheTerminalReceives();
   window_ = std::make_unique<MainWindow>(*program_, loop_, fonts_,
                                          WindowSurfaces{map_surface_, base_surface_, sun_surface_,
                                                         tx_symbol_surface_, object_symbol_surface_},
@@ -123,6 +124,14 @@ void DesktopProgram::OpenMainWindow() {
   window_->show();
   start_window_->Closed = nullptr;
   start_window_->close();
+}
+
+// While the terminal is open no timer brings its text to the screen: what arrives is a step then.
+void DesktopProgram::ShowWhatTheTerminalReceives() {
+  modem_.DataArrived = [this, take = modem_.DataArrived] {
+    if (!take) return;
+    program_->Controls().Terminal.Frame19.Visible ? loop_.RunStep(take) : take();
+  };
 }
 
 void DesktopProgram::End(bool by_operator) {

@@ -45,6 +45,7 @@ class DesktopProgram {
  private:
   void DrawMissingSampleMaps();
   void OpenMainWindow();
+  void ShowWhatTheTerminalReceives();
   void End(bool by_operator);
   void TellEnded();
 
