@@ -79,6 +79,8 @@ void TransmitRooms::RunTerminalHandler() {
 }
 
 void TransmitRooms::KeepSecondModeMonitored() {
+  // It may have been opened within the tick.
+  if (terminal_.IsOpen()) return;
   RunModemScript(SecondModeScript(true), tools_.Machine.MSComm1, tools_.Machine.LocalClock);
 }
 

@@ -35,6 +35,7 @@ class FakeSerial final : public SerialPort {
     return {};
   }
   std::size_t BytesToWrite() const override { return open_ ? Waiting : 0; }
+  std::string Trouble() const override { return open_ ? std::string() : Why; }
 
   // Pulled out; as long as `Absent` stays it can't be opened again.
   void Vanish() {
@@ -43,6 +44,7 @@ class FakeSerial final : public SerialPort {
   }
 
   bool Absent = false;
+  std::string Why;  // told as the trouble while it is not open
   std::string Device;
   int Baud = 0;
   std::string Written;

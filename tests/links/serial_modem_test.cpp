@@ -76,6 +76,25 @@ TEST_F(SerialModemTest, AModemThatWasFoundAgainIsBroughtBackToItsCommandsFirst) 
   }
 }
 
+TEST_F(SerialModemTest, AReopenedPortIsToldBehindItsConversation) {
+  modem.Open();
+  port.Close();
+  std::vector<std::string> written;
+  modem.Reopened = [&] {
+    written.push_back(port.Written);
+    EXPECT_TRUE(modem.LinkIsUp());
+    EXPECT_FALSE(modem.IsBusy());
+  };
+  port.Absent = true;
+  clock.Run(15.0);
+  EXPECT_TRUE(written.empty());
+  port.Absent = false;
+  port.Written.clear();
+  clock.Run(30.0);
+  EXPECT_EQ(written, (std::vector<std::string>{"\x03"
+                                               "ECHO ON\rK\r"}));
+}
+
 TEST_F(SerialModemTest, AnAbsentDeviceCostsNoTimeAtEachAttempt) {
   port.Absent = true;
   modem.Open();

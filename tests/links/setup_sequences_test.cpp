@@ -169,9 +169,11 @@ TEST_F(SetupSequencesTest, ThePk232sSetUpHas63WritesAndLasts30Seconds) {
 
 TEST_F(SetupSequencesTest, ThePk232FollowsSpeedPathAndDigipeater) {
   radio.BaudMode = "1200";
+  radio.TncBaud = "9600";
   radio.DigiOn = 1;
   transmission.TxPath = "";
   const Lines sent = Sent(TncSetupScript(Sections(RadioMode::Pk232)));
+  EXPECT_EQ(std::count(sent.begin(), sent.end(), "TB 9600<0D>"), 4);
   for (const char* line : {"HB 1200<0D>", "VHF ON<0D>", "UNPROTO ZEPR<0D>", "DIGIPEAT ON<0D>",
                            "DFROM ALL<0D>", "MYALIAS WIDE1-1<0D>"}) {
     EXPECT_TRUE(Holds(sent, line)) << line;
@@ -354,6 +356,16 @@ TEST_F(SetupSequencesTest, EachModemIsLeftInItsWay) {
             (Lines{"send <1B>Q<0D>", "wait 0.5", "send <1B>RESET<0D>", "wait 0.5", "pump 0.2"}));
 }
 
+TEST_F(SetupSequencesTest, AModemThatWasFoundAgainLeavesConverseInItsWay) {
+  Sections(RadioMode::Pk232);
+  EXPECT_EQ(Transcript(LeaveConverseScript(radio)), (Lines{"send <03>", "wait 0.5"}));
+  Sections(RadioMode::ScsTnc);
+  EXPECT_EQ(Transcript(LeaveConverseScript(radio)), Lines{});
+  Sections(RadioMode::ScsPtc);
+  EXPECT_EQ(Transcript(LeaveConverseScript(radio)),
+            (Lines{"send <1B>Q<0D>", "wait 0.5", "send PAC<0D>", "wait 0.3"}));
+}
+
 TEST_F(SetupSequencesTest, TheSecondModeIsSwitchedWithATenthOfASecond) {
   EXPECT_EQ(Transcript(SecondModeScript(true)), (Lines{"send <1B>%AU1<0D>", "wait 0.1"}));
   EXPECT_EQ(Transcript(SecondModeScript(false)), (Lines{"send <1B>%AU0<0D>", "wait 0.1"}));
@@ -400,6 +412,20 @@ TEST_F(RunModemScriptTest, TheBytesGoOutAtTheirTimes) {
   EXPECT_EQ(port.Baud, 1200);
 }
 
+TEST_F(RunModemScriptTest, AnOpenPortIsNotOpenedAnew) {
+  port.Open("2", 1200);
+  RunModemScript(ModemScript().Open("3", 9600), port, clock);
+  EXPECT_EQ(port.Device, "2");
+  EXPECT_EQ(port.Baud, 1200);
+}
+
+TEST_F(RunModemScriptTest, ReadingAwayIsOneRead) {
+  port.Open("2", 1200);
+  port.Reads = {"a", "b"};
+  RunModemScript(ModemScript().ReadAway(), port, clock);
+  EXPECT_EQ(port.Reads, (std::vector<std::string>{"b"}));
+}
+
 TEST_F(RunModemScriptTest, AnAbsentModemCostsOnlyTheTimeOfTheWaits) {
   port.Absent = true;
   ModemScript script;
@@ -414,6 +440,10 @@ TEST_F(RunModemScriptTest, ItReadsAsLongAsTheModemPrompts) {
   port.Reads = {"cmd:", "x cmd: y", "", "left"};
   RunModemScript(ModemScript().AwaitPrompt(), port, clock);
   EXPECT_NEAR(clock.MonotonicSeconds(), 3.0, 1e-9);
+  EXPECT_EQ(port.Reads, (std::vector<std::string>{"left"}));
+  // Half a prompt is none.
+  port.Reads = {"cmd", "left"};
+  RunModemScript(ModemScript().AwaitPrompt(), port, clock);
   EXPECT_EQ(port.Reads, (std::vector<std::string>{"left"}));
 }
 
@@ -432,6 +462,18 @@ TEST_F(RunModemScriptTest, DrainingReadsEverythingAndEndsWithGarbageWithoutEnd) 
   port.Reads.assign(5000, "garbage");
   RunModemScript(ModemScript().Drain(), port, clock);
   EXPECT_EQ(port.Reads.size(), 5000U - kMostReads);
+}
+
+TEST_F(RunModemScriptTest, NothingIsReadAwayBeforeAllIsSent) {
+  port.Open("2", 1200);
+  port.Waiting = 7;
+  clock.Schedule(0.5, [this] {
+    port.Waiting = 0;
+    port.Reads = {"the answer to it"};
+  });
+  RunModemScript(ModemScript().Drain(), port, clock);
+  EXPECT_NEAR(clock.MonotonicSeconds(), 0.5, 0.02);
+  EXPECT_TRUE(port.Reads.empty());
 }
 
 TEST_F(RunModemScriptTest, AModemThatTakesNothingIsWaitedForTenSeconds) {

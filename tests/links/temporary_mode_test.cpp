@@ -78,5 +78,15 @@ TEST_F(TemporaryModeTest, TheOperatorsOwnTalkIsNotBrokenInto) {
   EXPECT_EQ(port.Written, "");
 }
 
+// Else the modem would stay in a mode that nobody knows of.
+TEST_F(TemporaryModeTest, ATerminalOpenedMeanwhileDoesNotKeepTheOtherMode) {
+  radio.BaudMode = "300R";
+  raw.RawList.RightDown();
+  terminal.Frame19.Visible = true;
+  raw.RawList.RightUp();
+  EXPECT_EQ(port.Written, "\x1B%B300\r\x1B%BR300\r");
+  EXPECT_FALSE(terminal.Label49.Visible);
+}
+
 }  // namespace
 }  // namespace zepril

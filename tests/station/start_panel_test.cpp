@@ -351,6 +351,12 @@ TEST_F(StartPanelTest, ADeviceNeedsANumberThatItCanBeKeptUnder) {
     EXPECT_TRUE(Has("SCOMP=3")) << odd;
     EXPECT_EQ(Ports(), "COM3=/dev/ttyS0\r\n");
   }
+  files.Remove("C:\\Z\\PORTS.TXT");
+  const auto panel = PanelOf("MODEM=1\r\nCOM=0\r\n");
+  Type(*panel, "ttyS0");
+  panel->Controls.Command1.Click();
+  EXPECT_TRUE(Has("COM=2"));
+  EXPECT_EQ(Ports(), "COM2=/dev/ttyS0\r\n");
 }
 
 TEST_F(StartPanelTest, TheKeptDeviceIsShownInPlaceOfItsNumber) {
@@ -367,6 +373,19 @@ TEST_F(StartPanelTest, TheKeptDeviceIsShownInPlaceOfItsNumber) {
   panel->Controls.Command1.Click();
   EXPECT_TRUE(Has("COM=6"));
   EXPECT_EQ(Ports(), "COM4=/dev/ttyUSB9\r\n");
+}
+
+TEST_F(StartPanelTest, TheListPointsAtTheKeptDevice) {
+  files.MakeFolder("C:\\Z");
+  files.Write("C:\\Z\\PORTS.TXT", "COM4=/dev/serial/by-id/usb-FTDI_A1-if00\r\n");
+  const auto panel = PanelOf("MODEM=1\r\nCOM=4\r\nTBAUD=9600\r\n");
+  EXPECT_EQ(panel->Controls.Text3.Text, "/dev/serial/by-id/usb-FTDI_A1-if00");
+  EXPECT_EQ(panel->Controls.Text3.ListIndex, 0);
+  // While the modem is set up the device goes by its own name.
+  std::string told;
+  OnWait = [&] { told = panel->Controls.SetupText.Caption; };
+  panel->Controls.Command1.Click();
+  EXPECT_TRUE(told.ends_with(" s left   modem on usb-FTDI_A1-if00, 9600 Bd")) << told;
 }
 
 TEST_F(StartPanelTest, WhatCanBeNoPortIsMarkedWhileItIsTyped) {
@@ -386,6 +405,10 @@ TEST_F(StartPanelTest, WhatCanBeNoPortIsMarkedWhileItIsTyped) {
   c.Text4.Text = "9600";
   c.Text4.Change();
   EXPECT_EQ(c.PortFault.Caption, "");
+  c.Option9.Click();
+  c.Text4.Text = "agw";
+  c.Text4.Change();
+  EXPECT_EQ(c.PortFault.Caption, "the port is a number");
 }
 
 TEST_F(StartPanelTest, APortFileThatCantBeWrittenIsSaidAndNothingIsStored) {
@@ -432,7 +455,7 @@ TEST_F(StartPanelTest, ThePk232IsSetUpFromTheFile) {
 TEST_F(StartPanelTest, TheScsTncIsSetUpFromTheFile) {
   const auto panel = PanelOf(
       "MODEM=5\r\nSCOMP=6\r\nSBAUD=57600\r\nHBAUD=300R\r\nXBAUD=300\r\nTXID=10\r\n"
-      "TXTO=ZEPR\r\nTXPA=WIDE1-1,WIDE2-1\r\nTXAF=450\r\nTXAFC=1\r\nDIGI=1\r\n");
+      "TXTO=APZEP\r\nTXPA=WIDE1-1,WIDE2-1\r\nTXAF=450\r\nTXAFC=1\r\nDIGI=1\r\n");
   panel->Controls.Command1.Click();
   Lines commands;
   for (const std::string& text : Sent()) {
@@ -445,7 +468,7 @@ TEST_F(StartPanelTest, TheScsTncIsSetUpFromTheFile) {
                              "A1",
                              "S0",
                              "Y0",
-                             "CZEPR WIDE1-1,WIDE2-1",
+                             "CAPZEP WIDE1-1,WIDE2-1",
                              "IQX7KB-10",
                              "%AMQX7KB-10",
                              "K0",
@@ -521,7 +544,8 @@ TEST_F(StartPanelTest, TheWindowTellsHowFarTheSetUpIs) {
       EXPECT_EQ(c.Command1.Caption, row.Caption);
       EXPECT_TRUE(panel->Starting());
       EXPECT_TRUE(c.SetupBar.Visible && c.SetupText.Visible);
-      EXPECT_FALSE(c.Command1.Enabled || c.Text3.Enabled || c.Text8.Enabled || c.Option2.Enabled);
+      EXPECT_FALSE(c.Command1.Enabled || c.Text1.Enabled || c.Text3.Enabled || c.Text4.Enabled ||
+                   c.Text5.Enabled || c.Text8.Enabled || c.Option2.Enabled);
       steps.push_back(c.SetupBar.FilledPx);
       texts.push_back(c.SetupText.Caption);
       panel->Controls.Command1.Click();  // ignored
@@ -544,7 +568,11 @@ TEST_F(StartPanelTest, TheWindowTellsHowFarTheSetUpIs) {
 TEST_F(StartPanelTest, TheOperatorIsHeardBeforeAndBehindTheSetUp) {
   const auto panel = PanelOf("MODEM=5\r\n");
   std::vector<std::size_t> notes;
-  clock.Schedule(0.0, [&] { notes.push_back(modem.Notes.size()); });
+  clock.Schedule(0.0, [&] {
+    notes.push_back(modem.Notes.size());
+    // Nothing can be changed any more.
+    EXPECT_FALSE(panel->Controls.Option2.Enabled || panel->Controls.Text3.Enabled);
+  });
   panel->Started = [&] { EXPECT_EQ(clock.HandOvers, 2); };
   panel->Controls.Command1.Click();
   EXPECT_EQ(notes, std::vector<std::size_t>{0});
