@@ -24,9 +24,17 @@ void SerialModem::Leave() {
 }
 
 void SerialModem::Program(Progress& progress) {
-  Run(ApplyTxSetupScript({identity_, radio_, transmission_}),
-      [&progress](double share) { progress.Report("TX SETUP", share); });
+  // A conversation that is under way is not broken into; what it leaves untold follows it.
+  untold_ = busy_;
+  if (!busy_) Tell([&progress](double share) { progress.Report("TX SETUP", share); });
   progress.Done();
+}
+
+void SerialModem::Tell(const ScriptProgress& progress) {
+  untold_ = false;
+  Run(ApplyTxSetupScript({identity_, radio_, transmission_}), progress);
+  // Lost before its end: a modem under the old call and path must not stay so.
+  if (!tools_.Port.IsOpen()) untold_ = true;
 }
 
 void SerialModem::ReopenElapsed() {
@@ -35,6 +43,8 @@ void SerialModem::ReopenElapsed() {
   if (!tools_.Port.Open(ModemDevice(radio_), ModemBaud(radio_))) return;
   Run(LeaveConverseScript(radio_));
   Run(OpenModemScript({identity_, radio_, transmission_}));
+  while (untold_ && tools_.Port.IsOpen())
+    Tell();
   if (Reopened) Reopened();
 }
 

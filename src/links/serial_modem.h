@@ -3,7 +3,8 @@
 //
 // A port that can't be opened is passed over quietly; what is written to it goes nowhere. From then
 // on it is tried again every ten seconds by a timer of its own, without boxes; when it opens, the
-// modem is brought back to its commands and told the same as at start.
+// modem is brought back to its commands and told the same as at start, and behind that the settings
+// that were confirmed while it was away.
 #pragma once
 
 #include <functional>
@@ -34,7 +35,7 @@ class SerialModem {
   void Open();
   // The modem back in its command mode; the port stays open.
   void Leave();
-  // TX SETUP was confirmed: the settings as they are now.
+  // TX SETUP was confirmed: the settings as they are now. A lost modem is told when it is found.
   void Program(Progress& progress);
   bool LinkIsUp() const { return tools_.Port.IsOpen(); }
   bool IsBusy() const { return busy_; }
@@ -50,12 +51,14 @@ class SerialModem {
 
  private:
   void Run(const ModemScript& script, const ScriptProgress& progress = {});
+  void Tell(const ScriptProgress& progress = {});
 
   const IdentityState& identity_;
   RadioState& radio_;
   const TransmissionState& transmission_;
   SerialModemTools tools_;
-  bool busy_ = false;  // a conversation is under way
+  bool busy_ = false;    // a conversation is under way
+  bool untold_ = false;  // confirmed settings that the modem has not heard
 };
 
 }  // namespace zepril

@@ -143,6 +143,71 @@ TEST_F(SerialModemTest, ItIsNotOpenedInTheMiddleOfAConversation) {
   EXPECT_FALSE(modem.IsBusy());
 }
 
+// Else it would go on under the old call and path.
+TEST_F(SerialModemTest, SettingsConfirmedWhileTheLineWasLostAreToldWhenItIsBack) {
+  for (const auto& [mode, told] : std::vector<std::pair<RadioMode, std::string>>{
+           {RadioMode::Pk232,
+            "\x03"
+            "ECHO ON\rK\r"
+            "\x03MYCALL QX7KB\rUNPROTO APZEP\rDIGIPEAT OFF\rDFROM NONE\rMYALIAS NONE\r\rK\r"},
+           {RadioMode::ScsPtc,
+            "\x1BQ\rPAC\rK\r\x1B"
+            "B 300\r\x1BTXL A 300\r\x1BTXL F 300\r\x1B"
+            "DIGI OFF\r\x1BUNPROTO APZEP \r"}}) {
+    Use(mode);
+    modem.Open();
+    port.Vanish();
+    transmission.TxDestination = "APZEP";
+    transmission.TxPath = "";
+    modem.Program(progress);
+    port.Absent = false;
+    port.Written.clear();
+    clock.Run(20.0);
+    EXPECT_EQ(port.Written, told);
+    // Once is enough.
+    port.Close();
+    port.Written.clear();
+    clock.Run(20.0);
+    EXPECT_EQ(port.Written.find("UNPROTO"), std::string::npos);
+  }
+}
+
+TEST_F(SerialModemTest, SettingsThatALostLineCutShortAreToldWhenItIsBack) {
+  modem.Open();
+  clock.OnWait = [&](double, bool) { port.Close(); };
+  modem.Program(progress);
+  clock.OnWait = nullptr;
+  port.Written.clear();
+  clock.Run(20.0);
+  EXPECT_NE(port.Written.find("UNPROTO"), std::string::npos);
+}
+
+// The waits of its telling let the operator's presses through.
+TEST_F(SerialModemTest, SettingsConfirmedWhileOthersAreToldFollowBehindThem) {
+  transmission.TxPath = "";
+  modem.Open();
+  port.Vanish();
+  modem.Program(progress);
+  port.Absent = false;
+  port.Written.clear();
+  bool pressed = false;
+  clock.OnWait = [&](double, bool pumping) {
+    if (!pumping || pressed) return;
+    pressed = true;
+    transmission.TxDestination = "APZEP";
+    modem.Program(progress);
+  };
+  clock.Run(30.0);
+  clock.OnWait = nullptr;
+  ASSERT_TRUE(pressed);
+  EXPECT_EQ(progress.Ended, 2);
+  const std::size_t first = port.Written.find("UNPROTO ZEPR\r");
+  const std::size_t second = port.Written.find("UNPROTO APZEP\r");
+  ASSERT_NE(first, std::string::npos);
+  ASSERT_NE(second, std::string::npos);
+  EXPECT_LT(port.Written.find("K\r", first), second);
+}
+
 TEST_F(SerialModemTest, ProgrammingTellsHowFarItIs) {
   modem.Open();
   modem.Program(progress);
