@@ -36,6 +36,10 @@ class Engine {
   void End() { child_->End(); }
   std::string Log() const { return ReadWhole(folder_.Sub("engine.log")); }
 
+  // A client has asked to be told what is heard. What comes in before is told to nobody.
+  bool IsMonitored() const {
+    return Log().find("Enable Reception of Monitoring Frames") != std::string::npos;
+  }
   // The sound of a packet comes in on channel 1, with a pause behind it. False when it can't be
   // made.
   bool Play(const std::string& packet);
