@@ -52,8 +52,7 @@ void LiveTwoHours(RadioMode mode, const std::string& odd) {
 }
 
 TEST_P(OddSettings, GiveWholeLinesOrNone) {
-  for (const RadioMode mode : {RadioMode::AgwLocal, RadioMode::Pk232, RadioMode::AgwRemote,
-                               RadioMode::ScsTnc, RadioMode::ScsPtc}) {
+  for (const RadioMode mode : {RadioMode::AgwRemote, RadioMode::Pk232, RadioMode::ScsTnc}) {
     SCOPED_TRACE(static_cast<int>(mode));
     LiveTwoHours(mode, GetParam());
   }
