@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 #include <QStringListModel>
 
+#include "core/text_fields.h"
 #include "desktop/corner_mark.h"
 #include "desktop/fill_bar_widget.h"
 #include "desktop/keys.h"
@@ -31,6 +32,21 @@ struct Shown {
   std::optional<std::uint32_t> BackColour;
   std::optional<std::uint32_t> ForeColour;
 };
+
+// What was put into a field, as one line: a paste may bring several, and settings and modems take a
+// line end for the end of what they are told. A blank stands for each run of control characters.
+std::string OneLine(const QString& text) {
+  constexpr int kLastControlCode = 31;
+  constexpr int kDelete = 127;
+  std::string line;
+  bool gap = false;
+  for (const char c : FromQt(text)) {
+    const bool control = Asc(c) <= kLastControlCode || Asc(c) == kDelete;
+    if (!control || !gap) line += control ? ' ' : c;
+    gap = control;
+  }
+  return line;
+}
 
 void ShowColours(QWidget* widget, const Control& control, const Look& look) {
   if (!control.BackColour && !control.ForeColour) {
@@ -196,7 +212,7 @@ void Binder::Bind(QLabel* widget, Label& control) {
 void Binder::Bind(QLineEdit* widget, TextBox& control) {
   BindCommon(widget, control);
   connect(widget, &QLineEdit::textEdited, this, [this, widget, &control] {
-    control.Text = FromQt(widget->text());
+    control.Text = OneLine(widget->text());
     Raise(control.Change);
   });
   BindKeys(widget, [&control](KeyPress key) {
@@ -276,7 +292,7 @@ void Binder::BindTyping(QComboBox* widget, ComboBox& control) {
   connect(widget->lineEdit(), &QLineEdit::textEdited, this,
           [this, widget, &control](const QString& text) {
             widget->setProperty("typed", true);
-            control.Text = FromQt(text);
+            control.Text = OneLine(text);
           });
   // The list has the focus in place of its field and hands keys on without an event of its own.
   BindKeys(widget, [&control](KeyPress key) {

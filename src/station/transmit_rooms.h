@@ -61,8 +61,12 @@ class TransmitRooms {
   // The stop.
   void LeaveSerialModem() { modem_.Leave(); }
 
-  // The operator talks to the modem or sets the transmitter up: the main cycle stands still.
-  bool HoldsTheCycle() const { return terminal_.IsOpen() || controls_.TxSetup.Frame4.Visible; }
+  // The operator talks to the modem, sets the transmitter up or places the object: the main cycle
+  // stands still.
+  bool HoldsTheCycle() const {
+    return terminal_.IsOpen() || controls_.TxSetup.Frame4.Visible ||
+           controls_.ObjectSetup.Frame11.Visible;
+  }
   bool ModemIsUp() const { return modem_.LinkIsUp(); }
   // Asked before a lost modem is opened anew; set by the owner of the main cycle.
   void SetMayReopen(std::function<bool()> may_reopen);

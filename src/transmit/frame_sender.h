@@ -1,7 +1,8 @@
 // How a finished text becomes a frame on the air, by the radio interface.
 //
 // Nothing is checked and nothing reported: keying, retries and errors are the engine's or modem's
-// business. After each frame the program stands still for 0.8 s.
+// business. After each frame the program stands still for 0.8 s. A serial modem gets a blank for
+// each control character of the text, which it would take for a command.
 #pragma once
 
 #include <functional>

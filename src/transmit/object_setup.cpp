@@ -32,8 +32,6 @@ ObjectSetup::ObjectSetup(TransmissionState& transmission, MapViewState& view,
   controls_.ObjectOk.Click = [this] { Apply(); };
   controls_.Command31.Click = [this] { Delete(); };
   controls_.Command32.Click = [this] { Cancel(); };
-  controls_.ObjectSymbolDown.RepeatMs = kRepeatMs;
-  controls_.ObjectSymbolUp.RepeatMs = kRepeatMs;
   controls_.ObjectOverlayField.Change = [this] { ShowSymbol(); };
   controls_.ObjectSymbolDown.Click = [this] { StepSymbol(-1); };
   controls_.ObjectSymbolUp.Click = [this] { StepSymbol(+1); };

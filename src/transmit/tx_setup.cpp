@@ -9,7 +9,6 @@ namespace zepril {
 namespace {
 
 constexpr std::array<const char*, 5> kSpeeds{"300R", "300", "1200", "9600", "19200"};
-constexpr std::array<const char*, 5> kSpeedCaptions{"RPR 300", "300", "1200", "9600", "19200"};
 constexpr std::array<const char*, TxSetupControls::kQuick> kQuickPaths{
     "WIDE1-1", "WIDE2-1", "WIDE2-2", "RELAY", "ECHO", "GATE"};
 constexpr int kLongestInterval = 60;
@@ -51,10 +50,6 @@ void TxSetup::BindFields() {
   controls_.TxIntervalDown.Click = [&interval] {
     interval.Text = SteppedInterval(interval.Text, -1);
   };
-  for (Button* held : {&controls_.TxIntervalUp, &controls_.TxIntervalDown, &controls_.SymbolDown,
-                       &controls_.SymbolUp}) {
-    held->RepeatMs = kRepeatMs;
-  }
   controls_.TxOverlayField.Change = [this] { ShowSymbol(); };
   controls_.SymbolDown.Click = [this] { StepSymbol(-1); };
   controls_.SymbolUp.Click = [this] { StepSymbol(+1); };
@@ -62,7 +57,6 @@ void TxSetup::BindFields() {
 
 void TxSetup::BindLines() {
   for (std::size_t line = 0; line < TxSetupControls::kLines; ++line) {
-    controls_.fr4ta[line].Caption = "ACTIVE";
     controls_.InfoField[line].GotFocus = [this, line] { focused_line_ = line; };
     controls_.InfoMemory[line].Click = [this, line] { RecallInfo(line); };
     controls_.InfoMemory[line].RightClick = [this, line] { StoreInfo(line); };
@@ -88,7 +82,6 @@ void TxSetup::BindPath() {
 
 void TxSetup::BindSpeeds() {
   for (std::size_t at = 0; at < kSpeeds.size(); ++at) {
-    controls_.Speeds[at].Caption = kSpeedCaptions[at];
     controls_.Speeds[at].Click = [this, at] { ShowSpeeds(WithSpeed(ShownSpeeds(), kSpeeds[at])); };
   }
   controls_.CrossUp.Click = [this] { ShowSpeeds(WithSecondModeStepped(ShownSpeeds(), +1)); };
@@ -162,7 +155,6 @@ void TxSetup::Open() {
   FillLines();
   FillRadio();
   ShowByMode();
-  focused_line_.reset();
   controls_.Frame4.Visible = true;
 }
 
@@ -217,7 +209,7 @@ void TxSetup::ShowByMode() {
 
 void TxSetup::Abort() {
   controls_.Frame4.Visible = false;
-  // The box outside the panel shows again what holds.
+  // These boxes are read by others too: they show again what holds.
   transmit_.Check2.Value = sections_.Radio.HfDualOn;
   transmit_.Check15.Value = sections_.Internet.IGateOn;
   tools_.Timer1.Enable();

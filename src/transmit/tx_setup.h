@@ -93,7 +93,7 @@ class TxSetup {
   TxSetupControls& controls_;
   TransmitControls& transmit_;
   TxSetupTools tools_;
-  std::optional<std::size_t> focused_line_;
+  std::optional<std::size_t> focused_line_;  // the last one, from visit to visit
 };
 
 }  // namespace zepril

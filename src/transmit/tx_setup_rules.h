@@ -18,9 +18,6 @@ std::string SteppedInterval(std::string_view text, int direction);
 // "TX 10", or "TX !" for an interval of 0.
 std::string TxCaption(int interval_minutes);
 
-// A button held down acts again after so many milliseconds.
-inline constexpr int kRepeatMs = 200;
-
 // ---- Symbol ---------------------------------------------------------------------------------
 
 // One row of the symbol table down (-1) or up (+1): stops at 1 and 194, and leaps over 95 to 100.

@@ -1,6 +1,8 @@
 // TX SETUP, OBJECT SETUP, the terminal, the TRANSMIT group and the notices, on the window.
 #include "desktop/transmit_panels.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -274,6 +276,18 @@ TEST_F(TransmitPanelsTest, TxSetupIsOpenedFilledInAndTaken) {
   EXPECT_EQ(State().Transmission.InfoLineMemory[3], "145.500 MHz");
   EXPECT_EQ(State().Identity.MyCallFull, "QX7KB-9");
   EXPECT_EQ(Find<QPushButton>(*window, "Check6")->text(), QStringLiteral("TX 60"));
+}
+
+TEST_F(TransmitPanelsTest, SeveralPastedLinesAreOneLineOfAField) {
+  OpenTxSetup();
+  auto* field = Find<QLineEdit>(*window, "InfoField1");
+  field->clear();
+  field->setFocus();
+  QGuiApplication::clipboard()->setText(QStringLiteral("one\r\nUSER=QX9ZZ\tx\x1B"));
+  field->paste();
+  EXPECT_EQ(Tx().InfoField[0].Text, "one USER=QX9ZZ x ");
+  loop.RunStep([] {});
+  EXPECT_EQ(field->text(), QStringLiteral("one USER=QX9ZZ x "));
 }
 
 TEST_F(TransmitPanelsTest, TheObjectIsPutWhereTheMapIsMovedTo) {

@@ -36,8 +36,8 @@ class Engine {
   void End() { child_->End(); }
   std::string Log() const { return ReadWhole(folder_.Sub("engine.log")); }
 
-  // A client has asked to be told what is heard. What comes in before is told to nobody.
-  bool IsMonitored() const {
+  // It has been asked to hand over what it hears.
+  bool Monitors() const {
     return Log().find("Enable Reception of Monitoring Frames") != std::string::npos;
   }
   // The sound of a packet comes in on channel 1, with a pause behind it. False when it can't be

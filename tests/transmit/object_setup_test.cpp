@@ -35,18 +35,31 @@ TEST_F(ObjectSetupTest, ItOpensWithTheTimersStopped) {
   EXPECT_TRUE(Panel().Frame11.Visible);
   EXPECT_FALSE(world.Timer1.Enabled());
   EXPECT_FALSE(world.Timer2.Enabled());
+  EXPECT_TRUE(Panel().ObjectNameField.FocusWanted);
   EXPECT_EQ(Panel().SymbolIndex, 82);
+  // With no object there is nothing to go to.
   EXPECT_FALSE(world.State.Map.ObjectCenterPending);
+  EXPECT_EQ(world.Actions.Redraws, 0);
+}
+
+TEST_F(ObjectSetupTest, ASecondRightClickLeavesWhatWasTyped) {
+  Own().ObjectText = "old";
+  Open();
+  Panel().ObjectTextField.Text = "new";
+  Open();
+  EXPECT_EQ(Panel().ObjectTextField.Text, "new");
 }
 
 TEST_F(ObjectSetupTest, TheMapGoesToAnObjectThatIsThere) {
   Own().ObjectName = "ABC      ";
   world.State.Map.CentreFollow = 2;
   world.Controls.Map.Option1.Value = true;
+  world.Controls.Map.Option2.Value = true;
   Open();
   EXPECT_TRUE(world.State.Map.ObjectCenterPending);
   EXPECT_EQ(world.State.Map.CentreFollow, 0);
   EXPECT_FALSE(world.Controls.Map.Option1.Value);
+  EXPECT_FALSE(world.Controls.Map.Option2.Value);
   EXPECT_EQ(world.Actions.Redraws, 1);
   EXPECT_EQ(Panel().ObjectNameField.Text, "ABC");
 }
@@ -56,12 +69,17 @@ TEST_F(ObjectSetupTest, OkTakesFieldsAndTheMapsCentre) {
   Panel().ObjectNameField.Text = " abc ";
   Panel().ObjectTextField.Text = " Test ";
   Panel().ObjectOverlayField.Text = "x7";
+  Panel().ObjectSymbolUp.Click();
+  Own().LastObjectTime = 12345;
   Panel().ObjectOk.Click();
   EXPECT_EQ(Own().ObjectName, "ABC      ");
   EXPECT_EQ(Own().ObjectText, "Test");
   EXPECT_EQ(Own().ObjectOverlay, "7");
+  EXPECT_EQ(Own().ObjectSymbol, 83);
   EXPECT_EQ(Own().ObjectNorth, 5378.123);
   EXPECT_EQ(Own().ObjectEast, 412.345);
+  // It is not on the air: its rhythm is left alone.
+  EXPECT_EQ(Own().LastObjectTime, 12345);
   EXPECT_EQ(world.Actions.Saves, 1);
   EXPECT_EQ(world.Actions.Redraws, 1);
   EXPECT_FALSE(Panel().Frame11.Visible);
@@ -84,12 +102,26 @@ TEST_F(ObjectSetupTest, AnObjectOnTheAirIsSentAgainAtOnce) {
   EXPECT_EQ(Own().LastObjectTime, 0);
 }
 
+TEST_F(ObjectSetupTest, AnObjectWithoutANameGoesOffTheAir) {
+  Own().ObjectName = "ABC      ";
+  Own().ObjectTxOn = 1;
+  world.Controls.Transmit.Check18.Value = 1;
+  Open();
+  Panel().ObjectNameField.Text = "  ";
+  Panel().ObjectOk.Click();
+  EXPECT_EQ(Own().ObjectName, "");
+  EXPECT_EQ(Own().ObjectTxOn, 0);
+  EXPECT_EQ(world.Controls.Transmit.Check18.Value, 0);
+}
+
 TEST_F(ObjectSetupTest, DeletingSendsNothing) {
   Own().ObjectName = "ABC      ";
   Own().ObjectTxOn = 1;
   world.Controls.Transmit.Check18.Value = 1;
   Open();
   Panel().ObjectTextField.Text = "gone";
+  Own().LastObjectTime = 12345;
+  const int redraws = world.Actions.Redraws;
   Panel().Command31.Click();
   EXPECT_EQ(Own().ObjectName, "");
   EXPECT_EQ(Own().ObjectTxOn, 0);
@@ -97,20 +129,44 @@ TEST_F(ObjectSetupTest, DeletingSendsNothing) {
   EXPECT_EQ(Own().ObjectText, "gone");
   EXPECT_EQ(Own().ObjectNorth, 5378.123);
   EXPECT_TRUE(world.Engine.Sent.empty());
+  EXPECT_EQ(Own().LastObjectTime, 12345);
   EXPECT_EQ(world.Actions.Saves, 1);
+  EXPECT_EQ(world.Actions.Redraws, redraws + 1);
+  EXPECT_FALSE(Panel().Frame11.Visible);
+  EXPECT_TRUE(world.Timer1.Enabled());
 }
 
 TEST_F(ObjectSetupTest, CancelLeavesTheObject) {
   Own().ObjectName = "ABC      ";
   Own().ObjectText = "old";
+  Own().ObjectOverlay = "5";
+  Own().ObjectNorth = 1.0;
   Open();
+  EXPECT_EQ(Panel().ObjectOverlayField.Text, "5");
+  Panel().ObjectNameField.Text = "OTHER";
   Panel().ObjectTextField.Text = "new";
+  Panel().ObjectOverlayField.Text = "6";
+  Panel().ObjectSymbolUp.Click();
   Panel().Command32.Click();
+  EXPECT_EQ(Own().ObjectName, "ABC      ");
   EXPECT_EQ(Own().ObjectText, "old");
+  EXPECT_EQ(Own().ObjectNorth, 1.0);
+  EXPECT_EQ(Panel().ObjectNameField.Text, "ABC");
   EXPECT_EQ(Panel().ObjectTextField.Text, "old");
+  EXPECT_EQ(Panel().ObjectOverlayField.Text, "5");
+  EXPECT_EQ(Panel().SymbolIndex, 82);
   EXPECT_FALSE(Panel().Frame11.Visible);
   EXPECT_TRUE(world.Timer1.Enabled());
   EXPECT_EQ(world.Actions.Saves, 0);
+}
+
+TEST_F(ObjectSetupTest, TheOverlayIsSeenWhileItIsTyped) {
+  Own().ObjectSymbol = 103;  // "\\#" takes one
+  Open();
+  EXPECT_EQ(world.Cell.Operations.back().Kind, "clear");  // there is no sheet in this world
+  Panel().ObjectOverlayField.Text = "x7";
+  Panel().ObjectOverlayField.Change();
+  EXPECT_EQ(world.Cell.Operations.back().Words, "7");
 }
 
 TEST_F(ObjectSetupTest, TheSymbolPickerLeapsOverTheGap) {

@@ -27,7 +27,10 @@ class BeaconTest : public ::testing::Test {
     transmission.TxSymbolIndex = 30;  // "/>"
     transmission.InfoLine[0] = "Test";
     transmission.InfoLineActive = {1, 0, 0, 0, 0, 0};
-    clock.OnWait = [this](double, bool) { pointer_while_waiting = window.Pointer; };
+    clock.OnWait = [this](double, bool) {
+      pointer_while_waiting = window.Pointer;
+      map_pointer_while_waiting = map.Picture1.Pointer;
+    };
   }
   void Use(RadioMode mode) { radio.RadioMode = static_cast<int>(mode); }
   std::string LastSent() { return engine.Sent.empty() ? "" : engine.Sent.back(); }
@@ -54,6 +57,7 @@ class BeaconTest : public ::testing::Test {
   PositionBeacon beacon{{identity, transmission, view, gps, settings},
                         {sender, symbols, files, clock, window, map}};
   PointerShape pointer_while_waiting = PointerShape::Default;
+  PointerShape map_pointer_while_waiting = PointerShape::Default;
 };
 
 TEST_F(BeaconTest, TheReportGoesToTheLocalEngineWithDestinationAndPath) {
@@ -61,6 +65,7 @@ TEST_F(BeaconTest, TheReportGoesToTheLocalEngineWithDestinationAndPath) {
   EXPECT_EQ(LastSent(), "ZEPR,WIDE1-1 | =4830.15N/00805.20E> Test");
   EXPECT_NEAR(clock.MonotonicSeconds(), 0.8, 1e-9);
   EXPECT_EQ(pointer_while_waiting, PointerShape::Hourglass);
+  EXPECT_EQ(map_pointer_while_waiting, PointerShape::Hourglass);
   EXPECT_EQ(window.Pointer, PointerShape::Default);
   EXPECT_EQ(map.Picture1.Pointer, PointerShape::Default);
   transmission.TxPath = "";
@@ -77,6 +82,40 @@ TEST_F(BeaconTest, SerialModemsGetTheTextAndACarriageReturn) {
     EXPECT_EQ(port.Written, "=4830.15N/00805.20E> Test\r");
   }
   EXPECT_NEAR(clock.MonotonicSeconds(), 2.4, 1e-9);
+}
+
+TEST_F(BeaconTest, NoByteOfATextIsACommandToASerialModem) {
+  // A heard station's comment may hold anything; it is sent again as it came.
+  const std::string heard =
+      "a\x03"
+      "MYCALL X\r\x1BQ\n\x7F\xE4";
+  port.Open("2", 1200);
+  for (RadioMode mode : {RadioMode::Pk232, RadioMode::ScsTnc, RadioMode::ScsPtc}) {
+    Use(mode);
+    port.Written.clear();
+    sender.SendFrame(heard);
+    EXPECT_EQ(port.Written, "a MYCALL X  Q  \xE4\r");
+  }
+  // An engine is told the length and takes each byte for what it is.
+  Use(RadioMode::AgwLocal);
+  sender.SendFrame(heard);
+  EXPECT_EQ(LastSent(), "ZEPR,WIDE1-1 | " + heard);
+}
+
+TEST_F(BeaconTest, AFrameIsHeldBackWhileSomebodyElseTalksToTheModem) {
+  bool held = true;
+  sender.HeldBack = [&held] { return held; };
+  port.Open("2", 1200);
+  for (RadioMode mode : {RadioMode::AgwLocal, RadioMode::Pk232}) {
+    Use(mode);
+    beacon.SendPositionBeacon();
+  }
+  EXPECT_TRUE(engine.Sent.empty());
+  EXPECT_EQ(port.Written, "");
+  EXPECT_EQ(clock.MonotonicSeconds(), 0.0);
+  held = false;
+  beacon.SendPositionBeacon();
+  EXPECT_NE(port.Written, "");
 }
 
 TEST_F(BeaconTest, TheSecondModeIsSwitchedOffForTheFrame) {
@@ -126,6 +165,7 @@ TEST_F(BeaconTest, WithoutCallOrPositionNothingIsBuilt) {
   transmission.ObjectNorth = 5378.123;
   transmission.ObjectEast = 412.345;
   beacon.SendObjectReport();
+  beacon.SendIdentification("IGate 8.08");
   EXPECT_TRUE(engine.Sent.empty());
   EXPECT_EQ(transmission.InfoLineIndex, 0);
   // One of the two is enough.
@@ -177,6 +217,26 @@ TEST_F(BeaconTest, TheObjectAlwaysTellsTheTime) {
   beacon.SendObjectReport();
   EXPECT_EQ(LastSent(), "ZEPR,WIDE1-1 | ;ABC      *141230z4833.00N/01348.73Er ");
   EXPECT_EQ(transmission.InfoLineIndex, 0);
+  EXPECT_NEAR(clock.MonotonicSeconds(), 0.8, 1e-9);
+  EXPECT_EQ(pointer_while_waiting, PointerShape::Hourglass);
+  EXPECT_EQ(map_pointer_while_waiting, PointerShape::Hourglass);
+  EXPECT_EQ(window.Pointer, PointerShape::Default);
+  EXPECT_EQ(map.Picture1.Pointer, PointerShape::Default);
+}
+
+TEST_F(BeaconTest, StationAndObjectHaveAnOverlayEach) {
+  transmission.TxSymbolIndex = 103;  // "\\#" takes one
+  transmission.TxOverlay = "S";
+  transmission.ObjectName = "ABC      ";
+  transmission.ObjectNorth = 5378.123;
+  transmission.ObjectEast = 412.345;
+  transmission.ObjectSymbol = 103;
+  transmission.ObjectOverlay = "J";
+  settings.UtcOffsetHours = 2;
+  beacon.SendPositionBeacon();
+  EXPECT_EQ(LastSent(), "ZEPR,WIDE1-1 | =4830.15N\\S0805.20E# Test");
+  beacon.SendObjectReport();
+  EXPECT_EQ(LastSent(), "ZEPR,WIDE1-1 | ;ABC      *312330z4833.00N\\J1348.73E# ");
 }
 
 }  // namespace

@@ -74,6 +74,9 @@ TEST(CommentField, TheLongestLineOfAFileCountsWithoutABlank) {
   EXPECT_EQ(CommentField(" {C:\\WX.TXT} ", files), "AAAA");
   files.Contents["C:\\WX.TXT"] = "AB\tCD\n";
   EXPECT_EQ(CommentField("{C:\\WX.TXT}", files), "ABCD");
+  // Letters beyond ASCII stay.
+  files.Contents["C:\\WX.TXT"] = "f\xFCr 5 \xB0\n";
+  EXPECT_EQ(CommentField("{C:\\WX.TXT}", files), "f\xFCr 5 \xB0");
   // Judged by its length before the control characters go.
   files.Contents["C:\\WX.TXT"] = "A\x01\x01\x01\x01\nBBBB\n";
   EXPECT_EQ(CommentField("{C:\\WX.TXT}", files), "A");
@@ -148,6 +151,19 @@ TEST(RetransmittedReport, ItGivesTheRecordAsItStands) {
   EXPECT_EQ(report,
             "}QX7GW>ZEPRRE,QX7KB-10*:/141230z4833.00N/01348.73E> TEST" + std::string(43, ' '));
   EXPECT_EQ(report.size(), 99U);
+}
+
+TEST(RetransmittedReport, ARecordOfTodayCarriesItsTime) {
+  EXPECT_TRUE(RetransmittedReport(RecordOf("240120 0005", "/>"), "QX7KB", 20, At(5378.123, 412.345))
+                  .starts_with("}QX7GW>ZEPRRE,QX7KB*:/200005z4833.00N"));
+}
+
+TEST(RetransmittedReport, TheMarkOfAnEmergencyIsNoPartOfTheCall) {
+  StationRecord record = RecordOf("240114 1230", "/>");
+  record.Put(33, 41, "QX7GWA-15");
+  record.Put(42, 42, "!");
+  EXPECT_TRUE(RetransmittedReport(record, "QX7KB", 20, At(5378.123, 412.345))
+                  .starts_with("}QX7GWA-15>ZEPRRE,QX7KB*:/"));
 }
 
 TEST(RetransmittedReport, ARecordOfAnEarlierMonthHasNoTime) {

@@ -42,6 +42,8 @@ class RetransmissionTest : public ::testing::Test {
 };
 
 TEST_F(RetransmissionTest, ARecordGoesOutAfterAYes) {
+  bool sent_with_timer = true;
+  world.Clock.OnWait = [&](double, bool) { sent_with_timer = world.Timer1.Enabled(); };
   Click(DialogAnswer::Yes);
   ASSERT_EQ(world.Engine.Sent.size(), 1U);
   EXPECT_EQ(world.Engine.Sent[0],
@@ -50,7 +52,10 @@ TEST_F(RetransmissionTest, ARecordGoesOutAfterAYes) {
   EXPECT_EQ(world.Boxes.LastButtons, DialogButtons::YesNo);
   EXPECT_EQ(world.Boxes.LastDefault, DialogAnswer::No);
   EXPECT_FALSE(asked_with_timer);
+  EXPECT_FALSE(sent_with_timer);
   EXPECT_TRUE(world.Timer1.Enabled());
+  // Then events are let through.
+  EXPECT_EQ(world.Clock.HandOvers, 1);
 }
 
 TEST_F(RetransmissionTest, ANoSendsNothing) {
@@ -83,6 +88,18 @@ TEST_F(RetransmissionTest, WithoutACallOrWithATornRecordNothingIsSent) {
   world.Controls.Record.Label20.Caption = "240114 1230";
   Click(DialogAnswer::Yes);
   EXPECT_TRUE(world.Engine.Sent.empty());
+  EXPECT_TRUE(world.Timer1.Enabled());
+}
+
+TEST_F(RetransmissionTest, ARecordThatHoldsACallIsLongEnough) {
+  std::string& line = world.Controls.Record.Label20.Caption;
+  line = line.substr(0, 33);
+  Click(DialogAnswer::Yes);
+  ASSERT_EQ(world.Engine.Sent.size(), 1U);
+  EXPECT_TRUE(world.Engine.Sent[0].starts_with("ZEPR,WIDE1-1 | }Q>ZEPRRE,"));
+  line = line.substr(0, 32);
+  Click(DialogAnswer::Yes);
+  EXPECT_EQ(world.Engine.Sent.size(), 1U);
 }
 
 TEST_F(RetransmissionTest, AnAmpersandIsSentOnce) {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -41,11 +42,15 @@ class CountedActions final : public MapActions, public SettingsActions, public P
  public:
   void MapRedraw() override { ++Redraws; }
   void MapRefresh() override {}
-  void WriteConfigFromMainWindow() override { ++Saves; }
+  void WriteConfigFromMainWindow() override {
+    ++Saves;
+    if (OnSave) OnSave();
+  }
   void ReplaceConfigLine(const std::string&, const std::string&) override {}
   void EndProgram() override {}
   int Redraws = 0;
   int Saves = 0;
+  std::function<void()> OnSave;
 };
 
 struct TransmitWorld {

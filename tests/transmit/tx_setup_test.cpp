@@ -7,15 +7,22 @@ namespace {
 
 class ListedActions final : public TxSetupActions {
  public:
-  void RefreshStatusLine() override { Calls.emplace_back("status"); }
+  explicit ListedActions(const RadioState& radio) : radio_(radio) {}
+  void RefreshStatusLine() override { Calls.emplace_back("status " + radio_.BaudModeLabel); }
   void ReopenLocalEngine() override { Calls.emplace_back("engine"); }
   void ShowTitleMarkers() override { Calls.emplace_back("title"); }
   void SetLabels() override { Calls.emplace_back("labels"); }
   std::vector<std::string> Calls;
+
+ private:
+  const RadioState& radio_;
 };
 
 class TxSetupTest : public ::testing::Test {
  protected:
+  TxSetupTest() {
+    world.Actions.OnSave = [this] { actions.Calls.emplace_back("save"); };
+  }
   TxSetupControls& Panel() { return world.Controls.TxSetup; }
   TransmitControls& Transmit() { return world.Controls.Transmit; }
   void Use(RadioMode mode) { world.State.Radio.RadioMode = static_cast<int>(mode); }
@@ -32,13 +39,13 @@ class TxSetupTest : public ::testing::Test {
   TransmitWorld world;
   SymbolPreview preview{world.Cell, world.Controls.TxSetup.SymbolPicture, world.Sheets,
                         world.Symbols};
-  ListedActions actions;
+  ListedActions actions{world.State.Radio};
   TxSetup setup{{world.State.Identity, world.State.Radio, world.State.Transmission,
                  world.State.Internet, world.State.Reception},
                 world.Controls.TxSetup,
                 world.Controls.Transmit,
-                {actions, world.Actions, world.Switches, world.Modem, world.LongWork,
-                 world.Symbols, preview, world.Timer1, world.Timer2}};
+                {actions, world.Actions, world.Switches, world.Modem, world.LongWork, world.Symbols,
+                 preview, world.Timer1, world.Timer2}};
 };
 
 // ---- Opening --------------------------------------------------------------------------------
@@ -64,6 +71,85 @@ TEST_F(TxSetupTest, ItOpensWithTheStateAndTheTimersStopped) {
   EXPECT_TRUE(Panel().Speeds[1].Value);  // 300
 }
 
+TEST_F(TxSetupTest, EveryFieldShowsWhatHolds) {
+  Use(RadioMode::ScsTnc);
+  TransmissionState& own = world.State.Transmission;
+  world.State.Radio.BaudMode = "300R";
+  world.State.Radio.CrossMode = "300";
+  world.State.Radio.HfDualOn = 1;
+  world.State.Radio.DigiOn = 1;
+  world.State.Radio.TxAudioLevel = 450;
+  world.State.Internet.IGateOn = 1;
+  own.TxTimestamp = 1;
+  own.TxSymbolIndex = 103;  // "\\#" takes an overlay
+  own.TxOverlay = "S";
+  own.TxIntervalMinutes = 0;
+  for (std::size_t line = 0; line < TxSetupControls::kLines; ++line) {
+    own.InfoLine[line] = "line " + std::to_string(line);
+    own.InfoLineActive[line] = static_cast<int>(line % 2);
+    own.InfoLineMemory[line] = "memory " + std::to_string(line);
+  }
+  for (std::size_t at = 0; at < TxSetupControls::kPaths; ++at)
+    own.TxPathMemory[at] = "PATH" + std::to_string(at);
+  Open();
+  EXPECT_TRUE(Panel().Speeds[0].Value);
+  EXPECT_EQ(Panel().CrossField.Caption, "300");
+  EXPECT_EQ(Transmit().Check2.Value, 1);
+  EXPECT_EQ(Panel().DigiBox.Value, 1);
+  EXPECT_EQ(Panel().TxLevel.Text, "450");
+  EXPECT_EQ(Transmit().Check15.Value, 1);
+  EXPECT_EQ(Panel().TxTimestampBox.Value, 1);
+  EXPECT_EQ(Panel().SymbolName.Caption, world.Symbols.Name(103));
+  EXPECT_EQ(Panel().TxOverlayField.Text, "S");
+  EXPECT_EQ(world.Cell.Operations.back().Words, "S");
+  EXPECT_EQ(Panel().TxInterval.Text, "MANUAL");
+  for (std::size_t line = 0; line < TxSetupControls::kLines; ++line) {
+    EXPECT_EQ(Panel().InfoField[line].Text, own.InfoLine[line]);
+    EXPECT_EQ(Panel().fr4ta[line].Value, own.InfoLineActive[line]);
+    EXPECT_EQ(Panel().InfoMemory[line].ToolTip, own.InfoLineMemory[line]);
+  }
+  for (std::size_t at = 0; at < TxSetupControls::kPaths; ++at)
+    EXPECT_EQ(Panel().PathMemory[at].ToolTip, own.TxPathMemory[at]);
+  // Confirmed as it stands it changes none of it.
+  const TransmissionState before = own;
+  Ok();
+  EXPECT_EQ(own.InfoLine, before.InfoLine);
+  EXPECT_EQ(own.InfoLineActive, before.InfoLineActive);
+  EXPECT_EQ(own.InfoLineMemory, before.InfoLineMemory);
+  EXPECT_EQ(own.TxPathMemory, before.TxPathMemory);
+  EXPECT_EQ(own.TxSymbolIndex, 103);
+  EXPECT_EQ(own.TxOverlay, "S");
+  EXPECT_EQ(own.TxTimestamp, 1);
+  EXPECT_EQ(world.State.Radio.BaudMode, "300R");
+  EXPECT_EQ(world.State.Radio.BaudModeLabel, "RPR 300");
+  EXPECT_EQ(world.State.Radio.CrossMode, "300");
+  EXPECT_EQ(world.State.Radio.HfDualOn, 1);
+  EXPECT_EQ(world.State.Radio.DigiOn, 1);
+  EXPECT_EQ(world.State.Radio.TxAudioLevel, 450);
+  EXPECT_EQ(world.State.Internet.IGateOn, 1);
+}
+
+TEST_F(TxSetupTest, AnIntervalThatCanNotBeIsShownAsManual) {
+  world.State.Transmission.TxIntervalMinutes = 90;
+  Open();
+  EXPECT_EQ(Panel().TxInterval.Text, "MANUAL");
+}
+
+TEST_F(TxSetupTest, ASecondRightClickLeavesWhatWasTyped) {
+  Open();
+  Panel().InfoField[0].Text = "typed";
+  Open();
+  EXPECT_EQ(Panel().InfoField[0].Text, "typed");
+}
+
+TEST_F(TxSetupTest, WithTheSwitchDisabledItStaysClosed) {
+  Transmit().Check6.Enabled = false;
+  world.Timer1.Arm(6000);
+  Open();
+  EXPECT_FALSE(Panel().Frame4.Visible);
+  EXPECT_TRUE(world.Timer1.Enabled());
+}
+
 TEST_F(TxSetupTest, WhatIsOfferedDependsOnTheInterface) {
   const struct {
     RadioMode Mode;
@@ -77,7 +163,14 @@ TEST_F(TxSetupTest, WhatIsOfferedDependsOnTheInterface) {
     Use(row.Mode);
     Open();
     EXPECT_EQ(Panel().TxLevel.Visible, row.Level) << static_cast<int>(row.Mode);
+    EXPECT_EQ(Panel().TxLevelLabel.Visible, row.Level);
     EXPECT_EQ(Panel().CrossField.Visible, row.Second);
+    EXPECT_EQ(Panel().CrossUp.Visible, row.Second);
+    EXPECT_EQ(Panel().CrossDown.Visible, row.Second);
+    // Only the SCS modems know more than 300 and 1200 Bd.
+    for (const std::size_t speed : {0, 3, 4})
+      EXPECT_EQ(Panel().Speeds[speed].Visible, row.Level);
+    EXPECT_TRUE(Panel().Speeds[1].Visible && Panel().Speeds[2].Visible);
     EXPECT_EQ(Transmit().Check2.Visible, row.Second);
     EXPECT_EQ(Panel().DigiBox.Visible, row.Digi);
     Panel().TxAbort.Click();
@@ -95,13 +188,26 @@ TEST_F(TxSetupTest, AbortChangesNothing) {
   Open();
   Panel().TxSsid.Text = "7";
   Panel().InfoField[0].Text = "other";
+  Panel().PathMemory[0].RightClick();
+  Transmit().Check2.Value = 1;
+  Transmit().Check2.Click();
+  Transmit().Check15.Value = 1;
   Panel().TxAbort.Click();
   EXPECT_FALSE(Panel().Frame4.Visible);
   EXPECT_EQ(world.State.Identity.MySsid, "10");
   EXPECT_EQ(world.State.Transmission.InfoLine[0], "Test");
+  EXPECT_EQ(world.State.Transmission.TxPathMemory[0], "");
+  EXPECT_EQ(world.State.Radio.HfDualOn, 0);
   EXPECT_TRUE(world.Timer1.Enabled());
-  EXPECT_EQ(world.Actions.Saves, 0);
   EXPECT_TRUE(actions.Calls.empty());
+  // Boxes that others read too show again what holds.
+  EXPECT_EQ(Transmit().Check2.Value, 0);
+  EXPECT_EQ(Transmit().Check15.Value, 0);
+  // And so does the panel when it is opened anew.
+  Open();
+  EXPECT_EQ(Panel().TxSsid.Text, "10");
+  EXPECT_EQ(Panel().InfoField[0].Text, "Test");
+  EXPECT_EQ(Panel().PathMemory[0].ToolTip, "");
 }
 
 // ---- OK -------------------------------------------------------------------------------------
@@ -118,11 +224,19 @@ TEST_F(TxSetupTest, OkTakesEverythingInItsOrder) {
   Panel().TxOverlayField.Text = "ab";
   Panel().TxTimestampBox.Value = 1;
   Panel().SymbolUp.Click();
+  Choose(2);  // 1200
+  Panel().DigiBox.Value = 1;
+  Transmit().Check15.Value = 1;
+  world.State.Identity.MyCall = " QX7KB ";
   world.State.Transmission.LastBeaconTime = 99;
   Ok();
   const TransmissionState& own = world.State.Transmission;
   EXPECT_EQ(world.State.Identity.MySsid, "7");
+  EXPECT_EQ(world.State.Identity.MyCall, "QX7KB");
   EXPECT_EQ(world.State.Identity.MyCallFull, "QX7KB-7");
+  EXPECT_EQ(world.State.Radio.BaudMode, "1200");
+  EXPECT_EQ(world.State.Radio.DigiOn, 1);
+  EXPECT_EQ(world.State.Internet.IGateOn, 1);
   EXPECT_EQ(own.TxDestination, "APZZZ");
   EXPECT_EQ(own.TxPath, "WIDE2-2");
   EXPECT_EQ(own.TxIntervalMinutes, 15);
@@ -135,8 +249,8 @@ TEST_F(TxSetupTest, OkTakesEverythingInItsOrder) {
   EXPECT_EQ(own.LastBeaconTime, 0);
   EXPECT_EQ(world.State.Reception.OwnHeaderPattern, "QX7KB-7*>WIDE2-2>APZZZ");
   EXPECT_EQ(Transmit().Check6.Caption, "TX 15");
-  EXPECT_EQ(actions.Calls, (std::vector<std::string>{"status", "engine", "title", "labels"}));
-  EXPECT_EQ(world.Actions.Saves, 1);
+  EXPECT_EQ(actions.Calls,
+            (std::vector<std::string>{"status 1200 Bd", "engine", "title", "save", "labels"}));
   EXPECT_FALSE(Panel().Frame4.Visible);
   EXPECT_EQ(Panel().TxOk.Caption, "OK");
   EXPECT_TRUE(world.Timer1.Enabled());
@@ -158,10 +272,17 @@ TEST_F(TxSetupTest, TheButtonReadsDotsWhileTheModemIsProgrammed) {
   Use(RadioMode::Pk232);
   world.Port.Open("2", 1200);
   std::string caption;
-  world.Clock.OnWait = [&](double, bool) { caption = Panel().TxOk.Caption; };
+  bool may_press = true;
+  world.Clock.OnWait = [&](double, bool) {
+    caption = Panel().TxOk.Caption;
+    may_press = Panel().TxOk.Enabled || Panel().TxAbort.Enabled;
+  };
   Open();
   Ok();
   EXPECT_EQ(caption, "...");
+  // Events come in between; none may confirm a second time.
+  EXPECT_FALSE(may_press);
+  EXPECT_TRUE(Panel().TxOk.Enabled && Panel().TxAbort.Enabled);
   EXPECT_EQ(world.Port.Written,
             "\x03MYCALL QX7KB-10\rUNPROTO ZEPR VIA WIDE1-1\rDIGIPEAT OFF\rDFROM NONE\r"
             "MYALIAS NONE\r\rK\r");
@@ -190,9 +311,61 @@ TEST_F(TxSetupTest, ARemoteEngineAndNoRadioAreSentNothing) {
     actions.Calls.clear();
     Open();
     Ok();
-    EXPECT_EQ(actions.Calls, (std::vector<std::string>{"status", "title", "labels"}));
+    EXPECT_EQ(actions.Calls,
+              (std::vector<std::string>{"status 300 Bd", "title", "save", "labels"}));
     EXPECT_EQ(world.Clock.MonotonicSeconds(), 0.0);
   }
+}
+
+TEST_F(TxSetupTest, TheScsPtcGetsItsLines) {
+  Use(RadioMode::ScsPtc);
+  world.Port.Open("3", 38400);
+  Open();
+  Panel().TxPathField.Text = "wide1-1,wide2-1";
+  Panel().TxLevel.Text = "250";
+  Choose(4);  // 19200
+  Ok();
+  EXPECT_EQ(world.Port.Written,
+            "\x1B"
+            "B 19200\r\x1BTXL A 250\r\x1BTXL F 250\r\x1B"
+            "DIGI OFF\r\x1BUNPROTO ZEPR WIDE1-1 WIDE2-1\r");
+}
+
+TEST_F(TxSetupTest, ALevelIsASmallNumber) {
+  world.State.Radio.TxAudioLevel = 300;
+  const struct {
+    const char* Typed;
+    int Level;
+  } rows[] = {{"3000", 3000}, {"32767", 32767}, {"40000", 32767}, {"-1", 32767}, {"", 0}};
+  for (const auto& row : rows) {
+    Open();
+    Panel().TxLevel.Text = row.Typed;
+    Ok();
+    EXPECT_EQ(world.State.Radio.TxAudioLevel, row.Level) << row.Typed;
+  }
+}
+
+TEST_F(TxSetupTest, OnlyTheFirstReportLeavesEarlierWhenTxStaysOn) {
+  Transmit().Check6.Value = 1;
+  world.State.Transmission.LastBeaconTime = 99;
+  world.State.Transmission.LastObjectTime = 99;
+  Open();
+  Ok();
+  EXPECT_EQ(Transmit().Check6.Value, 1);
+  EXPECT_EQ(world.State.Transmission.LastBeaconTime, 0);
+  EXPECT_EQ(world.State.Transmission.LastObjectTime, 99);
+}
+
+TEST_F(TxSetupTest, ManualTakesTheSwitchAndTheObjectOff) {
+  Transmit().Check6.Value = 1;
+  Transmit().Check18.Value = 1;
+  world.State.Transmission.ObjectTxOn = 1;
+  Open();
+  Panel().TxInterval.Text = "MANUAL";
+  Ok();
+  EXPECT_EQ(Transmit().Check6.Value, 0);
+  EXPECT_EQ(Transmit().Check18.Value, 0);
+  EXPECT_EQ(world.State.Transmission.ObjectTxOn, 0);
 }
 
 // ---- Fields ---------------------------------------------------------------------------------
@@ -222,6 +395,31 @@ TEST_F(TxSetupTest, PathButtonsFillStoreAndClear) {
   EXPECT_EQ(Panel().TxPathField.Text, "RELAY");
   Ok();
   EXPECT_EQ(world.State.Transmission.TxPathMemory[3], "RELAY");
+}
+
+TEST_F(TxSetupTest, TheOverlayIsSeenWhileItIsTyped) {
+  world.State.Transmission.TxSymbolIndex = 103;
+  Open();
+  Panel().TxOverlayField.Text = "ab";
+  Panel().TxOverlayField.Change();
+  EXPECT_EQ(world.Cell.Operations.back().Words, "B");
+}
+
+TEST_F(TxSetupTest, ARecalledPathIsTrimmedAndInCapitals) {
+  world.State.Transmission.TxPathMemory[2] = " wide2-2 ";
+  Open();
+  Panel().PathMemory[2].Click();
+  EXPECT_EQ(Panel().TxPathField.Text, "WIDE2-2");
+}
+
+TEST_F(TxSetupTest, TheLineWithTheFocusIsRememberedFromVisitToVisit) {
+  Open();
+  Panel().InfoField[3].GotFocus();
+  Panel().TxAbort.Click();
+  Open();
+  Panel().InfoMemory[0].ToolTip = "Hello";
+  Panel().InfoMemory[0].Click();
+  EXPECT_EQ(Panel().InfoField[3].Text, "Hello");
 }
 
 TEST_F(TxSetupTest, QuickButtonsNameTheirPaths) {
