@@ -234,10 +234,13 @@ TEST_P(DayOnTheAir, WithoutAPositionNothingGoesOut) {
   RunTo(Now() + kDay / 8);
   // Nor when the switch was on already.
   Transmit().Check6.Value = 1;
+  SwitchOn(Transmit().Check18);
+  EXPECT_EQ(station.State().Transmission.ObjectTxOn, 1);
   RunTo(Now() + kDay / 8);
   ExpectSent({});
   // The rhythm goes on as if something had been sent.
   EXPECT_GT(station.State().Transmission.LastBeaconTime, 0);
+  EXPECT_GT(station.State().Transmission.LastObjectTime, 0);
 }
 
 // The same with reports by hand: at the press, and nothing by timer.
