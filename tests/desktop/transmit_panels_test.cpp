@@ -424,6 +424,18 @@ TEST_F(TransmitPanelsTest, EscClosesWhatLiesOnTopByItsHarmlessButton) {
   EXPECT_FALSE(Find<>(*window, "Frame4")->isVisible());
 }
 
+TEST_F(TransmitPanelsTest, EscPressesNoButtonThatIsDisabled) {
+  int aborted = 0;
+  Tx().TxAbort.Click = [&] { ++aborted; };
+  OpenTxSetup();
+  // As while the modem is programmed.
+  loop.RunStep([this] { Tx().TxAbort.Enabled = false; });
+  Map()->setFocus();
+  QTest::keyClick(Map(), Qt::Key_Escape);
+  EXPECT_EQ(aborted, 0);
+  EXPECT_TRUE(Find<>(*window, "Frame4")->isVisible());
+}
+
 TEST_F(TransmitPanelsTest, EscInAFieldLeavesItFirst) {
   int aborted = 0;
   Tx().TxAbort.Click = [&] { ++aborted; };
