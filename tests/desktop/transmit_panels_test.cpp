@@ -207,6 +207,22 @@ TEST_F(TransmitPanelsTest, WhatTheLinkDoesNotOfferIsNotShown) {
   }
 }
 
+TEST_F(TransmitPanelsTest, NamesOfSymbolsAndTheSecondModeAreRead) {
+  OpenTxSetup();
+  OpenObjectSetup();
+  loop.RunStep([this] {
+    Tx().SymbolName.Caption = "Car";
+    Object().ObjectSymbolName.Caption = "Repeater";
+    Tx().CrossField.Caption = "R300";
+    Tx().TxLevelLabel.Caption = " SCS TNC: AFSK TX LEVEL ( 30 mV - 3000 mV )";
+  });
+  const auto text = [this](const char* name) { return Find<QLabel>(*window, name)->text(); };
+  EXPECT_EQ(text("SymbolName"), QStringLiteral("Car"));
+  EXPECT_EQ(text("ObjectSymbolName"), QStringLiteral("Repeater"));
+  EXPECT_EQ(text("CrossField"), QStringLiteral("R300"));
+  EXPECT_EQ(text("TxLevelLabel"), QStringLiteral(" SCS TNC: AFSK TX LEVEL ( 30 mV - 3000 mV )"));
+}
+
 TEST_F(TransmitPanelsTest, TheTextOfAMemoryIsItsToolTip) {
   OpenTxSetup();
   loop.RunStep([this] {
