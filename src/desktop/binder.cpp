@@ -371,6 +371,7 @@ void Binder::TakeFocusWishes() {
 bool Binder::Released(const Watched& row, const QMouseEvent& event) {
   const Event& click = row.Subject->Click;
   if (!row.PressIsClick || !click || event.button() != Qt::LeftButton) return false;
+  if (!row.Subject->Enabled) return false;
   const auto* label = qobject_cast<const QLabel*>(row.Widget);
   const bool selects =
       label != nullptr && label->textInteractionFlags().testFlag(Qt::TextSelectableByMouse);
@@ -408,7 +409,8 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
         control.HasFocus = false;
         break;
       case QEvent::ContextMenu:
-        if (!control.RightClick) break;
+        // A disabled widget would not act on it; here it is seen before.
+        if (!control.RightClick || !control.Enabled) break;
         Raise(control.RightClick);
         return true;
       case QEvent::MouseButtonRelease:

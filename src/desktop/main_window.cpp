@@ -165,6 +165,7 @@ void MainWindow::Arrange() {
       // The other column may be folded still.
       middle_->insertWidget(std::min(place, middle_->count()), column);
       column->show();
+      column->lower();  // under a panel that is open
     }
   };
   const int pages = drawer_->count();

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollArea>
+#include <QShowEvent>
 
 #include <algorithm>
 
@@ -56,6 +58,12 @@ void ScrollingPanel::PlaceIn(const QRect& place) {
       2 * kMargin + 2 * kGap + 2 + caption_->heightForWidth(inner) + buttons_->sizeHint().height();
   const int height = std::min(around + content_->sizeHint().height(), place.height());
   setGeometry(place.x(), place.y(), place.width(), height);
+}
+
+void ScrollingPanel::showEvent(QShowEvent* event) {
+  QFrame::showEvent(event);
+  auto* first = findChild<QLineEdit*>();
+  if (!event->spontaneous() && first != nullptr) first->setFocus(Qt::OtherFocusReason);
 }
 
 // Hidden with the focus in it, it would hand the focus to whatever field comes next.

@@ -15,8 +15,8 @@ namespace zepril {
 
 class ScrollingPanel final : public QFrame {
  public:
-  // The caption is that of `frame`, as is whether the panel is shown. Once it is hidden the keys
-  // are for `focus_after` again.
+  // The caption is that of `frame`, as is whether the panel is shown. When it comes the keys are
+  // for its first field, once it is hidden for `focus_after` again.
   ScrollingPanel(WindowParts& parts, const char* name, zepril::Frame& frame, QWidget* parent,
                  QWidget& focus_after);
 
@@ -27,6 +27,7 @@ class ScrollingPanel final : public QFrame {
   void PlaceIn(const QRect& place);
 
  protected:
+  void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
 
  private:

@@ -19,7 +19,6 @@ constexpr int kStepWidth = 26;
 constexpr int kShortField = 44;  // a few digits
 constexpr int kOverlayField = 32;
 constexpr int kCallField = 84;
-constexpr int kActiveWidth = 68;  // bold, when on
 constexpr int kButtonWidth = 88;
 constexpr int kIntervalField = 72;
 
@@ -132,9 +131,7 @@ void TxSetupPanel::MakeLines(QBoxLayout* box) {
     grid->addWidget(
         parts_.BoundField(Numbered("InfoField", line), "info line", controls_.InfoField[line]), row,
         1);
-    QPushButton* active = parts_.BoundButton(Numbered("fr4ta", line), controls_.fr4ta[line]);
-    active->setFixedWidth(kActiveWidth);
-    grid->addWidget(active, row, 2);
+    grid->addWidget(parts_.BoundButton(Numbered("fr4ta", line), controls_.fr4ta[line]), row, 2);
     grid->addWidget(
         Tight(parts_.BoundButton(Numbered("InfoMemory", line), controls_.InfoMemory[line])), row,
         3);

@@ -18,11 +18,17 @@ void TypedKeys::Type(char byte) {
   loop_.RunStep([&] { box_.KeyTyped(byte); });
 }
 
+// The field keeps the keys, and letters that are made of several of them.
+void TypedKeys::TakeKeys(QWidget* widget) {
+  KeepKeysIn(widget, true);
+  widget->setAttribute(Qt::WA_InputMethodEnabled);
+}
+
 bool TypedKeys::eventFilter(QObject* watched, QEvent* event) {
   if (!box_.KeyTyped) return QObject::eventFilter(watched, event);
   switch (event->type()) {
     case QEvent::FocusIn:
-      KeepKeysIn(qobject_cast<QWidget*>(watched), true);
+      TakeKeys(qobject_cast<QWidget*>(watched));
       break;
     case QEvent::ShortcutOverride:
       // Told before a shortcut may take the key: it is ours.

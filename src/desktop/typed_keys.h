@@ -21,6 +21,7 @@ class TypedKeys final : public QObject {
 
  private:
   void Type(char byte);
+  void TakeKeys(QWidget* widget);
 
   QtLoop& loop_;
   TextBox& box_;

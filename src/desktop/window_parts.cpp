@@ -1,5 +1,6 @@
 #include "desktop/window_parts.h"
 
+#include <QFontMetrics>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
@@ -116,13 +117,28 @@ QPushButton* WindowParts::BoundButton(const char* name, Button& control) {
 QPushButton* WindowParts::BoundButton(const char* name, CheckBox& control) {
   QPushButton* button = NamedButton(name);
   Binding.Bind(button, control);
+  KeepRoomForBold(button);
   return button;
 }
 
 QPushButton* WindowParts::BoundButton(const char* name, OptionButton& control) {
   QPushButton* button = NamedButton(name);
   Binding.Bind(button, control);
+  KeepRoomForBold(button);
   return button;
+}
+
+// A caption is bold while its switch is on.
+void WindowParts::KeepRoomForBold(QPushButton* button) {
+  constexpr int kAround = 20;  // padding and frame
+  Binding.OnControlsOut([button, caption = QString()]() mutable {
+    if (caption == button->text()) return;
+    caption = button->text();
+    button->ensurePolished();
+    QFont bold = button->font();
+    bold.setBold(true);
+    button->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(caption) + kAround);
+  });
 }
 
 }  // namespace zepril

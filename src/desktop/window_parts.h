@@ -44,6 +44,9 @@ struct WindowParts {
   QPushButton* BoundButton(const char* name, Button& control);
   QPushButton* BoundButton(const char* name, CheckBox& control);
   QPushButton* BoundButton(const char* name, OptionButton& control);
+
+ private:
+  void KeepRoomForBold(QPushButton* button);
 };
 
 QPushButton* NamedButton(const char* name, QWidget* parent = nullptr);

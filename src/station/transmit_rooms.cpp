@@ -43,7 +43,7 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
                      tools.Timer1, tools.Timer2}),
       retransmission_(state.Identity, state.Radio, state.Map, controls.Record,
                       {sender_, tools.Machine.Boxes, tools.Machine.LocalClock, tools.Timer1}) {
-  // In the middle of a conversation a report would be taken for a command.
+  // What is being said to the modem is not broken into.
   sender_.HeldBack = [this] { return terminal_.IsOpen() || modem_.IsBusy(); };
   modem_.DataArrived = [this] { terminal_.DataArrived(); };
   // A notice of trouble that is over goes by itself.
@@ -88,7 +88,10 @@ void TransmitRooms::TerminalChanged() {
   for (Control* control : std::initializer_list<Control*>{
            &controls_.Transmit.Check6, &controls_.TxSetup.TxOk, &controls_.Record.Label20}) {
     control->Enabled = !open;
+    if (open && !control->ToolTip.empty()) control->ToolTip = "Not while the terminal is open";
   }
+  // Closed, the usual tool tips are back.
+  if (!open) tools_.Joins.SetLabels();
   controls_.Terminal.Command65.Enabled = !open;
 }
 

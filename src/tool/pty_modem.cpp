@@ -66,12 +66,13 @@ PtyModem::PtyModem(int device, std::string path, std::unique_ptr<ModemModel> mod
     : device_(device), path_(std::move(path)), model_(std::move(model)) {}
 
 PtyModem::~PtyModem() {
-  // Only the link that is still this modem's.
-  if (!link_.empty() && TargetOf(link_) == path_) ::unlink(link_.c_str());
   HangUp();
 }
 
 void PtyModem::HangUp() {
+  // The name goes first, and only if it is still this modem's: the system soon gives the number of
+  // the pseudo-terminal to somebody else.
+  if (device_ >= 0 && !link_.empty() && TargetOf(link_) == path_) ::unlink(link_.c_str());
   if (device_ >= 0) ::close(device_);
   device_ = -1;
 }

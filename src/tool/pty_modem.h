@@ -34,7 +34,8 @@ class PtyModem {
   void Serve(int milliseconds);
   // The modem hears `packet`.
   void Hear(const AirPacket& packet);
-  // The modem is turned off in the middle of whatever it does. Nothing is served any more.
+  // The modem is turned off in the middle of whatever it does, and its link goes. Nothing is served
+  // any more.
   void HangUp();
   // Bytes taken from the program since the beginning.
   std::size_t BytesTaken() const { return taken_; }

@@ -36,7 +36,8 @@ class FrameSender {
       : radio_(radio), transmission_(transmission), tools_(tools) {}
 
   void SendFrame(std::string_view text, SecondMode second_mode = SecondMode::SwitchOff);
-  // True while somebody else talks to the modem: nothing is sent. May be empty.
+  // True while the operator talks to the modem himself, or a set-up does: nothing is sent. May be
+  // empty.
   std::function<bool()> HeldBack;
 
  private:

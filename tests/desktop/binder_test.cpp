@@ -133,6 +133,28 @@ TEST_F(BinderTest, ALabelIsPressedByLeftRightAndKeys) {
   EXPECT_EQ(left, 3);
 }
 
+TEST_F(BinderTest, ADisabledControlRaisesNothing) {
+  Label label;
+  Button button;
+  int events = 0;
+  for (Control* control : {static_cast<Control*>(&label), static_cast<Control*>(&button)}) {
+    control->Click = Counted(events);
+    control->RightClick = Counted(events);
+    control->Enabled = false;
+  }
+  auto* text = Place(new QLabel);
+  auto* widget = Place(new QPushButton);
+  binder.Bind(text, label);
+  binder.Bind(widget, button);
+  Show();
+  for (QWidget* pressed : {static_cast<QWidget*>(text), static_cast<QWidget*>(widget)}) {
+    QTest::mouseClick(pressed, Qt::LeftButton);
+    AskForMenu(pressed, false);
+    AskForMenu(pressed, true);
+  }
+  EXPECT_EQ(events, 0);
+}
+
 TEST_F(BinderTest, MenuKeyAndShiftF10AreTheRightClick) {
   Button control;
   int left = 0;

@@ -371,6 +371,20 @@ TEST_F(TransmitPanelsTest, TheSetUpPanelsKeepTheirPlaceAtEverySize) {
   }
 }
 
+TEST_F(TransmitPanelsTest, AColumnThatComesBackStaysUnderTheSetUpPanel) {
+  Resize(640, 480);
+  OpenTxSetup();
+  Resize(800, 600);
+  // Over both columns here.
+  const QRect panel = PlaceOf(Find<>(*window, "Frame4"));
+  EXPECT_TRUE(panel.intersects(PlaceOf(Find<>(*window, "Combo9"))));
+  for (const QPoint& corner :
+       {panel.topLeft() + QPoint(2, 20), panel.topRight() + QPoint(-2, 20)}) {
+    QWidget* seen = window->childAt(corner);
+    EXPECT_TRUE(seen == Find<>(*window, "Frame4") || Find<>(*window, "Frame4")->isAncestorOf(seen));
+  }
+}
+
 TEST_F(TransmitPanelsTest, OnALargeWindowAllOfTxSetupIsSeen) {
   Resize(1280, 800);
   OpenTxSetup();
@@ -464,8 +478,10 @@ TEST_F(TransmitPanelsTest, EscInAFieldLeavesItFirst) {
   EXPECT_EQ(aborted, 1);
 }
 
-TEST_F(TransmitPanelsTest, AClosedPanelLeavesTheKeysToTheMap) {
+TEST_F(TransmitPanelsTest, AnOpenedPanelIsReadyToBeTypedInAndAClosedOneLeavesTheKeysToTheMap) {
+  Map()->setFocus();
   OpenTxSetup();
+  EXPECT_EQ(window->focusWidget(), Find<>(*window, "TxSsid"));
   Find<>(*window, "InfoField2")->setFocus();
   loop.RunStep([this] { Tx().Frame4.Visible = false; });
   EXPECT_EQ(window->focusWidget(), Map());

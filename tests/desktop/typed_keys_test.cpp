@@ -103,6 +103,7 @@ TEST_F(TypedKeysTest, APastedTextGoesNowhere) {
 }
 
 TEST_F(TypedKeysTest, ALetterMadeOfSeveralKeysIsTypedOnce) {
+  EXPECT_TRUE(field->testAttribute(Qt::WA_InputMethodEnabled));
   QInputMethodEvent composed;
   composed.setCommitString(QStringLiteral("\u00E9"));
   QApplication::sendEvent(field, &composed);

@@ -36,6 +36,10 @@ class Engine {
   void End() { child_->End(); }
   std::string Log() const { return ReadWhole(folder_.Sub("engine.log")); }
 
+  // It has been asked to hand over what it hears.
+  bool Monitors() const {
+    return Log().find("Enable Reception of Monitoring Frames") != std::string::npos;
+  }
   // The sound of a packet comes in on channel 1, with a pause behind it. False when it can't be
   // made.
   bool Play(const std::string& packet);

@@ -39,7 +39,7 @@ class DesktopOfModems final : public DesktopActions {
 class ModemStation {
  public:
   // `extra_settings`: lines of the configuration, which count before the usual ones.
-  explicit ModemStation(RadioMode mode, const std::string& extra_settings = {}, double hurry = 40);
+  explicit ModemStation(RadioMode mode, const std::string& extra_settings = {}, double hurry = 80);
   ~ModemStation();
   ModemStation(const ModemStation&) = delete;
   ModemStation& operator=(const ModemStation&) = delete;

@@ -252,6 +252,33 @@ TEST_P(ModemStationTest, AModemThatComesBackUnderAnOpenTerminalWaitsForItsEnd) {
   ExpectHeard("QX3EF", "after");
 }
 
+class TwoModesTest : public ModemStationTest {};
+
+INSTANTIATE_TEST_SUITE_P(ScsTnc, TwoModesTest, ::testing::Values(RadioMode::ScsTnc), NameOfModem);
+
+TEST_P(TwoModesTest, TheSecondModeListensInEachTickAndIsOffForAFrame) {
+  PlugInAndStart();
+  Transmit().Check6.RightClick();
+  station.Switch(Transmit().Check2, 1);
+  station.Controls().TxSetup.TxOk.Click();
+  EXPECT_TRUE(station.Comes([this] { return modem->Setting("%AU") == "1"; }));
+  EXPECT_EQ(modem->Setting("%AG"), "H");
+  EXPECT_EQ(modem->Setting("C"), "ZEPR WIDE1-1");
+  modem->NewCommands();
+  station.RunATick();
+  ExpectHeard("QX2CD", "between the answers");
+  for (const std::string& command : modem->NewCommands())
+    EXPECT_EQ(command, "%AU1");
+  station.Switch(Transmit().Check6, 1);
+  EXPECT_TRUE(station.RunUntil([this] { return modem->Sent().size() == 1; }));
+  EXPECT_EQ(Sent(), SentLineOf("ZEPR,WIDE1-1", kReport));
+  EXPECT_TRUE(station.Comes([this] { return modem->Setting("%AU") == "0"; }));
+  EXPECT_EQ(modem->NewCommands().back(), "%AU0");
+  station.Run(2 * kTickSeconds + 0.1);
+  EXPECT_TRUE(station.Comes([this] { return modem->Setting("%AU") == "1"; }));
+  ExpectHeard("QX3EF", "and again");
+}
+
 }  // namespace
 }  // namespace zepril
 

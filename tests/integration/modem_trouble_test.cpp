@@ -191,11 +191,25 @@ TEST_P(PromptedAt, PromptsWithoutEndStopNothing) {
 
 TEST_P(ModemTroubleTest, AModemThatHangsUpInTheMiddleOfStartCostsTheDescribedWaits) {
   ServedModem modem(station.Link(), MakeModel(Mode()));
-  modem.HangUpBehind(20);
+  constexpr std::size_t kBytes = 20;
+  modem.HangUpBehind(kBytes);
   ExpectStartTakesItsTime();
+  ASSERT_TRUE(station.Comes([&] { return modem.BytesTaken() >= kBytes; }));
   ASSERT_TRUE(station.Start());
   EXPECT_EQ(Lamp(), LampState::Lost);
   EXPECT_TRUE(station.Controls().Status.LinkNotice.Visible);
+}
+
+TEST_P(ModemTroubleTest, AModemThatHangsUpInTheMiddleOfTheOpeningCostsTheDescribedWaits) {
+  ServedModem modem(station.Link(), MakeModelSetUpBy(Mode(), station.SetUp()));
+  modem.HangUpBehind(1);
+  EXPECT_NEAR(WaitedFor([this] { ASSERT_TRUE(station.Start()); }), station.Opening().Seconds(),
+              1e-6);
+  station.Switch(Transmit().Check6, 1);
+  // The one that is told nothing at the opening goes with the first report.
+  station.Run(2 * kTickSeconds + 0.1);
+  EXPECT_TRUE(station.Comes([this] { return Lamp() == LampState::Lost; }));
+  ExpectATickWithAReport();
 }
 
 TEST_P(ModemTroubleTest, AModemThatHangsUpInTheMiddleOfTxSetupCostsTheDescribedWaits) {
@@ -204,7 +218,7 @@ TEST_P(ModemTroubleTest, AModemThatHangsUpInTheMiddleOfTxSetupCostsTheDescribedW
   ASSERT_TRUE(station.Comes([&] { return modem.Runs(); }));
   modem.HangUpBehind(modem.BytesTaken() + 12);
   EXPECT_NEAR(WaitedFor([this] { ConfirmTxSetup(); }), DescribedTxSetup(), kPolls);
-  EXPECT_EQ(Lamp(), LampState::Lost);
+  EXPECT_TRUE(station.Comes([this] { return Lamp() == LampState::Lost; }));
   station.Switch(Transmit().Check6, 1);
   ExpectATickWithAReport();
 }

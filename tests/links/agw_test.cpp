@@ -264,6 +264,17 @@ TEST_F(AgwLinkTest, UnprotoGoesOutOnlyWhenConnectedAndSaysWhenItFails) {
   link.SendAgwUnproto();
 }
 
+TEST_F(AgwLinkTest, OnALinkThatIsLostNothingIsSentAndNoBoxAppears) {
+  transmission.AgwTxText = "=test";
+  EngineAnswers(Accepted());
+  link.ConnectAgw();
+  const std::size_t before = socket.Sent.size();
+  socket.SetState(SocketState::PeerClosed);
+  socket.FailSends = true;
+  link.SendAgwUnproto();
+  EXPECT_EQ(socket.Sent.size(), before);
+}
+
 TEST_F(AgwLinkTest, ALostLinkIsOpenedAgainQuietlyEveryTenSeconds) {
   EngineAnswers(Accepted());
   link.ConnectAgw();

@@ -3,33 +3,20 @@
 // grid, the doubled interval behind a transmission, the waits of modem and engine.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
-#include <iomanip>
-#include <ostream>
 #include <string>
 #include <vector>
 
 #include "core/text_fields.h"
-#include "tests/station/station_support.h"
+#include "tests/station/on_air_support.h"
 
 namespace zepril {
-
-// Something that left the program, with the seconds since its start.
-struct Outgoing {
-  double Seconds = 0.0;
-  std::string Bytes;
-};
-
-void PrintTo(const Outgoing& sent, std::ostream* out) {
-  *out << std::fixed << std::setprecision(3) << sent.Seconds << " s "
-       << ::testing::PrintToString(sent.Bytes);
-}
 
 namespace {
 
 constexpr double kDay = 86400.0;
 constexpr std::int64_t kHour = 3600;
-constexpr LocalTime kNoonBeforeALeapDay{2024, 2, 28, 12, 0, 0};
 constexpr int kHoursAheadOfUtc = 2;
 
 constexpr double kHandOver = 0.001;       // what one hand-over takes on the virtual clock
@@ -38,12 +25,6 @@ constexpr double kListening = 0.01;       // in which a silent SCS modem is list
 constexpr double kPauseBehindFrame = 0.8;
 constexpr double kTick = 6.0;
 constexpr double kTickBehindFrame = 12.0;
-
-constexpr const char* kSettings =
-    "TXID=10\r\nTXON=10\r\nTXTO=ZEPR\r\nTXPA=WIDE1-1,WIDE2-1\r\nTXSY=30\r\nHBAUD=300\r\n"
-    "TXI1=one\r\nTXI1A=0\r\nTXI2=Test\r\nTXI2A=1\r\nTXI3=three\r\nTXI3A=0\r\nTXI4A=0\r\n"
-    "TXI5=QRV 144.800 MHz\r\nTXI5A=1\r\nTXI6A=0\r\nUTCD=2\r\nUUN=5395.276\r\nUUE=-10.523\r\n"
-    "ONAM=WORKS\r\nOTXT=one lane\r\nOSYM=82\r\nOUTN=5817.860\r\nOUTE=391.394\r\n";
 
 std::string TwoDigits(std::int64_t number) {
   return std::string(number < 10 ? "0" : "") + WholeNumber(number);
@@ -60,26 +41,6 @@ std::string ObjectText(std::int64_t seconds) {
   const std::int64_t day = 28 + utc / (24 * kHour);
   return ";WORKS    *" + TwoDigits(day) + TwoDigits(utc / kHour % 24) + TwoDigits(utc / 60 % 60) +
          "z5230.00N/01324.00Er one lane";
-}
-
-std::string Zeros(std::string text, std::size_t width) {
-  text.resize(width, '\0');
-  return text;
-}
-
-std::string EngineFrame(char kind, const std::string& to, const std::string& data) {
-  return std::string(4, '\0') + kind + std::string(3, '\0') + Zeros("QX7KB-10", 10) +
-         Zeros(to, 10) + Chr(static_cast<int>(data.size())) + std::string(3, '\0') + "ZEPR" + data;
-}
-
-bool IsEngine(RadioMode mode) {
-  return mode == RadioMode::AgwLocal || mode == RadioMode::AgwRemote;
-}
-
-// `text` as it leaves the program.
-std::string Framed(RadioMode mode, const std::string& text) {
-  if (!IsEngine(mode)) return text + "\r";
-  return EngineFrame('V', "ZEPR", "\x02" + Zeros("WIDE1-1", 10) + Zeros("WIDE2-1", 10) + text);
 }
 
 // What the program says when it comes up and when it goes, by the radio interface; seconds from
@@ -124,6 +85,7 @@ struct Rhythm {
   double Armed = 0.0;  // when the cycle's timer was started
   double End = kDay;
   std::vector<double> Presses;  // of the TX button, by hand
+  std::vector<double> Heard;    // when a frame came in, never two in one tick
 
   std::vector<Outgoing> Transmissions() const;
 
@@ -154,6 +116,7 @@ std::vector<Outgoing> Rhythm::Transmissions() const {
   std::int64_t last_report = -1'000'000;
   std::int64_t last_object = -1'000'000;
   auto press = Presses.begin();
+  auto frame = Heard.begin();
   double next = Armed + kTick;
   for (;;) {
     // By hand, between two ticks.
@@ -173,7 +136,13 @@ std::vector<Outgoing> Rhythm::Transmissions() const {
     const bool object = IntervalMinutes > 0 && Object && now - last_object > 120 * IntervalMinutes;
     const bool report = IntervalMinutes > 0 && !object && now - last_report > 60 * IntervalMinutes;
     next = progress.Now + (object || report ? kTickBehindFrame : kTick);
-    if (Mode == RadioMode::ScsTnc || Mode == RadioMode::ScsPtc) progress.Now += kListening;
+    const bool scs = Mode == RadioMode::ScsTnc || Mode == RadioMode::ScsPtc;
+    if (scs) progress.Now += kListening;
+    if (frame != Heard.end() && *frame <= progress.Now) {
+      // Behind a frame the timer begins anew.
+      ++frame;
+      if (scs) next += kListening;
+    }
     if (object) {
       Send(progress, ObjectText(SecondsOfDay(progress.Now)));
       last_object = SecondsOfDay(progress.Now);
@@ -185,68 +154,10 @@ std::vector<Outgoing> Rhythm::Transmissions() const {
   }
 }
 
-// A station whose every byte is written down.
-class DayOnTheAir : public ::testing::TestWithParam<RadioMode> {
+class DayOnTheAir : public OnAirStation {
  protected:
-  explicit DayOnTheAir(const std::string& more_settings = {})
-      : station(kSettings + ("MODEM=" + WholeNumber(static_cast<int>(GetParam())) + "\r\n") +
-                more_settings) {
-    station.clock.SetNow(kNoonBeforeALeapDay);
-    station.modem.OnWrite = [this](std::string_view bytes) { WriteDown(bytes); };
-    station.socket.OnSend = [this, answer = station.socket.OnSend](std::string_view bytes) {
-      WriteDown(bytes);
-      answer(bytes);
-    };
-  }
-  void WriteDown(std::string_view bytes) {
-    sent.push_back({station.clock.MonotonicSeconds(), std::string(bytes)});
-  }
-  TransmitControls& Transmit() { return station.Controls().Transmit; }
-  void Press(CheckBox& box, int value) {
-    box.Value = value;
-    box.Click();
-  }
-  void SwitchOn(CheckBox& box) { Press(box, 1); }
-  double Now() const { return station.clock.MonotonicSeconds(); }
-  void RunTo(double seconds) { station.clock.Run(seconds - Now()); }
-
-  // All that was sent since the last look is this, the times counted from `origin`.
-  void ExpectSent(const std::vector<Outgoing>& expected, double origin = 0.0) {
-    for (std::size_t at = 0; at < std::min(sent.size(), expected.size()); ++at) {
-      ASSERT_EQ(sent[at].Bytes, expected[at].Bytes)
-          << "number " << at << ": " << ::testing::PrintToString(sent[at]) << ", expected "
-          << ::testing::PrintToString(expected[at]);
-      ASSERT_NEAR(sent[at].Seconds - origin, expected[at].Seconds, 0.0005)
-          << "number " << at << ": " << ::testing::PrintToString(sent[at]);
-    }
-    ASSERT_EQ(sent.size(), expected.size())
-        << "the first too many or missing: "
-        << ::testing::PrintToString(sent.size() > expected.size() ? sent[expected.size()]
-                                                                  : expected[sent.size()]);
-    sent.clear();
-  }
-
-  StationHarness station;
-  std::vector<Outgoing> sent;
+  using OnAirStation::OnAirStation;
 };
-
-std::string NameOf(const ::testing::TestParamInfo<RadioMode>& info) {
-  switch (info.param) {
-    case RadioMode::AgwLocal:
-      return "AgwLocal";
-    case RadioMode::Pk232:
-      return "Pk232";
-    case RadioMode::AgwRemote:
-      return "AgwRemote";
-    case RadioMode::None:
-      return "None";
-    case RadioMode::ScsTnc:
-      return "ScsTnc";
-    case RadioMode::ScsPtc:
-      return "ScsPtc";
-  }
-  return "Unknown";
-}
 
 INSTANTIATE_TEST_SUITE_P(EveryRadio, DayOnTheAir,
                          ::testing::Values(RadioMode::AgwLocal, RadioMode::Pk232,
@@ -273,6 +184,40 @@ TEST_P(DayOnTheAir, ReportsAndObjectGoOutAtTheirSecondsAndNothingElse) {
   ExpectSent(Farewell(GetParam()), end);
 }
 
+// A frame as the engine or modem tells of it.
+std::string MonitorTextOf(RadioMode mode, const std::string& text) {
+  if (mode == RadioMode::Pk232) return "N0CALL*>APRS <UI>:\r\n" + text + "\r\n";
+  const std::string port = mode == RadioMode::ScsPtc ? "1:" : "";
+  return port + "fm N0CALL to APRS ctl UI pid F0\r\n" + text + "\r\n";
+}
+
+TEST_P(DayOnTheAir, WhatIsHeardKeepsNoTransmissionBack) {
+  constexpr double kBetweenFrames = 600.0;
+  ASSERT_TRUE(station.Start());
+  ExpectSent(Greeting(GetParam()));
+  Rhythm rhythm;
+  rhythm.Mode = GetParam();
+  rhythm.Object = true;
+  rhythm.Armed = Now();
+  rhythm.End = Now() + kDay;
+  SwitchOn(Transmit().Check6);
+  SwitchOn(Transmit().Check18);
+  for (int frames = 1; frames * kBetweenFrames < kDay; ++frames) {
+    RunTo(rhythm.Armed + frames * kBetweenFrames);
+    const std::string text =
+        "=" + TwoDigits(40 + frames / 60) + TwoDigits(frames % 60) + ".00N/01324.00E>Test";
+    if (IsEngine(GetParam())) {
+      station.Hear("N0CALL", text);
+    } else {
+      station.modem.Reads.push_back(MonitorTextOf(GetParam(), text));
+    }
+    rhythm.Heard.push_back(Now());
+  }
+  RunTo(rhythm.End);
+  EXPECT_EQ(station.State().Stores.MoniAllRecords.Count(), 143);
+  ExpectSent(rhythm.Transmissions());
+}
+
 TEST_P(DayOnTheAir, WithTheSwitchOffNothingGoesOut) {
   ASSERT_TRUE(station.Start());
   ExpectSent(Greeting(GetParam()));
@@ -289,10 +234,13 @@ TEST_P(DayOnTheAir, WithoutAPositionNothingGoesOut) {
   RunTo(Now() + kDay / 8);
   // Nor when the switch was on already.
   Transmit().Check6.Value = 1;
+  SwitchOn(Transmit().Check18);
+  EXPECT_EQ(station.State().Transmission.ObjectTxOn, 1);
   RunTo(Now() + kDay / 8);
   ExpectSent({});
   // The rhythm goes on as if something had been sent.
   EXPECT_GT(station.State().Transmission.LastBeaconTime, 0);
+  EXPECT_GT(station.State().Transmission.LastObjectTime, 0);
 }
 
 // The same with reports by hand: at the press, and nothing by timer.

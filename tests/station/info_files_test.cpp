@@ -2,6 +2,7 @@
 // out at its second, with what the file gives or without a comment.
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -97,6 +98,25 @@ TEST_F(InfoFiles, AFolderIsNoComment) {
 TEST_F(InfoFiles, APipeIsNoCommentAndHoldsNothingUp) {
   ASSERT_EQ(::mkfifo(Path().c_str(), 0600), 0);
   EXPECT_EQ(Report(), kPosition + "\r");
+}
+
+// The other program puts a pipe in the file's place and the file back, again and again.
+TEST_F(InfoFiles, APipeThatTakesTheFilesPlaceHoldsNothingUp) {
+  const std::string pipe = station.folder.Sub("pipe");
+  const std::string file = station.folder.Sub("file");
+  std::atomic<bool> ended{false};
+  std::thread swapper([&] {
+    while (!ended) {
+      ::mkfifo(pipe.c_str(), 0600);
+      ::rename(pipe.c_str(), Path().c_str());
+      ::close(::open(file.c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
+      ::rename(file.c_str(), Path().c_str());
+    }
+  });
+  for (int reports = 0; reports < 2000; ++reports)
+    EXPECT_EQ(Report(), kPosition + "\r");
+  ended = true;
+  swapper.join();
 }
 
 TEST_F(InfoFiles, ADeviceThatNeverEndsIsNoComment) {

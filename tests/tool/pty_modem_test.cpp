@@ -169,6 +169,7 @@ TEST_F(PtyModemTest, AHungUpModemTakesNothingMore) {
   modem->Hear(Packet("N0CALL>APRS:!tst"));
   Serve();
   EXPECT_EQ(program.Heard(), "");
+  EXPECT_FALSE(std::filesystem::exists(std::filesystem::symlink_status(modem->Link())));
 }
 
 TEST(ModemDevice, IsListenedToWhenItWasSetUpAndLeftInPeace) {

@@ -21,11 +21,12 @@ namespace {
 constexpr mode_t kNewFile = 0666;
 constexpr mode_t kNewFolder = 0777;
 
-// A file descriptor that closes itself.
+// A file descriptor that closes itself. Opening never waits: a pipe may have taken the place of the
+// file since that was looked at.
 class Descriptor {
  public:
   Descriptor(const std::string& path, int flags)
-      : fd_(::open(path.c_str(), flags | O_CLOEXEC, kNewFile)) {}
+      : fd_(::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, kNewFile)) {}
   ~Descriptor() { Close(); }
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
