@@ -112,6 +112,8 @@ TEST(MainWindowCaptions, EveryControlOfTheSetUpPanelsExplainsItself) {
                                      &o.Command31,        &o.Command32,
                                      &c.Transmit.Check6,  &c.Transmit.Check18,
                                      &c.Record.Label20,   &c.Transmit.NextBeacon};
+  for (const TextBox& line : t.InfoField)
+    all.push_back(&line);
   for (const CheckBox& active : t.fr4ta)
     all.push_back(&active);
   for (const OptionButton& speed : t.Speeds)

@@ -26,6 +26,10 @@ TEST(TransmitRooms, ThePanelOfTheObjectHoldsTheCycleWhateverIsRedrawn) {
   ObjectSetupControls& panel = station.Controls().ObjectSetup;
   station.Controls().Transmit.Check18.RightClick();
   ASSERT_TRUE(panel.Frame11.Visible);
+  // The map has gone to the object, and its redraw has left the timer alone.
+  EXPECT_EQ(station.State().Map.CentreNorthKm, 5817.860);
+  EXPECT_EQ(station.State().Map.CentreEastKm, 391.394);
+  EXPECT_FALSE(station.program->Timer1().Enabled());
   station.Hear("QX1AB", "=5230.00N/01324.00E>");
   station.Ticks(3);
   // The operator moves the map to the object's place.
