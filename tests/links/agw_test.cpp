@@ -370,6 +370,20 @@ TEST_F(AgwLocalTest, PutDataSendsOneFrameAndCloseUnregisters) {
   EXPECT_EQ(socket.State(), SocketState::Closed);
 }
 
+TEST_F(AgwLocalTest, TheSecondPortIsThatOf1200Bd) {
+  engine.AGWStartPoll("ZEPRIL", "QX7KB");
+  radio.AgwPort = 1;  // what the remote engine was last told has no say here
+  const struct {
+    const char* Speed;
+    int Port;
+  } rows[] = {{"300", 0}, {"300R", 0}, {"1200", 1}, {"9600", 0}, {"19200", 0}, {"", 0}};
+  for (const auto& row : rows) {
+    radio.BaudMode = row.Speed;
+    engine.AGWPutData("ZEPR,", "Hi");
+    EXPECT_EQ(socket.Sent.back()[0], row.Port) << row.Speed;
+  }
+}
+
 TEST(LinkLamp, ShowsDataSilenceAndLoss) {
   EXPECT_EQ(LampOf(false, false, -1, 100).State, LampState::None);
   EXPECT_EQ(LampOf(true, true, -1, 100).State, LampState::Silent);
