@@ -162,6 +162,8 @@ void SetTxSetupToolTips(MainWindowControls& c, TipPick pick) {
   SetToolTips(rows, pick);
   for (Button& quick : t.PathQuick)
     quick.ToolTip = pick("Append to the path");
+  for (TextBox& line : t.InfoField)
+    line.ToolTip = pick("Text of a report / {C:\\WX.TXT}: the longest line of that file");
   for (CheckBox& active : t.fr4ta)
     active.ToolTip = pick("This line takes its turn in the reports");
   for (OptionButton& speed : t.Speeds)

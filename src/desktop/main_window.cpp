@@ -249,7 +249,7 @@ void MainWindow::resizeEvent(QResizeEvent*) {
 }
 
 void MainWindow::Press(const Button& control) {
-  if (control.Click) loop_.RunStep(control.Click);
+  if (control.Enabled && control.Click) loop_.RunStep(control.Click);
 }
 
 void MainWindow::Switch(CheckBox& control) {

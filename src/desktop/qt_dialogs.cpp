@@ -52,7 +52,7 @@ DialogAnswer QtDialogs::Ask(const std::string& title, const std::string& text,
   box.setTextFormat(Qt::PlainText);
   // No-break blanks: a box of plain text would fold runs of blanks.
   box.setText(ToQt(text).replace(QStringLiteral("  "), QStringLiteral("\u00A0\u00A0")));
-  box.setIcon(buttons == DialogButtons::Ok ? QMessageBox::Warning : QMessageBox::Question);
+  box.setIcon(buttons == DialogButtons::OkCancel ? QMessageBox::Question : QMessageBox::Warning);
   box.setStandardButtons(ButtonsOf(buttons));
   box.setDefaultButton(ButtonOf(default_answer));
   box.setEscapeButton(ButtonOf(HarmlessOf(buttons)));

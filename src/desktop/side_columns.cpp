@@ -1,6 +1,7 @@
 #include "desktop/side_columns.h"
 
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -11,6 +12,11 @@
 #include "desktop/scale_row.h"
 
 namespace zepril {
+namespace {
+
+constexpr int kLongestTextLines = 3;  // of a record's 47 characters of text
+
+}  // namespace
 
 QWidget* SideColumns::MakeLeftColumn() {
   auto* column = new QWidget;
@@ -177,6 +183,9 @@ QWidget* SideColumns::MakeMoni1() {
     label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     label->setMinimumWidth(0);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+    // What stands below must not move under the hand when a text comes.
+    const int lines = &control == &m.Label10 ? kLongestTextLines : 1;
+    label->setMinimumHeight(lines * QFontMetrics(parts_.FixedFont).lineSpacing());
     box->addWidget(label);
     parts_.Binding.Bind(label, control);
   }

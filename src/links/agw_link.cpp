@@ -124,7 +124,9 @@ void AgwLink::DisconnectAgw() {
 }
 
 void AgwLink::SendAgwUnproto() {
-  if (radio_.AgwConnected != 1) return;
+  // A lost link is told by the lamp until it is opened again: a box would hold up a station that
+  // nobody sits at.
+  if (radio_.AgwConnected != 1 || winsock1_.State() != SocketState::Connected) return;
   radio_.AgwPort = AgwPortOf(radio_.BaudMode, radio_.AgwPort);
   const std::string data = AgwUnprotoData(transmission_.TxPath, transmission_.AgwTxText);
   const bool sent = winsock1_.Send(

@@ -83,7 +83,7 @@ class StationRooms final : public TickActions,
   void KeepSecondModeMonitored() override { transmit_.KeepSecondModeMonitored(); }
   void ChangeFollowedStation() override;
   void ShowEmergencyPanel() override {}
-  void SendIdentification() override {}
+  void SendIdentification() override { transmit_.SendIdentification(); }
   void FetchMoni1() override {}
   void FetchMoniAll() override {}
   void PollGps() override {}

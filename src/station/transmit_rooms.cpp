@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/text_fields.h"
+#include "transmit/identification.h"
 
 namespace zepril {
 namespace {
@@ -82,6 +83,10 @@ void TransmitRooms::KeepSecondModeMonitored() {
   // It may have been opened within the tick.
   if (terminal_.IsOpen()) return;
   RunModemScript(SecondModeScript(true), tools_.Machine.MSComm1, tools_.Machine.LocalClock);
+}
+
+void TransmitRooms::SendIdentification() {
+  beacon_.SendIdentification(IdentificationText(state_.Radio, state_.Internet.IGateConnected == 1));
 }
 
 // What would speak to the modem too waits until the terminal is closed.

@@ -54,6 +54,7 @@ class TransmitRooms {
   void ShowSwitches() { switches_.ShowInterval(); }
   // The tick.
   void KeepSecondModeMonitored();
+  void SendIdentification();
   void SendBeacon() { beacon_.SendPositionBeacon(); }
   void SendObjectReport() { beacon_.SendObjectReport(); }
   // How much of the time to the next report is over; after each tick.

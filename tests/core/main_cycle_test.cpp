@@ -403,6 +403,14 @@ TEST_F(MainCycleTest, ObjectHasHalfTheRateAndGoesBeforeTheBeacon) {
   EXPECT_EQ(Tick(), (Names{"receive", "beacon"}));
 }
 
+TEST_F(MainCycleTest, AnObjectThatIsNotArmedIsNotSent) {
+  TransmitEveryTenMinutes();
+  controls.Transmit.Check18.Value = 1;
+  state.Transmission.LastObjectTime = 7;
+  EXPECT_EQ(Tick(), (Names{"receive"}));
+  EXPECT_EQ(state.Transmission.LastObjectTime, 7);
+}
+
 TEST_F(MainCycleTest, GpsIsPolledByWhatItsSourceReads) {
   for (const char* polled : {"3", "3 SAVE", "C:\\GPS.TXT"}) {
     state.Gps.NmeaSource = polled;

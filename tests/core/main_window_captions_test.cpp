@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "core/main_window_controls.h"
 
 namespace zepril {
@@ -31,11 +33,20 @@ TEST(MainWindowCaptions, PanelsCarryTheirTexts) {
 TEST(MainWindowCaptions, TxSetupNamesItsButtonsAndSpeeds) {
   MainWindowControls c;
   SetInitialControls(c);
-  const TxSetupControls& t = c.TxSetup;
+  TxSetupControls& t = c.TxSetup;
   EXPECT_EQ(t.PathMemory[0].Caption, "M1");
   EXPECT_EQ(t.PathMemory[3].Caption, "M4");
   EXPECT_EQ(t.InfoMemory[5].Caption, "M6");
   EXPECT_EQ(t.TxTimestampBox.Caption, "TX TIMESTAMP (GPS)");
+  EXPECT_EQ(t.DigiBox.Caption, "DIGI");
+  EXPECT_EQ(c.Transmit.Check15.Caption, "IGATE");
+  EXPECT_EQ(c.Transmit.Check2.Caption, "HF-DUAL");
+  EXPECT_EQ(c.ObjectSetup.ObjectOk.Caption, "OK");
+  for (const Button* down :
+       {&t.TxIntervalDown, &t.SymbolDown, &t.CrossDown, &c.ObjectSetup.ObjectSymbolDown})
+    EXPECT_EQ(down->Caption, "<");
+  for (const Button* up : {&t.TxIntervalUp, &t.SymbolUp, &t.CrossUp, &c.ObjectSetup.ObjectSymbolUp})
+    EXPECT_EQ(up->Caption, ">");
   const char* speeds[] = {"RPR 300", "300", "1200", "9600", "19200"};
   for (std::size_t at = 0; at < t.Speeds.size(); ++at)
     EXPECT_EQ(t.Speeds[at].Caption, speeds[at]);
@@ -77,6 +88,43 @@ TEST(MainWindowCaptions, TheMemoriesToolTipsAreLeftToTheirTexts) {
   SetMainWindowLabels(c, 1);
   EXPECT_EQ(c.TxSetup.InfoMemory[1].ToolTip, "145.500 MHZ");
   EXPECT_EQ(c.TxSetup.PathMemory[2].ToolTip, "WIDE1-1");
+}
+
+TEST(MainWindowCaptions, EveryControlOfTheSetUpPanelsExplainsItself) {
+  MainWindowControls c;
+  SetInitialControls(c);
+  TxSetupControls& t = c.TxSetup;
+  ObjectSetupControls& o = c.ObjectSetup;
+  std::vector<const Control*> all = {&t.TxSsid,           &t.TxDestinationField,
+                                     &t.TxPathField,      &t.PathClear,
+                                     &t.TxInterval,       &t.TxIntervalDown,
+                                     &t.TxIntervalUp,     &t.SymbolDown,
+                                     &t.SymbolUp,         &t.SymbolName,
+                                     &t.TxOverlayField,   &t.TxTimestampBox,
+                                     &t.DigiBox,          &t.TxLevel,
+                                     &t.CrossField,       &t.CrossDown,
+                                     &t.CrossUp,          &t.TxOk,
+                                     &t.TxAbort,          &c.Transmit.Check15,
+                                     &c.Transmit.Check2,  &o.ObjectNameField,
+                                     &o.ObjectTextField,  &o.ObjectOverlayField,
+                                     &o.ObjectSymbolDown, &o.ObjectSymbolUp,
+                                     &o.ObjectSymbolName, &o.ObjectOk,
+                                     &o.Command31,        &o.Command32,
+                                     &c.Transmit.Check6,  &c.Transmit.Check18,
+                                     &c.Record.Label20,   &c.Transmit.NextBeacon};
+  for (const TextBox& line : t.InfoField)
+    all.push_back(&line);
+  for (const CheckBox& active : t.fr4ta)
+    all.push_back(&active);
+  for (const OptionButton& speed : t.Speeds)
+    all.push_back(&speed);
+  for (const Button& quick : t.PathQuick)
+    all.push_back(&quick);
+  for (const Control* control : all)
+    EXPECT_NE(control->ToolTip, "");
+  SetMainWindowLabels(c, 21);
+  for (const Control* control : all)
+    EXPECT_EQ(control->ToolTip, "");
 }
 
 TEST(MainWindowCaptions, ARightClickIsToldInTheToolTip) {

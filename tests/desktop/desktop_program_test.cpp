@@ -316,6 +316,7 @@ TEST_F(DesktopProgramTest, TheTimersStandStillWhileABoxIsOpen) {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     ASSERT_NE(box, nullptr);
     EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::No));
+    EXPECT_EQ(box->icon(), QMessageBox::Warning);  // what follows a Yes can't be taken back
     box->close();  // as the harmless button
   });
   loop.RunStep([&] {

@@ -18,6 +18,25 @@ namespace {
 
 // ---- The picture ----------------------------------------------------------------------------
 
+TEST_F(MainWindowTest, NothingMovesUnderTheHandWhenATextComes) {
+  const auto place = [this] {
+    const QWidget* tx = Find<>(*window, "Check6");
+    return tx->mapTo(window.get(), QPoint());
+  };
+  loop.RunStep([this] {
+    Controls().Moni1.Label9.Caption.clear();
+    Controls().Moni1.Label10.Caption.clear();
+  });
+  Pump();
+  const QPoint before = place();
+  loop.RunStep([this] {
+    Controls().Moni1.Label9.Caption = "2026-11-21 19:15  Car";
+    Controls().Moni1.Label10.Caption = "TEXT: 169/057 Rostock - Berlin, QRV 145.500 and 144.800";
+  });
+  Pump();
+  EXPECT_EQ(place(), before);
+}
+
 TEST_F(MainWindowTest, AHeardStationIsOnTheMapAfterTheTick) {
   const QColor violet = PlainColour(ColourMoniAll);
   EXPECT_EQ(CountOf(MapPicture(), Map()->rect(), violet), 0);

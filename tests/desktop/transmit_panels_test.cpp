@@ -207,6 +207,22 @@ TEST_F(TransmitPanelsTest, WhatTheLinkDoesNotOfferIsNotShown) {
   }
 }
 
+TEST_F(TransmitPanelsTest, NamesOfSymbolsAndTheSecondModeAreRead) {
+  OpenTxSetup();
+  OpenObjectSetup();
+  loop.RunStep([this] {
+    Tx().SymbolName.Caption = "Car";
+    Object().ObjectSymbolName.Caption = "Repeater";
+    Tx().CrossField.Caption = "R300";
+    Tx().TxLevelLabel.Caption = " SCS TNC: AFSK TX LEVEL ( 30 mV - 3000 mV )";
+  });
+  const auto text = [this](const char* name) { return Find<QLabel>(*window, name)->text(); };
+  EXPECT_EQ(text("SymbolName"), QStringLiteral("Car"));
+  EXPECT_EQ(text("ObjectSymbolName"), QStringLiteral("Repeater"));
+  EXPECT_EQ(text("CrossField"), QStringLiteral("R300"));
+  EXPECT_EQ(text("TxLevelLabel"), QStringLiteral(" SCS TNC: AFSK TX LEVEL ( 30 mV - 3000 mV )"));
+}
+
 TEST_F(TransmitPanelsTest, TheTextOfAMemoryIsItsToolTip) {
   OpenTxSetup();
   loop.RunStep([this] {
@@ -436,6 +452,18 @@ TEST_F(TransmitPanelsTest, EscClosesWhatLiesOnTopByItsHarmlessButton) {
   QTest::keyClick(Map(), Qt::Key_Escape);
   EXPECT_EQ(pressed, "cancel abort ");
   EXPECT_FALSE(Find<>(*window, "Frame4")->isVisible());
+}
+
+TEST_F(TransmitPanelsTest, EscPressesNoButtonThatIsDisabled) {
+  int aborted = 0;
+  Tx().TxAbort.Click = [&] { ++aborted; };
+  OpenTxSetup();
+  // As while the modem is programmed.
+  loop.RunStep([this] { Tx().TxAbort.Enabled = false; });
+  Map()->setFocus();
+  QTest::keyClick(Map(), Qt::Key_Escape);
+  EXPECT_EQ(aborted, 0);
+  EXPECT_TRUE(Find<>(*window, "Frame4")->isVisible());
 }
 
 TEST_F(TransmitPanelsTest, EscInAFieldLeavesItFirst) {

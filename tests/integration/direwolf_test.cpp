@@ -253,8 +253,10 @@ TEST_F(DirewolfTest, TheWholeProgramHearsItFromTheStartWindowOn) {
       QTest::qWaitFor([&] { return engine->Monitors(); }, static_cast<int>(kPatience * 1000)))
       << engine->Log();
   ASSERT_TRUE(engine->Play("N0CALL>APRS,QX0DIG*:=5230.00N/01324.00E>Test"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !station.State().Radio.AgwRxBuffer.empty(); },
-                              static_cast<int>(kPatience * 1000)))
+  // A tick of its own may take it before this one does.
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] { return !station.State().Radio.AgwRxBuffer.empty() || !Heard().empty(); },
+      static_cast<int>(kPatience * 1000)))
       << engine->Log();
   whole.Loop().RunStep(station.Timer1().Elapsed);
   const std::vector<std::string> records = Heard();

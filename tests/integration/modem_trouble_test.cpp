@@ -200,6 +200,18 @@ TEST_P(ModemTroubleTest, AModemThatHangsUpInTheMiddleOfStartCostsTheDescribedWai
   EXPECT_TRUE(station.Controls().Status.LinkNotice.Visible);
 }
 
+TEST_P(ModemTroubleTest, AModemThatHangsUpInTheMiddleOfTheOpeningCostsTheDescribedWaits) {
+  ServedModem modem(station.Link(), MakeModelSetUpBy(Mode(), station.SetUp()));
+  modem.HangUpBehind(1);
+  EXPECT_NEAR(WaitedFor([this] { ASSERT_TRUE(station.Start()); }), station.Opening().Seconds(),
+              1e-6);
+  station.Switch(Transmit().Check6, 1);
+  // The one that is told nothing at the opening goes with the first report.
+  station.Run(2 * kTickSeconds + 0.1);
+  EXPECT_TRUE(station.Comes([this] { return Lamp() == LampState::Lost; }));
+  ExpectATickWithAReport();
+}
+
 TEST_P(ModemTroubleTest, AModemThatHangsUpInTheMiddleOfTxSetupCostsTheDescribedWaits) {
   ServedModem modem(station.Link(), MakeModelSetUpBy(Mode(), station.SetUp()));
   ASSERT_TRUE(station.Start());

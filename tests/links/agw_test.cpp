@@ -264,6 +264,17 @@ TEST_F(AgwLinkTest, UnprotoGoesOutOnlyWhenConnectedAndSaysWhenItFails) {
   link.SendAgwUnproto();
 }
 
+TEST_F(AgwLinkTest, OnALinkThatIsLostNothingIsSentAndNoBoxAppears) {
+  transmission.AgwTxText = "=test";
+  EngineAnswers(Accepted());
+  link.ConnectAgw();
+  const std::size_t before = socket.Sent.size();
+  socket.SetState(SocketState::PeerClosed);
+  socket.FailSends = true;
+  link.SendAgwUnproto();
+  EXPECT_EQ(socket.Sent.size(), before);
+}
+
 TEST_F(AgwLinkTest, ALostLinkIsOpenedAgainQuietlyEveryTenSeconds) {
   EngineAnswers(Accepted());
   link.ConnectAgw();
@@ -357,6 +368,20 @@ TEST_F(AgwLocalTest, PutDataSendsOneFrameAndCloseUnregisters) {
   engine.AGWClose();
   EXPECT_EQ(socket.Sent.back()[4], 'x');
   EXPECT_EQ(socket.State(), SocketState::Closed);
+}
+
+TEST_F(AgwLocalTest, TheSecondPortIsThatOf1200Bd) {
+  engine.AGWStartPoll("ZEPRIL", "QX7KB");
+  radio.AgwPort = 1;  // what the remote engine was last told has no say here
+  const struct {
+    const char* Speed;
+    int Port;
+  } rows[] = {{"300", 0}, {"300R", 0}, {"1200", 1}, {"9600", 0}, {"19200", 0}, {"", 0}};
+  for (const auto& row : rows) {
+    radio.BaudMode = row.Speed;
+    engine.AGWPutData("ZEPR,", "Hi");
+    EXPECT_EQ(socket.Sent.back()[0], row.Port) << row.Speed;
+  }
 }
 
 TEST(LinkLamp, ShowsDataSilenceAndLoss) {

@@ -218,6 +218,30 @@ TEST_P(DayOnTheAir, WhatIsHeardKeepsNoTransmissionBack) {
   ExpectSent(rhythm.Transmissions());
 }
 
+// With a digipeater on, three times an hour, by the third character of the call; neither TX switch
+// nor interval count.
+class DayAsDigipeater : public OnAirStation {
+ protected:
+  DayAsDigipeater() : OnAirStation("DIGI=1\r\n") {}
+};
+
+INSTANTIATE_TEST_SUITE_P(EveryModem, DayAsDigipeater,
+                         ::testing::Values(RadioMode::Pk232, RadioMode::ScsTnc, RadioMode::ScsPtc),
+                         NameOf);
+
+TEST_P(DayAsDigipeater, ItIdentifiesItselfInItsMinutesAndSaysNothingElse) {
+  ASSERT_TRUE(station.Start());
+  sent.clear();
+  RunTo(Now() + kDay);
+  ASSERT_EQ(sent.size(), 72U);
+  for (std::size_t at = 0; at < sent.size(); ++at) {
+    const auto second = static_cast<std::int64_t>(sent[at].Seconds);
+    EXPECT_EQ(second / 60, 7 + 20 * static_cast<std::int64_t>(at));
+    EXPECT_LT(second % 60, static_cast<std::int64_t>(kTick) + 1);
+    EXPECT_EQ(sent[at].Bytes, "=4830.15N/00805.20E> ZEPRIL  Digi active\r");
+  }
+}
+
 TEST_P(DayOnTheAir, WithTheSwitchOffNothingGoesOut) {
   ASSERT_TRUE(station.Start());
   ExpectSent(Greeting(GetParam()));
@@ -234,10 +258,13 @@ TEST_P(DayOnTheAir, WithoutAPositionNothingGoesOut) {
   RunTo(Now() + kDay / 8);
   // Nor when the switch was on already.
   Transmit().Check6.Value = 1;
+  SwitchOn(Transmit().Check18);
+  EXPECT_EQ(station.State().Transmission.ObjectTxOn, 1);
   RunTo(Now() + kDay / 8);
   ExpectSent({});
   // The rhythm goes on as if something had been sent.
   EXPECT_GT(station.State().Transmission.LastBeaconTime, 0);
+  EXPECT_GT(station.State().Transmission.LastObjectTime, 0);
 }
 
 // The same with reports by hand: at the press, and nothing by timer.

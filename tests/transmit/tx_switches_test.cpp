@@ -56,6 +56,16 @@ TEST_F(TxSwitchesTest, AMovingStationAnswersByItself) {
   EXPECT_EQ(Transmit().Check16.Value, 1);
 }
 
+TEST_F(TxSwitchesTest, AFixIsEnoughForItAndAnAnswerThatIsOnStaysSo) {
+  world.State.Gps.GpsFixValid = 1;
+  ClickTx(1);
+  EXPECT_EQ(world.State.Chat.AutoAnswerOn, 1);
+  ClickTx(0);
+  Transmit().Check16.Value = 0;
+  ClickTx(1);
+  EXPECT_EQ(Transmit().Check16.Value, 0);
+}
+
 TEST_F(TxSwitchesTest, SwitchedOffEverythingGoesOffWithIt) {
   ClickTx(1);
   world.State.Transmission.ObjectName = "ABC      ";
@@ -71,6 +81,23 @@ TEST_F(TxSwitchesTest, SwitchedOffEverythingGoesOffWithIt) {
   EXPECT_FALSE(world.Controls.Record.Command10.Enabled);
   EXPECT_EQ(Transmit().Check18.BackColour, TxSwitches::kObjectDimmed);
   EXPECT_EQ(world.Actions.Redraws, redraws + 1);
+}
+
+TEST_F(TxSwitchesTest, WithTheSwitchTheObjectGoesOffWhenThePositionIsLost) {
+  world.State.Transmission.ObjectName = "ABC      ";
+  ClickTx(1);
+  ClickObject(1);
+  world.State.Map.OwnNorthKm = 0.0;
+  world.State.Map.OwnEastKm = 0.0;
+  world.Switches.ShowInterval();
+  EXPECT_EQ(Transmit().Check6.Value, 0);
+  EXPECT_EQ(Transmit().Check18.Value, 0);
+  EXPECT_EQ(world.State.Transmission.ObjectTxOn, 0);
+  EXPECT_EQ(Transmit().Check6.Caption, "TX 10");
+}
+
+TEST_F(TxSwitchesTest, TheObjectIsSeenDimmedUntilTxIsOn) {
+  EXPECT_EQ(Transmit().Check18.BackColour, 28784U);
 }
 
 TEST_F(TxSwitchesTest, WithoutAPositionTheSwitchesAreHeldOff) {
@@ -98,8 +125,11 @@ TEST_F(TxSwitchesTest, TheObjectGoesOnTheAirOnlyWithTxAndAName) {
   EXPECT_EQ(Transmit().Check18.Value, 1);
   EXPECT_EQ(world.State.Transmission.ObjectTxOn, 1);
   EXPECT_EQ(world.State.Transmission.LastObjectTime, 0);
+  // The map shows whether it is on the air.
+  EXPECT_EQ(world.Actions.Redraws, 1);
   ClickObject(0);
   EXPECT_EQ(world.State.Transmission.ObjectTxOn, 0);
+  EXPECT_EQ(world.Actions.Redraws, 2);
 }
 
 }  // namespace

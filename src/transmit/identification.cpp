@@ -1,0 +1,26 @@
+#include "transmit/identification.h"
+
+namespace zepril {
+namespace {
+
+// Kept: "R300" reads other than "300R" and so counts as another mode.
+bool RelaysToAnotherMode(const RadioState& radio) {
+  return radio.RadioMode == static_cast<int>(RadioMode::ScsTnc) && radio.CrossMode != "NONE" &&
+         radio.CrossMode != radio.BaudMode;
+}
+
+std::string RelayText(const std::string& cross_mode) {
+  if (cross_mode.starts_with("R")) return "Gate -> RPR " + cross_mode.substr(1) + "Bd";
+  return "Gate to FSK " + cross_mode + "Bd";
+}
+
+}  // namespace
+
+std::string IdentificationText(const RadioState& radio, bool gate_connected) {
+  const std::string name = "ZEPRIL  ";
+  if (radio.DigiOn != 1) return gate_connected ? name + "IGate R->I active" : std::string();
+  const std::string what = RelaysToAnotherMode(radio) ? RelayText(radio.CrossMode) : "Digi";
+  return name + what + (gate_connected ? " & IGate R->I active" : " active");
+}
+
+}  // namespace zepril
