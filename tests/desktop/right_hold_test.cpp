@@ -94,6 +94,25 @@ TEST_F(RightHoldTest, HidingTheWindowEndsItOnce) {
   EXPECT_EQ(told, "down up ");
 }
 
+TEST_F(RightHoldTest, AListThatIsDisabledMeanwhileEndsItOnce) {
+  PressMouse();
+  loop.RunStep([this] { control.Enabled = false; });
+  EXPECT_EQ(told, "down up ");
+}
+
+// The second of two quick presses comes as a double click.
+TEST_F(RightHoldTest, QuickPressesAreHeldEachForItself) {
+  PressMouse();
+  QTest::mouseRelease(list->viewport(), Qt::RightButton);
+  const QPointF at(5, 5);
+  QMouseEvent again(QEvent::MouseButtonDblClick, at, list->viewport()->mapToGlobal(at),
+                    Qt::RightButton, Qt::RightButton, Qt::NoModifier);
+  QApplication::sendEvent(list->viewport(), &again);
+  EXPECT_EQ(told, "down up down ");
+  QTest::mouseRelease(list->viewport(), Qt::RightButton);
+  EXPECT_EQ(told, "down up down up ");
+}
+
 TEST_F(RightHoldTest, TheMenuKeyIsHeldLikeTheButton) {
   SendKey(QEvent::KeyPress, Qt::Key_Menu, Qt::NoModifier, false);
   EXPECT_EQ(told, "down ");

@@ -51,12 +51,6 @@ std::size_t Rank(const std::string& path) {
   return rank;
 }
 
-bool ComesBefore(const SerialDevice& a, const SerialDevice& b) {
-  if (Rank(a.Path) != Rank(b.Path)) return Rank(a.Path) < Rank(b.Path);
-  if (a.Path.size() != b.Path.size()) return a.Path.size() < b.Path.size();  // 9 before 10
-  return a.Path < b.Path;
-}
-
 // The group that owns the device; "dialout" when the system does not tell.
 std::string GroupOf(const std::string& path) {
   struct stat found {};
@@ -72,6 +66,12 @@ std::string GroupOf(const std::string& path) {
 }
 
 }  // namespace
+
+bool ComesBefore(const SerialDevice& a, const SerialDevice& b) {
+  if (Rank(a.Path) != Rank(b.Path)) return Rank(a.Path) < Rank(b.Path);
+  if (a.Path.size() != b.Path.size()) return a.Path.size() < b.Path.size();  // 9 before 10
+  return a.Path < b.Path;
+}
 
 std::vector<SerialDevice> PresentSerialDevices() {
   std::vector<SerialDevice> devices;

@@ -14,6 +14,8 @@ namespace zepril {
 // The devices that are there: USB adapters first, then modems, radio links, built-in ports. Port
 // number n is the n-th of them unless a device was chosen for it.
 std::vector<SerialDevice> PresentSerialDevices();
+// The order of that list.
+bool ComesBefore(const SerialDevice& a, const SerialDevice& b);
 
 // The link in `folder` that leads to the device; empty when none does.
 std::string StableSerialPath(const std::string& path,

@@ -276,6 +276,10 @@ TEST(SerialDevicePath, TheEnvironmentNamesAnotherDeviceForANumber) {
   EXPECT_EQ(SerialDevicePath("3", {}, TwoDevices), "/dev/no-such-adapter");
   ::setenv("ZEPRIL_COM3", "/no/such/adapter", 1);
   EXPECT_EQ(SerialDevicePath("COM3", {}, TwoDevices), "/no/such/adapter");
+  // An empty one names none.
+  ::setenv("ZEPRIL_COM2", "", 1);
+  EXPECT_EQ(SerialDevicePath("2", {}, TwoDevices), "/dev/no-port");
+  ::unsetenv("ZEPRIL_COM2");
   ::unsetenv("ZEPRIL_COM3");
 }
 
@@ -302,6 +306,35 @@ TEST(SerialDevicePath, OtherTextIsADevice) {
   EXPECT_EQ(SerialDevicePath("COMPUTER"), "/dev/COMPUTER");
 }
 
+// Else two programs would not notice that they share one.
+TEST(SerialDevicePath, LinksAreFollowedToTheDevice) {
+  const PseudoTerminal modem;
+  const TempFolder folder;
+  std::filesystem::create_symlink(modem.Path(), folder.Sub("usb-modem"));
+  std::filesystem::create_symlink(folder.Sub("usb-modem"), folder.Sub("mine"));
+  EXPECT_EQ(SerialDevicePath(folder.Sub("mine")), modem.Path());
+  std::filesystem::create_symlink(folder.Sub("nowhere"), folder.Sub("broken"));
+  EXPECT_EQ(SerialDevicePath(folder.Sub("broken")), folder.Sub("broken"));
+}
+
+TEST(SerialTroubleTexts, WhatIsNoDeviceIsFoundOutWithoutOpeningIt) {
+  const TempFolder folder;
+  std::ofstream(folder.Sub("file")) << "text";
+  ASSERT_EQ(::mkfifo(folder.Sub("pipe").c_str(), 0600), 0);
+  for (const std::string& path : {folder.Sub("file"), folder.Sub("pipe"), folder.Path()})
+    EXPECT_EQ(SerialTroubleOf(path), SerialTrouble::NoDevice) << path;
+  EXPECT_EQ(SerialTroubleOf(folder.Sub("nothing")), SerialTrouble::Absent);
+  EXPECT_EQ(SerialTroubleOf(""), SerialTrouble::NoPort);
+}
+
+TEST(SerialTroubleTexts, NobodyIsToldToJoinTheAdministrators) {
+  struct stat root {};
+  ASSERT_EQ(::stat("/", &root), 0);
+  if (root.st_gid != 0) GTEST_SKIP() << "the root folder belongs to somebody else here";
+  EXPECT_NE(SerialTroubleText(SerialTrouble::NotPermitted, "/").find("usermod -aG dialout $USER"),
+            std::string::npos);
+}
+
 TEST(SerialTroubleTexts, APortThatMayNotBeOpenedNamesTheCommandThatMendsIt) {
   EXPECT_EQ(
       SerialTroubleText(SerialTrouble::NotPermitted, "/dev/no-such-device"),
@@ -320,6 +353,19 @@ TEST(StableSerialPath, IsTheLinkThatLeadsToTheDevice) {
   EXPECT_EQ(StableSerialPath("/dev/null", folder.Path()), "");
   EXPECT_EQ(StableSerialPath(modem.Path(), folder.Sub("no-folder")), "");
   EXPECT_EQ(StableSerialPath("/dev/no-such-device", folder.Path()), "");
+}
+
+TEST(PresentSerialDevices, AdaptersComeBeforeWhatIsBuiltIn) {
+  const std::vector<std::string> order{"/dev/ttyUSB0", "/dev/ttyUSB9", "/dev/ttyUSB10",
+                                       "/dev/ttyACM0", "/dev/rfcomm0", "/dev/ttyS0",
+                                       "/dev/ttyAMA0"};
+  for (std::size_t at = 0; at + 1 < order.size(); ++at) {
+    const SerialDevice first{order[at], "", ""};
+    const SerialDevice second{order[at + 1], "", ""};
+    EXPECT_TRUE(ComesBefore(first, second)) << order[at];
+    EXPECT_FALSE(ComesBefore(second, first)) << order[at];
+    EXPECT_FALSE(ComesBefore(first, first));
+  }
 }
 
 TEST(PresentSerialDevices, EachHasAPathThatIsThere) {
