@@ -624,6 +624,14 @@ TEST_F(TransmitPanelsTest, AClickIntoWhatTheModemPrintsIsTold) {
   EXPECT_TRUE(Find<>(*window, "Text19")->hasFocus());
 }
 
+// What is printed there can be clicked into, and no key leads there.
+TEST_F(TransmitPanelsTest, TheTabKeysPassWhatTheModemPrints) {
+  OpenTerminal();
+  QTest::keyClick(Find<>(*window, "Text19"), Qt::Key_Tab, Qt::ShiftModifier);
+  EXPECT_FALSE(Find<>(*window, "Text19")->hasFocus());
+  EXPECT_FALSE(Find<>(*window, "Text20")->hasFocus());
+}
+
 TEST_F(TransmitPanelsTest, TheTerminalFitsAtEverySize) {
   OpenTerminal();
   for (const QSize size : {QSize(640, 480), QSize(1280, 800), QSize(3840, 2160)}) {
@@ -634,6 +642,10 @@ TEST_F(TransmitPanelsTest, TheTerminalFitsAtEverySize) {
       EXPECT_TRUE(PlaceOf(Find<>(*window, "Frame19")).contains(PlaceOf(widget)))
           << name << " at " << size.width();
     }
+    const auto* rule = Find<QLabel>(*window, "Label47");
+    const QRect needed = rule->fontMetrics().boundingRect(QRect(0, 0, rule->width(), 1000),
+                                                          Qt::TextWordWrap, rule->text());
+    EXPECT_LE(needed.height(), rule->height()) << size.width();
     EXPECT_GE(Find<>(*window, "Text20")->height(), 32) << size.width();
     EXPECT_GE(Map()->height(), 120) << size.width();
   }
