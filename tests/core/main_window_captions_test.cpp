@@ -127,6 +127,16 @@ TEST(MainWindowCaptions, EveryControlOfTheSetUpPanelsExplainsItself) {
     EXPECT_EQ(control->ToolTip, "");
 }
 
+// Its field takes all other keys for the modem.
+TEST(MainWindowCaptions, TheWayOutOfTheTerminalIsTold) {
+  MainWindowControls c;
+  SetInitialControls(c);
+  for (const Control* control : {static_cast<const Control*>(&c.Terminal.Text19),
+                                 static_cast<const Control*>(&c.Terminal.Command66)}) {
+    EXPECT_NE(control->ToolTip.find("Alt+C"), std::string::npos) << control->ToolTip;
+  }
+}
+
 TEST(MainWindowCaptions, ARightClickIsToldInTheToolTip) {
   MainWindowControls c;
   SetInitialControls(c);
