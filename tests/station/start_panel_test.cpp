@@ -208,6 +208,8 @@ TEST_F(StartPanelTest, EveryInterfaceOfTheFileIsShownWithItsFields) {
     EXPECT_TRUE((c.*row.Option).Value) << row.Modem;
     EXPECT_TRUE(c.Text3.Visible && c.Text4.Visible) << row.Modem;
     EXPECT_EQ(c.PortLabel.Caption, row.PortLabel);
+    EXPECT_EQ(c.SpeedLabel.Caption,
+              std::string(row.PortLabel) == "HOST NAME" ? "HOST PORT" : "COMM BAUD");
     EXPECT_EQ(c.Text3.Text, row.Port);
     EXPECT_EQ(c.Text4.Text, row.Speed);
   }
