@@ -78,6 +78,7 @@ StationRooms::StationRooms(StationPlatform machine)
   Timer1.Elapsed = [this] { Tick(); };
   Timer2.Elapsed = [this] { cycle_.Timer2Elapsed(); };
   overlays_.PictureShower = [this] { ShowPicture(); };
+  transmit_.SetPositionMissing([this] { OpenQthSetup(); });
   transmit_.SetMayReopen([this] { return !cycle_.InTick(); });
   BindControls();
 }
@@ -442,6 +443,7 @@ void StationRooms::TakeCentreAsOwnPosition() {
   State.Map.OwnNorthKm = State.Map.CentreNorthKm;
   State.Map.OwnEastKm = State.Map.CentreEastKm;
   Controls.Qth.Frame2.Visible = false;
+  transmit_.ShowSwitches();
   WriteConfigFromMainWindow();
   MapRedraw();
 }

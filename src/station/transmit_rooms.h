@@ -2,6 +2,9 @@
 // program: the modem's life from start to stop, the terminal, the beacon, the object, TX SETUP.
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "core/actions/map_actions.h"
 #include "core/actions/settings_actions.h"
 #include "core/main_window_controls.h"
@@ -69,6 +72,8 @@ class TransmitRooms {
            controls_.ObjectSetup.Frame11.Visible;
   }
   bool ModemIsUp() const { return modem_.LinkIsUp(); }
+  // The operator wants to transmit without an own position.
+  void SetPositionMissing(Event missing) { switches_.PositionMissing = std::move(missing); }
   // Asked before a lost modem is opened anew; set by the owner of the main cycle.
   void SetMayReopen(std::function<bool()> may_reopen);
 

@@ -37,6 +37,7 @@ void TxSwitches::ShowInterval() {
 
 void TxSwitches::TxClicked() {
   CheckBox& tx = controls_.Transmit.Check6;
+  if (!PositionKnown() && PositionMissing) PositionMissing();
   if (sections_.Transmission.TxIntervalMinutes == 0) {
     // By hand: one report, and the switch falls back.
     tx.Value = 0;

@@ -41,6 +41,8 @@ class TxSwitches {
   void ShowInterval();
   // Takes the object off the air.
   void ObjectOff();
+  // The operator wants to transmit and has not said from where yet; may be empty.
+  Event PositionMissing;
 
  private:
   void TxClicked();

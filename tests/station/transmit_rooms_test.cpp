@@ -186,6 +186,24 @@ TEST(TransmitRooms, TheBarTellsTheMinutesToTheNextReport) {
   EXPECT_EQ(bar.ToolTip, "next position report in 1 min");
 }
 
+TEST(TransmitRooms, WithoutAPositionTheSwitchOpensUserQthSetup) {
+  StationHarness station("UUN=0\r\nUUE=0\r\nTXON=10\r\n");
+  ASSERT_TRUE(station.Start());
+  QthSetupControls& qth = station.Controls().Qth;
+  TransmitControls& transmit = station.Controls().Transmit;
+  qth.Frame2.Visible = false;
+  EXPECT_FALSE(transmit.Check7.Enabled);
+  Press(transmit.Check6, 1);
+  EXPECT_TRUE(qth.Frame2.Visible);
+  EXPECT_EQ(transmit.Check6.Value, 0);
+  // The map's centre is taken; then the switch holds.
+  qth.QthOk.Click();
+  EXPECT_TRUE(transmit.Check7.Enabled);
+  Press(transmit.Check6, 1);
+  EXPECT_FALSE(qth.Frame2.Visible);
+  EXPECT_EQ(transmit.Check6.Value, 1);
+}
+
 TEST(TransmitRooms, WhatWasConfirmedComesBackAtTheNextStart) {
   StationHarness station("MODEM=5\r\n");
   ASSERT_TRUE(station.Start());

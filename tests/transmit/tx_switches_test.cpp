@@ -111,6 +111,26 @@ TEST_F(TxSwitchesTest, WithoutAPositionTheSwitchesAreHeldOff) {
   EXPECT_FALSE(Transmit().Check7.Enabled);
 }
 
+TEST_F(TxSwitchesTest, WithoutAPositionAPressAsksForIt) {
+  int asked = 0;
+  world.Switches.PositionMissing = [&] { ++asked; };
+  CheckBox& tx = world.Controls.Transmit.Check6;
+  tx.Value = 1;
+  tx.Click();
+  EXPECT_EQ(asked, 0);
+  world.State.Map.OwnNorthKm = 0.0;
+  world.State.Map.OwnEastKm = 0.0;
+  tx.Value = 1;
+  tx.Click();
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(tx.Value, 0);
+  // By hand too.
+  world.State.Transmission.TxIntervalMinutes = 0;
+  tx.Value = 1;
+  tx.Click();
+  EXPECT_EQ(asked, 2);
+}
+
 TEST_F(TxSwitchesTest, TheObjectGoesOnTheAirOnlyWithTxAndAName) {
   world.State.Transmission.ObjectName = "ABC      ";
   ClickObject(1);
