@@ -15,6 +15,8 @@ void SerialModem::Open() {
   };
   tools_.ReopenTimer.Elapsed = [this] { ReopenElapsed(); };
   Run(OpenModemScript({identity_, radio_, transmission_}));
+  // Who was away at START too has not heard under which call it sends.
+  untold_ = !tools_.Port.IsOpen();
   tools_.ReopenTimer.Arm(kReopenMilliseconds);
 }
 

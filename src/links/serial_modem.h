@@ -4,7 +4,7 @@
 // A port that can't be opened is passed over quietly; what is written to it goes nowhere. From then
 // on it is tried again every ten seconds by a timer of its own, without boxes; when it opens, the
 // modem is brought back to its commands and told the same as at start, and behind that the settings
-// that were confirmed while it was away.
+// that were confirmed while it was away. One that was away at START gets these in any case.
 #pragma once
 
 #include <functional>

@@ -121,7 +121,7 @@ ModemScript Pk232Setup(const ModemSections& s) {
 }
 
 ModemScript Pk232TxSetup(const ModemSections& s) {
-  const std::string call = CallText(s.Identity.MyCallFull, s.Identity.MySsid);
+  const std::string call = CallText(s.Identity.MyCall, s.Identity.MySsid);
   ModemScript script;
   script.SendPumping(kBreak, 0.5);
   script.SendPumping("MYCALL " + call + kCr, 0.2);

@@ -48,7 +48,11 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
   sender_.HeldBack = [this] { return terminal_.IsOpen() || modem_.IsBusy(); };
   modem_.DataArrived = [this] { terminal_.DataArrived(); };
   // A notice of trouble that is over goes by itself.
-  modem_.Reopened = [this] { ShowLinkTrouble(); };
+  modem_.Reopened = [this] {
+    ShowLinkTrouble();
+    // Half a frame of before must not run into the first one of now.
+    state_.Reception.ScsRxBuffer.clear();
+  };
   controls_.Terminal.Command65.Click = [this] {
     if (!modem_.IsBusy()) terminal_.Open();
   };

@@ -108,6 +108,22 @@ TEST_F(SerialModemTest, AnAbsentDeviceCostsNoTimeAtEachAttempt) {
   EXPECT_TRUE(modem.LinkIsUp());
 }
 
+TEST_F(SerialModemTest, AModemThatWasAwayAtStartHearsItsCallWhenItComes) {
+  port.Absent = true;
+  modem.Open();
+  port.Absent = false;
+  clock.Run(20.0);
+  EXPECT_NE(port.Written.find("ECHO ON\rK\r"), std::string::npos);
+  EXPECT_NE(port.Written.find("MYCALL QX7KB\r"), std::string::npos);
+  EXPECT_TRUE(port.Written.ends_with("K\r"));
+  // Once is enough.
+  port.Close();
+  port.Written.clear();
+  clock.Run(20.0);
+  EXPECT_TRUE(modem.LinkIsUp());
+  EXPECT_EQ(port.Written.find("MYCALL"), std::string::npos);
+}
+
 TEST_F(SerialModemTest, APortThatStandsIsLeftAlone) {
   modem.Open();
   port.Written.clear();

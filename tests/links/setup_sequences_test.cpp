@@ -377,7 +377,10 @@ TEST_F(SetupSequencesTest, ACallIsExtendedByAnySsidButOnlyOnce) {
   EXPECT_EQ(CallText("QX7KB-5", "10"), "QX7KB-5");
   EXPECT_EQ(CallText("QX7KB", ""), "QX7KB");
   identity.MyCall = "QX7KB-5";
+  identity.MyCallFull = "QX7KB-5-10";
   EXPECT_TRUE(Holds(Sent(TncSetupScript(Sections(RadioMode::Pk232))), "MYCALL QX7KB-5<0D>"));
+  EXPECT_TRUE(Holds(Sent(ApplyTxSetupScript(Sections(RadioMode::Pk232))), "MYCALL QX7KB-5<0D>"));
+  EXPECT_TRUE(Holds(Sent(ApplyTxSetupScript(Sections(RadioMode::ScsTnc))), "<1B>IQX7KB-5<0D>"));
   identity.MyCall = "QX7KB";
   identity.MySsid = "";
   EXPECT_TRUE(Holds(Sent(TncSetupScript(Sections(RadioMode::Pk232))), "MYCALL QX7KB<0D>"));

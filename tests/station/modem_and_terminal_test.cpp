@@ -170,5 +170,15 @@ TEST_P(TwoModesAtATerminal, ATerminalOpenedWithinATickHearsNothingOfTheSecondMod
   ExpectSent({});
 }
 
+TEST_P(ModemAndTerminal, HalfAFrameOfBeforeDoesNotRunIntoTheFirstOneOfNow) {
+  Begin();
+  station.State().Reception.ScsRxBuffer = "fm QX1AB to APRS ctl UI pid F0\r\n=5230.00N";
+  Pull();
+  PlugIn();
+  RunTo(Now() + 2.0 * kReopen);
+  EXPECT_TRUE(station.modem.IsOpen());
+  EXPECT_EQ(station.State().Reception.ScsRxBuffer, "");
+}
+
 }  // namespace
 }  // namespace zepril
