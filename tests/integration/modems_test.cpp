@@ -207,6 +207,7 @@ TEST_F(ModelsTest, APk232IsSetUpHeardAndMadeToSend) {
   EXPECT_EQ(SentFor("=4830.15N/00805.20E> Test"),
             Lines{"SENT pk232 300 QX7KB-10>ZEPR,WIDE1-1,WIDE2-1:=4830.15N/00805.20E> Test\n"});
 
+  identity.MySsid = "7";
   identity.MyCallFull = "QX7KB-7";
   transmission.TxPath.clear();
   radio.DigiOn = 0;
