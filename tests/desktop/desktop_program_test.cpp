@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
@@ -16,7 +15,6 @@
 
 #include "tests/desktop/desktop_support.h"
 #include "tests/desktop/loopback_engine.h"
-#include "tests/doubles/pseudo_terminal.h"
 #include "tests/doubles/temp_folder.h"
 #include "tests/map/bmp_maker.h"
 
@@ -325,26 +323,6 @@ TEST_F(DesktopProgramTest, TheTimersStandStillWhileABoxIsOpen) {
   });
   EXPECT_EQ(fired_in_box, 0);
   EXPECT_TRUE(PumpUntil([&] { return fired > 0; }));
-}
-
-// The timers, of which any would bring the text out some seconds later, stand still here.
-TEST_F(DesktopProgramTest, WhatTheModemPrintsIsSeenInTheOpenTerminalAtOnce) {
-  PseudoTerminal line;
-  WriteSettings("MODEM=5\r\nSCOMP=3\r\nSBAUD=38400\r\n");
-  files.Write("C:\\ZEPRIL\\PORTS.TXT", "COM3=" + line.Path() + "\r\n");
-  Begin();
-  QTest::mouseClick(StartButton(), Qt::LeftButton);
-  ASSERT_NE(program->Window(), nullptr);
-  QTest::mouseClick(Find<QPushButton>(*program->Window(), "Command65"), Qt::LeftButton);
-  ASSERT_TRUE(program->Station()->Controls().Terminal.Frame19.Visible);
-  Pump();  // the map has its new size
-  Pump();
-  program->Station()->Timer1().Stop();
-  program->Station()->ReopenTimer().Stop();
-  line.Say("cmd:");
-  auto* printed = Find<QPlainTextEdit>(*program->Window(), "Text20");
-  EXPECT_TRUE(PumpUntil([&] { return printed->toPlainText() == QStringLiteral("cmd:"); }))
-      << program->Station()->Controls().Terminal.Text20.Text;
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QPlainTextEdit>
 #include <QTimer>
 #include <QtTest/QTest>
 
@@ -114,6 +115,20 @@ TEST_F(DesktopModemTest, AnScsTncFromStartToTheEnd) {
     return station.State().Stores.MoniAllRecords.Count() > 0;
   })) << Reported();
   EXPECT_EQ(station.Lamp().State, LampState::Data);
+
+  // In the terminal its print is seen at once: the timers, of which any would bring it out some
+  // seconds later, stand still here.
+  auto* const opens = whole.Window()->findChild<QAbstractButton*>(QStringLiteral("Command65"));
+  auto* const printed = whole.Window()->findChild<QPlainTextEdit*>(QStringLiteral("Text20"));
+  QTest::mouseClick(opens, Qt::LeftButton);
+  ASSERT_TRUE(station.Controls().Terminal.Frame19.Visible);
+  QCoreApplication::processEvents();  // the map has its new size
+  station.Timer1().Stop();
+  station.ReopenTimer().Stop();
+  EXPECT_TRUE(Comes([&] { return printed->toPlainText().contains(QStringLiteral("fm ")); }));
+  auto* const closes = whole.Window()->findChild<QAbstractButton*>(QStringLiteral("Command66"));
+  QTest::mouseClick(closes, Qt::LeftButton);
+  EXPECT_FALSE(station.Controls().Terminal.Frame19.Visible);
 
   bool ended = false;
   whole.Ended = [&] { ended = true; };
