@@ -64,7 +64,11 @@ void ShowColours(QWidget* widget, const Control& control, const Look& look) {
 
 void ShowCommon(QWidget* widget, Control& control, Shown& shown, const Look& look) {
   if (!shown.Known || shown.Visible != control.Visible) widget->setVisible(control.Visible);
-  if (!shown.Known || shown.Enabled != control.Enabled) widget->setEnabled(control.Enabled);
+  if (!shown.Known || shown.Enabled != control.Enabled) {
+    // Left to itself the focus would go to whatever comes next, and Enter press that.
+    if (!control.Enabled && widget->hasFocus()) widget->clearFocus();
+    widget->setEnabled(control.Enabled);
+  }
   if (!shown.Known || shown.ToolTip != control.ToolTip) widget->setToolTip(ToQt(control.ToolTip));
   if (shown.BackColour != control.BackColour || shown.ForeColour != control.ForeColour) {
     ShowColours(widget, control, look);

@@ -133,6 +133,20 @@ TEST_F(BinderTest, ALabelIsPressedByLeftRightAndKeys) {
   EXPECT_EQ(left, 3);
 }
 
+TEST_F(BinderTest, ADisabledControlHandsTheFocusToNoOther) {
+  Button first;
+  Button second;
+  auto* pressed = Place(new QPushButton);
+  auto* next = Place(new QPushButton);
+  binder.Bind(pressed, first);
+  binder.Bind(next, second);
+  Show();
+  pressed->setFocus();
+  loop.RunStep([&] { first.Enabled = false; });
+  EXPECT_FALSE(pressed->hasFocus());
+  EXPECT_FALSE(next->hasFocus());
+}
+
 TEST_F(BinderTest, ADisabledControlRaisesNothing) {
   Label label;
   Button button;
