@@ -35,6 +35,18 @@ class OperatorOnTheAir : public OnAirStation {
   TerminalControls& Terminal() { return station.Controls().Terminal; }
   // The map is looked at elsewhere, which draws it anew.
   void MoveTheMap() { station.Controls().Map.Picture1.MouseDown({1, 0, 500.0, 299.0}); }
+  // Its line in the record panel, and a Yes to the question that comes with a click there.
+  void OpenARecordToBeSentAgain() {
+    station.State().Stores.MoniAllRecords.Append(
+        StationRecord("240228 1159 \xFE 5817.860  391.394'N0CALL    Test" + std::string(43, ' ') +
+                      " WIDE1-1   />    Car        0  "));
+    station.Controls().MoniAll.Command3.Click();
+    station.Controls().MoniAll.HeardList.ListIndex = 0;
+    station.Controls().MoniAll.HeardList.Click();
+    station.dialogs.Expect("ZEP RIL          RETRANSMIT STATION'S POSITION",
+                           "DO YOU WANT TO RETRANSMIT THIS STATION'S POSITION NOW ?",
+                           DialogAnswer::Yes);
+  }
   // Only the first report counts; the times from `origin`.
   void ExpectNext(const std::string& frame, double seconds) {
     RunTo(seconds + 0.5);
@@ -178,15 +190,7 @@ TEST_P(OperatorOnTheAir, SwitchedOffInTheMiddleNothingMoreGoesOut) {
 }
 
 TEST_P(OperatorOnTheAir, AStationsPositionIsSentAgainAfterAYes) {
-  station.State().Stores.MoniAllRecords.Append(
-      StationRecord("240228 1159 \xFE 5817.860  391.394'N0CALL    Test" + std::string(43, ' ') +
-                    " WIDE1-1   />    Car        0  "));
-  station.Controls().MoniAll.Command3.Click();
-  station.Controls().MoniAll.HeardList.ListIndex = 0;
-  station.Controls().MoniAll.HeardList.Click();
-  station.dialogs.Expect("ZEP RIL          RETRANSMIT STATION'S POSITION",
-                         "DO YOU WANT TO RETRANSMIT THIS STATION'S POSITION NOW ?",
-                         DialogAnswer::Yes);
+  OpenARecordToBeSentAgain();
   const double press = Now();
   station.Controls().Record.Label20.Click();
   ExpectSent(
@@ -277,15 +281,7 @@ TEST_P(OperatorAtAnScsTnc, TheOtherModeHoldsAsLongAsTheButtonIsHeld) {
 
 TEST_P(OperatorAtAnScsTnc, APositionSentAgainLeavesTheSecondModeAlone) {
   station.State().Radio.HfDualOn = 1;
-  station.State().Stores.MoniAllRecords.Append(
-      StationRecord("240228 1159 \xFE 5817.860  391.394'N0CALL    Test" + std::string(43, ' ') +
-                    " WIDE1-1   />    Car        0  "));
-  station.Controls().MoniAll.Command3.Click();
-  station.Controls().MoniAll.HeardList.ListIndex = 0;
-  station.Controls().MoniAll.HeardList.Click();
-  station.dialogs.Expect("ZEP RIL          RETRANSMIT STATION'S POSITION",
-                         "DO YOU WANT TO RETRANSMIT THIS STATION'S POSITION NOW ?",
-                         DialogAnswer::Yes);
+  OpenARecordToBeSentAgain();
   station.Controls().Record.Label20.Click();
   ASSERT_EQ(sent.size(), 1U);
   EXPECT_TRUE(sent[0].Bytes.starts_with("}N0CALL>"));
