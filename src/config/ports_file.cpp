@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/text_fields.h"
+#include "platform/code_page.h"
 
 namespace zepril {
 namespace {
@@ -15,10 +16,6 @@ constexpr const char* kLineEnd = "\r\n";
 
 std::string PortsPath(const std::string& program_folder) {
   return program_folder + "\\PORTS.TXT";
-}
-
-bool IsControl(char c) {
-  return Asc(c) < 32 || Asc(c) == 127;
 }
 
 struct PortLine {
@@ -38,7 +35,7 @@ std::optional<PortLine> ReadPortLine(std::string_view line) {
   const std::optional<int> number = WholeVal(digits, 1, kHighestPortNumber);
   const std::string_view device = Trim(line.substr(equals + 1));
   if (!number || device.empty()) return std::nullopt;
-  if (std::any_of(device.begin(), device.end(), IsControl)) return std::nullopt;
+  if (std::any_of(device.begin(), device.end(), IsControlCharacter)) return std::nullopt;
   return PortLine{*number, device};
 }
 

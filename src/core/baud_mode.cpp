@@ -7,4 +7,13 @@ std::string BaudModeLabelOf(std::string_view baud_mode) {
   return std::string(baud_mode) + " Bd";
 }
 
+bool IsSerialModem(RadioMode mode) {
+  return mode == RadioMode::Pk232 || mode == RadioMode::ScsTnc || mode == RadioMode::ScsPtc;
+}
+
+bool RelaysToAnotherMode(const RadioState& radio) {
+  return radio.RadioMode == static_cast<int>(RadioMode::ScsTnc) && radio.CrossMode != "NONE" &&
+         radio.CrossMode != radio.BaudMode;
+}
+
 }  // namespace zepril

@@ -1,5 +1,6 @@
 #include "core/title_line.h"
 
+#include "core/baud_mode.h"
 #include "core/text_fields.h"
 
 namespace zepril {
@@ -19,13 +20,9 @@ void BlankInTitle(std::string& title, std::size_t first, std::size_t last) {
 
 std::string DigiMarker(const RadioState& radio) {
   constexpr std::size_t kWidth = 11;
-  const auto mode = static_cast<RadioMode>(radio.RadioMode);
-  const bool modem =
-      mode == RadioMode::Pk232 || mode == RadioMode::ScsTnc || mode == RadioMode::ScsPtc;
+  const bool modem = IsSerialModem(static_cast<RadioMode>(radio.RadioMode));
   if (!modem || radio.DigiOn != 1) return std::string(kWidth, ' ');
-  const bool relays =
-      mode == RadioMode::ScsTnc && radio.CrossMode != "NONE" && radio.CrossMode != radio.BaudMode;
-  return relays ? "Digi X-mode" : "Digi active";
+  return RelaysToAnotherMode(radio) ? "Digi X-mode" : "Digi active";
 }
 
 }  // namespace zepril

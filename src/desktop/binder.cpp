@@ -12,12 +12,12 @@
 #include <QSignalBlocker>
 #include <QStringListModel>
 
-#include "core/text_fields.h"
 #include "desktop/corner_mark.h"
 #include "desktop/fill_bar_widget.h"
 #include "desktop/keys.h"
 #include "desktop/right_hold.h"
 #include "desktop/typed_keys.h"
+#include "platform/code_page.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
@@ -36,12 +36,10 @@ struct Shown {
 // What was put into a field, as one line: a paste may bring several, and settings and modems take a
 // line end for the end of what they are told. A blank stands for each run of control characters.
 std::string OneLine(const QString& text) {
-  constexpr int kLastControlCode = 31;
-  constexpr int kDelete = 127;
   std::string line;
   bool gap = false;
   for (const char c : FromQt(text)) {
-    const bool control = Asc(c) <= kLastControlCode || Asc(c) == kDelete;
+    const bool control = IsControlCharacter(c);
     if (!control || !gap) line += control ? ' ' : c;
     gap = control;
   }

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "core/baud_mode.h"
 #include "core/text_fields.h"
 
 namespace zepril {
@@ -26,8 +27,7 @@ Terminal::Terminal(TerminalControls& controls, TerminalTools tools)
 }
 
 void Terminal::EnableFor(RadioMode mode) {
-  controls_.Command65.Enabled =
-      mode == RadioMode::Pk232 || mode == RadioMode::ScsTnc || mode == RadioMode::ScsPtc;
+  controls_.Command65.Enabled = IsSerialModem(mode);
 }
 
 void Terminal::Open() {

@@ -13,6 +13,12 @@ char32_t CodePointOfByte(unsigned char byte);
 // Byte of a code point; nothing in the code page: `otherwise`.
 unsigned char ByteOfCodePoint(char32_t code_point, unsigned char otherwise = '?');
 
+// A byte that is no character to be seen: below 32, or 127.
+constexpr bool IsControlCharacter(char byte) {
+  const auto code = static_cast<unsigned char>(byte);
+  return code < 32 || code == 127;
+}
+
 std::string Utf8FromCodePage(std::string_view text);
 // Malformed UTF-8 becomes "?".
 std::string CodePageFromUtf8(std::string_view text);

@@ -3,22 +3,10 @@
 #include <algorithm>
 #include <string>
 
-#include "core/text_fields.h"
 #include "links/setup_sequences.h"
+#include "platform/code_page.h"
 
 namespace zepril {
-namespace {
-
-constexpr int kLastControlCode = 31;
-constexpr int kDelete = 127;
-
-// A modem takes some of these for the way back to its commands; a text that was heard may hold any.
-bool IsControlCharacter(char c) {
-  return Asc(c) <= kLastControlCode || Asc(c) == kDelete;
-}
-
-}  // namespace
-
 void FrameSender::SendFrame(std::string_view text, SecondMode second_mode) {
   if (HeldBack && HeldBack()) return;
   const auto mode = static_cast<RadioMode>(radio_.RadioMode);
@@ -57,6 +45,8 @@ void FrameSender::ToRemoteEngine(std::string_view text) {
 // Destination and path are the modem's own settings.
 void FrameSender::ToModem(std::string_view text) {
   if (!tools_.Modem.IsOpen()) return;
+  // A modem takes some of these for the way back to its commands; a text that was heard may hold
+  // any.
   std::string line(text);
   std::replace_if(line.begin(), line.end(), IsControlCharacter, ' ');
   tools_.Modem.Write(line + "\r");

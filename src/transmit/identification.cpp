@@ -1,13 +1,9 @@
 #include "transmit/identification.h"
 
+#include "core/baud_mode.h"
+
 namespace zepril {
 namespace {
-
-// Kept: "R300" reads other than "300R" and so counts as another mode.
-bool RelaysToAnotherMode(const RadioState& radio) {
-  return radio.RadioMode == static_cast<int>(RadioMode::ScsTnc) && radio.CrossMode != "NONE" &&
-         radio.CrossMode != radio.BaudMode;
-}
 
 std::string RelayText(const std::string& cross_mode) {
   if (cross_mode.starts_with("R")) return "Gate -> RPR " + cross_mode.substr(1) + "Bd";

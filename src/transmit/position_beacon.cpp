@@ -5,10 +5,12 @@
 
 namespace zepril {
 
+bool PositionBeacon::PositionKnown() const {
+  return sections_.View.OwnNorthKm != 0.0 || sections_.View.OwnEastKm != 0.0;
+}
+
 bool PositionBeacon::MaySend() const {
-  const MapViewState& view = sections_.View;
-  return !Trim(sections_.Identity.MyCall).empty() &&
-         (view.OwnNorthKm != 0.0 || view.OwnEastKm != 0.0);
+  return !Trim(sections_.Identity.MyCall).empty() && PositionKnown();
 }
 
 void PositionBeacon::SendPositionBeacon() {

@@ -44,6 +44,8 @@ class PositionBeacon {
   void SendIdentification(const std::string& status);
   // The own object, always with the time.
   void SendObjectReport();
+  // 0/0 stands for a position that nobody has set.
+  bool PositionKnown() const;
 
  private:
   bool MaySend() const;

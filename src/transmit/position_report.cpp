@@ -67,12 +67,15 @@ std::string PositionField(const DegreeTexts& texts, char table, char symbol) {
   return field;
 }
 
+bool TakesOverlay(const SymbolTable& symbols, int row) {
+  return InStr(Upper(symbols.Row(row)), "NO.") > 0;
+}
+
 std::string PositionFieldOfRow(const DegreeTexts& texts, const SymbolTable& symbols, int row,
                                std::string_view overlay) {
   const std::string& symbol = symbols.Row(row);
   std::string field = PositionField(texts, symbol[0], symbol[1]);
-  const bool takes_overlay = InStr(Upper(symbol), "NO.") > 0;
-  if (takes_overlay && !overlay.empty()) {
+  if (TakesOverlay(symbols, row) && !overlay.empty()) {
     field[static_cast<std::size_t>(kOverlayPosition) - 1] = overlay.front();
   }
   return field;

@@ -28,6 +28,9 @@ DegreeTexts DegreeTextsOf(double north_km, double east_km, double central_meridi
 // 100 degrees the sign is lost with it.
 std::string PositionField(const DegreeTexts& texts, char table, char symbol);
 
+// Whether a table row takes an overlay character: its name has "No.".
+bool TakesOverlay(const SymbolTable& symbols, int row);
+
 // The same with the symbol of a table row. A row with "No." takes the overlay character; kept: at
 // position 10, which is the first digit of the longitude and not the table character.
 std::string PositionFieldOfRow(const DegreeTexts& texts, const SymbolTable& symbols, int row,

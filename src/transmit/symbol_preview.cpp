@@ -1,6 +1,6 @@
 #include "transmit/symbol_preview.h"
 
-#include "core/text_fields.h"
+#include "transmit/position_report.h"
 
 namespace zepril {
 namespace {
@@ -18,8 +18,7 @@ void SymbolPreview::Show(int row, const std::string& overlay) {
   // A row outside the table is shown as others will show it.
   const bool in_table = row >= 1 && row <= SymbolTable::kLastIndex;
   sheets_.DrawSymbol(surface_, in_table ? row : SymbolTable::kLastIndex, 0, 0);
-  const bool takes_overlay = InStr(Upper(symbols_.Row(row)), "NO.") > 0;
-  if (takes_overlay && !overlay.empty()) {
+  if (TakesOverlay(symbols_, row) && !overlay.empty()) {
     surface_.Text(kOverlayX, kOverlayY, overlay.substr(0, 1), FontFace::Text, kBlack);
   }
   ++picture_.Revision;

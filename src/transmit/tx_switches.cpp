@@ -14,10 +14,6 @@ TxSwitches::TxSwitches(TxSwitchesSections sections, TxSwitchesControls controls,
   EnableChatButtons(false);
 }
 
-bool TxSwitches::PositionKnown() const {
-  return sections_.View.OwnNorthKm != 0.0 || sections_.View.OwnEastKm != 0.0;
-}
-
 void TxSwitches::EnableChatButtons(bool enabled) {
   controls_.Record.Command10.Enabled = enabled;
   controls_.Record.Command41.Enabled = enabled;
@@ -28,23 +24,23 @@ void TxSwitches::ShowInterval() {
   const int interval = sections_.Transmission.TxIntervalMinutes;
   tx.Caption = TxCaption(interval);
   const bool was_on = tx.Value == 1;
-  if (interval == 0 || !PositionKnown()) tx.Value = 0;
+  if (interval == 0 || !beacon_.PositionKnown()) tx.Value = 0;
   // Without a position neither reports nor messages make sense.
-  controls_.Transmit.Check7.Enabled = PositionKnown();
-  if (!PositionKnown()) controls_.Transmit.Check7.Value = 0;
+  controls_.Transmit.Check7.Enabled = beacon_.PositionKnown();
+  if (!beacon_.PositionKnown()) controls_.Transmit.Check7.Value = 0;
   if (was_on && tx.Value == 0) SwitchedOff();
 }
 
 void TxSwitches::TxClicked() {
   CheckBox& tx = controls_.Transmit.Check6;
-  if (!PositionKnown() && PositionMissing) PositionMissing();
+  if (!beacon_.PositionKnown() && PositionMissing) PositionMissing();
   if (sections_.Transmission.TxIntervalMinutes == 0) {
     // By hand: one report, and the switch falls back.
     tx.Value = 0;
     beacon_.SendPositionBeacon();
     return;
   }
-  if (tx.Value == 1 && !PositionKnown()) tx.Value = 0;
+  if (tx.Value == 1 && !beacon_.PositionKnown()) tx.Value = 0;
   tx.Value == 1 ? SwitchedOn() : SwitchedOff();
 }
 

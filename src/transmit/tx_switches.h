@@ -8,7 +8,6 @@
 #include "core/main_window_controls.h"
 #include "core/state/chat.h"
 #include "core/state/gps.h"
-#include "core/state/map_view.h"
 #include "core/state/transmission.h"
 #include "transmit/position_beacon.h"
 
@@ -18,7 +17,6 @@ struct TxSwitchesSections {
   TransmissionState& Transmission;
   ChatState& Chat;
   const GpsState& Gps;
-  const MapViewState& View;
 };
 
 struct TxSwitchesControls {
@@ -49,7 +47,6 @@ class TxSwitches {
   void ObjectClicked();
   void SwitchedOn();
   void SwitchedOff();
-  bool PositionKnown() const;
   void EnableChatButtons(bool enabled);
 
   TxSwitchesSections sections_;

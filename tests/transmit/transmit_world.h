@@ -89,7 +89,7 @@ struct TransmitWorld {
   FrameSender Sender{State.Radio, State.Transmission, {Engine, Link, Port, Clock}};
   PositionBeacon Beacon{{State.Identity, State.Transmission, State.Map, State.Gps, State.Settings},
                         {Sender, Symbols, Disk, Clock, Controls.Window, Controls.Map}};
-  TxSwitches Switches{{State.Transmission, State.Chat, State.Gps, State.Map},
+  TxSwitches Switches{{State.Transmission, State.Chat, State.Gps},
                       {Controls.Transmit, Controls.Record},
                       Beacon,
                       Actions};
