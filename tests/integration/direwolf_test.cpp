@@ -21,7 +21,7 @@
 #include "platform/qt/qt_socket.h"
 #include "station/station_program.h"
 #include "tests/doubles/hurried_clock.h"
-#include "tests/doubles/recorder_surface.h"
+#include "tests/doubles/recorded_surfaces.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/temp_folder.h"
 #include "tests/integration/engine_support.h"
@@ -80,7 +80,7 @@ class EngineTest : public ::testing::Test {
   std::unique_ptr<Engine> engine;
 };
 
-class DirewolfTest : public EngineTest {
+class DirewolfTest : public EngineTest, protected RecordedSurfaces {
  protected:
   void SetUp() override {
     EngineTest::SetUp();
@@ -177,11 +177,6 @@ class DirewolfTest : public EngineTest {
 
   NoDesktop desktop;
   AbsentSerialPort modem;
-  RecorderSurface map_surface{800, 600};
-  RecorderSurface base_surface{800, 600};
-  RecorderSurface sun_surface{361, 91};
-  RecorderSurface tx_symbol_surface{22, 22};
-  RecorderSurface object_symbol_surface{22, 22};
   std::unique_ptr<StationProgram> program;
 };
 

@@ -18,7 +18,7 @@
 #include "station/station_program.h"
 #include "tests/doubles/fake_socket.h"
 #include "tests/doubles/hurried_clock.h"
-#include "tests/doubles/recorder_surface.h"
+#include "tests/doubles/recorded_surfaces.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/served_modem.h"
 #include "tests/doubles/temp_folder.h"
@@ -36,7 +36,7 @@ class DesktopOfModems final : public DesktopActions {
   bool MovePointerOnMap(int, int) override { return false; }
 };
 
-class ModemStation {
+class ModemStation : public RecordedSurfaces {
  public:
   // `extra_settings`: lines of the configuration, which count before the usual ones.
   explicit ModemStation(RadioMode mode, const std::string& extra_settings = {}, double hurry = 80);
@@ -83,11 +83,6 @@ class ModemStation {
   DesktopOfModems desktop;
   FakeSocket socket;
   QtSerialPort port;
-  RecorderSurface map_surface{800, 600};
-  RecorderSurface base_surface{800, 600};
-  RecorderSurface sun_surface{361, 91};
-  RecorderSurface tx_symbol_surface{22, 22};
-  RecorderSurface object_symbol_surface{22, 22};
   std::unique_ptr<StationProgram> program;
 
  private:

@@ -10,7 +10,7 @@
 #include "station/station_program.h"
 #include "tests/doubles/fake_serial.h"
 #include "tests/doubles/fake_socket.h"
-#include "tests/doubles/recorder_surface.h"
+#include "tests/doubles/recorded_surfaces.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/temp_folder.h"
 #include "tests/doubles/virtual_clock.h"
@@ -25,7 +25,7 @@ class FakeDesktop final : public DesktopActions {
   bool MovePointerOnMap(int, int) override { return false; }
 };
 
-class StationHarness {
+class StationHarness : public RecordedSurfaces {
  public:
   explicit StationHarness(const std::string& extra_settings = {}) {
     files.MakeFolder(kFolder);
@@ -91,11 +91,6 @@ class StationHarness {
   FakeDesktop desktop;
   FakeSocket socket;
   FakeSerial modem;
-  RecorderSurface map_surface{800, 600};
-  RecorderSurface base_surface{800, 600};
-  RecorderSurface sun_surface{361, 91};
-  RecorderSurface tx_symbol_surface{22, 22};
-  RecorderSurface object_symbol_surface{22, 22};
   std::unique_ptr<StationProgram> program;
 
  private:
