@@ -21,6 +21,32 @@ bool IsMonitorText(std::string_view data) {
   return found != std::string_view::npos && found <= kPortDigits;
 }
 
+// Unnumbered information, from `begins` on: all that only ends it becomes one pair of returns.
+// Some radios send information that itself ends in a return; it is no part of what is told.
+std::string WithOnePair(std::string_view data, std::size_t begins) {
+  std::size_t end = data.size();
+  while (end > begins && (data[end - 1] == '\0' || data[end - 1] == '\r'))
+    --end;
+  return std::string(data.substr(0, end)) + "\r\r";
+}
+
+// Other monitor text keeps its returns; a pair is made of them where it ended in zeros.
+std::string WithPairForZeros(std::string_view data) {
+  std::string text(data.substr(0, data.find_last_not_of('\0') + 1));
+  while (!text.ends_with("\r\r"))
+    text += '\r';
+  return text;
+}
+
+// The frame with another text, told in its length.
+std::string WithText(std::string_view frame, const std::string& text) {
+  std::string mended(frame.substr(0, kAgwHeaderLength));
+  mended[28] = Chr(static_cast<int>(text.size() % 256));
+  mended[29] = Chr(static_cast<int>(text.size() / 256 % 256));
+  mended[30] = Chr(static_cast<int>(text.size() / 65536));
+  return mended + text;
+}
+
 }  // namespace
 
 AgwStream::AgwStream(std::function<void(std::string_view)> frame) : frame_(std::move(frame)) {}
@@ -46,18 +72,13 @@ void AgwStream::Feed(std::string_view bytes) {
 }
 
 std::string WithMonitorEnding(std::string_view frame) {
-  std::string_view data = frame.substr(kAgwHeaderLength);
-  if (!IsMonitorText(data) || data.back() != '\0') return std::string(frame);
-  while (!data.empty() && data.back() == '\0')
-    data.remove_suffix(1);
-  std::string text(data);
-  while (!text.ends_with("\r\r"))
-    text += '\r';
-  std::string mended(frame.substr(0, kAgwHeaderLength));
-  mended[28] = Chr(static_cast<int>(text.size() % 256));
-  mended[29] = Chr(static_cast<int>(text.size() / 256 % 256));
-  mended[30] = Chr(static_cast<int>(text.size() / 65536));
-  return mended + text;
+  const std::string_view data = frame.substr(kAgwHeaderLength);
+  if (!IsMonitorText(data)) return std::string(frame);
+  const std::size_t line_end = data.find('\r');
+  const bool unproto =
+      line_end != std::string_view::npos && data.substr(0, line_end).find(" <U") < line_end;
+  if (unproto) return WithText(frame, WithOnePair(data, line_end + 1));
+  return data.ends_with('\0') ? WithText(frame, WithPairForZeros(data)) : std::string(frame);
 }
 
 }  // namespace zepril

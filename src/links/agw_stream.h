@@ -5,8 +5,9 @@
 // length over 64 KiB, reserved bytes or a kind that make no sense) is handed on raw with everything
 // that came, and the stream starts afresh.
 //
-// Monitor text of one widespread engine ends CR NUL where the program's parser wants CR CR: the
-// ending is mended here, below the logic.
+// The program's parser wants exactly CR CR behind the information. One widespread engine ends its
+// text CR NUL, and one widespread radio sends information that ends in CR by itself: both are
+// mended here, below the logic.
 #pragma once
 
 #include <functional>
@@ -32,8 +33,8 @@ class AgwStream {
   std::string pending_;
 };
 
-// The frame with the CR CR ending of its monitor text; other frames unchanged. The length in the
-// header follows.
+// The frame with exactly one CR CR behind the information of its monitor text; frames of
+// connections only where they end in NUL, other frames unchanged. The length in the header follows.
 std::string WithMonitorEnding(std::string_view frame);
 
 }  // namespace zepril

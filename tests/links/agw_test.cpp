@@ -103,6 +103,38 @@ TEST_F(AgwStreamTest, MonitorTextThatEndsInNulGetsTheUsualEnding) {
   EXPECT_EQ(frames[0].substr(36), "1:Fm A To B <UI >[1]\r!x\r\r");
 }
 
+TEST_F(AgwStreamTest, BehindTheInformationStandsExactlyOnePairOfReturns) {
+  const std::string header = "1:Fm A To B <UI >[1]\r";
+  const struct {
+    std::string Sent;
+    std::string HandedOn;
+  } rows[] = {
+      {"!x\r\r", "!x\r\r"},        // as most engines send it
+      {"!x\r\r\r", "!x\r\r"},      // the information itself ends in a return
+      {"!x\r\r\r\r\r", "!x\r\r"},  //
+      {"!x\r" + std::string(2, '\0') + "\r", "!x\r\r"},
+      {"!x\r", "!x\r\r"},            // an ending that is too short would swallow the next frame
+      {"!x", "!x\r\r"},              //
+      {"!x\ry\r\r\r", "!x\ry\r\r"},  // a return inside stays; the parser refuses it
+      {"\r\r", "\r\r"},              // no information at all
+      {"\r\r\r", "\r\r"},            //
+      {std::string(1, '\0'), "\r\r"},
+  };
+  for (const auto& row : rows) {
+    frames.clear();
+    stream.Feed(MonitorFrameOf(header + row.Sent));
+    ASSERT_EQ(frames.size(), 1U);
+    EXPECT_EQ(frames[0].substr(36), header + row.HandedOn);
+    EXPECT_EQ(ReadAgwHeader(frames[0]).DataLength, frames[0].size() - 36);
+  }
+}
+
+TEST_F(AgwStreamTest, FramesOfConnectionsKeepTheirEnding) {
+  const std::string supervisory = MonitorFrameOf("1:Fm A To B <RR R1 >[1]\r");
+  stream.Feed(supervisory);
+  EXPECT_EQ(frames, (std::vector<std::string>{supervisory}));
+}
+
 TEST_F(AgwStreamTest, OtherFramesKeepTheirZeros) {
   const std::string reply = MakeAgwFrame(0, 'G', "", "", std::string("1;Port1;\0", 9));
   stream.Feed(reply);
@@ -337,6 +369,12 @@ TEST_F(AgwLocalTest, WhatAnEnginePutsBeforeThePortDigitIsLeftOut) {
   EXPECT_EQ(engine.AGWGetData(), text);
   EXPECT_EQ(engine.AGWGetData(), text);
   EXPECT_EQ(engine.AGWGetData(), text.substr(1));
+}
+
+TEST_F(AgwLocalTest, InformationThatEndsInAReturnIsAFrameLikeAnyOther) {
+  engine.AGWStartPoll("ZEPRIL", "QX7KB");
+  socket.Deliver(MonitorFrameOf("1:Fm A To B <UI >\r!x\r\r\r"));
+  EXPECT_EQ(engine.AGWGetData(), "1:Fm A To B <UI >\r!x\r\r");
 }
 
 TEST_F(AgwLocalTest, WaitingFramesAreBounded) {
