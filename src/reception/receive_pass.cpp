@@ -197,10 +197,10 @@ ReceivePass::Next ReceivePass::GiveUp() {
 }
 
 // The one recovery of every failure in the pass. Kept: whatever waits behind the frame that failed
-// is lost with it.
+// is lost with it. What comes later is not: a line feed stands before its first frame, as at start.
 ReceivePass::Next ReceivePass::Recover() {
   ++counts_.Recoveries;
-  reception_.RxBuffer.clear();
+  reception_.RxBuffer = "\n";
   collected_.clear();
   Redraw();
   return Next::Leave;

@@ -105,10 +105,18 @@ TEST(ReceivePass, ItemLosesWhatWaitsBehindItAndRedraws) {
   Reception station;
   station.Hear(Reception::Frame(")AIDV2!4903.50N/07201.75W-") +
                Reception::Frame(kPosition + "lost"));
-  EXPECT_EQ(station.Received.RxBuffer, "");
+  EXPECT_EQ(station.Received.RxBuffer, "\n");
   EXPECT_EQ(station.Heard(), 0);
   EXPECT_EQ(station.Actions.Redraws, 1);
   EXPECT_EQ(station.Pass.Counts().Recoveries, 1);
+}
+
+TEST(ReceivePass, WhatComesAfterARecoveryIsNotLost) {
+  Reception station;
+  station.HearPacket(")AIDV2!4903.50N/07201.75W-");
+  ASSERT_EQ(station.Pass.Counts().Recoveries, 1);
+  station.HearPacket(kPosition + "next");
+  EXPECT_EQ(station.Heard(), 1);
 }
 
 TEST(ReceivePass, ItemWithAnAsteriskInItsNameIsStored) {
@@ -150,7 +158,7 @@ TEST(ReceivePass, LogThatCannotBeWrittenIsRecovered) {
     station.Stores.LogsOn = 1;
     station.Disk.RefusedEnding = log;
     station.HearPacket(kPosition);
-    EXPECT_EQ(station.Received.RxBuffer, "") << log;
+    EXPECT_EQ(station.Received.RxBuffer, "\n") << log;
     EXPECT_EQ(station.Actions.Redraws, 1) << log;
     EXPECT_EQ(station.Pass.Counts().Recoveries, 1) << log;
     EXPECT_TRUE(station.Timer1.Enabled()) << log;
