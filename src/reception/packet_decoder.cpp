@@ -116,7 +116,7 @@ bool HasNoPosition(const DecodedPacket& packet) {
 // before its columns do.
 bool ReadPosition(DecodedPacket& packet) {
   const char type = packet.PacketType;
-  if (IsPositionType(type) && !ReadPlainPosition(packet)) return false;
+  if (IsPositionType(type)) ReadPlainPosition(packet);
   if (type == '$') ReadNmeaPosition(packet);
   if (HasNoPosition(packet) && IsPositionType(type) && !ReadCompressedPosition(packet))
     return false;

@@ -75,34 +75,37 @@ double LongitudeOfText(std::string_view text) {
   return CharAt(text, 9) == 'W' ? -degrees : degrees;
 }
 
-bool ReadPlainPosition(DecodedPacket& packet) {
+void ReadPlainPosition(DecodedPacket& packet) {
   constexpr std::ptrdiff_t kFirstPointColumn = 5;
   const std::string_view info = packet.PacketInfo;
   MarkMessageCapable(packet);
 
   // The latitude stands around the first point, its hemisphere letter three behind.
   const std::ptrdiff_t a = InStr(info, ".");
-  if (a < kFirstPointColumn) return true;
+  if (a < kFirstPointColumn) return;
   const char north_south = UpperChar(CharAt(info, a + 3));
-  if (north_south != 'N' && north_south != 'S') return true;
+  if (north_south != 'N' && north_south != 'S') return;
   AssignUpper(packet.PacketLatText, Mid(info, a - 4, 8));
   if (!IsNumericField(Left(packet.PacketLatText, 7))) packet.PacketLatText.clear();
   packet.PacketLat = LatitudeOfText(packet.PacketLatText);
 
   // The longitude stands around the next point.
   const std::ptrdiff_t b = InStr(a + 1, info, ".");
-  if (b <= a + 1) return true;
+  if (b <= a + 1) return;
   const char east_west = UpperChar(CharAt(info, b + 3));
-  if (east_west != 'E' && east_west != 'W') return true;
+  if (east_west != 'E' && east_west != 'W') return;
   AssignUpper(packet.PacketLonText, Mid(info, b - 5, 9));
   if (!IsNumericField(Left(packet.PacketLonText, 8))) packet.PacketLonText.clear();
   packet.PacketLon = LongitudeOfText(packet.PacketLonText);
 
   // Symbol and comment follow.
-  if (static_cast<std::ptrdiff_t>(info.size()) < b + 4) return false;
   packet.PacketInfoText = Trim(Mid(info, b + 5));
-  packet.PacketSymbol = {CharAt(info, a + 4), CharAt(info, b + 4)};
-  return true;
+  const char code = CharAt(info, b + 4);
+  if (code == '\0' || code == ' ') {
+    packet.PacketSymbol = "\\~";
+  } else {
+    packet.PacketSymbol = {CharAt(info, a + 4), code};
+  }
 }
 
 void ReadNmeaPosition(DecodedPacket& packet) {

@@ -13,8 +13,9 @@ namespace zepril {
 bool IsPositionType(char type);
 
 // "!4903.50N/07201.75W-Test": the first two decimal points are those of latitude and longitude.
-// Fills texts, degrees, symbol, comment, message mark. False when the symbol code is missing.
-bool ReadPlainPosition(DecodedPacket& packet);
+// Fills texts, degrees, symbol, comment, message mark. A position without a symbol code, or with a
+// blank as code, is one all the same; its symbol is "\~".
+void ReadPlainPosition(DecodedPacket& packet);
 
 // "$GPRMC,...,4903.50,N,07201.75,W,...": the fields before the hemisphere letters, whatever the
 // sentence. The symbol follows from the SSID of the call.

@@ -112,12 +112,21 @@ TEST(PlainPosition, SecondPointRightBehindTheFirstEndsIt) {
   DecodedPacket packet;
   packet.PacketType = '!';
   packet.PacketInfo = "!4903..5N/07201.75W-";
-  EXPECT_TRUE(ReadPlainPosition(packet));
+  ReadPlainPosition(packet);
   EXPECT_EQ(packet.PacketLonText, "");
 }
 
-TEST(PlainPosition, MissingSymbolCodeDropsTheFrame) {
-  EXPECT_TRUE(IsDropped(Decode("!4903.50N/07201.75W"), DropReason::TooShort));
+TEST(PlainPosition, WithoutSymbolCodeItIsKeptUnderTheLastSymbol) {
+  for (const char* info : {"!5201.50N/01301.75E", "!5201.50N/01301.75E ", "!5201.50N\\01301.75E",
+                           "!5201.50NS01301.75E", "=5201.50N/01301.75E  hello"}) {
+    const Decoded decoded = Decode(info);
+    ASSERT_TRUE(IsPacket(decoded)) << info;
+    EXPECT_EQ(decoded.Packet.PacketSymbol, "\\~") << info;
+    EXPECT_NEAR(decoded.Packet.PacketLat, 52.025, 1e-9) << info;
+    EXPECT_NEAR(decoded.Packet.PacketLon, 13.0291666, 1e-6) << info;
+  }
+  EXPECT_EQ(Decode("=5201.50N\\01301.75E  hello").Packet.PacketInfoText, "hello");
+  EXPECT_EQ(Decode("=5201.50N\\01301.75E  hello").Packet.PacketSymbol, "\\~");
 }
 
 // ---- NMEA -----------------------------------------------------------------------------------
