@@ -4,6 +4,12 @@
 #include "reception/pk232_monitor.h"
 
 namespace zepril {
+namespace {
+
+// Most text of an SCS modem that is looked at in one go.
+constexpr std::size_t kLongestScsText = 1000;
+
+}  // namespace
 
 Collector::Collector(RadioState& radio, ReceptionState& reception, const InternetState& internet,
                      Clock& clock, MonitorEngine& engine, SerialPort& modem, GateActions& gate)
@@ -12,7 +18,7 @@ Collector::Collector(RadioState& radio, ReceptionState& reception, const Interne
       internet_(internet),
       clock_(clock),
       engine_(engine),
-      modem_(modem),
+      modem_text_(modem, reception),
       gate_(gate) {}
 
 void Collector::Collect(std::string& collected) {
@@ -70,35 +76,35 @@ void Collector::CollectFromRemoteEngine(std::string& collected) {
 }
 
 void Collector::CollectFromPk232(std::string& collected) {
-  const std::string input = modem_.ReadAll();
-  if (!input.empty()) DataCame();
+  if (modem_text_.Read()) DataCame();
+  const std::string input = modem_text_.TakeFrames();
   const std::string_view text = Pk232Text(input);
   if (text.empty()) return;
   collected += text;
   HandToGate(text);
 }
 
-// Reads until the modem falls silent for a moment. False when the text is to wait: it still grows,
-// or it has grown too long and is thrown away.
+// What the modem has written, as far as there is room for it. True when there was something.
+bool Collector::TakeScsText() {
+  std::string& text = reception_.ScsRxBuffer;
+  if (modem_text_.Read()) DataCame();
+  const std::string more = modem_text_.Take(kLongestScsText - text.size());
+  text += more;
+  return !more.empty();
+}
+
+// Reads until the modem falls silent for a moment, or enough is there. False when the text is to
+// wait, for it still grows.
 bool Collector::ReadScsText() {
   constexpr double kPauseSeconds = 0.01;
   constexpr int kMostGrowths = 5;
-  constexpr std::size_t kLongest = 1000;
   std::string& text = reception_.ScsRxBuffer;
-  const std::size_t before = text.size();
-  text += modem_.ReadAll();
+  if (text.size() > kLongestScsText) text.clear();
+  TakeScsText();
   bool silent = false;
-  for (int growths = 0; growths < kMostGrowths && !silent;) {
+  for (int growths = 0; growths < kMostGrowths && !silent; ++growths) {
     clock_.Wait(kPauseSeconds);
-    const std::string more = modem_.ReadAll();
-    text += more;
-    silent = more.empty();
-    if (!silent) ++growths;
-  }
-  if (text.size() > before) DataCame();
-  if (text.size() > kLongest) {
-    text.clear();
-    return false;
+    silent = !TakeScsText();
   }
   return silent && !text.empty();
 }
@@ -109,6 +115,21 @@ void Collector::CollectFromScs(ScsDialect dialect, std::string& collected) {
   const std::size_t taken = TakeScsFrames(text, dialect, collected);
   if (!collected.empty()) HandToGate(std::string_view(text).substr(0, taken));
   text.erase(0, taken);
+  if (taken == 0) MakeRoomForScsText();
+}
+
+// Text that is no frame would keep out what waits in the link: its oldest lines go.
+void Collector::MakeRoomForScsText() {
+  std::string& text = reception_.ScsRxBuffer;
+  while (!text.empty() && text.size() + modem_text_.FirstLine() > kLongestScsText) {
+    const std::size_t line_end = text.find('\n');
+    text.erase(0, line_end == std::string::npos ? line_end : line_end + 1);
+  }
+}
+
+std::size_t Collector::Waiting() const {
+  const auto mode = static_cast<RadioMode>(radio_.RadioMode);
+  return mode == RadioMode::ScsTnc || mode == RadioMode::ScsPtc ? modem_text_.Waiting() : 0;
 }
 
 void Collector::HandToGate(std::string_view text) {

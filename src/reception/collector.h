@@ -8,6 +8,7 @@
 #include "core/state/internet.h"
 #include "core/state/radio.h"
 #include "core/state/reception.h"
+#include "links/serial_text.h"
 #include "platform/clock.h"
 #include "platform/monitor_engine.h"
 #include "platform/serial_port.h"
@@ -20,10 +21,14 @@ class Collector {
   Collector(RadioState& radio, ReceptionState& reception, const InternetState& internet,
             Clock& clock, MonitorEngine& engine, SerialPort& modem, GateActions& gate);
 
+  // A receive pass begins; it collects once or several times.
+  void PassBegins() { modem_text_.PassBegins(); }
   // Appends the normal form of everything complete to `collected` (empty before); text that is not
   // complete stays in the link's buffer. A copy of the raw text goes to the gateway while it is
   // logged in, except from a remote engine. Waits 0.01 s or a few times that with an SCS modem.
   void Collect(std::string& collected);
+  // Characters that the next collecting could take at once.
+  std::size_t Waiting() const;
 
  private:
   void CollectFromEngine(std::string& collected);
@@ -31,6 +36,8 @@ class Collector {
   void CollectFromPk232(std::string& collected);
   void CollectFromScs(ScsDialect dialect, std::string& collected);
   bool ReadScsText();
+  bool TakeScsText();
+  void MakeRoomForScsText();
   void HandToGate(std::string_view text);
   void DataCame();
 
@@ -39,7 +46,7 @@ class Collector {
   const InternetState& internet_;
   Clock& clock_;
   MonitorEngine& engine_;
-  SerialPort& modem_;
+  SerialText modem_text_;
   GateActions& gate_;
 };
 

@@ -1,6 +1,8 @@
 #include "reception/receive_pass.h"
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 #include "reception/direct_marking.h"
 #include "reception/emergency_report.h"
@@ -8,6 +10,13 @@
 #include "reception/record_builder.h"
 
 namespace zepril {
+namespace {
+
+// With more characters than these waiting the next frame is taken at once.
+constexpr std::size_t kWaitingAfterNothing = 400;
+constexpr std::size_t kWaitingAfterRecord = 150;
+
+}  // namespace
 
 ReceivePass::ReceivePass(Sections sections, Partners partners, const SymbolTable& symbols,
                          Clock& clock, Files& files, Timer& timer1, ListBox* raw_list)
@@ -35,6 +44,8 @@ void ReceivePass::Run() {
   // A link that delivers without end must not keep the tick for ever.
   constexpr int kMostFrames = 5000;
   map_behind_ = false;
+  link_waiting_ = std::numeric_limits<std::size_t>::max();
+  link_.PassBegins();
   Next next = Next::Again;
   for (int frames = 0; next == Next::Again && frames < kMostFrames; ++frames) {
     next = Collect() ? TakeFrame() : Recover();
@@ -62,7 +73,7 @@ ReceivePass::Next ReceivePass::TakeFrame() {
   switch (CutFrame(reception_.RxBuffer, frame_text_)) {
     case CutOutcome::NoHeader:
     case CutOutcome::Incomplete:
-      return LeaveWithoutFrame();
+      return LinkHoldsMore() ? Next::Again : LeaveWithoutFrame();
     case CutOutcome::Stuck:
       return GiveUp();
     case CutOutcome::Dropped:
@@ -151,11 +162,16 @@ FrameLevel ReceivePass::Drop(DropReason reason) {
   return FrameLevel::Nothing;
 }
 
+// More waits in the link than one go takes, and less than when no frame was found before.
+bool ReceivePass::LinkHoldsMore() {
+  const std::size_t before = std::exchange(link_waiting_, link_.Waiting());
+  return link_waiting_ > (map_behind_ ? kWaitingAfterRecord : kWaitingAfterNothing) &&
+         link_waiting_ < before;
+}
+
 // What the frame has led to decides how the pass goes on.
 ReceivePass::Next ReceivePass::AfterFrame(FrameLevel level) {
-  constexpr std::size_t kWaitingAfterNothing = 400;
-  constexpr std::size_t kWaitingAfterRecord = 150;
-  const std::size_t waiting = reception_.RxBuffer.size();
+  const std::size_t waiting = reception_.RxBuffer.size() + link_.Waiting();
   switch (level) {
     case FrameLevel::Nothing:
       return waiting > kWaitingAfterNothing ? Next::Again : LeaveAfterNothing();

@@ -88,6 +88,7 @@ class ReceivePass {
   bool Collect();
   Next TakeFrame();
   Next AfterFrame(FrameLevel level);
+  bool LinkHoldsMore();
   Next GiveUp();
   Next Recover();
   Next LeaveWithoutFrame();
@@ -128,6 +129,7 @@ class ReceivePass {
   std::string frame_text_;
   AnalysedFrame frame_;
   DecodedPacket packet_;
+  std::size_t link_waiting_ = 0;  // in the link, when no frame was found last
   bool own_echo_ = false;
   bool map_behind_ = false;  // something was stored that the map does not show yet
   bool raw_list_behind_ = false;

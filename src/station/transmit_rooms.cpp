@@ -50,8 +50,7 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
   // A notice of trouble that is over goes by itself.
   modem_.Reopened = [this] {
     ShowLinkTrouble();
-    // Half a frame of before must not run into the first one of now.
-    state_.Reception.ScsRxBuffer.clear();
+    state_.Reception.ForgetModemText();
   };
   controls_.Terminal.Command65.Click = [this] {
     if (!modem_.IsBusy()) terminal_.Open();
@@ -96,6 +95,7 @@ void TransmitRooms::SendIdentification() {
 // What would speak to the modem too waits until the terminal is closed.
 void TransmitRooms::TerminalChanged() {
   const bool open = terminal_.IsOpen();
+  if (open) state_.Reception.ForgetModemText();
   for (Control* control : std::initializer_list<Control*>{
            &controls_.Transmit.Check6, &controls_.TxSetup.TxOk, &controls_.Record.Label20}) {
     control->Enabled = !open;

@@ -158,7 +158,7 @@ struct DecodeStation::Station {
 
   std::size_t Waiting() const {
     return Engine.Input.size() + Modem.Input.size() + Radio.AgwRxBuffer.size() +
-           Reception.ScsRxBuffer.size() + Reception.RxBuffer.size();
+           Reception.ModemText.size() + Reception.ScsRxBuffer.size() + Reception.RxBuffer.size();
   }
 
   IdentityState Identity;
@@ -198,11 +198,12 @@ void DecodeStation::Receive(std::string_view bytes) {
 }
 
 void DecodeStation::Drain() {
-  std::size_t waiting = 0;
-  do {
-    waiting = station_->Waiting();
+  // A last line without its end is given up after some passes in which nothing else happens.
+  for (int idle = 0; idle <= SerialText::kMostPasses; ++idle) {
+    const std::size_t waiting = station_->Waiting();
     station_->Pass.Run();
-  } while (station_->Waiting() != waiting);
+    if (station_->Waiting() != waiting) idle = 0;
+  }
 }
 
 std::string& DecodeStation::LongLog() {

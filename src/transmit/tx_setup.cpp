@@ -292,6 +292,7 @@ void TxSetup::TakeLines() {
 void TxSetup::ProgramRadio() {
   if (ModeOf(sections_.Radio) == RadioMode::AgwLocal) return tools_.Actions.ReopenLocalEngine();
   tools_.Modem.Program(tools_.LongWork);
+  sections_.Reception.ForgetModemText();
 }
 
 }  // namespace zepril

@@ -1,5 +1,8 @@
 #include "reception/collector.h"
 
+#include <algorithm>
+
+#include "core/text_fields.h"
 #include "tests/reception/reception_support.h"
 
 namespace zepril {
@@ -106,6 +109,133 @@ TEST(Collector, Pk232TextGoesToTheGateAsItIsKept) {
   station.Modem.Reads = {"torn line\r\n" + kNormal};
   EXPECT_EQ(CollectIn(station, 1), kNormal);
   EXPECT_EQ(station.Actions.Gated, std::vector<std::string>{kNormal});
+}
+
+// What the passes of a PK-232 give that delivers `reads`, one a tick.
+std::string CollectTicks(Reception& station, const std::vector<std::string>& reads) {
+  station.Radio.RadioMode = 1;
+  std::string collected;
+  for (const std::string& read : reads) {
+    if (!read.empty()) station.Modem.Reads.push_back(read);
+    station.Link.PassBegins();
+    station.Link.Collect(collected);
+  }
+  return collected;
+}
+
+TEST(Collector, Pk232FrameCutByATickAnywhereComesWhole) {
+  const std::string other = "N0TWO*>WIDE1-1>APRS [UI]:\r\n!5230.00N/01324.00E>other\r\n";
+  const std::string text = kNormal + other + kNormal;
+  for (std::size_t cut = 1; cut < text.size(); ++cut) {
+    Reception station;
+    EXPECT_EQ(CollectTicks(station, {text.substr(0, cut), text.substr(cut)}), text) << cut;
+  }
+}
+
+TEST(Collector, HalvesOfACutPk232LineMakeNoRecords) {
+  const std::string one = Reception::Frame("!5230.00N/01324.00E>one", "N0ONE*>WIDE1-1>APRS");
+  const std::string two = Reception::Frame("!5300.00N/01300.00E>two", "N0TWO*>WIDE1-1>APRS");
+  const std::string text = one + two;
+  for (std::size_t cut = 1; cut < text.size(); ++cut) {
+    Reception station;
+    station.Hear(text.substr(0, cut));
+    station.Hear(text.substr(cut));
+    station.Pass.Run();
+    ASSERT_EQ(station.Heard(), 2) << cut;
+    EXPECT_EQ(station.Stores.MoniAllRecords.At(1).Call(), "N0ONE") << cut;
+    EXPECT_EQ(station.Stores.MoniAllRecords.At(1).Info(), "one") << cut;
+    EXPECT_EQ(station.Stores.MoniAllRecords.At(2).Call(), "N0TWO") << cut;
+    EXPECT_EQ(station.Stores.MoniAllRecords.At(2).Info(), "two") << cut;
+  }
+}
+
+TEST(Collector, UnfinishedPk232LineIsHandedOnClosedAfterThreeTicks) {
+  Reception station;
+  const std::string half = "N0CALL*>APRS <UI>:\r\n!ts";
+  EXPECT_EQ(CollectTicks(station, {half, "", ""}), "");
+  EXPECT_EQ(CollectTicks(station, {""}), half + "\r\n");
+  EXPECT_EQ(CollectTicks(station, {kNormal}), kNormal);
+}
+
+TEST(Collector, Pk232TextOverAThousandCharactersWithoutEndDoesNotWait) {
+  Reception station;
+  EXPECT_EQ(CollectTicks(station, {std::string(1000, 'x')}), "");
+  EXPECT_EQ(station.Received.ModemText.size(), 1000u);
+  EXPECT_EQ(CollectTicks(station, {"x"}), "");  // a line without a marker
+  EXPECT_EQ(station.Received.ModemText, "");
+  EXPECT_EQ(CollectTicks(station, {kNormal}), kNormal);
+}
+
+// Frames of an SCS modem that are told apart by their numbers.
+std::string ManyScsFrames(int count, const std::string& comment = "scs") {
+  std::string text;
+  for (int i = 0; i < count; ++i) {
+    text += "fm N" + WholeNumber(1000 + i) + " to APRS ctl UI pid F0\r\n!52" +
+            ZeroPadded(i % 60, 2) + ".00N/01324.00E>" + comment + "\r\n";
+  }
+  return text;
+}
+
+void Passes(Reception& station, int count) {
+  for (int i = 0; i < count; ++i)
+    station.Pass.Run();
+}
+
+TEST(Collector, MoreThanAThousandCharactersOfAnScsModemAreDecodedInOnePass) {
+  for (int mode : {5, 6}) {
+    Reception station;
+    station.Radio.RadioMode = mode;
+    // A minute of 1200 Bd.
+    station.Hear(ManyScsFrames(130));
+    EXPECT_GE(station.Heard(), 125) << mode;
+    Passes(station, 5);
+    EXPECT_EQ(station.Heard(), 130) << mode;
+    EXPECT_EQ(station.Stores.MoniAllRecords.At(130).Call(), "N1129") << mode;
+  }
+}
+
+TEST(Collector, AThousandCharactersOfAnScsModemAreTakenInOneGoAndEndAtALine) {
+  Reception station;
+  const std::string text = ManyScsFrames(40, std::string(100, 'c'));
+  station.Modem.Reads = {text};
+  const std::string collected = CollectIn(station, 5);
+  EXPECT_EQ(std::count(collected.begin(), collected.end(), '!'), 6);
+  EXPECT_LE(text.size() - station.Received.ModemText.size(), 1000u);
+  EXPECT_TRUE(text.ends_with(station.Received.ModemText));
+  EXPECT_TRUE(station.Received.ModemText.starts_with("!52") ||
+              station.Received.ModemText.starts_with("fm "));
+}
+
+TEST(Collector, ScsTextThatIsNoFrameDoesNotKeepOutWhatFollows) {
+  Reception station;
+  station.Radio.RadioMode = 6;
+  std::string chatter;
+  for (int i = 0; i < 30; ++i)
+    chatter += "*** this is a line of some modem " + WholeNumber(i) + "\r\n";
+  station.Hear(chatter.substr(0, 990));
+  station.Hear(chatter.substr(990) + ManyScsFrames(20));
+  Passes(station, 5);
+  EXPECT_EQ(station.Heard(), 20);
+}
+
+TEST(Collector, OnlyAThousandCharactersWithoutALineEndAreThrownAway) {
+  Reception station;
+  station.Radio.RadioMode = 5;
+  station.Hear(ManyScsFrames(3) + std::string(1100, 'x') + "\r\n" + ManyScsFrames(12));
+  Passes(station, 5);
+  EXPECT_EQ(station.Heard(), 12);  // three of the twelve tell what was told before
+  EXPECT_TRUE(station.Received.ModemText.empty());
+}
+
+TEST(Collector, AModemThatNeverEndsItsTextFillsNoMemory) {
+  Reception station;
+  station.Radio.RadioMode = 5;
+  for (int i = 0; i < 40; ++i) {
+    station.Modem.Reads = {std::string(60000, 'x'), std::string(60000, 'y')};
+    station.Pass.Run();
+    ASSERT_LE(station.Received.ModemText.size(), kLongestReceiveBuffer);
+    ASSERT_LE(station.Received.ScsRxBuffer.size(), 1000u);
+  }
 }
 
 TEST(Collector, ScsTextIsTakenWhenItStopsGrowing) {

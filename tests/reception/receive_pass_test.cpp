@@ -64,7 +64,8 @@ int HeardWithWaiting(const std::string& first, std::size_t waiting) {
   const std::string second = Reception::Frame(kPosition + "second", "N0TWO*>WIDE1-1>APRS");
   // Behind the first frame the buffer keeps its closing line feed.
   const std::string fill(waiting - 1 - second.size() - 1, 'x');
-  station.Hear(Reception::Frame(first) + second + fill + "\n");
+  station.Received.RxBuffer += Reception::Frame(first) + second + fill + "\n";
+  station.Pass.Run();
   EXPECT_TRUE(station.Timer1.Enabled());
   int heard = 0;
   for (const StationRecord& record : station.Stores.MoniAllRecords.All()) {

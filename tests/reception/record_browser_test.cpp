@@ -124,7 +124,8 @@ TEST_F(RecordBrowserTest, ButtonsWithoutASelectionDoNothing) {
 }
 
 TEST_F(RecordBrowserTest, ARecordAtTheToleranceIsNotNear) {
-  for (const auto& [north, east] : {std::pair{" 5800.500", "  400.000"}, {" 5800.000", "  400.500"},
+  for (const auto& [north, east] : {std::pair{" 5800.500", "  400.000"},
+                                    {" 5800.000", "  400.500"},
                                     {" 5800.000", "  400.000"}}) {
     station.Stores.MoniAllRecords.Append(RecordOf("N0A", "240115 1234", north, east));
   }

@@ -10,7 +10,17 @@ namespace zepril {
 struct ReceptionState {
   std::string OwnHeaderPattern;  // beginning of the own transmitted header; empty before it is set
   std::string RxBuffer = "\n";   // monitor text in normal form awaiting decoding
+  std::string ModemText;         // of a serial modem, not yet handed on: lines that are not whole,
+                                 // or more than is taken in one go
+  int ModemTextPasses = 0;       // receive passes for which its first line has waited
   std::string ScsRxBuffer;       // unfinished frames of a serial TNC
+
+  // Half a line or frame must not run into what the modem writes after a conversation with it.
+  void ForgetModemText() {
+    ModemText.clear();
+    ScsRxBuffer.clear();
+  }
+
   static constexpr int kRawLines = 400;
   RawLineRing RawLines;  // index 0 to 400
   int RawLineCount = 0;
