@@ -37,6 +37,8 @@ class SerialModem {
   void Leave();
   // TX SETUP was confirmed: the settings as they are now. A lost modem is told when it is found.
   void Program(Progress& progress);
+  // What the line has not taken yet never leaves.
+  void DropUnsent() { tools_.Port.DropUnsent(); }
   bool LinkIsUp() const { return tools_.Port.IsOpen(); }
   bool IsBusy() const { return busy_; }
 

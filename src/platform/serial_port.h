@@ -20,6 +20,8 @@ class SerialPort {
   // Takes everything received so far out of the buffer.
   virtual std::string ReadAll() = 0;
   virtual std::size_t BytesToWrite() const = 0;
+  // What was written and has not left yet never leaves.
+  virtual void DropUnsent() {}
   // Why the port is not open, as a sentence for the operator; empty when all is well.
   virtual std::string Trouble() const { return {}; }
 

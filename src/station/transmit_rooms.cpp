@@ -46,6 +46,8 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
                       {sender_, tools.Machine.Boxes, tools.Machine.LocalClock, tools.Timer1}) {
   // What is being said to the modem is not broken into.
   sender_.HeldBack = [this] { return terminal_.IsOpen() || modem_.IsBusy(); };
+  // Off is off: nothing leaves minutes later, when a stalled line moves again.
+  switches_.TurnedOff = [this] { modem_.DropUnsent(); };
   modem_.DataArrived = [this] { terminal_.DataArrived(); };
   // A notice of trouble that is over goes by itself.
   modem_.Reopened = [this] {

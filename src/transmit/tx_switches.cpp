@@ -58,6 +58,7 @@ void TxSwitches::SwitchedOn() {
 }
 
 void TxSwitches::SwitchedOff() {
+  if (TurnedOff) TurnedOff();
   ObjectOff();
   controls_.Transmit.Check18.BackColour = kObjectDimmed;
   controls_.Transmit.Frame3.Visible = false;

@@ -41,6 +41,9 @@ class TxSwitches {
   void ObjectOff();
   // The operator wants to transmit and has not said from where yet; may be empty.
   Event PositionMissing;
+  // TX has gone off, by hand or because it can't be on: nothing that waits may leave any more. May
+  // be empty.
+  Event TurnedOff;
 
  private:
   void TxClicked();

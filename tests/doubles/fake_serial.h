@@ -35,6 +35,10 @@ class FakeSerial final : public SerialPort {
     return {};
   }
   std::size_t BytesToWrite() const override { return open_ ? Waiting : 0; }
+  void DropUnsent() override {
+    Waiting = 0;
+    ++Drops;
+  }
   std::string Trouble() const override { return open_ ? std::string() : Why; }
 
   // Pulled out; as long as `Absent` stays it can't be opened again.
@@ -49,6 +53,7 @@ class FakeSerial final : public SerialPort {
   int Baud = 0;
   std::string Written;
   std::size_t Waiting = 0;  // bytes not yet taken by the line
+  int Drops = 0;            // how often these were dropped
   std::vector<std::string> Reads;
   std::function<void(std::string_view)> OnWrite;
 

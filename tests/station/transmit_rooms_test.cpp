@@ -79,6 +79,18 @@ TEST(TransmitRooms, NoReportGoesBetweenTheLinesThatProgramTheModem) {
       << station.modem.Written;
 }
 
+TEST(TransmitRooms, TxOffDropsWhatTheLineHasNotTaken) {
+  StationHarness station("MODEM=1\r\nTXON=10\r\n");
+  ASSERT_TRUE(station.Start());
+  Press(station.Controls().Transmit.Check6, 1);
+  station.Ticks(1);
+  station.modem.Waiting = 40;
+  const int before = station.modem.Drops;
+  Press(station.Controls().Transmit.Check6, 0);
+  EXPECT_EQ(station.modem.Drops, before + 1);
+  EXPECT_EQ(station.modem.Waiting, 0U);
+}
+
 TEST(TransmitRooms, UnderTheOpenTerminalNothingElseSpeaksToTheModem) {
   StationHarness station("MODEM=5\r\nTXON=0\r\n");
   ASSERT_TRUE(station.Start());

@@ -49,6 +49,27 @@ TEST_F(TxSwitchesTest, SwitchedOnTheFirstReportIsDueAtOnce) {
   EXPECT_EQ(world.State.Chat.AutoAnswerOn, 0);
 }
 
+TEST_F(TxSwitchesTest, ItTellsWheneverTxGoesOff) {
+  int told = 0;
+  world.Switches.TurnedOff = [&told] { ++told; };
+  ClickTx(1);
+  EXPECT_EQ(told, 0);
+  ClickTx(0);
+  EXPECT_EQ(told, 1);
+  ClickTx(1);
+  world.State.Transmission.TxIntervalMinutes = 0;
+  world.Switches.ShowInterval();
+  EXPECT_EQ(told, 2);
+  // One report by hand is no switching off: it must still leave.
+  ClickTx(1);
+  EXPECT_EQ(told, 2);
+  world.State.Transmission.TxIntervalMinutes = 10;
+  ClickTx(1);
+  world.State.Map.OwnNorthKm = world.State.Map.OwnEastKm = 0.0;
+  world.Switches.ShowInterval();
+  EXPECT_EQ(told, 3);
+}
+
 TEST_F(TxSwitchesTest, AMovingStationAnswersByItself) {
   world.State.Gps.GpsFixValidBefore = 1;
   ClickTx(1);

@@ -67,11 +67,10 @@ bool QtSerialPort::Open(const std::string& device, int baud) {
 }
 
 void QtSerialPort::Close() {
-  const bool unsent = BytesToWrite() > 0;
+  // The system would wait half a minute for a line that takes nothing.
+  DropUnsent();
   open_ = false;
   buffer_.clear();
-  // The system would wait half a minute for a line that takes nothing.
-  if (unsent) port_.clear(QSerialPort::Output);
   if (port_.isOpen()) port_.close();
 }
 
@@ -90,6 +89,10 @@ std::size_t QtSerialPort::BytesToWrite() const {
   int held = 0;
   if (::ioctl(static_cast<int>(port_.handle()), TIOCOUTQ, &held) != 0) held = 0;
   return static_cast<std::size_t>(port_.bytesToWrite()) + static_cast<std::size_t>(held);
+}
+
+void QtSerialPort::DropUnsent() {
+  if (BytesToWrite() > 0) port_.clear(QSerialPort::Output);
 }
 
 void QtSerialPort::TakeReceived() {

@@ -35,6 +35,7 @@ class QtSerialPort final : public SerialPort {
   std::string ReadAll() override;
   // Counts what the system holds back too.
   std::size_t BytesToWrite() const override;
+  void DropUnsent() override;
 
   // Asked for the device of a port number; may be empty.
   PortBook DeviceOfNumber;
