@@ -11,6 +11,7 @@ struct SerialDevice {
   std::string Path;        // "/dev/ttyUSB0": may be another one after the next start
   std::string Name;        // what the device says of itself; may be empty
   std::string StablePath;  // "/dev/serial/by-id/...": stays with the device; empty when it has none
+  std::string Serial{};    // serial number of the adapter; empty when it has none
 };
 
 // The devices that are there at the moment.

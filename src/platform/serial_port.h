@@ -14,6 +14,13 @@ class SerialPort {
   virtual ~SerialPort() = default;
   // `device`: a port number ("3") or the name of a device. False when it can't be opened.
   virtual bool Open(const std::string& device, int baud) = 0;
+  // The same for a device that was lost: only the one that was chosen at START counts as back,
+  // never another that has its place among the devices now.
+  virtual bool Reopen(const std::string& device, int baud) { return Open(device, baud); }
+  // START chooses anew what a port number means.
+  virtual void ForgetDevice() {}
+  // The name by which the device is known again in another run.
+  virtual std::string LastingName(const std::string& device) const { return device; }
   virtual void Close() = 0;
   virtual bool IsOpen() const = 0;
   virtual void Write(std::string_view bytes) = 0;

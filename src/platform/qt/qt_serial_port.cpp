@@ -42,11 +42,42 @@ bool QtSerialPort::Fail(SerialTrouble trouble) {
   return false;
 }
 
+std::string QtSerialPort::LastingName(const std::string& device) const {
+  const bool kept = kept_.Present && device == kept_text_;
+  return (kept ? kept_ : ChooseSerialDevice(device, DeviceOfNumber)).LastingName();
+}
+
 bool QtSerialPort::Open(const std::string& device, int baud) {
+  return OpenDevice(device, baud, Choice::May);
+}
+
+bool QtSerialPort::Reopen(const std::string& device, int baud) {
+  return OpenDevice(device, baud, Choice::MayNot);
+}
+
+// Sets `path_`; what stands in the way of opening it.
+SerialTrouble QtSerialPort::FindDevice(const std::string& device, Choice choice) {
+  if (!kept_.Present || device != kept_text_) {
+    const ChosenDevice found = ChooseSerialDevice(device, DeviceOfNumber);
+    path_ = found.Path;
+    if (found.Counted && choice == Choice::MayNot) {
+      path_ = "port " + device;
+      return SerialTrouble::NeverThere;
+    }
+    kept_text_ = device;
+    kept_ = found;
+    return SerialTroubleOf(path_);
+  }
+  path_ = PathOfChosen(kept_);
+  if (!path_.empty()) return SerialTroubleOf(path_);
+  path_ = kept_.Path;
+  return SerialTrouble::OtherDevice;
+}
+
+bool QtSerialPort::OpenDevice(const std::string& device, int baud, Choice choice) {
   Close();
   trouble_.clear();
-  path_ = SerialDevicePath(device, DeviceOfNumber);
-  const SerialTrouble trouble = SerialTroubleOf(path_);
+  const SerialTrouble trouble = FindDevice(device, choice);
   if (trouble != SerialTrouble::Other) return Fail(trouble);
   port_.setPortName(ToQt(path_));
   if (baud <= 0 || !port_.setBaudRate(baud)) return Fail(SerialTrouble::BadSpeed);

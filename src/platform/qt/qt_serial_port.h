@@ -25,8 +25,13 @@ class QtSerialPort final : public SerialPort {
   QtSerialPort(const QtSerialPort&) = delete;
   QtSerialPort& operator=(const QtSerialPort&) = delete;
 
-  // `device` as SerialDevicePath reads it. An open port is closed first.
+  // `device` as SerialDevicePath reads it. An open port is closed first. The device that it means
+  // when it is first found there is kept: later the text means no other one.
   bool Open(const std::string& device, int baud) override;
+  // Chooses nothing by its place among the devices any more.
+  bool Reopen(const std::string& device, int baud) override;
+  void ForgetDevice() override { kept_ = {}; }
+  std::string LastingName(const std::string& device) const override;
   // Never waits for a modem that takes nothing: what it has not taken by now is lost.
   void Close() override;
   bool IsOpen() const override { return open_; }
@@ -45,12 +50,17 @@ class QtSerialPort final : public SerialPort {
   std::string Trouble() const override { return trouble_; }
 
  private:
+  enum class Choice { May, MayNot };
+  bool OpenDevice(const std::string& device, int baud, Choice choice);
+  SerialTrouble FindDevice(const std::string& device, Choice choice);
   bool Fail(SerialTrouble trouble);
   void TakeReceived();
   void ErrorCame(QSerialPort::SerialPortError error);
   bool DeviceIsGone() const;
 
   QSerialPort port_;
+  std::string kept_text_;  // that means the kept device
+  ChosenDevice kept_;
   std::string path_;
   std::string buffer_;
   std::string trouble_;

@@ -24,17 +24,71 @@ std::string PathOfName(const std::string& name) {
   return name.find('/') == std::string::npos ? "/dev/" + name : name;
 }
 
-std::string PathOfNumber(int number, const PortBook& book, const SerialDeviceList& present) {
-  if (number < 1 || number > kHighestPortNumber) return {};
+// The device named for a number; empty when none is.
+std::string NameOfNumber(int number, const PortBook& book) {
   const std::string variable = "ZEPRIL_COM" + WholeNumber(number);
   const char* other = std::getenv(variable.c_str());
-  if (other != nullptr && *other != '\0') return PathOfName(other);
-  const std::string chosen = book ? book(number) : std::string();
-  if (!chosen.empty()) return PathOfName(chosen);
+  if (other != nullptr && *other != '\0') return other;
+  return book ? book(number) : std::string();
+}
+
+struct MeantDevice {
+  std::string Path;      // as it was named, links not followed
+  bool Counted = false;  // not named: the n-th of those that are there
+};
+
+MeantDevice DeviceOfNumber(int number, const PortBook& book, const SerialDeviceList& present) {
+  if (number < 1 || number > kHighestPortNumber) return {};
+  const std::string name = NameOfNumber(number, book);
+  if (!name.empty()) return {PathOfName(name), false};
   const std::vector<SerialDevice> devices = present();
   const auto place = static_cast<std::size_t>(number - 1);
   // The number's own name is no path: it is found absent.
-  return place < devices.size() ? devices[place].Path : "COM" + WholeNumber(number);
+  return {place < devices.size() ? devices[place].Path : "COM" + WholeNumber(number), true};
+}
+
+MeantDevice DeviceOfText(std::string_view device, const PortBook& book,
+                         const SerialDeviceList& present) {
+  const std::string text(Trim(device));
+  if (text.empty()) return {};
+  if (const auto number = PortNumberOfText(text)) return DeviceOfNumber(*number, book, present);
+  return {PathOfName(text), false};
+}
+
+// Programs that share a port agree on it by the device's own name.
+std::string LinksFollowed(const std::string& path) {
+  const QString real = QFileInfo(ToQt(path)).canonicalFilePath();
+  return real.isEmpty() ? path : FromQt(real);
+}
+
+std::string SerialOf(const std::string& path, const SerialDeviceList& present) {
+  for (const SerialDevice& device : present())
+    if (device.Path == path) return device.Serial;
+  return {};
+}
+
+constexpr const char* kPlayedLinks = "ZEPRIL_SERIAL_BY_ID";
+
+bool LinksArePlayed() {
+  const char* folder = std::getenv(kPlayedLinks);
+  return folder != nullptr && *folder != '\0';
+}
+
+std::vector<QFileInfo> LinksIn(const std::string& folder) {
+  // Devices count as entries of the system's own, not as files.
+  const QDir links(ToQt(folder), QString(), QDir::Name, QDir::Files | QDir::System);
+  const QFileInfoList entries = links.entryInfoList();
+  return {entries.begin(), entries.end()};
+}
+
+std::vector<SerialDevice> PlayedSerialDevices() {
+  std::vector<SerialDevice> devices;
+  for (const QFileInfo& link : LinksIn(SerialLinkFolder())) {
+    const QString path = link.canonicalFilePath();
+    if (path.isEmpty()) continue;
+    devices.push_back({FromQt(path), FromQt(link.fileName()), FromQt(link.filePath())});
+  }
+  return devices;
 }
 
 bool IsPath(const std::string& path) {
@@ -74,24 +128,27 @@ bool ComesBefore(const SerialDevice& a, const SerialDevice& b) {
 }
 
 std::vector<SerialDevice> PresentSerialDevices() {
+  if (LinksArePlayed()) return PlayedSerialDevices();
   std::vector<SerialDevice> devices;
   for (const QSerialPortInfo& port : QSerialPortInfo::availablePorts()) {
     const QString& maker = port.manufacturer();
     QString name = port.description();
     if (!maker.isEmpty()) name = name.isEmpty() ? maker : maker + QLatin1Char(' ') + name;
     const std::string path = FromQt(port.systemLocation());
-    devices.push_back({path, FromQt(name), StableSerialPath(path)});
+    devices.push_back({path, FromQt(name), StableSerialPath(path), FromQt(port.serialNumber())});
   }
   std::sort(devices.begin(), devices.end(), ComesBefore);
   return devices;
 }
 
+std::string SerialLinkFolder() {
+  return LinksArePlayed() ? std::getenv(kPlayedLinks) : "/dev/serial/by-id";
+}
+
 std::string StableSerialPath(const std::string& path, const std::string& folder) {
   const QString device = QFileInfo(ToQt(path)).canonicalFilePath();
   if (device.isEmpty()) return {};
-  // Devices count as entries of the system's own, not as files.
-  const QDir links(ToQt(folder), QString(), QDir::Name, QDir::Files | QDir::System);
-  for (const QFileInfo& link : links.entryInfoList()) {
+  for (const QFileInfo& link : LinksIn(folder)) {
     if (link.canonicalFilePath() == device) return FromQt(link.filePath());
   }
   return {};
@@ -99,14 +156,34 @@ std::string StableSerialPath(const std::string& path, const std::string& folder)
 
 std::string SerialDevicePath(std::string_view device, const PortBook& book,
                              const SerialDeviceList& present) {
-  const std::string text(Trim(device));
-  if (text.empty()) return {};
-  const std::optional<int> number = PortNumberOfText(text);
-  const std::string path = number ? PathOfNumber(*number, book, present) : PathOfName(text);
-  if (!IsPath(path)) return path;
-  // Programs that share a port agree on it by the device's own name.
-  const QString real = QFileInfo(ToQt(path)).canonicalFilePath();
-  return real.isEmpty() ? path : FromQt(real);
+  const std::string path = DeviceOfText(device, book, present).Path;
+  return IsPath(path) ? LinksFollowed(path) : path;
+}
+
+std::string ChosenDevice::LastingName() const {
+  if (!Link.empty()) return Link;
+  return Serial.empty() ? Path : Path + ' ' + Serial;
+}
+
+ChosenDevice ChooseSerialDevice(std::string_view device, const PortBook& book,
+                                const SerialDeviceList& present, const std::string& folder) {
+  const MeantDevice meant = DeviceOfText(device, book, present);
+  ChosenDevice chosen{meant.Path, {}, {}, false, meant.Counted};
+  const QFileInfo found(ToQt(meant.Path));
+  chosen.Present = IsPath(meant.Path) && found.exists();
+  // A link that the operator named is his name for it.
+  if (IsPath(meant.Path) && found.isSymLink()) chosen.Link = meant.Path;
+  if (!chosen.Present) return chosen;
+  chosen.Path = LinksFollowed(meant.Path);
+  if (chosen.Link.empty()) chosen.Link = StableSerialPath(chosen.Path, folder);
+  chosen.Serial = SerialOf(chosen.Path, present);
+  return chosen;
+}
+
+std::string PathOfChosen(const ChosenDevice& chosen, const SerialDeviceList& present) {
+  if (!chosen.Link.empty()) return LinksFollowed(chosen.Link);
+  if (!QFileInfo::exists(ToQt(chosen.Path))) return chosen.Path;
+  return SerialOf(chosen.Path, present) == chosen.Serial ? chosen.Path : std::string();
 }
 
 SerialTrouble SerialTroubleOf(const std::string& path) {
@@ -136,6 +213,11 @@ std::string SerialTroubleText(SerialTrouble trouble, const std::string& path) {
     }
     case SerialTrouble::UsedElsewhere:
       return path + " is used by another program.";
+    case SerialTrouble::OtherDevice:
+      return path + " is another device now. The one that was chosen is not there.";
+    case SerialTrouble::NeverThere:
+      return "No serial device stood behind " + path +
+             " at START. Plug the modem in and start the program anew.";
     case SerialTrouble::BadSpeed:
       return path + " can't be opened at that speed.";
     case SerialTrouble::Other:

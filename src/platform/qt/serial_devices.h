@@ -17,9 +17,14 @@ std::vector<SerialDevice> PresentSerialDevices();
 // The order of that list.
 bool ComesBefore(const SerialDevice& a, const SerialDevice& b);
 
+// Where the system keeps links that stay with their devices: "/dev/serial/by-id". Tests play
+// devices with names by a folder of links that ZEPRIL_SERIAL_BY_ID in the environment tells; then
+// there are no others.
+std::string SerialLinkFolder();
+
 // The link in `folder` that leads to the device; empty when none does.
 std::string StableSerialPath(const std::string& path,
-                             const std::string& folder = "/dev/serial/by-id");
+                             const std::string& folder = SerialLinkFolder());
 
 // What the operator has chosen for a port number: a device's name or path; empty when nothing.
 using PortBook = std::function<std::string(int number)>;
@@ -32,6 +37,29 @@ using PortBook = std::function<std::string(int number)>;
 std::string SerialDevicePath(std::string_view device, const PortBook& book = {},
                              const SerialDeviceList& present = PresentSerialDevices);
 
+// A device as it was chosen: found again under another path, and not taken for another device that
+// has its path meanwhile.
+struct ChosenDevice {
+  std::string Path;      // native, links followed
+  std::string Link;      // the name that stays with it; empty when it has none
+  std::string Serial;    // of the adapter, may be empty; counts where there is no link
+  bool Present = false;  // it was there
+  bool Counted = false;  // found only by its place among the devices that were there
+
+  // By which it is known again in another run: the link, else path and serial number.
+  std::string LastingName() const;
+};
+
+// The device that `device` means now, read as by SerialDevicePath.
+ChosenDevice ChooseSerialDevice(std::string_view device, const PortBook& book = {},
+                                const SerialDeviceList& present = PresentSerialDevices,
+                                const std::string& folder = SerialLinkFolder());
+
+// The path of a chosen device that was there, as it is now; empty when another device has taken its
+// place.
+std::string PathOfChosen(const ChosenDevice& chosen,
+                         const SerialDeviceList& present = PresentSerialDevices);
+
 // Why opening failed, as a sentence for the operator.
 enum class SerialTrouble {
   NoPort,         // the text means no port
@@ -39,6 +67,8 @@ enum class SerialTrouble {
   NoDevice,       // a file or folder
   NotPermitted,   // this user may not
   UsedElsewhere,  // another program has it
+  OtherDevice,    // another device has the path of the one that was chosen
+  NeverThere,     // nothing stood behind the number when the program was started
   BadSpeed,       // the speed is none
   Other,
 };

@@ -317,6 +317,111 @@ TEST(SerialDevicePath, LinksAreFollowedToTheDevice) {
   EXPECT_EQ(SerialDevicePath(folder.Sub("broken")), folder.Sub("broken"));
 }
 
+// ---- The device that was chosen -----------------------------------------------------------------
+
+// Two adapters, known by links as the system makes them.
+class ChosenAdapterTest : public QtSerialPortTest {
+ protected:
+  void SetUp() override {
+    QtSerialPortTest::SetUp();
+    std::filesystem::create_directory(Folder());
+    PlugIn(*modem, "usb-a");
+    PlugIn(*other, "usb-b");
+    ::setenv("ZEPRIL_SERIAL_BY_ID", Folder().c_str(), 1);
+  }
+  void TearDown() override { ::unsetenv("ZEPRIL_SERIAL_BY_ID"); }
+  std::string Folder() const { return folder.Sub("by-id"); }
+  std::string LinkOf(const std::string& name) const { return Folder() + "/" + name; }
+  void PlugIn(const PseudoTerminal& device, const std::string& name) {
+    std::filesystem::create_symlink(device.Path(), LinkOf(name));
+  }
+  void Unplug(std::unique_ptr<PseudoTerminal>& device, const std::string& name) {
+    std::filesystem::remove(LinkOf(name));
+    device.reset();
+    PumpUntil([this] { return !port.IsOpen(); });
+  }
+
+  TempFolder folder;
+  std::unique_ptr<PseudoTerminal> other = std::make_unique<PseudoTerminal>();
+};
+
+TEST_F(ChosenAdapterTest, ABareNumberStaysWithTheDeviceThatItMeant) {
+  ASSERT_TRUE(port.Open("1", 9600)) << port.Trouble();
+  Unplug(modem, "usb-a");
+  // The other one is the first in the list now.
+  ASSERT_EQ(PresentSerialDevices().front().Path, other->Path());
+  EXPECT_FALSE(port.Reopen("1", 9600));
+  EXPECT_EQ(port.Trouble(), LinkOf("usb-a") + " is not there.");
+  EXPECT_FALSE(port.Open("1", 9600));
+  port.Write("x");
+  loop.Wait(kShort);
+  EXPECT_EQ(other->Heard(), "");
+  // Back under another path, it is the same one.
+  modem = std::make_unique<PseudoTerminal>();
+  PlugIn(*modem, "usb-a");
+  ASSERT_TRUE(port.Reopen("1", 9600)) << port.Trouble();
+  port.Write("x");
+  EXPECT_TRUE(PumpUntil([this] { return modem->Heard() == "x"; }));
+  EXPECT_EQ(port.LastingName("1"), LinkOf("usb-a"));
+}
+
+TEST_F(ChosenAdapterTest, WhatWasNotThereAtTheStartIsNotFoundByItsNumberLater) {
+  std::unique_ptr<PseudoTerminal> third = std::make_unique<PseudoTerminal>();
+  EXPECT_FALSE(port.Open("3", 9600));
+  PlugIn(*third, "usb-c");
+  EXPECT_FALSE(port.Reopen("3", 9600));
+  EXPECT_EQ(port.Trouble(),
+            "No serial device stood behind port 3 at START. Plug the modem in and start the "
+            "program anew.");
+  // START itself may still find it.
+  EXPECT_TRUE(port.Open("3", 9600)) << port.Trouble();
+}
+
+TEST_F(ChosenAdapterTest, ANamedDeviceMayComeLater) {
+  EXPECT_FALSE(port.Open(LinkOf("usb-c"), 9600));
+  const PseudoTerminal third;
+  PlugIn(third, "usb-c");
+  EXPECT_TRUE(port.Reopen(LinkOf("usb-c"), 9600)) << port.Trouble();
+}
+
+TEST_F(ChosenAdapterTest, TheNextStartChoosesAnew) {
+  ASSERT_TRUE(port.Open("1", 9600));
+  Unplug(modem, "usb-a");
+  port.ForgetDevice();
+  ASSERT_TRUE(port.Open("1", 9600)) << port.Trouble();
+  EXPECT_EQ(port.LastingName("1"), LinkOf("usb-b"));
+}
+
+std::vector<SerialDevice> ListOf(const std::string& path, const std::string& serial) {
+  return {{path, "Adapter", "", serial}};
+}
+
+TEST(ChosenDevice, WithoutALinkItsPathAndSerialNumberTellIt) {
+  const PseudoTerminal adapter;
+  const TempFolder links;
+  const std::string path = adapter.Path();
+  const ChosenDevice chosen = ChooseSerialDevice(
+      "1", {}, [&] { return ListOf(path, "A100"); }, links.Path());
+  EXPECT_TRUE(chosen.Present);
+  EXPECT_TRUE(chosen.Counted);
+  EXPECT_EQ(chosen.LastingName(), path + " A100");
+  EXPECT_EQ(PathOfChosen(chosen, [&] { return ListOf(path, "A100"); }), path);
+  EXPECT_EQ(PathOfChosen(chosen, [&] { return ListOf(path, "B200"); }), "");
+  EXPECT_EQ(PathOfChosen(chosen, [&] { return ListOf(path, ""); }), "");
+  EXPECT_EQ(SerialTroubleText(SerialTrouble::OtherDevice, path),
+            path + " is another device now. The one that was chosen is not there.");
+}
+
+TEST(ChosenDevice, OneThatTheOperatorNamedByALinkIsKnownByIt) {
+  const PseudoTerminal adapter;
+  const TempFolder folder;
+  std::filesystem::create_symlink(adapter.Path(), folder.Sub("tnc"));
+  const ChosenDevice chosen = ChooseSerialDevice(folder.Sub("tnc"));
+  EXPECT_FALSE(chosen.Counted);
+  EXPECT_EQ(chosen.LastingName(), folder.Sub("tnc"));
+  EXPECT_EQ(PathOfChosen(chosen), adapter.Path());
+}
+
 TEST(SerialTroubleTexts, WhatIsNoDeviceIsFoundOutWithoutOpeningIt) {
   const TempFolder folder;
   std::ofstream(folder.Sub("file")) << "text";
