@@ -317,9 +317,11 @@ void Binder::Bind(QListView* widget, QStringListModel* model, ListBox& control) 
     control.ListIndex = index.row();
     Raise(control.DoubleClick ? control.DoubleClick : control.Click);
   });
+  // What is not shown is passed over by what the list itself is told, never by what the window
+  // happens to show: its panel may come a moment later, its page any time, with rows of before.
   outs_.push_back(
       [widget, model, &control, revision = ~std::uint64_t{0}, row = -1, top = -1]() mutable {
-        if (!control.Visible || !widget->isVisible()) return;
+        if (!control.Visible) return;
         if (revision != control.Revision ||
             model->rowCount() != static_cast<int>(control.Items.size())) {
           revision = control.Revision;
