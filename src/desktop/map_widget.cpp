@@ -44,11 +44,12 @@ void MapWidget::ControlsOut() {
   update();
 }
 
-// Every redraw asks for the focus: it must not be taken from a field while the operator types.
+// Every redraw asks for the focus: it must not be taken from where the operator types or went by
+// the keyboard.
 void MapWidget::TakeFocusUnlessTyping() {
   if (!map_.FocusWanted) return;
   map_.FocusWanted = false;
-  if (!IsTypedIn(window()->focusWidget())) setFocus(Qt::OtherFocusReason);
+  if (!focus_.Keeps(window()->focusWidget())) setFocus(Qt::OtherFocusReason);
 }
 
 void MapWidget::ShowPointer() {
@@ -111,6 +112,8 @@ void MapWidget::wheelEvent(QWheelEvent* event) {
 }
 
 void MapWidget::keyPressEvent(QKeyEvent* event) {
+  // What a panel over the map has no use for comes up here too: it is not meant for the map.
+  if (!hasFocus()) return QWidget::keyPressEvent(event);
   const KeyPress key = KeyPressOf(*event);
   if (IsRightClickKey(*event)) return PressRightAtPointer();
   const bool ours = key.Code == 13 || (key.Code >= 37 && key.Code <= 40);
@@ -123,7 +126,7 @@ void MapWidget::keyPressEvent(QKeyEvent* event) {
 
 void MapWidget::contextMenuEvent(QContextMenuEvent* event) {
   // The mouse has had its press already; the Menu key looks up what lies at the pointer.
-  if (event->reason() == QContextMenuEvent::Keyboard) PressRightAtPointer();
+  if (event->reason() == QContextMenuEvent::Keyboard && hasFocus()) PressRightAtPointer();
 }
 
 void MapWidget::PressRightAtPointer() {

@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "core/controls.h"
+#include "desktop/focus_watch.h"
 #include "platform/qt/qt_loop.h"
 #include "platform/qt/qt_surface.h"
 
@@ -51,6 +52,7 @@ class MapWidget final : public QWidget {
   PictureBox& base_;
   QtSurface& map_surface_;
   QtSurface& base_surface_;
+  FocusWatch focus_;
   std::uint64_t shown_revision_ = 0;
   bool shown_visible_ = true;
   bool size_waits_ = false;  // a new size came inside a step
