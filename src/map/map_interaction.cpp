@@ -264,6 +264,7 @@ void MapInteraction::RightPress() {
   if (view_.LookupHit) return;
   // Nothing there: the plain map under a map type while the button is held, or the sun.
   if (view_.ActiveFolderPath != view_.BaseFolderPath) {
+    view_.PlainMapHeld = true;
     controls_.Map.Picture1.Visible = false;
   } else {
     tools_.Lookups.ShowSunCurve();
@@ -297,9 +298,8 @@ bool MapInteraction::LookUpEverything() {
 }
 
 bool MapInteraction::LookUpStation() {
-  const auto found = FindStationNear(stores_.MoniAllRecords, stores_.Moni1Records,
-                                     followed_.Moni1Call, view_.ClickNorthKm, view_.ClickEastKm,
-                                     LookupToleranceKm(view_.MetresPerPixel));
+  const auto found = FindStationNear(view_, stores_.MoniAllRecords, stores_.Moni1Records,
+                                     followed_.Moni1Call, view_.ClickNorthKm, view_.ClickEastKm);
   if (!found) return false;
   stores_.SelectedStationCall = found->Call;
   stores_.SelectedRecordIndex = found->RecordIndex;
@@ -308,6 +308,7 @@ bool MapInteraction::LookUpStation() {
 }
 
 void MapInteraction::ReleaseMap() {
+  view_.PlainMapHeld = false;
   controls_.Map.Picture1.Visible = true;
   tools_.Lookups.HideSunCurve();
 }

@@ -42,9 +42,9 @@ void MapRedrawer::MapRedraw() {
     return;
   }
 
-  // Wait pointer, map visible.
+  // Wait pointer, map visible, but not over its plain form that is just looked at.
   SetPointer(PointerShape::Hourglass);
-  controls_.Map.Picture1.Visible = true;
+  if (!view.PlainMapHeld) controls_.Map.Picture1.Visible = true;
 
   ReadZone();
 

@@ -121,8 +121,8 @@ TEST(ZoomButtons, DoubleAndHalveBetweenAQuarterAndEight) {
 
 TEST(ZoomButtons, AtTheirEndsOnlyKeepTheFocusOnTheMap) {
   InteractionWorld world;
-  for (const auto& [factor, button] : {std::pair{8.0, &world.Controls.Map.Command7},
-                                       {0.25, &world.Controls.Map.Command8}}) {
+  for (const auto& [factor, button] :
+       {std::pair{8.0, &world.Controls.Map.Command7}, {0.25, &world.Controls.Map.Command8}}) {
     world.View().ZoomFactor = factor;
     world.Controls.Map.Picture1.FocusWanted = false;
     button->Click();
@@ -346,6 +346,9 @@ TEST(RightPress, ShowsThePlainMapUnderAMapTypeUntilTheRelease) {
   world.Press(2, 400, 299);
   EXPECT_FALSE(world.Controls.Map.Picture1.Visible);
   EXPECT_THAT(world.Join.Calls, IsEmpty());
+  // Whatever is heard meanwhile.
+  world.Redraw();
+  EXPECT_FALSE(world.Controls.Map.Picture1.Visible);
   world.Controls.Map.Picture1.MouseUp({2, 0, 400, 299});
   EXPECT_TRUE(world.Controls.Map.Picture1.Visible);
 }
@@ -356,50 +359,62 @@ TEST(MouseMove, ShowsTheCursorsPosition) {
   EXPECT_EQ(world.Controls.Readouts.Label3.Caption, "UTMcrs 5837.450");
 }
 
-TEST(StationLookup, ToleranceGrowsWithTheScale) {
-  EXPECT_EQ(LookupToleranceKm(2), 0.5);
-  EXPECT_EQ(LookupToleranceKm(199.9), 0.5);
-  EXPECT_EQ(LookupToleranceKm(200), 1.5);
-  EXPECT_EQ(LookupToleranceKm(5000), 25.5);
+// Stations around 5825 / 425, seen at two metres a pixel or at another scale.
+struct LookupWorld {
+  explicit LookupWorld(double metres_per_pixel = 2.0) {
+    View.MetresPerPixel = metres_per_pixel;
+    View.PixelsPerKm = 1000.0 / metres_per_pixel;
+  }
+  void Hear(StationStore& store, const std::string& call, double east_px) {
+    RecordMaker maker;
+    maker.Call = call;
+    maker.EastKm += east_px * View.MetresPerPixel / 1000.0;
+    store.Append(maker.Make());
+  }
+  std::string At(double east_px, const std::string& followed = "QX7KB") const {
+    const double east_km = 425.0 + east_px * View.MetresPerPixel / 1000.0;
+    const auto found = FindStationNear(View, All, History, followed, 5825.0, east_km);
+    return found ? found->Call + " " + WholeNumber(found->RecordIndex) : "nothing";
+  }
+  MapViewState View;
+  StationStore All{100};
+  StationStore History{100};
+};
+
+TEST(StationLookup, ReachesTwelvePixelsAtEveryScale) {
+  for (double metres_per_pixel : {2.0, 50.0, 200.0, 5000.0}) {
+    LookupWorld world(metres_per_pixel);
+    world.Hear(world.All, "QX1AB", 0);
+    EXPECT_EQ(world.At(11.5), "QX1AB 1") << metres_per_pixel;
+    EXPECT_EQ(world.At(-11.5), "QX1AB 1") << metres_per_pixel;
+    EXPECT_EQ(world.At(12.6), "nothing") << metres_per_pixel;
+  }
 }
 
-TEST(StationLookup, TakesTheNewestAndOnlyThenTheHistory) {
-  StationStore all(100);
-  StationStore history(100);
-  RecordMaker maker;
-  maker.Call = "FIRST";
-  all.Append(maker.Make());
-  maker.Call = "SECOND";
-  all.Append(maker.Make());
-  maker.NorthKm += 0.5;  // not below the tolerance
-  maker.Call = "FAR";
-  all.Append(maker.Make());
-  maker = {};
-  maker.Call = "QX7KB";
-  maker.EastKm += 5.0;
-  history.Append(maker.Make());
-  const auto near = FindStationNear(all, history, "QX7KB", 5825.0, 425.0, 0.5);
-  ASSERT_TRUE(near);
-  EXPECT_EQ(near->Call, "SECOND");
-  EXPECT_EQ(near->RecordIndex, 2);
-  const auto followed = FindStationNear(all, history, "QX7KB", 5825.0, 430.0, 0.5);
-  ASSERT_TRUE(followed);
-  EXPECT_EQ(followed->Call, "QX7KB");
-  EXPECT_EQ(followed->RecordIndex, 1);
-  EXPECT_FALSE(FindStationNear(all, history, "QX7KB", 5900.0, 430.0, 0.5));
+TEST(StationLookup, TakesTheNearestAndOfEqualOnesTheNewest) {
+  LookupWorld world;
+  world.Hear(world.All, "NEAR", 3);
+  world.Hear(world.All, "TWIN", 3);
+  world.Hear(world.All, "FARTHER", -5);
+  EXPECT_EQ(world.At(0), "TWIN 2");
+  EXPECT_EQ(world.At(-2), "FARTHER 3");
+}
+
+TEST(StationLookup, AllStationsComeBeforeTheFollowedOne) {
+  LookupWorld world;
+  world.Hear(world.History, "QX7KB", 0);
+  EXPECT_EQ(world.At(0), "QX7KB 1");
+  world.Hear(world.All, "QX1AB", 10);
+  EXPECT_EQ(world.At(0), "QX1AB 1");
+  EXPECT_EQ(world.At(-3), "QX7KB 1");
 }
 
 TEST(StationLookup, ARecordOfTheFollowedStationLeadsToItsHistory) {
-  StationStore all(100);
-  StationStore history(100);
-  RecordMaker maker;
-  maker.Call = "QX7KB";
-  history.Append(maker.Make());
-  history.Append(maker.Make());
-  all.Append(maker.Make());
-  const auto found = FindStationNear(all, history, "qx7kb", 5825.0, 425.0, 0.5);
-  ASSERT_TRUE(found);
-  EXPECT_EQ(found->RecordIndex, 2);
+  LookupWorld world;
+  world.Hear(world.History, "QX7KB", 0);
+  world.Hear(world.History, "QX7KB", 0);
+  world.Hear(world.All, "QX7KB", 0);
+  EXPECT_EQ(world.At(0, "qx7kb"), "qx7kb 2");
 }
 
 // ---- Keys -----------------------------------------------------------------------------------

@@ -48,6 +48,7 @@ struct MapViewState {
   int StationLabelLevel = 0;  // 0 to 5
   bool WxCaption = false;     // level 1 with the caption "WX"
   int StationClassMask = 31;  // bits 0 to 4: classes 2, 1, 0, 3, 4
+  bool PlainMapHeld = false;  // the plain form of a map type is shown while the button is held
   bool HideObjects = false;
   bool MovedOnly = false;  // class 0 only if moved
   std::string FindCall;
