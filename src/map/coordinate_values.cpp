@@ -16,8 +16,8 @@ std::string MeridianText(double meridian) {
 
 void GridToGeo(CoordinateValues& values, const MapViewState& view, double north_km,
                double east_km) {
-  const Geodetic place = UtmToGeodetic(view.MapCentralMeridian, east_km * 1000.0,
-                                       north_km * 1000.0, view.MapFalseEasting);
+  const Geodetic place = UtmToGeodetic(view.MapCentralMeridian, east_km * 1000.0, north_km * 1000.0,
+                                       view.MapFalseEasting);
   values.GeoLon = place.Lon;
   values.GeoLat = place.Lat;
   values.GeoLonText = DegreeMinuteText(place.Lon);
@@ -47,6 +47,11 @@ void ZoneByPosition(CoordinateValues& values) {
   values.GkMeridianText = MeridianText(values.GkCentralMeridian);
   values.UtmMeridianText = MeridianText(values.UtmCentralMeridian);
   values.UtmZoneText = PadLeft(WholeNumber(UtmZoneOfMeridian(values.UtmCentralMeridian)), 2);
+}
+
+void TakeZone(const IdentityState& identity, MapViewState& view) {
+  if (!identity.MapZoneName.starts_with("U")) return;
+  view.MapCentralMeridian = Val(Mid(identity.MapZoneName, 2)) * 6.0 - 183.0;
 }
 
 void ZoneOfMap(CoordinateValues& values, const IdentityState& identity, const MapViewState& view) {

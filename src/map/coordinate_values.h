@@ -46,14 +46,16 @@ struct CoordinateValues {
 };
 
 // Map kilometres to WGS 84 and its texts.
-void GridToGeo(CoordinateValues& values, const MapViewState& view, double north_km,
-               double east_km);
+void GridToGeo(CoordinateValues& values, const MapViewState& view, double north_km, double east_km);
 
 // GeoLat and GeoLon to all grid texts, in the strips chosen last.
 void GeoToAllGrids(CoordinateValues& values);
 
 // Chooses the strips of Gauss-Krueger and UTM that DisplayLon lies in.
 void ZoneByPosition(CoordinateValues& values);
+
+// The central meridian of the map by the name of its zone, "U33"; another name leaves it.
+void TakeZone(const IdentityState& identity, MapViewState& view);
 
 // Number and meridian of the map's zone, "33" and " 15"; the strips start with it as well.
 void ZoneOfMap(CoordinateValues& values, const IdentityState& identity, const MapViewState& view);

@@ -20,6 +20,8 @@ constexpr int kReachPixels = 5000;    // of the map's own grid, from the corner 
 constexpr int kGeographicSteps = 16;  // either way
 constexpr double kHighestLatitude = 80.0;
 constexpr double kMinutesShownBelow = 1000.0;  // metres a pixel
+// How far a metric grid reaches from the centre either way, in thousands of pixels; in a window that
+// is larger, to its corners.
 constexpr double kMetricWidths = 1.0;
 constexpr double kGaussKruegerEastWidths = 3.0;
 constexpr double kMetricLimitKm = 10000.0;
@@ -42,8 +44,9 @@ std::string KilometreLabel(double km) {
 
 // ---- The map's own zone ---------------------------------------------------------------------
 
-void DrawMapGrid(DrawingSurface& surface, const MapViewState& view, PixelPoint last_tile) {
-  GridPainter painter(surface, view, kMapGridColour);
+void DrawMapGrid(DrawingSurface& surface, const MapViewState& view, PixelPoint last_tile,
+                 GridLabels& taken) {
+  GridPainter painter(surface, view, kMapGridColour, taken);
   const double step_km = kLinePixels * view.MetresPerPixel / 1000.0;
   // West and north edge of the tile; the row above its first pixel is the edge.
   const auto [x0, y0] = last_tile;
@@ -97,7 +100,7 @@ class GridLattice {
   std::vector<GridPoint> points_;
 };
 
-void DrawGeographicGrid(DrawingSurface& surface, const MapViewState& view) {
+void DrawGeographicGrid(DrawingSurface& surface, const MapViewState& view, GridLabels& taken) {
   const Geodetic centre = UtmToGeodetic(view.MapCentralMeridian, view.CentreEastKm * 1000.0,
                                         view.CentreNorthKm * 1000.0, view.MapFalseEasting);
   if (!std::isfinite(centre.Lon) || !std::isfinite(centre.Lat)) return;
@@ -119,7 +122,7 @@ void DrawGeographicGrid(DrawingSurface& surface, const MapViewState& view) {
                               return GridPointOf(view, (first_lon + column * step) / 60.0,
                                                  (first_lat + row * step) / 60.0);
                             });
-  GridPainter painter(surface, view, kGeographicGridColour);
+  GridPainter painter(surface, view, kGeographicGridColour, taken);
   const bool with_minutes = view.MetresPerPixel < kMinutesShownBelow;
   for (int column = 0; column < lattice.Columns(); ++column) {
     painter.Line(lattice.Column(column), GridJoin::Unbroken, GridEdge::Bottom,
@@ -131,9 +134,15 @@ void DrawGeographicGrid(DrawingSurface& surface, const MapViewState& view) {
   }
 }
 
+// Where the labels of a grid stand, and which places are gone.
+struct GridEdges {
+  GridSlots Slots;
+  GridLabels& Taken;
+};
+
 // A grid in kilometres: where its labels stand, its colour, the reach of both axes.
 struct MetricGrid {
-  GridSlots Slots;
+  GridEdges Edges;
   Colour Ink;
   GridReach North;
   GridReach East;
@@ -149,7 +158,7 @@ void DrawMetricGrid(DrawingSurface& surface, const MapViewState& view, const Met
     const Geodetic place = to_wgs84(east.At(column) * 1000.0, north.At(row) * 1000.0);
     return GridPointOf(view, place.Lon, place.Lat);
   });
-  GridPainter painter(surface, view, grid.Ink, grid.Slots);
+  GridPainter painter(surface, view, grid.Ink, grid.Edges.Taken, grid.Edges.Slots);
   for (int column = 0; column < lattice.Columns(); ++column) {
     painter.Line(lattice.Column(column), GridJoin::Near, GridEdge::Top,
                  KilometreLabel(east.At(column)));
@@ -159,27 +168,35 @@ void DrawMetricGrid(DrawingSurface& surface, const MapViewState& view, const Met
   }
 }
 
+double WidthsIn(const MapViewState& view, double widths) {
+  // In whole steps of 100 pixels, so that lines stay on round values.
+  const double to_corner = std::hypot(view.ViewWidthPx, view.ViewHeightPx) / 2.0;
+  return std::max(widths, std::ceil(to_corner / kLinePixels) / 10.0);
+}
+
 GridReach ReachOfText(const MapViewState& view, const std::string& text) {
-  return GridReachOf(PositionTextKm(text), view.MetresPerPixel, kMetricWidths, kMetricLimitKm);
+  return GridReachOf(PositionTextKm(text), view.MetresPerPixel, WidthsIn(view, kMetricWidths),
+                     kMetricLimitKm);
 }
 
 void DrawGaussKruegerGrid(DrawingSurface& surface, const MapViewState& view,
-                          const CoordinateValues& centre, GridSlots slots) {
+                          const CoordinateValues& centre, GridEdges edges) {
   // Wider to the east and west: the text of a strip of two digits has lost a digit, and its value
   // may lie a kilometre beside the centre.
-  const GridReach east = GridReachOf(PositionTextKm(centre.GkEastText), view.MetresPerPixel,
-                                     kGaussKruegerEastWidths, kGaussKruegerEastLimitKm);
+  const GridReach east =
+      GridReachOf(PositionTextKm(centre.GkEastText), view.MetresPerPixel,
+                  WidthsIn(view, kGaussKruegerEastWidths), kGaussKruegerEastLimitKm);
   DrawMetricGrid(surface, view,
-                 {slots, kGaussKruegerGridColour, ReachOfText(view, centre.GkNorthText), east},
+                 {edges, kGaussKruegerGridColour, ReachOfText(view, centre.GkNorthText), east},
                  [&](double easting, double northing) {
                    return GaussKruegerToWgs84(easting, northing, centre.GkCentralMeridian);
                  });
 }
 
 void DrawUtmGrid(DrawingSurface& surface, const MapViewState& view, const CoordinateValues& centre,
-                 GridSlots slots) {
+                 GridEdges edges) {
   DrawMetricGrid(surface, view,
-                 {slots, kUtmGridColour, ReachOfText(view, centre.UtmNorthText),
+                 {edges, kUtmGridColour, ReachOfText(view, centre.UtmNorthText),
                   ReachOfText(view, centre.UtmEastText)},
                  [&](double easting, double northing) {
                    return UtmToGeodetic(centre.UtmCentralMeridian, easting, northing,
@@ -188,9 +205,9 @@ void DrawUtmGrid(DrawingSurface& surface, const MapViewState& view, const Coordi
 }
 
 void DrawRt90Grid(DrawingSurface& surface, const MapViewState& view, const CoordinateValues& centre,
-                  GridSlots slots) {
+                  GridEdges edges) {
   DrawMetricGrid(surface, view,
-                 {slots, kRt90GridColour, ReachOfText(view, centre.RtNorthText),
+                 {edges, kRt90GridColour, ReachOfText(view, centre.RtNorthText),
                   ReachOfText(view, centre.RtEastText)},
                  Rt90ToWgs84);
 }
@@ -246,23 +263,24 @@ GridSlots SlotsAmong(const std::array<bool, kDisplayModes>& shown, DisplayMode m
 }
 
 void DrawGrid(DrawingSurface& surface, const MapViewState& view, const CoordinateValues& values,
-              DisplayMode mode, PixelPoint last_tile, GridSlots slots) {
-  if (mode == DisplayMode::MapUtm) return DrawMapGrid(surface, view, last_tile);
-  if (mode == DisplayMode::Geographic) return DrawGeographicGrid(surface, view);
+              DisplayMode mode, PixelPoint last_tile, GridSlots slots, GridLabels& taken) {
+  if (mode == DisplayMode::MapUtm) return DrawMapGrid(surface, view, last_tile, taken);
+  if (mode == DisplayMode::Geographic) return DrawGeographicGrid(surface, view, taken);
+  const GridEdges edges{slots, taken};
   // The centre in the strips in use. The read-outs' own values are theirs.
   CoordinateValues centre = values;
   GridToGeo(centre, view, view.CentreNorthKm, view.CentreEastKm);
   GeoToAllGrids(centre);
-  if (mode == DisplayMode::GaussKrueger) DrawGaussKruegerGrid(surface, view, centre, slots);
-  if (mode == DisplayMode::UtmByPosition) DrawUtmGrid(surface, view, centre, slots);
-  if (mode == DisplayMode::Rt90) DrawRt90Grid(surface, view, centre, slots);
+  if (mode == DisplayMode::GaussKrueger) DrawGaussKruegerGrid(surface, view, centre, edges);
+  if (mode == DisplayMode::UtmByPosition) DrawUtmGrid(surface, view, centre, edges);
+  if (mode == DisplayMode::Rt90) DrawRt90Grid(surface, view, centre, edges);
 }
 
 void GridLayer(DrawingSurface& surface, const MapViewState& view, const CoordinateValues& values,
-               DisplayMode mode, PixelPoint last_tile) {
+               DisplayMode mode, PixelPoint last_tile, GridLabels& taken) {
   const auto shown = ShownSystems(view);
   if (!shown[static_cast<std::size_t>(mode)]) return;
-  DrawGrid(surface, view, values, mode, last_tile, SlotsAmong(shown, mode));
+  DrawGrid(surface, view, values, mode, last_tile, SlotsAmong(shown, mode), taken);
 }
 
 }  // namespace zepril

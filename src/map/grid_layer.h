@@ -25,13 +25,14 @@ namespace zepril {
 
 // Draws the grid of `mode` if the centre, the cursor or the station read-out shows that system.
 // `values`: the strips chosen last. `last_tile`: pixel corner of the last tile drawn, where the
-// grid of the map's own zone is anchored.
+// grid of the map's own zone is anchored. `taken`: the places of labels, of this grid and of those
+// drawn before it into the same picture.
 void GridLayer(DrawingSurface& surface, const MapViewState& view, const CoordinateValues& values,
-               DisplayMode mode, PixelPoint last_tile);
+               DisplayMode mode, PixelPoint last_tile, GridLabels& taken);
 
 // The same grid whatever the read-outs show. `slots`: where its labels stand at the edges.
 void DrawGrid(DrawingSurface& surface, const MapViewState& view, const CoordinateValues& values,
-              DisplayMode mode, PixelPoint last_tile, GridSlots slots);
+              DisplayMode mode, PixelPoint last_tile, GridSlots slots, GridLabels& taken);
 
 // Labels at the left edge belong to all but the geographic grid, those at the upper one to the
 // grids of other systems than the map's. Grids that are shown together stand side by side.

@@ -20,6 +20,12 @@ constexpr double kLabelGap = 4.0;     // to the right of a vertical line
 constexpr double kSlotWidth = 72.0;   // of a label and its margins
 constexpr double kLabelMargin = 2.0;  // from the left and right edge
 
+constexpr int kRim = 1;  // pixels around a label
+
+int WidthOf(std::size_t characters) {
+  return kCharacterPixels * static_cast<int>(characters);
+}
+
 // Where a piece of a line crosses the vertical x = `at`: its y.
 std::optional<double> CrossingY(const PixelLine& piece, double at) {
   const double x1 = piece.From.X - at;
@@ -67,17 +73,21 @@ void GridPainter::Segment(PixelPoint from, PixelPoint to) {
 void GridPainter::Label(double x, double y, const std::string& text) {
   const PixelPoint at{DrawPixel(x), DrawPixel(y)};
   const bool inside = at.X >= 0 && at.X < surface_.Width() && at.Y >= 0 && at.Y < surface_.Height();
-  if (inside && IsFree(at.X, at.Y, text.size())) labels_.push_back({at.X, at.Y, text});
+  if (!inside) return;
+  const int last_x = surface_.Width() - kRim - WidthOf(text.size());
+  const int held_x = std::max(std::min(at.X, last_x), kRim);
+  const int held_y = std::max(at.Y, kRim);
+  if (taken_.Take(held_x, held_y, text.size())) labels_.push_back({held_x, held_y, text});
 }
 
-bool GridPainter::IsFree(int x, int y, std::size_t length) const {
-  const auto width = [](std::size_t characters) {
-    return kCharacterPixels * static_cast<int>(characters);
-  };
-  return std::none_of(labels_.begin(), labels_.end(), [&](const LabelText& other) {
-    return x < other.X + width(other.Text.size()) && other.X < x + width(length) &&
+bool GridLabels::Take(int x, int y, std::size_t length) {
+  const int width = WidthOf(length);
+  const bool free = std::none_of(taken_.begin(), taken_.end(), [&](const Cell& other) {
+    return x < other.X + other.Width && other.X < x + width &&
            std::abs(y - other.Y) < static_cast<int>(kLabelHeight);
   });
+  if (free) taken_.push_back({x, y, width});
+  return free;
 }
 
 bool GridPainter::Joined(const GridPoint& a, const GridPoint& b, GridJoin join) const {

@@ -42,11 +42,29 @@ struct GridSlots {
   int Top = 0;
 };
 
+// The places that labels have taken, those of all grids of one picture: whoever comes later gives
+// way.
+class GridLabels {
+ public:
+  // The cell of a label of `length` characters with its top left there; false when one is in the
+  // way.
+  bool Take(int x, int y, std::size_t length);
+  void Clear() { taken_.clear(); }
+
+ private:
+  struct Cell {
+    int X;
+    int Y;
+    int Width;
+  };
+  std::vector<Cell> taken_;
+};
+
 class GridPainter {
  public:
-  GridPainter(DrawingSurface& surface, const MapViewState& view, Colour colour,
+  GridPainter(DrawingSurface& surface, const MapViewState& view, Colour colour, GridLabels& taken,
               GridSlots slots = {})
-      : surface_(surface), view_(view), colour_(colour), slots_(slots) {}
+      : surface_(surface), view_(view), colour_(colour), taken_(taken), slots_(slots) {}
   // Draws what was collected: the lines in one go, then the labels, on a black rim so that pale
   // colours can be read on a pale map.
   ~GridPainter();
@@ -54,8 +72,8 @@ class GridPainter {
   GridPainter& operator=(const GridPainter&) = delete;
 
   void Segment(PixelPoint from, PixelPoint to);
-  // A label with its cell's top left there, if that is inside the window and no other label of this
-  // grid is in the way.
+  // A label with its cell's top left there, if that is inside the window and no other label is in
+  // the way. One that would lose its end or its rim at the window's edge is moved in.
   void Label(double x, double y, const std::string& text);
   // A whole line through points, with its label.
   void Line(std::span<const GridPoint> points, GridJoin join, GridEdge edge,
@@ -68,7 +86,6 @@ class GridPainter {
     std::string Text;
   };
   bool Joined(const GridPoint& a, const GridPoint& b, GridJoin join) const;
-  bool IsFree(int x, int y, std::size_t length) const;
   bool LabelUpright(GridEdge edge, const std::string& label);
   bool LabelLevel(GridEdge edge, const std::string& label);
   bool LabelAt(GridEdge edge, const std::string& label);
@@ -76,6 +93,7 @@ class GridPainter {
   DrawingSurface& surface_;
   const MapViewState& view_;
   Colour colour_;
+  GridLabels& taken_;
   GridSlots slots_;
   std::vector<PixelLine> segments_;
   std::vector<PixelLine> line_;  // the joined pieces of the line at hand

@@ -25,7 +25,9 @@ PropagationInputs InputsOfNow(const InternetState& internet, int utc_offset_hour
 
 void MapOverlays::GridLayer(DrawingSurface& surface, const MapViewState& view, DisplayMode mode,
                             PixelPoint last_tile) {
-  zepril::GridLayer(surface, view, strips_, mode, last_tile);
+  // The grids of a picture follow one another from the first.
+  if (mode == DisplayMode::MapUtm) grid_labels_.Clear();
+  zepril::GridLayer(surface, view, strips_, mode, last_tile, grid_labels_);
 }
 
 void MapOverlays::CirclesLayer(DrawingSurface& surface, const MapViewState& view) {

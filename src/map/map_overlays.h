@@ -7,6 +7,7 @@
 #include "core/state/places.h"
 #include "core/state/settings.h"
 #include "map/coordinate_values.h"
+#include "map/grid_lines.h"
 #include "map/overlay_layers.h"
 #include "map/propagation_estimate.h"
 #include "platform/clock.h"
@@ -41,6 +42,7 @@ class MapOverlays final : public OverlayLayers {
   OverlaySections sections_;
   const CoordinateValues& strips_;
   const Clock& clock_;
+  GridLabels grid_labels_;
 };
 
 // Month and time of the estimate: UTC is the local hour less the offset, within 0 to 24.

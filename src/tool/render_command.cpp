@@ -80,8 +80,9 @@ class RenderLayers final : public OverlayLayers {
 
   void GridLayer(DrawingSurface& surface, const MapViewState& view, DisplayMode mode,
                  PixelPoint last_tile) override {
+    if (mode == DisplayMode::MapUtm) grid_labels_.Clear();
     if (!grids_[static_cast<std::size_t>(mode)]) return;
-    DrawGrid(surface, view, strips_, mode, last_tile, SlotsAmong(grids_, mode));
+    DrawGrid(surface, view, strips_, mode, last_tile, SlotsAmong(grids_, mode), grid_labels_);
   }
   void CirclesLayer(DrawingSurface& surface, const MapViewState& view) override {
     layers_.CirclesLayer(surface, view);
@@ -97,6 +98,7 @@ class RenderLayers final : public OverlayLayers {
   }
 
  private:
+  GridLabels grid_labels_;
   MapOverlays& layers_;
   const CoordinateValues& strips_;
   const std::array<bool, kDisplayModes>& grids_;
@@ -127,6 +129,7 @@ void ReadSettings(Files& files, RuntimeState& state, const std::string& folder) 
   } else {
     state.Identity.MapsPath = folder + "\\" + state.Identity.MapZoneName;
   }
+  TakeZone(state.Identity, state.Map);
 }
 
 bool ReadRecords(const Files& files, RuntimeState& state, const std::string& path) {
