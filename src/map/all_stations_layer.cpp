@@ -16,7 +16,8 @@
 namespace zepril {
 namespace {
 
-constexpr int kMarkReachPx = 1900;  // beyond it a station gets neither mark nor label
+// Beyond this, or the window where that is larger, a station gets neither mark nor label.
+constexpr double kMarkReachPx = 1900.0;
 constexpr int kLastPlainNameCode = 96;
 constexpr std::int64_t kFullGreyMinutes = 255;
 
@@ -34,14 +35,21 @@ class StationPainter {
  public:
   StationPainter(DrawingSurface& surface, const MapViewState& view, const SymbolTable& table,
                  SymbolSheets& sheets, const LocalTime& now)
-      : surface_(surface), view_(view), table_(table), sheets_(sheets), now_(now),
+      : surface_(surface),
+        view_(view),
+        table_(table),
+        sheets_(sheets),
+        now_(now),
         lines_(surface) {}
 
   void Draw(const StationTrail& trail, const StationStore& store) {
     const auto station = Walk(trail, store);
     lines_.Flush();
     if (!station || station->Last == nullptr || trail.Call.empty()) return;
-    if (std::abs(station->At.X) >= kMarkReachPx || std::abs(station->At.Y) >= kMarkReachPx) return;
+    if (std::abs(station->At.X) >= std::max(kMarkReachPx, view_.ViewWidthPx) ||
+        std::abs(station->At.Y) >= std::max(kMarkReachPx, view_.ViewHeightPx)) {
+      return;
+    }
     if (view_.MovedOnly && station->Class == 0 && !station->Moved) return;
     if (view_.StationLabelLevel <= 3) {
       DrawMark(*station);
@@ -71,8 +79,8 @@ class StationPainter {
         station.Class = table_.ClassDigit(SymbolIndexOf(record.Symbol()));
         if (!ClassIsShown(view_.StationClassMask, station.Class)) return std::nullopt;
       } else {
-        const bool moved = record.NorthText() != before->NorthText() ||
-                           record.EastText() != before->EastText();
+        const bool moved =
+            record.NorthText() != before->NorthText() || record.EastText() != before->EastText();
         station.Moved = station.Moved || moved;
         const bool still = view_.MovedOnly && station.Class == 0 && !moved;
         if (record.ObjectMark() != '_' && !still) DrawSegment(station.At, at, station);
@@ -191,14 +199,15 @@ std::vector<StationTrail> TrailsOfStore(const StationStore& store) {
     }
     trails[known->second].Records.push_back(index);
   }
-  for (StationTrail& trail : trails) std::reverse(trail.Records.begin(), trail.Records.end());
+  for (StationTrail& trail : trails)
+    std::reverse(trail.Records.begin(), trail.Records.end());
   std::reverse(trails.begin(), trails.end());
   return trails;
 }
 
 void AllStationsDraw(DrawingSurface& surface, const MapViewState& view, const StationStore& store,
-                     std::string_view followed_call, const SymbolTable& table,
-                     SymbolSheets& sheets, const LocalTime& now) {
+                     std::string_view followed_call, const SymbolTable& table, SymbolSheets& sheets,
+                     const LocalTime& now) {
   StationPainter painter(surface, view, table, sheets, now);
   for (const StationTrail& trail : TrailsOfStore(store)) {
     // The followed station has a layer of its own.

@@ -21,6 +21,9 @@ constexpr int kLastMarkOnly = 6;
 constexpr std::ptrdiff_t kCallWidth = 9;
 constexpr int kPointMarkRadius = 6;
 constexpr int kOwnMarkReach = 15;
+// Around the gauge, which hides the mark and reaches 14 pixels; its arrow begins at 21.
+constexpr int kGaugeRingInside = 14;
+constexpr int kGaugeRingReach = 18;
 constexpr std::array<std::string_view, 5> kPersonSymbols{"/,", "/C", "/[", "/b", "\\,"};
 
 bool IsPerson(std::string_view symbol) {
@@ -61,7 +64,8 @@ void DrawTrack(DrawingSurface& surface, const MapViewState& view, const TrackLoo
   }
 }
 
-// The plan of the other stations with bigger rings: black inside, a ring in the colour, a black rim.
+// The plan of the other stations with bigger rings: black inside, a ring in the colour, a black
+// rim.
 void DrawOwnMark(DrawingSurface& surface, int x, int y, int station_class, Colour c) {
   switch (static_cast<StationClass>(station_class)) {
     case StationClass::Moving:
@@ -94,7 +98,10 @@ void DrawStation(DrawingSurface& surface, const MapViewState& view, const Statio
   const int index = SymbolIndexOf(last.Symbol());
   const int station_class = table.ClassDigit(index);
   DrawOwnMark(surface, x, y, station_class, colour);
-  if (view.WxCaption && station_class == static_cast<int>(StationClass::Weather)) {
+  const bool gauge = view.WxCaption && station_class == static_cast<int>(StationClass::Weather);
+  if (gauge) {
+    DrawCircleRing(surface, x, y, kGaugeRingInside,
+                   {15, 17, kGaugeRingReach, kBlack, colour, kBlack});
     WxGaugeDraw(surface, x, y, last);
   }
   // Levels with bitmap symbols: the symbol lies inside the ring.
@@ -107,8 +114,17 @@ void DrawStation(DrawingSurface& surface, const MapViewState& view, const Statio
   // The label of the level, clear of the rings, black on the colour of the track.
   const LabelForm form = LabelFormOf(view.StationLabelLevel);
   if (form == LabelForm::None) return;
-  DrawLabel(surface, x + kOwnMarkReach + 2, y,
-            form == LabelForm::Long ? LongLabel(last) : std::string(call), colour, kBlack);
+  const int left = x + (gauge ? kGaugeRingReach : kOwnMarkReach) + 2;
+  const std::string text = form == LabelForm::Long ? LongLabel(last) : std::string(call);
+  DrawLabel(surface, left, y, text, colour, kBlack);
+  if (view.StationLabelLevel <= 3 && last.MessageMark() == '\'') {
+    surface.Box(x - 1, y - 1, x + 1, y + 1, kMessageDotColour);
+  }
+  // The station that was looked for.
+  if (!EqualFolded(Trim(call), Trim(view.FindCall))) return;
+  DrawLabel(surface, left, y,
+            form == LabelForm::Long ? text : "! " + std::string(Trim(call)) + " !", kFindColour,
+            kBlack);
 }
 
 // The newest record that is not blank.

@@ -27,12 +27,15 @@ struct MarkRings {
 void DrawDiamondMark(DrawingSurface& surface, int x, int y, const MarkRings& rings);
 void DrawSquareMark(DrawingSurface& surface, int x, int y, const MarkRings& rings);
 void DrawCircleMark(DrawingSurface& surface, int x, int y, const MarkRings& rings);
+// Only the rings of a radius over `inside`.
+void DrawCircleRing(DrawingSurface& surface, int x, int y, int inside, const MarkRings& rings);
 
 // How much a label tells, by the label level.
 enum class LabelForm { None, Short, Long };
 LabelForm LabelFormOf(int level);
 
-// "HHMM comment symbol name" and the call behind a blank, or behind "_" for a record with that mark.
+// "HHMM comment symbol name" and the call behind a blank, or behind "_" for a record with that
+// mark.
 std::string LongLabel(const StationRecord& record);
 
 // A label in the fixed font (8 pixels a character): a filled box from (left, y - 7) on and the text

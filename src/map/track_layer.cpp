@@ -71,6 +71,8 @@ class TrackPainter {
     // What stands still was painted with the segment before.
     if (from == to && painted_ && painted_colour_ == colour) return;
     lines_.SideLines(from, to, colour);
+    // The middle too, or a slanting line has holes.
+    lines_.Line(from.X, from.Y, to.X, to.Y, colour);
     painted_ = true;
     painted_colour_ = colour;
     if (++waiting_ < kSegmentsAtOnce) return;

@@ -96,6 +96,26 @@ TEST(AllStationsDraw, AWeatherStationIsACircleWithABar) {
   EXPECT_THAT(world.Surface.Of("line"), ElementsAre(Line(96, 200, 104, 200, 0xFFFFFF)));
 }
 
+// The colour that the last operation over a pixel gave it, among filled rows and circles.
+bool IsFilledAt(const RecorderSurface& surface, int x, int y) {
+  const auto rows = surface.Of("filled");
+  return std::any_of(rows.begin(), rows.end(), [&](const Operation& row) {
+    return x >= row.X1 && x <= row.X2 && y >= row.Y1 && y <= row.Y2;
+  });
+}
+
+TEST(AllStationsDraw, CircleMarksHaveNoHoles) {
+  StationWorld world;
+  world.Hear(StationWorld::At(100, 200, "WX", "/_"));
+  world.Draw(1);
+  for (int dy = -6; dy <= 6; ++dy) {
+    for (int dx = -6; dx <= 6; ++dx) {
+      const bool inside = std::lround(std::hypot(dx, dy)) <= 6;
+      EXPECT_EQ(IsFilledAt(world.Surface, 100 + dx, 200 + dy), inside) << dx << " " << dy;
+    }
+  }
+}
+
 TEST(AllStationsDraw, TheCoreGreysWithAgeAtLevelOneOnly) {
   const auto core_at = [](const std::string& stamp, int level) {
     StationWorld world;  // the clock stands at 2024-01-15 12:34
@@ -267,6 +287,19 @@ TEST(AllStationsDraw, TheOneHeardLastLiesOnTopAndTheFollowedOneIsNotDrawn) {
   EXPECT_EQ(labels[1].Words, "FIRST");
 }
 
+TEST(AllStationsDraw, ALargerWindowIsDrawnToItsEdge) {
+  StationWorld world;
+  world.View().ViewWidthPx = 3840;
+  world.Hear(StationWorld::At(1900, 100, "PAST", "/-"));
+  world.Hear(StationWorld::At(3839, 100, "EDGE", "/-"));
+  world.Hear(StationWorld::At(3840, 100, "BEYOND", "/-"));
+  world.Draw(2);
+  std::vector<std::string> labels;
+  for (const Operation& text : world.Surface.Of("text"))
+    labels.push_back(text.Words);
+  EXPECT_THAT(labels, ElementsAre("PAST", "EDGE"));
+}
+
 TEST(AllStationsDraw, APixelOf1900IsTooFarForMarkAndLabel) {
   StationWorld world;
   world.Hear(StationWorld::At(1899, 100, "NEAR", "/-"));
@@ -427,6 +460,15 @@ struct FollowedWorld : StationWorld {
     Follow(maker);
     View().StationAnchorX = x;
     View().StationAnchorY = y;
+  }
+  void AddMessageCapable(int x, int y) {
+    RecordMaker maker = At(x, y, "QX7KB");
+    maker.Message = '\'';
+    Follow(maker);
+  }
+  void AddWeather(int x, int y) {
+    Add(x, y);
+    Follow(At(x, y, "QX7KB", "/_"));
   }
 };
 
@@ -597,6 +639,65 @@ TEST(Moni1Draw, TheLabelFollowsTheLevel) {
   world.View().StationLabelLevel = 1;
   world.DrawFollowed();
   EXPECT_TRUE(world.Surface.Of("text").empty());
+}
+
+TEST(Moni1Draw, FindRepeatsTheLabelInItsOwnColour) {
+  FollowedWorld world;
+  world.Add(300, 200);
+  world.View().FindCall = "QX7KB";
+  world.View().StationLabelLevel = 2;
+  world.DrawFollowed();
+  EXPECT_THAT(world.Surface.Of("text"),
+              ElementsAre(Words(317, 191, "QX7KB", kBlack), Words(317, 191, "! QX7KB !", kBlack)));
+  EXPECT_EQ(world.Surface.Of("filled").back(), Filled(317, 193, 317 + 9 * 8, 205, 0x0080FF));
+  world.View().StationLabelLevel = 3;
+  world.DrawFollowed();
+  EXPECT_EQ(world.Surface.Of("text")[1].Words, "1234 Test />  QX7KB");
+  world.View().FindCall = "QX1AB";
+  world.DrawFollowed();
+  EXPECT_EQ(world.Surface.Of("text").size(), 1u);
+}
+
+TEST(Moni1Draw, AMessageCapableStationHasTheGreenPoint) {
+  FollowedWorld world;
+  world.Add(300, 200);
+  const auto has_point = [&world](int level) {
+    world.View().StationLabelLevel = level;
+    world.DrawFollowed();
+    for (const Operation& box : world.Surface.Of("box")) {
+      if (box.X1 == 299 && box.Y1 == 199 && box.X2 == 301 && box.Ink == kMessageDotColour) {
+        return true;
+      }
+    }
+    return false;
+  };
+  EXPECT_FALSE(has_point(2));
+  world.AddMessageCapable(300, 200);
+  EXPECT_TRUE(has_point(2));
+  EXPECT_TRUE(has_point(3));
+  EXPECT_FALSE(has_point(4));  // the bitmap symbol stands there
+}
+
+TEST(Moni1Draw, AroundTheGaugeTheStationKeepsARing) {
+  FollowedWorld world;
+  world.AddWeather(300, 200);
+  world.View().StationLabelLevel = 1;
+  world.View().WxCaption = true;
+  world.DrawFollowed();
+  const auto circles = world.Surface.Of("circle");
+  const auto of_radius = [&circles](int radius) {
+    for (const Operation& circle : circles) {
+      if (circle.X2 == radius && circle.Ink == ColourTrackRecent) return true;
+    }
+    return false;
+  };
+  EXPECT_TRUE(of_radius(16));
+  EXPECT_TRUE(of_radius(17));
+  EXPECT_TRUE(IsFilledAt(world.Surface, 300 + 16, 200));
+  // Without the gauge the mark itself is seen.
+  world.View().WxCaption = false;
+  world.DrawFollowed();
+  EXPECT_EQ(world.Surface.Of("circle").size(), 14u);
 }
 
 // ---- Symbols and ages -----------------------------------------------------------------------

@@ -19,7 +19,7 @@ namespace {
 constexpr int kWidth = 320;
 constexpr int kHeight = 200;
 
-// Every segment, each as four lines.
+// Every segment, each as five lines.
 void EverySegment(DrawingSurface& surface, const MapViewState& view, const PointList& track) {
   bool has_last = false;
   PixelPoint last;
@@ -34,6 +34,7 @@ void EverySegment(DrawingSurface& surface, const MapViewState& view, const Point
       surface.Line(last.X + 1, last.Y, at.X + 1, at.Y, colour);
       surface.Line(last.X, last.Y - 1, at.X, at.Y - 1, colour);
       surface.Line(last.X, last.Y + 1, at.X, at.Y + 1, colour);
+      surface.Line(last.X, last.Y, at.X, at.Y, colour);
     }
     has_last = !broken;
     last = at;
