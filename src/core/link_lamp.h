@@ -1,19 +1,32 @@
-// The lamp beside the status line: does the radio link bring data?
+// The lamp beside the status line, and the word with it: does the radio link bring data?
 #pragma once
 
 #include <string>
 
 namespace zepril {
 
-enum class LampState { Data, Silent, Lost, None };
+enum class LampState { Data, Silent, Lost, None, Paused };
+
+// Times on the monotonic clock, in seconds; below 0 where nothing has happened yet.
+struct LampFacts {
+  bool HasLink = true;
+  bool Up = true;
+  bool Paused = false;  // a panel holds the main cycle: what comes in waits
+  double LastDataSeconds = -1.0;
+  double LostSinceSeconds = -1.0;
+  double NowSeconds = 0.0;
+};
 
 struct LinkLamp {
   LampState State = LampState::None;
+  std::string Words;  // "LOST 34 s", "paused"; empty where the lamp says enough
   std::string ToolTip;
 };
 
-// `up`: the link stands. `last_data_seconds` and `now_seconds` on the monotonic clock; the former
-// is below 0 when nothing has come yet. Data within 60 s lights the lamp.
-LinkLamp LampOf(bool has_link, bool up, double last_data_seconds, double now_seconds);
+// Data within 60 s lights the lamp.
+LinkLamp LampOf(const LampFacts& facts);
+
+// "34 s", "12 min", "3 h": the largest unit that is full, cut.
+std::string AgeText(double seconds);
 
 }  // namespace zepril

@@ -21,14 +21,19 @@ AgwLink::AgwLink(RadioState& radio, const IdentityState& identity,
     : radio_(radio),
       identity_(identity),
       transmission_(transmission),
-      winsock1_(winsock1),
       clock_(clock),
       dialogs_(dialogs),
       program_(program),
-      reopen_timer_(reopen_timer),
-      stream_([this](std::string_view frame) { FrameArrived(frame); }) {
-  winsock1_.DataArrived = [this](std::string_view bytes) { stream_.Feed(bytes); };
-  reopen_timer_.Elapsed = [this] { ReopenElapsed(); };
+      connection_(winsock1, clock, reopen_timer) {
+  connection_.Frame = [this](std::string_view frame) { FrameArrived(frame); };
+  connection_.Greet = [this] {
+    connection_.Send(RegisterFrame());
+    connection_.Send(MonitorFrame());
+  };
+  connection_.Changed = [this] {
+    radio_.AgwConnected = connection_.IsUp() ? 1 : 0;
+    if (LinkChanged) LinkChanged();
+  };
 }
 
 std::string AgwLink::RegisterFrame() const {
@@ -40,16 +45,21 @@ std::string AgwLink::MonitorFrame() const {
 }
 
 void AgwLink::BeginConnection() {
-  winsock1_.Close();
-  stream_.Reset();
   radio_.AgwConnected = 0;
-  winsock1_.Connect(radio_.AgwHost,
-                    static_cast<int>(WholeVal(radio_.AgwTcpPort, 0, 65535).value_or(0)));
+  connection_.Connect(radio_.AgwHost,
+                      static_cast<int>(WholeVal(radio_.AgwTcpPort, 0, 65535).value_or(0)));
 }
 
 bool AgwLink::Fail(const char* text) {
   dialogs_.Tell(kBoxTitle, text);
-  winsock1_.Close();
+  connection_.Close();
+  program_.EndProgram();
+  return false;
+}
+
+// The operator wants to end: nothing is told, what has begun is left.
+bool AgwLink::GiveUp() {
+  connection_.Close();
   program_.EndProgram();
   return false;
 }
@@ -63,24 +73,25 @@ bool AgwLink::ConnectAgw() {
   BeginConnection();
   // Until the socket says how it went; the platform ends a silent attempt in an error. A host that
   // takes the connection and hangs up at once is none.
-  while (winsock1_.State() == SocketState::Connecting)
+  while (connection_.State() == SocketState::Connecting && !clock_.EndAsked())
     clock_.HandOver();
-  if (winsock1_.State() != SocketState::Connected) return Fail(kHostNotFound);
+  if (clock_.EndAsked()) return GiveUp();
+  if (connection_.State() != SocketState::Connected) return Fail(kHostNotFound);
   // The call is registered; the engine answers with a byte.
   radio_.AgwFrame.clear();
-  winsock1_.Send(RegisterFrame());
+  connection_.Send(RegisterFrame());
   const double start = clock_.MonotonicSeconds();
-  while (!Registered() && clock_.MonotonicSeconds() - start < kReplySeconds)
+  while (!Registered() && clock_.MonotonicSeconds() - start < kReplySeconds && !clock_.EndAsked())
     clock_.HandOver();
+  if (clock_.EndAsked()) return GiveUp();
   if (radio_.AgwFrame.size() != kReplyLength || radio_.AgwFrame[kReplyLength - 1] != 1) {
     return Fail(kEngineNotFound);
   }
   // Monitoring on.
   radio_.AgwConnected = 1;
   radio_.AgwRxBuffer.clear();
-  winsock1_.Send(MonitorFrame());
-  started_ = true;
-  reopen_timer_.Arm(kReopenMilliseconds);
+  connection_.Send(MonitorFrame());
+  connection_.Watch(true);
   return true;
 }
 
@@ -93,45 +104,28 @@ void AgwLink::FrameArrived(std::string_view frame) {
 }
 
 bool AgwLink::LinkIsUp() const {
-  return radio_.AgwConnected == 1 && winsock1_.State() == SocketState::Connected;
-}
-
-void AgwLink::ReopenElapsed() {
-  if (!started_) return;
-  if (winsock1_.State() == SocketState::Connected) {
-    if (reopening_) {
-      // The socket is back: register and monitor as at start.
-      reopening_ = false;
-      winsock1_.Send(RegisterFrame());
-      winsock1_.Send(MonitorFrame());
-      radio_.AgwConnected = 1;
-    }
-    return;
-  }
-  reopening_ = true;
-  BeginConnection();
+  return radio_.AgwConnected == 1 && connection_.State() == SocketState::Connected;
 }
 
 void AgwLink::DisconnectAgw() {
-  reopen_timer_.Stop();
-  started_ = false;
-  if (winsock1_.State() == SocketState::Connected) {
-    winsock1_.Send(MakeAgwFrame(radio_.AgwPort, 'x', identity_.MyCallFull, "APRS", {}));
+  if (connection_.State() == SocketState::Connected) {
+    connection_.Send(MakeAgwFrame(radio_.AgwPort, 'x', identity_.MyCallFull, "APRS", {}));
     clock_.WaitPumping(1.0);
   }
-  winsock1_.Close();
+  connection_.Close();
   radio_.AgwConnected = 0;
 }
 
-void AgwLink::SendAgwUnproto() {
+bool AgwLink::SendAgwUnproto() {
   // A lost link is told by the lamp until it is opened again: a box would hold up a station that
   // nobody sits at.
-  if (radio_.AgwConnected != 1 || winsock1_.State() != SocketState::Connected) return;
+  if (!LinkIsUp() || !connection_.Answers()) return false;
   radio_.AgwPort = AgwPortOf(radio_.BaudMode, radio_.AgwPort);
   const std::string data = AgwUnprotoData(transmission_.TxPath, transmission_.AgwTxText);
-  const bool sent = winsock1_.Send(
+  const bool sent = connection_.Send(
       MakeAgwFrame(radio_.AgwPort, 'V', identity_.MyCallFull, transmission_.TxDestination, data));
   if (!sent) dialogs_.Tell(kBoxTitle, kSendFailed);
+  return sent;
 }
 
 }  // namespace zepril

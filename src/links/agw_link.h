@@ -1,10 +1,11 @@
 // The packet engine on another computer, over TCP/IP (`RadioMode` 3).
 //
 // At start a link that does not come up ends the program, after a box that says why. Later a link
-// that was lost is opened again quietly every ten seconds, by a timer of its own: registration and
-// monitoring are asked for anew, no box appears.
+// that was lost is opened again quietly every ten seconds (`links/agw_connection`): registration
+// and monitoring are asked for anew, no box appears.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "core/actions/program_actions.h"
@@ -12,15 +13,12 @@
 #include "core/state/radio.h"
 #include "core/state/transmission.h"
 #include "core/timer.h"
-#include "links/agw_stream.h"
+#include "links/agw_connection.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/tcp_socket.h"
 
 namespace zepril {
-
-// Milliseconds between two attempts to open a lost link.
-inline constexpr int kReopenMilliseconds = 10000;
 
 class AgwLink {
  public:
@@ -31,14 +29,17 @@ class AgwLink {
   // Connects, registers the call, switches monitoring on. False after a box that ended the program.
   bool ConnectAgw();
   void DisconnectAgw();
-  // Sends `AgwTxText` to `TxDestination` by way of `TxPath`; nothing when not connected.
-  void SendAgwUnproto();
+  // Sends `AgwTxText` to `TxDestination` by way of `TxPath`. False when nothing was handed over:
+  // the link is lost, or the engine gives no sign of life. Such a frame is not kept for later.
+  bool SendAgwUnproto();
+  // The transmitter was switched off: what has not left is dropped.
+  void DropUnsent() { connection_.DropUnsent(); }
 
   // One whole frame of the engine.
   void FrameArrived(std::string_view frame);
-  // The re-open timer has fired.
-  void ReopenElapsed();
   bool LinkIsUp() const;
+  // The link was lost, or is back; may be empty.
+  std::function<void()> LinkChanged;
 
  private:
   void BeginConnection();
@@ -46,18 +47,15 @@ class AgwLink {
   std::string MonitorFrame() const;
   bool Registered() const;
   bool Fail(const char* text);
+  bool GiveUp();
 
   RadioState& radio_;
   const IdentityState& identity_;
   const TransmissionState& transmission_;
-  TcpSocket& winsock1_;
   Clock& clock_;
   Dialogs& dialogs_;
   ProgramActions& program_;
-  Timer& reopen_timer_;
-  AgwStream stream_;
-  bool started_ = false;    // the first connection stood
-  bool reopening_ = false;  // registration of a re-opened link has not been sent yet
+  AgwConnection connection_;
 };
 
 }  // namespace zepril

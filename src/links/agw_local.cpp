@@ -2,38 +2,32 @@
 
 #include "core/text_fields.h"
 #include "links/agw_frame.h"
-#include "links/agw_link.h"
 
 namespace zepril {
 
 AgwLocal::AgwLocal(RadioState& radio, TcpSocket& socket, Clock& clock, Timer& reopen_timer)
-    : radio_(radio),
-      socket_(socket),
-      clock_(clock),
-      reopen_timer_(reopen_timer),
-      stream_([this](std::string_view frame) { FrameArrived(frame); }) {}
-
-bool AgwLocal::AGWStartPoll(std::string_view /*application*/, std::string_view call) {
-  socket_.DataArrived = [this](std::string_view bytes) { stream_.Feed(bytes); };
-  reopen_timer_.Elapsed = [this] { ReopenElapsed(); };
-  call_ = call;
-  opened_ = true;
-  registered_ = false;
-  stream_.Reset();
-  socket_.Close();
-  socket_.Connect("127.0.0.1", port_);
-  while (socket_.State() == SocketState::Connecting)
-    clock_.HandOver();
-  reopen_timer_.Arm(kReopenMilliseconds);
-  if (socket_.State() != SocketState::Connected) return false;
-  Register();
-  return true;
+    : radio_(radio), clock_(clock), connection_(socket, clock, reopen_timer) {
+  connection_.Frame = [this](std::string_view frame) { FrameArrived(frame); };
+  connection_.Greet = [this] { Greet(); };
+  connection_.Changed = [this] {
+    if (LinkChanged) LinkChanged();
+  };
 }
 
-void AgwLocal::Register() {
-  socket_.Send(MakeAgwFrame(radio_.AgwPort, 'X', call_, "APRS", {}));
-  socket_.Send(MakeAgwFrame(radio_.AgwPort, 'm', call_, "APRS", {}));
-  registered_ = true;
+bool AgwLocal::AGWStartPoll(std::string_view /*application*/, std::string_view call) {
+  call_ = call;
+  connection_.Connect("127.0.0.1", port_);
+  while (connection_.State() == SocketState::Connecting && !clock_.EndAsked())
+    clock_.HandOver();
+  const bool connected = connection_.State() == SocketState::Connected;
+  connection_.Watch(connected);
+  return connected && Greet();
+}
+
+// The call is registered, monitoring switched on.
+bool AgwLocal::Greet() {
+  const bool registered = connection_.Send(MakeAgwFrame(radio_.AgwPort, 'X', call_, "APRS", {}));
+  return connection_.Send(MakeAgwFrame(radio_.AgwPort, 'm', call_, "APRS", {})) && registered;
 }
 
 void AgwLocal::FrameArrived(std::string_view frame) {
@@ -56,35 +50,22 @@ std::string AgwLocal::AGWGetData() {
 }
 
 bool AgwLocal::AGWPutData(std::string_view header, std::string_view text) {
-  if (!LinkIsUp()) return false;
+  // A frame that the engine does not take at once is not kept for later.
+  if (!LinkIsUp() || !connection_.Answers()) return false;
   const std::size_t comma = header.find(',');
   const std::string_view destination = header.substr(0, comma);
   const std::string_view path =
       comma == std::string_view::npos ? std::string_view{} : header.substr(comma + 1);
   // Port 1 for 1200 Bd, port 0 for every other speed.
-  return socket_.Send(MakeAgwFrame(AgwPortOf(radio_.BaudMode, 0), 'V', call_, destination,
-                                   AgwUnprotoData(path, text)));
+  return connection_.Send(MakeAgwFrame(AgwPortOf(radio_.BaudMode, 0), 'V', call_, destination,
+                                       AgwUnprotoData(path, text)));
 }
 
 void AgwLocal::AGWClose() {
-  reopen_timer_.Stop();
-  if (opened_ && LinkIsUp()) {
-    socket_.Send(MakeAgwFrame(radio_.AgwPort, 'x', call_, "APRS", {}));
+  if (connection_.IsUp()) {
+    connection_.Send(MakeAgwFrame(radio_.AgwPort, 'x', call_, "APRS", {}));
   }
-  opened_ = false;
-  socket_.Close();
-}
-
-void AgwLocal::ReopenElapsed() {
-  if (!opened_) return;
-  if (LinkIsUp()) {
-    if (!registered_) Register();
-    return;
-  }
-  registered_ = false;
-  stream_.Reset();
-  socket_.Close();
-  socket_.Connect("127.0.0.1", port_);
+  connection_.Close();
 }
 
 }  // namespace zepril

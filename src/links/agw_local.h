@@ -4,11 +4,12 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 
 #include "core/state/radio.h"
 #include "core/timer.h"
-#include "links/agw_stream.h"
+#include "links/agw_connection.h"
 #include "platform/clock.h"
 #include "platform/monitor_engine.h"
 #include "platform/tcp_socket.h"
@@ -28,25 +29,24 @@ class AgwLocal final : public MonitorEngine {
   bool AGWPutData(std::string_view header, std::string_view text) override;
   void AGWClose() override;
 
-  bool LinkIsUp() const { return socket_.State() == SocketState::Connected; }
-  void ReopenElapsed();
+  bool LinkIsUp() const { return connection_.IsUp(); }
+  // The link was lost, or is back; may be empty.
+  std::function<void()> LinkChanged;
+  // The transmitter was switched off: what has not left is dropped.
+  void DropUnsent() { connection_.DropUnsent(); }
   // Another port than the usual one, for engines of tests.
   void UsePort(int port) { port_ = port; }
 
  private:
-  void Register();
+  bool Greet();
   void FrameArrived(std::string_view frame);
 
   RadioState& radio_;
-  TcpSocket& socket_;
   Clock& clock_;
-  Timer& reopen_timer_;
-  AgwStream stream_;
+  AgwConnection connection_;
   std::deque<std::string> waiting_;
   std::string call_;
   int port_ = kEnginePort;
-  bool opened_ = false;
-  bool registered_ = false;
 };
 
 }  // namespace zepril

@@ -71,6 +71,11 @@ void AgwStream::Feed(std::string_view bytes) {
   pending_.erase(0, at);
 }
 
+void AgwStream::GiveUp() {
+  const std::string raw = std::exchange(pending_, {});
+  if (!raw.empty()) frame_(raw);
+}
+
 std::string WithMonitorEnding(std::string_view frame) {
   const std::string_view data = frame.substr(kAgwHeaderLength);
   if (!IsMonitorText(data)) return std::string(frame);

@@ -24,6 +24,9 @@ class AgwStream {
   explicit AgwStream(std::function<void(std::string_view frame)> frame);
 
   void Feed(std::string_view bytes);
+  // What has not become a frame is handed on raw, and the stream starts afresh: its length was a
+  // lie.
+  void GiveUp();
   // Forgets what has not become a frame; for a new connection.
   void Reset() { pending_.clear(); }
   std::size_t PendingBytes() const { return pending_.size(); }

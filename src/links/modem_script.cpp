@@ -22,7 +22,7 @@ void Drain(SerialPort& port, Clock& clock) {
 }
 
 void AwaitPrompt(SerialPort& port, Clock& clock) {
-  for (int prompts = 0; prompts < kMostPrompts; ++prompts) {
+  for (int prompts = 0; prompts < kMostPrompts && !clock.EndAsked(); ++prompts) {
     clock.Wait(kPromptSeconds);
     if (port.ReadAll().find("cmd:") == std::string::npos) return;
   }
@@ -92,6 +92,8 @@ void RunModemScript(const ModemScript& script, SerialPort& port, Clock& clock,
   const double whole = script.Seconds();
   double gone = 0.0;
   for (const ModemStep& step : script.Steps()) {
+    // The program is to end: what follows is how the modem is left, not how it is set up.
+    if (clock.EndAsked()) break;
     if (progress && whole > 0.0) progress(gone / whole);
     Carry(step, port, clock);
     gone += SecondsOfStep(step);

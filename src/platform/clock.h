@@ -31,6 +31,10 @@ class Clock {
   // Hands control to the window system once.
   virtual void HandOver() = 0;
 
+  // The operator or the system wants the program to end: whoever waits for another machine gives
+  // up.
+  virtual bool EndAsked() const { return false; }
+
   // Passes of an empty loop that the computer makes in one second, measured briefly and scaled.
   virtual std::int64_t LoopsPerSecond() = 0;
 };

@@ -157,11 +157,17 @@ void AgwServer::TakeFrames(Client& client) {
 
 void AgwServer::TakeFrame(Client& client, std::string_view frame) {
   const AgwFrameFields fields = ReadAgwHeader(frame);
+  const auto answer = [this, &client](const std::string& reply) {
+    client.Unsent += reply;
+    client.Cut = client.Unsent.size() > kMostUnsent;
+    Write(client);
+  };
   switch (fields.Kind) {
     case 'X':
-      client.Unsent += MakeAgwFrame(fields.Port, 'X', fields.From, {}, "\x01");
-      client.Cut = client.Unsent.size() > kMostUnsent;
-      Write(client);
+      answer(MakeAgwFrame(fields.Port, 'X', fields.From, {}, "\x01"));
+      break;
+    case 'R':  // its version, two numbers of 32 bits
+      answer(MakeAgwFrame(fields.Port, 'R', {}, {}, std::string("\x08\0\0\0\x08\0\0\0", 8)));
       break;
     case 'm':
       client.Monitors = true;

@@ -63,11 +63,14 @@ class LoopbackEngine {
   void Answer(const AgwFrameFields& header) {
     Monitorings += header.Kind == 'm' ? 1 : 0;
     Departures += header.Kind == 'x' ? 1 : 0;
+    if (header.Kind == 'R') Say(MakeAgwFrame(0, 'R', "", "", std::string(8, '\x08')));
     if (header.Kind != 'X') return;
     ++Registrations;
-    const std::string answer =
-        MakeAgwFrame(0, 'X', header.From, "", Refuses ? std::string(1, '\0') : "\x01");
-    client_->write(answer.data(), static_cast<qint64>(answer.size()));
+    Say(MakeAgwFrame(0, 'X', header.From, "", Refuses ? std::string(1, '\0') : "\x01"));
+  }
+
+  void Say(const std::string& frame) {
+    client_->write(frame.data(), static_cast<qint64>(frame.size()));
   }
 
   QTcpServer server_;

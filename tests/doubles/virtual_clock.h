@@ -42,6 +42,7 @@ class VirtualClock final : public Clock {
     RunEventsUntil(events_.begin()->first, true);
   }
   std::int64_t LoopsPerSecond() override { return Loops; }
+  bool EndAsked() const override { return EndIsAsked; }
 
   // Jumps to another wall clock time; the monotonic clock goes on.
   void SetNow(LocalTime now) { start_ = SecondsOf(now) - Whole(); }
@@ -79,6 +80,7 @@ class VirtualClock final : public Clock {
   std::function<void(double seconds, bool pumping)> OnWait;
   std::int64_t Loops = 3'000'000;
   int HandOvers = 0;
+  bool EndIsAsked = false;
 
  private:
   struct Driven {

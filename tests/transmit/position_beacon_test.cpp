@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "links/agw_frame.h"
 #include "tests/doubles/fake_serial.h"
 #include "tests/doubles/fake_socket.h"
 #include "tests/doubles/memory_files.h"
@@ -137,12 +138,15 @@ TEST_F(BeaconTest, TheSecondModeIsSwitchedOffForTheFrame) {
 
 TEST_F(BeaconTest, TheRemoteEngineGetsAnUnprotoFrame) {
   Use(RadioMode::AgwRemote);
-  radio.AgwConnected = 1;
-  socket.SetState(SocketState::Connected);
+  socket.OnConnect = [this] { socket.SetState(SocketState::Connected); };
+  socket.OnSend = [this](std::string_view bytes) {
+    if (bytes[4] == 'X') socket.Deliver(MakeAgwFrame(0, 'X', "QX7KB", "", "\x01"));
+  };
+  ASSERT_TRUE(link.ConnectAgw());
+  const double before = clock.MonotonicSeconds();
   beacon.SendPositionBeacon();
-  ASSERT_FALSE(socket.Sent.empty());
   EXPECT_NE(socket.Sent.back().find("=4830.15N/00805.20E> Test"), std::string::npos);
-  EXPECT_NEAR(clock.MonotonicSeconds(), 0.8, 1e-9);
+  EXPECT_NEAR(clock.MonotonicSeconds() - before, 0.8, 1e-9);
 }
 
 TEST_F(BeaconTest, WithoutARadioNothingGoesOutAndNothingIsWaitedFor) {

@@ -1,5 +1,11 @@
 #include "platform/qt/qt_socket.h"
 
+#include <linux/sockios.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
+
 #include <QHostAddress>
 #include <QNetworkProxy>
 
@@ -13,6 +19,9 @@ QtSocket::QtSocket() {
   QObject::connect(&socket_, &QTcpSocket::connected, [this] {
     patience_.stop();
     state_ = SocketState::Connected;
+    KeepAlive();
+    // A copy: the answer to the event may replace it.
+    if (const auto connected = Connected) connected();
   });
   QObject::connect(&socket_, &QTcpSocket::disconnected, [this] {
     if (state_ == SocketState::Connected) state_ = SocketState::PeerClosed;
@@ -58,6 +67,41 @@ void QtSocket::Close() {
     socket_.disconnectFromHost();
   }
   if (socket_.state() != QAbstractSocket::UnconnectedState) socket_.abort();
+}
+
+void QtSocket::Drop() {
+  state_ = SocketState::Closed;
+  // A hard end, or the system would go on delivering what it holds.
+  const linger hard{1, 0};
+  ::setsockopt(static_cast<int>(socket_.socketDescriptor()), SOL_SOCKET, SO_LINGER, &hard,
+               sizeof hard);
+  Close();
+}
+
+// Probes come only on an idle line; where bytes wait for a peer that is gone, the last of the
+// options ends the connection as soon as probes would.
+void QtSocket::KeepAlive() const {
+  const int descriptor = static_cast<int>(socket_.socketDescriptor());
+  if (descriptor < 0) return;
+  const auto set = [descriptor](int level, int option, int value) {
+    ::setsockopt(descriptor, level, option, &value, sizeof value);
+  };
+  set(SOL_SOCKET, SO_KEEPALIVE, 1);
+  set(IPPROTO_TCP, TCP_KEEPIDLE, kAliveIdleSeconds);
+  set(IPPROTO_TCP, TCP_KEEPINTVL, kAliveProbeSeconds);
+  set(IPPROTO_TCP, TCP_KEEPCNT, kAliveProbes);
+  set(IPPROTO_TCP, TCP_USER_TIMEOUT,
+      1000 * (kAliveIdleSeconds + kAliveProbes * kAliveProbeSeconds));
+}
+
+// Also what the system holds because the peer's has not acknowledged it.
+std::size_t QtSocket::UnsentBytes() const {
+  if (state_ != SocketState::Connected) return 0;
+  int in_system = 0;
+  if (::ioctl(static_cast<int>(socket_.socketDescriptor()), SIOCOUTQ, &in_system) != 0) {
+    in_system = 0;
+  }
+  return static_cast<std::size_t>(socket_.bytesToWrite()) + static_cast<std::size_t>(in_system);
 }
 
 bool QtSocket::Send(std::string_view bytes) {

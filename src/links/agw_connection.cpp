@@ -1,0 +1,102 @@
+#include "links/agw_connection.h"
+
+#include "links/agw_frame.h"
+
+namespace zepril {
+namespace {
+
+// The engine's version, which nobody but the connection has asked for.
+bool IsVersion(std::string_view frame) {
+  constexpr std::size_t kLongestVersion = 64;
+  return frame.size() >= kAgwHeaderLength && frame.size() <= kAgwHeaderLength + kLongestVersion &&
+         frame[4] == 'R';
+}
+
+}  // namespace
+
+AgwConnection::AgwConnection(TcpSocket& socket, Clock& clock, Timer& look_timer)
+    : socket_(socket),
+      clock_(clock),
+      look_timer_(look_timer),
+      stream_([this](std::string_view frame) { FrameArrived(frame); }),
+      pulse_(socket, clock) {}
+
+void AgwConnection::Connect(const std::string& host, int port) {
+  socket_.Connected = [this] { Connected(); };
+  socket_.DataArrived = [this](std::string_view bytes) { Arrived(bytes); };
+  look_timer_.Elapsed = [this] { Look(); };
+  watched_ = false;
+  host_ = host;
+  port_ = port;
+  Open();
+}
+
+void AgwConnection::Open() {
+  socket_.Close();
+  stream_.Reset();
+  up_ = false;
+  tried_at_ = clock_.MonotonicSeconds();
+  socket_.Connect(host_, port_);
+}
+
+void AgwConnection::Watch(bool up) {
+  watched_ = true;
+  up_ = up;
+  pulse_.Begin();
+  if (up) pulse_.Heard();
+  look_timer_.Arm(kLookMilliseconds);
+}
+
+void AgwConnection::Close() {
+  watched_ = false;
+  up_ = false;
+  look_timer_.Stop();
+  socket_.Close();
+}
+
+void AgwConnection::Connected() {
+  if (!watched_) return;
+  pulse_.Begin();
+  if (Greet) Greet();
+}
+
+void AgwConnection::Arrived(std::string_view bytes) {
+  fed_at_ = clock_.MonotonicSeconds();
+  stream_.Feed(bytes);
+}
+
+void AgwConnection::FrameArrived(std::string_view frame) {
+  pulse_.Heard();
+  if (watched_ && !up_) {
+    up_ = true;
+    if (Changed) Changed();
+  }
+  if (!IsVersion(frame) && Frame) Frame(frame);
+}
+
+void AgwConnection::Look() {
+  if (!watched_) return;
+  const double now = clock_.MonotonicSeconds();
+  if (stream_.PendingBytes() > 0 && now - fed_at_ >= kHalfFrameSeconds) stream_.GiveUp();
+  if (socket_.State() == SocketState::Connected) {
+    if (pulse_.LooksLost()) Lose();
+    return;
+  }
+  if (up_) return Lose();
+  if (now - tried_at_ >= kReopenMilliseconds / 1000.0) Open();
+}
+
+void AgwConnection::Lose() {
+  const bool was_up = up_;
+  up_ = false;
+  tried_at_ = clock_.MonotonicSeconds();
+  socket_.Drop();
+  stream_.Reset();
+  if (was_up && Changed) Changed();
+}
+
+void AgwConnection::DropUnsent() {
+  if (watched_ && socket_.UnsentBytes() > 0) Lose();
+}
+
+}  // namespace zepril
