@@ -27,6 +27,10 @@ struct MousePress {
 
 enum class PointerShape { Default, Hourglass };
 
+// What becomes of the operator's presses of a control while the program waits: one of them acts
+// afterwards, or none.
+enum class Presses { OneKept, Dropped };
+
 // What every control has. Colours are state values 0xBBGGRR; the desktop maps each to a shade of
 // the palette in use. Nothing set: the control's usual colour.
 struct Control {
@@ -38,6 +42,7 @@ struct Control {
   int WidthPx = 0;           // 0: by layout
   bool FocusWanted = false;  // taken and cleared by the desktop
   bool HasFocus = false;     // set by the desktop
+  Presses PressesInWaits = Presses::OneKept;
 
   Event Click;
   Event RightClick;

@@ -175,6 +175,7 @@ void SetTransmitToolTips(MainWindowControls& c, TipPick pick) {
   const ToolTipRow rows[] = {
       {c.Transmit.Check6,
        "TX in this interval of minutes / TX !: one report at once / Rclick: TX SETUP"},
+      {c.Transmit.TxOutcome, "What became of the last frame"},
       {c.Transmit.NextBeacon, "Time to the next report of the own position"},
       {c.Transmit.Check18, "Own object, while TX is on / Rclick: OBJECT SETUP"},
       {o.ObjectNameField, "Name of the object on the air, up to nine characters"},

@@ -181,6 +181,7 @@ struct ProgressControls {
 // Transmission switches.
 struct TransmitControls {
   CheckBox Check6;     // TX
+  Label TxOutcome;     // what became of the last frame, for some seconds
   FillBar NextBeacon;  // fills towards the next report of the own position
   CheckBox Check18;    // OBJECT TX
   CheckBox Check7;     // CHAT

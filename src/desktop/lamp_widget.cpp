@@ -17,6 +17,7 @@ void LampWidget::Show(const LinkLamp& lamp) {
   if (lamp.State == LampState::Data) name = "radio link: data";
   if (lamp.State == LampState::Silent) name = "radio link: silent";
   if (lamp.State == LampState::Lost) name = "radio link: lost";
+  if (lamp.State == LampState::Paused) name = "radio link: paused";
   setAccessibleName(QString::fromLatin1(name));
   if (state_ == lamp.State) return;
   state_ = lamp.State;
@@ -29,6 +30,11 @@ void LampWidget::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QColor ink = palette().color(QPalette::WindowText);
   const QRectF disc(2.5, 2.5, 11.0, 11.0);
+  if (state_ == LampState::Paused) {
+    painter.fillRect(QRectF(4.0, 3.0, 3.0, 10.0), ink);
+    painter.fillRect(QRectF(9.0, 3.0, 3.0, 10.0), ink);
+    return;
+  }
   painter.setPen(QPen(ink, 1.5));
   painter.setBrush(state_ == LampState::Data ? QBrush(ink) : QBrush(Qt::NoBrush));
   painter.drawEllipse(disc);

@@ -1,5 +1,5 @@
 // The link lamp, drawn in the text colour: full disc for data, half disc for silence, crossed disc
-// for a lost link.
+// for a lost link, two bars while reception rests.
 #pragma once
 
 #include <QWidget>

@@ -293,6 +293,11 @@ QWidget* SideColumns::MakeTransmit() {
   switches->addWidget(tx, 1);
   switches->addWidget(object, 1);
   box->addLayout(switches);
+  QLabel* outcome = parts_.FixedLabel("TxOutcome");
+  outcome->setMinimumWidth(0);
+  outcome->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  box->addWidget(outcome);
+  parts_.Binding.Bind(outcome, t.TxOutcome);
   auto* bar = new FillBarWidget;
   bar->setObjectName(QStringLiteral("NextBeacon"));
   box->addWidget(bar);

@@ -49,6 +49,10 @@ bool StationProgram::InTick() const {
   return rooms_->Cycle().InTick();
 }
 
+void StationProgram::SecondPassed() {
+  rooms_->SecondPassed();
+}
+
 LinkLamp StationProgram::Lamp() const {
   return rooms_->Lamp();
 }

@@ -64,6 +64,8 @@ class StationProgram {
   bool InTick() const;
 
   LinkLamp Lamp() const;
+  // Once a second, also while the main cycle rests: what is shown for some seconds, and since when.
+  void SecondPassed();
   // For engines of tests on another port than 8000.
   void UseLocalEnginePort(int port);
 

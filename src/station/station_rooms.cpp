@@ -70,7 +70,9 @@ StationRooms::StationRooms(StationPlatform machine)
       raw_search_(Controls.Raw, State.Settings, Timer1),
       transmit_(State, Controls,
                 {machine_, agw_link_, agw_local_, sheets_, symbols_, progress_, Timer1, Timer2,
-                 ReopenTimer, *this, *this, *this}) {
+                 ReopenTimer, *this, *this, *this}),
+      link_watch_(State.Radio, Controls.Status,
+                  {agw_link_, agw_local_, machine.MSComm1, transmit_, machine.LocalClock}) {
   SetInitialControls(Controls);
   State.Map.StationLabelLevel = kFirstLabelLevel;
   State.Map.ViewWidthPx = machine_.MapSurface.Width();
@@ -84,8 +86,10 @@ StationRooms::StationRooms(StationPlatform machine)
 }
 
 bool StationRooms::Start(const std::string& program_folder, int colour_depth_bits) {
-  return MainWindowStart(State, Controls, machine_.LocalClock, Timer1, *this)
-      .Run(program_folder, colour_depth_bits);
+  const bool started = MainWindowStart(State, Controls, machine_.LocalClock, Timer1, *this)
+                           .Run(program_folder, colour_depth_bits);
+  link_watch_.Started();
+  return started;
 }
 
 void StationRooms::Stop(bool by_operator) {
@@ -99,31 +103,9 @@ void StationRooms::MapResized(int width, int height) {
   MapRedraw();
 }
 
-LinkLamp StationRooms::Lamp() const {
-  const auto mode = static_cast<RadioMode>(State.Radio.RadioMode);
-  bool has_link = true;
-  bool up = false;
-  switch (mode) {
-    case RadioMode::AgwLocal:
-      up = agw_local_.LinkIsUp();
-      break;
-    case RadioMode::AgwRemote:
-      up = agw_link_.LinkIsUp();
-      break;
-    case RadioMode::Pk232:
-    case RadioMode::ScsTnc:
-    case RadioMode::ScsPtc:
-      up = transmit_.ModemIsUp();
-      break;
-    default:
-      has_link = false;
-  }
-  LinkLamp lamp =
-      LampOf(has_link, up, State.Radio.LastDataSeconds, machine_.LocalClock.MonotonicSeconds());
-  if (const std::string trouble = machine_.MSComm1.Trouble(); !trouble.empty() && !up) {
-    lamp.ToolTip += "\n" + trouble;
-  }
-  return lamp;
+void StationRooms::SecondPassed() {
+  link_watch_.Renew();
+  transmit_.RenewOutcome();
 }
 
 // ---- Tick -----------------------------------------------------------------------------------
@@ -149,10 +131,7 @@ void StationRooms::RunReceivePass() {
 void StationRooms::ReadConfig() {
   ReadConfigForMainWindow(machine_.FileSystem, State);
   Controls.Moni1.Check1.Value = State.Followed.Moni1AlarmOn;
-  if (State.Identity.MapZoneName.starts_with("U")) {
-    const double zone = Val(Mid(State.Identity.MapZoneName, 2));
-    State.Map.MapCentralMeridian = zone * 6.0 - 183.0;
-  }
+  TakeZone(State.Identity, State.Map);
 }
 
 void StationRooms::SetOwnNames() {

@@ -38,6 +38,7 @@
 #include "reception/receive_pass.h"
 #include "reception/record_browser.h"
 #include "station/raw_list_search.h"
+#include "station/link_watch.h"
 #include "station/station_program.h"
 #include "station/transmit_rooms.h"
 #include "viewers/picture_viewer.h"
@@ -66,7 +67,8 @@ class StationRooms final : public TickActions,
   bool Start(const std::string& program_folder, int colour_depth_bits);
   void Stop(bool by_operator);
   void MapResized(int width, int height);
-  LinkLamp Lamp() const;
+  LinkLamp Lamp() const { return link_watch_.Lamp(); }
+  void SecondPassed();
 
   RuntimeState State;
   MainWindowControls Controls;
@@ -191,6 +193,7 @@ class StationRooms final : public TickActions,
   MainCycle cycle_;
   RawListSearch raw_search_;
   TransmitRooms transmit_;
+  LinkWatch link_watch_;
 
  public:
   MainCycle& Cycle() { return cycle_; }

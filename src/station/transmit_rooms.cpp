@@ -25,6 +25,7 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
       sender_(
           state.Radio, state.Transmission,
           {tools.LocalEngine, tools.RemoteEngine, tools.Machine.MSComm1, tools.Machine.LocalClock}),
+      outcome_(controls.Transmit, tools.Machine.LocalClock),
       beacon_({state.Identity, state.Transmission, state.Map, state.Gps, state.Settings},
               {sender_, tools.Symbols, tools.Machine.FileSystem, tools.Machine.LocalClock,
                controls.Window, controls.Map}),
@@ -47,7 +48,16 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
   // What is being said to the modem is not broken into.
   sender_.HeldBack = [this] { return terminal_.IsOpen() || modem_.IsBusy(); };
   // Off is off: nothing leaves minutes later, when a stalled line moves again.
-  switches_.TurnedOff = [this] { modem_.DropUnsent(); };
+  switches_.TurnedOff = [this] {
+    modem_.DropUnsent();
+    tools_.LocalEngine.DropUnsent();
+    tools_.RemoteEngine.DropUnsent();
+  };
+  sender_.Waiting = [this] {
+    return tools_.Machine.MSComm1.IsOpen() && tools_.Machine.MSComm1.BytesToWrite() > 0;
+  };
+  sender_.Leaving = [this] { outcome_.Leaving(); };
+  sender_.Left = [this](Delivery delivery) { outcome_.Tell(delivery); };
   modem_.DataArrived = [this] { terminal_.DataArrived(); };
   // A notice of trouble that is over goes by itself.
   modem_.Reopened = [this] {

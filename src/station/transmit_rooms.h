@@ -24,6 +24,7 @@
 #include "transmit/position_beacon.h"
 #include "transmit/retransmission.h"
 #include "transmit/symbol_preview.h"
+#include "transmit/tx_outcome.h"
 #include "transmit/tx_setup.h"
 #include "transmit/tx_switches.h"
 
@@ -62,6 +63,8 @@ class TransmitRooms {
   void SendObjectReport() { beacon_.SendObjectReport(); }
   // How much of the time to the next report is over; after each tick.
   void ShowNextBeacon();
+  // Once a second.
+  void RenewOutcome() { outcome_.Renew(); }
   // The stop.
   void LeaveSerialModem() { modem_.Leave(); }
 
@@ -89,6 +92,7 @@ class TransmitRooms {
   Terminal terminal_;
   TemporaryMode temporary_mode_;
   FrameSender sender_;
+  TxOutcome outcome_;
   PositionBeacon beacon_;
   TxSwitches switches_;
   SymbolPreview tx_symbol_;

@@ -7,49 +7,60 @@
 #include "platform/code_page.h"
 
 namespace zepril {
-void FrameSender::SendFrame(std::string_view text, SecondMode second_mode) {
-  if (HeldBack && HeldBack()) return;
-  const auto mode = static_cast<RadioMode>(radio_.RadioMode);
-  switch (mode) {
+
+Delivery FrameSender::SendFrame(std::string_view text, SecondMode second_mode) {
+  Delivery delivery = Delivery::ModemBusy;
+  if (!HeldBack || !HeldBack()) {
+    sending_ = true;
+    if (Leaving) Leaving();
+    delivery = HandOver(text, second_mode);
+    // Without a radio nothing goes out, and nothing is waited for.
+    if (delivery != Delivery::NoRadio) tools_.LocalClock.Wait(kPauseSeconds);
+    sending_ = false;
+  }
+  if (Left) Left(delivery);
+  return delivery;
+}
+
+Delivery FrameSender::HandOver(std::string_view text, SecondMode second_mode) {
+  const auto told = [](bool sent) { return sent ? Delivery::Sent : Delivery::LinkLost; };
+  switch (static_cast<RadioMode>(radio_.RadioMode)) {
     case RadioMode::AgwLocal:
-      ToLocalEngine(text);
-      break;
+      return told(ToLocalEngine(text));
     case RadioMode::AgwRemote:
-      ToRemoteEngine(text);
-      break;
+      return told(ToRemoteEngine(text));
     case RadioMode::ScsTnc:
       if (radio_.HfDualOn == 1 && second_mode == SecondMode::SwitchOff) {
         RunModemScript(SecondModeScript(false), tools_.Modem, tools_.LocalClock);
       }
-      ToModem(text);
-      break;
+      return told(ToModem(text));
     case RadioMode::Pk232:
     case RadioMode::ScsPtc:
-      ToModem(text);
-      break;
+      return told(ToModem(text));
     default:
-      return;  // without a radio nothing goes out, and nothing is waited for
+      return Delivery::NoRadio;
   }
-  tools_.LocalClock.Wait(kPauseSeconds);
 }
 
-void FrameSender::ToLocalEngine(std::string_view text) {
-  tools_.LocalEngine.AGWPutData(transmission_.TxDestination + "," + transmission_.TxPath, text);
+bool FrameSender::ToLocalEngine(std::string_view text) {
+  return tools_.LocalEngine.AGWPutData(transmission_.TxDestination + "," + transmission_.TxPath,
+                                       text);
 }
 
-void FrameSender::ToRemoteEngine(std::string_view text) {
+bool FrameSender::ToRemoteEngine(std::string_view text) {
   transmission_.AgwTxText = text;
-  tools_.RemoteEngine.SendAgwUnproto();
+  return tools_.RemoteEngine.SendAgwUnproto();
 }
 
 // Destination and path are the modem's own settings.
-void FrameSender::ToModem(std::string_view text) {
-  if (!tools_.Modem.IsOpen()) return;
+bool FrameSender::ToModem(std::string_view text) {
+  if (!tools_.Modem.IsOpen()) return false;
   // A modem takes some of these for the way back to its commands; a text that was heard may hold
   // any.
   std::string line(text);
   std::replace_if(line.begin(), line.end(), IsControlCharacter, ' ');
   tools_.Modem.Write(line + "\r");
+  return tools_.Modem.IsOpen();
 }
 
 }  // namespace zepril

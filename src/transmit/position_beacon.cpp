@@ -9,8 +9,17 @@ bool PositionBeacon::PositionKnown() const {
   return sections_.View.OwnNorthKm != 0.0 || sections_.View.OwnEastKm != 0.0;
 }
 
+// A report that can't be made is told like one that can't be sent.
 bool PositionBeacon::MaySend() const {
-  return !Trim(sections_.Identity.MyCall).empty() && PositionKnown();
+  const bool call = !Trim(sections_.Identity.MyCall).empty();
+  if (!call) tools_.Sender.Refuse(Delivery::NoCall);
+  if (call && !PositionKnown()) tools_.Sender.Refuse(Delivery::NoPosition);
+  return call && PositionKnown();
+}
+
+void PositionBeacon::SendByHand() {
+  if (tools_.Sender.IsBusy()) return tools_.Sender.Refuse(Delivery::StillLeaving);
+  SendPositionBeacon();
 }
 
 void PositionBeacon::SendPositionBeacon() {

@@ -40,6 +40,8 @@ class PositionBeacon {
   // Builds and sends one report with the next active info line. Nothing without a call, or with the
   // own position at 0/0.
   void SendPositionBeacon();
+  // The same on the operator's press: not while another frame is being sent or waits.
+  void SendByHand();
   // The same with a status text, which moves no info line: the identification of a gateway.
   void SendIdentification(const std::string& status);
   // The own object, always with the time.

@@ -23,6 +23,8 @@ void TxSwitches::ShowInterval() {
   CheckBox& tx = controls_.Transmit.Check6;
   const int interval = sections_.Transmission.TxIntervalMinutes;
   tx.Caption = TxCaption(interval);
+  // A press during a report by hand asks for no second one.
+  tx.PressesInWaits = interval == 0 ? Presses::Dropped : Presses::OneKept;
   const bool was_on = tx.Value == 1;
   if (interval == 0 || !beacon_.PositionKnown()) tx.Value = 0;
   // Without a position neither reports nor messages make sense.
@@ -37,7 +39,7 @@ void TxSwitches::TxClicked() {
   if (sections_.Transmission.TxIntervalMinutes == 0) {
     // By hand: one report, and the switch falls back.
     tx.Value = 0;
-    beacon_.SendPositionBeacon();
+    beacon_.SendByHand();
     return;
   }
   if (tx.Value == 1 && !beacon_.PositionKnown()) tx.Value = 0;

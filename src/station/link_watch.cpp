@@ -1,0 +1,71 @@
+#include "station/link_watch.h"
+
+namespace zepril {
+
+LinkWatch::LinkWatch(const RadioState& radio, StatusControls& status, LinkWatchTools tools)
+    : radio_(radio), status_(status), tools_(tools) {
+  tools_.RemoteEngine.LinkChanged = [this] { EngineChanged(tools_.RemoteEngine.LinkIsUp()); };
+  tools_.LocalEngine.LinkChanged = [this] { EngineChanged(tools_.LocalEngine.LinkIsUp()); };
+}
+
+bool LinkWatch::HasLink() const {
+  switch (static_cast<RadioMode>(radio_.RadioMode)) {
+    case RadioMode::AgwLocal:
+    case RadioMode::AgwRemote:
+    case RadioMode::Pk232:
+    case RadioMode::ScsTnc:
+    case RadioMode::ScsPtc:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool LinkWatch::IsUp() const {
+  switch (static_cast<RadioMode>(radio_.RadioMode)) {
+    case RadioMode::AgwLocal:
+      return tools_.LocalEngine.LinkIsUp();
+    case RadioMode::AgwRemote:
+      return tools_.RemoteEngine.LinkIsUp();
+    default:
+      return HasLink() && tools_.Transmit.ModemIsUp();
+  }
+}
+
+LinkLamp LinkWatch::Lamp() const {
+  const bool up = IsUp();
+  LinkLamp lamp = LampOf({HasLink(), up, tools_.Transmit.HoldsTheCycle(), radio_.LastDataSeconds,
+                          lost_since_, tools_.LocalClock.MonotonicSeconds()});
+  if (const std::string trouble = tools_.Modem.Trouble(); !trouble.empty() && !up) {
+    lamp.ToolTip += "\n" + trouble;
+  }
+  return lamp;
+}
+
+void LinkWatch::Renew() {
+  if (!HasLink() || IsUp()) {
+    lost_since_ = -1.0;
+  } else if (lost_since_ < 0.0) {
+    lost_since_ = tools_.LocalClock.MonotonicSeconds();
+  }
+}
+
+void LinkWatch::Started() {
+  if (radio_.RadioMode == static_cast<int>(RadioMode::AgwLocal) && !IsUp()) EngineChanged(false);
+  Renew();
+}
+
+// Once at each loss, and no box: the lamp goes on telling. It goes with the loss.
+void LinkWatch::EngineChanged(bool up) {
+  Renew();
+  status_.LinkNotice.Visible = !up;
+  if (up) return;
+  const bool local = radio_.RadioMode == static_cast<int>(RadioMode::AgwLocal);
+  const std::string where =
+      local ? "on this computer" : "at " + radio_.AgwHost + ", port " + radio_.AgwTcpPort + ",";
+  status_.LinkNotice.Caption = "The packet engine " + where +
+                               " does not answer. Nothing is heard or sent. It is tried again "
+                               "every ten seconds.";
+}
+
+}  // namespace zepril

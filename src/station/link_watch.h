@@ -1,0 +1,50 @@
+// What the operator is told of the radio link: the lamp with its word, and a notice when a packet
+// engine is lost.
+#pragma once
+
+#include <string>
+
+#include "core/link_lamp.h"
+#include "core/main_window_controls.h"
+#include "core/state/radio.h"
+#include "links/agw_link.h"
+#include "links/agw_local.h"
+#include "platform/clock.h"
+#include "platform/serial_port.h"
+#include "station/transmit_rooms.h"
+
+namespace zepril {
+
+struct LinkWatchTools {
+  AgwLink& RemoteEngine;
+  AgwLocal& LocalEngine;
+  const SerialPort& Modem;
+  const TransmitRooms& Transmit;
+  const Clock& LocalClock;
+};
+
+class LinkWatch {
+ public:
+  // Takes the engines' events.
+  LinkWatch(const RadioState& radio, StatusControls& status, LinkWatchTools tools);
+  LinkWatch(const LinkWatch&) = delete;
+  LinkWatch& operator=(const LinkWatch&) = delete;
+
+  LinkLamp Lamp() const;
+  // Once a second: since when the link is lost.
+  void Renew();
+  // The engine was not there at the start: told like one that is lost.
+  void Started();
+
+ private:
+  bool HasLink() const;
+  bool IsUp() const;
+  void EngineChanged(bool up);
+
+  const RadioState& radio_;
+  StatusControls& status_;
+  LinkWatchTools tools_;
+  double lost_since_ = -1.0;  // monotonic seconds, below 0 while the link stands
+};
+
+}  // namespace zepril
