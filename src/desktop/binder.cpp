@@ -119,6 +119,11 @@ void Binder::Raise(const Event& event) {
   if (event) loop_.RunStep(event);
 }
 
+void Binder::Press(const Control& control, const Event& act) {
+  loop_.Press(
+      &control, control.PressesInWaits, act ? act : [] {});
+}
+
 void Binder::BindCommon(QWidget* widget, Control& control, bool press_is_click) {
   watched_.push_back({widget, &control, nullptr, press_is_click});
   widget->installEventFilter(this);
@@ -139,10 +144,10 @@ void Binder::Bind(QAbstractButton* widget, Button& control) {
   BindCommon(widget, control);
   // One that repeats acts when it goes down, and not once more when it is let go.
   connect(widget, &QAbstractButton::clicked, this, [this, &control] {
-    if (control.RepeatMs == 0) Raise(control.Click);
+    if (control.RepeatMs == 0) Press(control, control.Click);
   });
   connect(widget, &QAbstractButton::pressed, this, [this, &control] {
-    if (control.RepeatMs > 0) Raise(control.Click);
+    if (control.RepeatMs > 0) Press(control, control.Click);
   });
   outs_.push_back([widget, &control, caption = std::string("\x01")]() mutable {
     ShowRepeat(widget, control.RepeatMs);
@@ -158,12 +163,10 @@ void Binder::Bind(QAbstractButton* widget, CheckBox& control) {
   widget->setCheckable(true);
   const bool three_states = widget->property("three_states").toBool();
   connect(widget, &QAbstractButton::clicked, this, [this, &control, three_states] {
-    control.Value = (control.Value + 1) % (three_states ? 3 : 2);
-    if (control.Click) {
-      Raise(control.Click);
-    } else {
-      loop_.RunStep([] {});
-    }
+    Press(control, [&control, three_states] {
+      control.Value = (control.Value + 1) % (three_states ? 3 : 2);
+      if (control.Click) control.Click();
+    });
   });
   outs_.push_back([widget, &control, caption = std::string("\x01")]() mutable {
     if (widget->isChecked() != (control.Value != 0)) {
@@ -185,8 +188,10 @@ void Binder::Bind(QAbstractButton* widget, OptionButton& control) {
   BindCommon(widget, control);
   widget->setCheckable(true);
   connect(widget, &QAbstractButton::clicked, this, [this, &control] {
-    control.Value = true;
-    Raise(control.Click);
+    Press(control, [&control] {
+      control.Value = true;
+      if (control.Click) control.Click();
+    });
   });
   outs_.push_back([widget, &control, caption = std::string("\x01")]() mutable {
     if (widget->isChecked() != control.Value) {
@@ -258,9 +263,11 @@ void Binder::Bind(QComboBox* widget, ComboBox& control) {
     const bool typed = widget->property("typed").toBool();
     if (typed && control.Text == FromQt(widget->itemText(index))) return;
     widget->setProperty("typed", false);
-    control.Select(index);
-    if (control.Change) Raise(control.Change);
-    if (control.Click) Raise(control.Click);
+    Press(control, [&control, index] {
+      control.Select(index);
+      if (control.Change) control.Change();
+      if (control.Click) control.Click();
+    });
   });
   if (widget->isEditable()) BindTyping(widget, control);
   outs_.push_back([widget, &control, items = std::vector<std::string>()]() mutable {
@@ -310,12 +317,17 @@ void Binder::Bind(QListView* widget, QStringListModel* model, ListBox& control) 
   new RightHold(widget, loop_, control, this);
   widget->setModel(model);
   connect(widget, &QListView::clicked, this, [this, &control](const QModelIndex& index) {
-    control.ListIndex = index.row();
-    Raise(control.Click);
+    Press(control, [&control, row = index.row()] {
+      control.ListIndex = row;
+      if (control.Click) control.Click();
+    });
   });
   connect(widget, &QListView::activated, this, [this, &control](const QModelIndex& index) {
-    control.ListIndex = index.row();
-    Raise(control.DoubleClick ? control.DoubleClick : control.Click);
+    Press(control, [&control, row = index.row()] {
+      control.ListIndex = row;
+      const Event& act = control.DoubleClick ? control.DoubleClick : control.Click;
+      if (act) act();
+    });
   });
   // What is not shown is passed over by what the list itself is told, never by what the window
   // happens to show: its panel may come a moment later, its page any time, with rows of before.
@@ -382,22 +394,36 @@ bool Binder::Released(const Watched& row, const QMouseEvent& event) {
   // Whoever has just selected a text wants to copy it.
   const bool selected = selects && label->hasSelectedText();
   const bool of_text = qobject_cast<const QPlainTextEdit*>(row.Widget->parent()) != nullptr;
-  if (!selected) Raise(click);
+  if (!selected) Press(*row.Subject, click);
   return !selects && !of_text;
 }
 
 bool Binder::Pressed(const Watched& row, const QKeyEvent& event) {
   const Control& control = *row.Subject;
+  // A key that is leaned on presses once. In fields it types on.
+  if (event.isAutoRepeat() && IsPressKey(row, event)) return true;
   if (control.RightClick && IsRightClickKey(event)) {
-    Raise(control.RightClick);
+    Press(control, control.RightClick);
+    return true;
+  }
+  // A button acts when its key goes down: one that is held comes up and down again by itself.
+  if (auto* button = qobject_cast<QAbstractButton*>(row.Widget); button && IsClickKey(event)) {
+    button->click();
     return true;
   }
   if (row.PressIsClick && control.Click && IsClickKey(event)) {
-    Raise(control.Click);
+    Press(control, control.Click);
     return true;
   }
   if (row.KeyDown) loop_.RunStep([&] { row.KeyDown(KeyPressOf(event)); });
   return false;
+}
+
+bool Binder::IsPressKey(const Watched& row, const QKeyEvent& event) {
+  if (IsRightClickKey(event)) return true;
+  if (!IsClickKey(event)) return false;
+  const bool types = row.KeyDown && event.key() == Qt::Key_Space;
+  return !types && qobject_cast<QPlainTextEdit*>(row.Widget) == nullptr;
 }
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
@@ -415,13 +441,17 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
       case QEvent::ContextMenu:
         // A disabled widget would not act on it; here it is seen before.
         if (!control.RightClick || !control.Enabled) break;
-        Raise(control.RightClick);
+        Press(control, control.RightClick);
         return true;
       case QEvent::MouseButtonRelease:
         if (Released(row, *static_cast<QMouseEvent*>(event))) return true;
         break;
       case QEvent::KeyPress:
         if (Pressed(row, *static_cast<QKeyEvent*>(event))) return true;
+        break;
+      case QEvent::KeyRelease:
+        if (qobject_cast<QAbstractButton*>(watched) == nullptr) break;
+        if (IsClickKey(*static_cast<QKeyEvent*>(event))) return true;
         break;
       case QEvent::Wheel:
         // A list under a scrolling hand keeps its choice.

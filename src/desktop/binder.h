@@ -69,9 +69,12 @@ class Binder final : public QObject {
   void BindKeys(QWidget* widget, std::function<void(KeyPress)> key_down);
   void BindFocus(QWidget* widget, const TextBox& control);
   void Raise(const Event& event);
+  // The operator has pressed the control: `act`, which may be empty, in the loop's order.
+  void Press(const Control& control, const Event& act);
   void TakeFocusWishes();
   bool Released(const Watched& row, const QMouseEvent& event);
   bool Pressed(const Watched& row, const QKeyEvent& event);
+  static bool IsPressKey(const Watched& row, const QKeyEvent& event);
 
   QtLoop& loop_;
   const Look& look_;

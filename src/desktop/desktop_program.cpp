@@ -1,5 +1,7 @@
 #include "desktop/desktop_program.h"
 
+#include <QCoreApplication>
+
 #include <cstdlib>
 
 #include "config/ports_file.h"
@@ -25,7 +27,9 @@ DesktopProgram::DesktopProgram(const ProgramPlaces& places)
       base_surface_(kFirstMapWidth, kFirstMapHeight, fonts_),
       sun_surface_(SunCurve::kPlotWidth, SunCurve::kPlotHeight, fonts_),
       tx_symbol_surface_(kSymbolCellPixels, kSymbolCellPixels, fonts_),
-      object_symbol_surface_(kSymbolCellPixels, kSymbolCellPixels, fonts_) {}
+      object_symbol_surface_(kSymbolCellPixels, kSymbolCellPixels, fonts_) {
+  QCoreApplication::instance()->installEventFilter(&key_repeats_);
+}
 
 DesktopProgram::~DesktopProgram() {
   loop_.ControlsOut = nullptr;
@@ -41,6 +45,7 @@ bool DesktopProgram::LoadFonts() {
 void DesktopProgram::CloseAsOperator() {
   // A box that waits for the operator must not keep the session from ending.
   dialogs_.AnswerNoMore();
+  loop_.AskForEnd(true);
   if (window_) {
     window_->close();
   } else if (program_ || (panel_ && panel_->Starting())) {
@@ -137,6 +142,9 @@ void DesktopProgram::ShowWhatTheTerminalReceives() {
 void DesktopProgram::End(bool by_operator) {
   if (ending_) return;
   ending_ = true;
+  // The stop itself waits as it must.
+  loop_.AskForEnd(false);
+  loop_.ForgetPresses();
   loop_.ControlsOut = nullptr;
   loop_.StepEnded = nullptr;
   start_window_->Closed = nullptr;

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include "desktop/key_repeats.h"
 #include "desktop/main_window.h"
 #include "desktop/qt_desktop_actions.h"
 #include "desktop/qt_dialogs.h"
@@ -56,6 +57,7 @@ class DesktopProgram {
   QtDesktopActions desktop_;
   QtSocket socket_;
   QtSerialPort modem_;
+  KeyRepeats key_repeats_;
   MapFonts fonts_;
   QtSurface map_surface_;
   QtSurface base_surface_;

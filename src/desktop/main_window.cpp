@@ -80,9 +80,12 @@ MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fo
       parts_, controls_, *map_, TransmitPanels::Symbols{surfaces.TxSymbol, surfaces.ObjectSymbol});
   map_->PlaceOverlays = [this] { PlacePanels(); };
 
-  // The lamp's age of the last data grows also when nothing happens.
+  // Ages grow, and what is told for some seconds goes, also when nothing happens.
   lamp_timer_.setInterval(1000);
-  connect(&lamp_timer_, &QTimer::timeout, this, [this] { lamp_->Show(program_.Lamp()); });
+  connect(&lamp_timer_, &QTimer::timeout, this, [this] {
+    program_.SecondPassed();
+    ControlsOut();
+  });
   lamp_timer_.start();
   ControlsOut();
 }
@@ -103,6 +106,8 @@ QWidget* MainWindow::MakeBottomLine() {
   row->addSpacing(12);
   row->addWidget(status);
   row->addSpacing(8);
+  link_words_ = parts_.FixedLabel("LinkWords");
+  row->addWidget(link_words_);
   row->addWidget(lamp_);
   binder_.Bind(station, controls_.Readouts.Label11);
   binder_.Bind(status, controls_.Status.Label15);
@@ -211,11 +216,20 @@ void MainWindow::MakeRoomForTerminal(bool open) {
   }
 }
 
+void MainWindow::ShowLamp() {
+  const LinkLamp lamp = program_.Lamp();
+  lamp_->Show(lamp);
+  if (const QString words = ToQt(lamp.Words); link_words_->text() != words) {
+    link_words_->setText(words);
+  }
+  link_words_->setVisible(!lamp.Words.empty());
+}
+
 void MainWindow::ControlsOut() {
   ShowDrawer();
   binder_.ControlsOut();
   map_->ControlsOut();
-  if (lamp_ != nullptr) lamp_->Show(program_.Lamp());
+  if (lamp_ != nullptr) ShowLamp();
   const QString title = ToQt(controls_.Window.Title);
   if (windowTitle() != title) setWindowTitle(title);
   if (controls_.Window.MaximiseWanted) {
@@ -232,6 +246,7 @@ void MainWindow::ControlsOut() {
 void MainWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   close_asked_ = true;
+  loop_.AskForEnd(true);
   // Inside a step the request is kept until the outermost one has returned.
   if (!loop_.InStep()) CloseWhenAsked();
 }
@@ -249,12 +264,15 @@ void MainWindow::resizeEvent(QResizeEvent*) {
 }
 
 void MainWindow::Press(const Button& control) {
-  if (control.Enabled && control.Click) loop_.RunStep(control.Click);
+  if (control.Enabled && control.Click)
+    loop_.Press(&control, control.PressesInWaits, control.Click);
 }
 
 void MainWindow::Switch(CheckBox& control) {
-  control.Value = control.Value == 0 ? 1 : 0;
-  if (control.Click) loop_.RunStep(control.Click);
+  loop_.Press(&control, control.PressesInWaits, [&control] {
+    control.Value = control.Value == 0 ? 1 : 0;
+    if (control.Click) control.Click();
+  });
 }
 
 // The field may lie on a page of the drawer that is not the shown one.
@@ -279,6 +297,8 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) map_->setFocus();
     return;
   }
+  // A key that is leaned on presses once.
+  if (event->isAutoRepeat()) return;
   if (event->modifiers().testFlag(Qt::ControlModifier)) return PressControlKey(*event);
   PressKey(event);
 }

@@ -59,6 +59,7 @@ class MainWindow final : public QWidget {
   QWidget* MakeRawPage();
   void Arrange();
   void ShowDrawer();
+  void ShowLamp();
   void ShowPage(QWidget* page, bool shown, const char* title);
   void MakeRoomForTerminal(bool open);
   void ShareHeight();
@@ -90,6 +91,7 @@ class MainWindow final : public QWidget {
   QWidget* raw_page_ = nullptr;
   QWidget* terminal_page_ = nullptr;
   QList<int> sizes_without_terminal_;
+  QLabel* link_words_ = nullptr;  // "LOST 34 s", "paused"
   LampWidget* lamp_ = nullptr;
   QTimer lamp_timer_;
   QStringListModel raw_lines_;

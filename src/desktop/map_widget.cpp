@@ -90,12 +90,15 @@ MousePress MapWidget::PressOf(const QMouseEvent& event) const {
 void MapWidget::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton) return;
   const MousePress press = PressOf(*event);
-  if (map_.MouseDown) loop_.RunStep([&] { map_.MouseDown(press); });
+  if (!map_.MouseDown) return;
+  loop_.Press(&map_.MouseDown, map_.PressesInWaits, [this, press] { map_.MouseDown(press); });
 }
 
 void MapWidget::mouseReleaseEvent(QMouseEvent* event) {
   const MousePress press = PressOf(*event);
-  if (map_.MouseUp) loop_.RunStep([&] { map_.MouseUp(press); });
+  if (!map_.MouseUp) return;
+  // What was pressed is let go in any case.
+  loop_.Press(nullptr, Presses::OneKept, [this, press] { map_.MouseUp(press); });
 }
 
 void MapWidget::mouseMoveEvent(QMouseEvent* event) {
@@ -115,13 +118,15 @@ void MapWidget::keyPressEvent(QKeyEvent* event) {
   // What a panel over the map has no use for comes up here too: it is not meant for the map.
   if (!hasFocus()) return QWidget::keyPressEvent(event);
   const KeyPress key = KeyPressOf(*event);
+  const bool is_press = IsRightClickKey(*event) || key.Code == 13;
+  if (is_press && event->isAutoRepeat()) return;
   if (IsRightClickKey(*event)) return PressRightAtPointer();
   const bool ours = key.Code == 13 || (key.Code >= 37 && key.Code <= 40);
   if (!ours || !map_.KeyDown) {
     QWidget::keyPressEvent(event);
     return;
   }
-  loop_.RunStep([&] { map_.KeyDown(key); });
+  loop_.Press(&map_.KeyDown, map_.PressesInWaits, [this, key] { map_.KeyDown(key); });
 }
 
 void MapWidget::contextMenuEvent(QContextMenuEvent* event) {
@@ -135,7 +140,7 @@ void MapWidget::PressRightAtPointer() {
   press.Button = 2;
   press.X = at.x();
   press.Y = at.y();
-  loop_.RunStep([&] {
+  loop_.Press(&map_, map_.PressesInWaits, [this, press] {
     if (map_.MouseDown) map_.MouseDown(press);
     if (map_.MouseUp) map_.MouseUp(press);
   });

@@ -74,11 +74,52 @@ void QtLoop::RunStep(const std::function<void()>& step) {
   pumping_ = outer_pumping;
   --depth_;
   if (ControlsOut) ControlsOut();
-  if (depth_ > 0) return;
+  if (!InStep()) StepsAreOver();
+}
+
+void QtLoop::StepsAreOver() {
   // A copy: the end of a step may replace what follows it.
   if (const auto ended = StepEnded) ended();
   // What fell due meanwhile comes from the loop, not from inside this step.
-  QTimer::singleShot(0, &alive_, [this] { FireDue(); });
+  QTimer::singleShot(0, &alive_, [this] { CatchUp(); });
+}
+
+void QtLoop::CatchUp() {
+  if (InStep()) return;  // it comes again behind that
+  if (late_) TakeLatePresses();
+  RunKeptPress();
+  FireDue();
+}
+
+// Everything that came during a wait is looked at before any of it acts.
+void QtLoop::TakeLatePresses() {
+  catching_up_ = true;
+  ++held_;
+  QCoreApplication::processEvents(QEventLoop::AllEvents);
+  --held_;
+  catching_up_ = false;
+  late_ = false;
+  if (ControlsOut) ControlsOut();
+  StepsAreOver();
+}
+
+// One at a time: it may wait again, and be followed by more.
+void QtLoop::RunKeptPress() {
+  if (kept_.empty() || InStep()) return;
+  const KeptPress first = kept_.front();
+  kept_.erase(kept_.begin());
+  RunStep(first.Step);
+}
+
+void QtLoop::Press(const void* control, Presses in_waits, const std::function<void()>& step) {
+  // Behind what is kept already, presses keep their order.
+  const bool waits = !(depth_ > 0) && (late_ || !kept_.empty());
+  if (!waits) return RunStep(step);
+  if (in_waits == Presses::Dropped) return;
+  const bool known = std::any_of(kept_.begin(), kept_.end(), [control](const KeptPress& kept) {
+    return control != nullptr && kept.Control == control;
+  });
+  if (!known) kept_.push_back({control, step});
 }
 
 void QtLoop::Hold(const std::function<void()>& step) {
@@ -104,6 +145,7 @@ void QtLoop::PumpFor(double seconds, bool user_events) {
 }
 
 void QtLoop::Wait(double seconds) {
+  if (depth_ > 0) late_ = true;
   ++held_;
   PumpFor(seconds, false);
   --held_;

@@ -5,6 +5,10 @@
 // In a pumping wait and a hand-over user events and the pumped timers fire too; `Timer1` never
 // does, so that no tick runs inside another step. What fell due meanwhile fires when the outermost
 // step ends.
+//
+// What the operator did during a plain wait arrives behind the step. Of presses of a control one
+// acts then, or none, by the control's own rule; and a request to end the program comes before all
+// of them: hands that go on pressing can't keep the program from its work, or from its end.
 #pragma once
 
 #include <QObject>
@@ -14,6 +18,7 @@
 #include <memory>
 #include <vector>
 
+#include "core/controls.h"
 #include "core/timer.h"
 #include "platform/native/system_clock.h"
 
@@ -35,7 +40,14 @@ class QtLoop final : public SystemClock {
 
   // Runs a step of the program: an event, a timer. Afterwards the controls go out.
   void RunStep(const std::function<void()>& step);
-  bool InStep() const { return depth_ > 0; }
+  bool InStep() const { return depth_ > 0 || catching_up_; }
+  // The operator has pressed `control`, which the step acts on. Null: every one of them acts.
+  void Press(const void* control, Presses in_waits, const std::function<void()>& step);
+  // The program ends: what was pressed and has not acted yet never does.
+  void ForgetPresses() { kept_.clear(); }
+  // The program is to end: whoever waits for another machine gives up.
+  void AskForEnd(bool asked) { end_asked_ = asked; }
+  bool EndAsked() const override { return end_asked_; }
   // Runs `step` with all timers held, as while a box is open.
   void Hold(const std::function<void()>& step);
 
@@ -52,8 +64,17 @@ class QtLoop final : public SystemClock {
     std::unique_ptr<QTimer> Clockwork;
   };
 
+  struct KeptPress {
+    const void* Control = nullptr;
+    std::function<void()> Step;
+  };
+
   void Fire(Driven& driven);
   void FireDue();
+  void StepsAreOver();
+  void CatchUp();
+  void TakeLatePresses();
+  void RunKeptPress();
   bool MayFire(const Driven& driven) const;
   void PumpFor(double seconds, bool user_events);
 
@@ -62,6 +83,10 @@ class QtLoop final : public SystemClock {
   int depth_ = 0;    // steps under way
   int held_ = 0;     // no timer at all
   int pumping_ = 0;  // inside a pumping wait or hand-over
+  std::vector<KeptPress> kept_;
+  bool late_ = false;  // a step has waited: what the operator did meanwhile has not all arrived
+  bool catching_up_ = false;
+  bool end_asked_ = false;
 };
 
 }  // namespace zepril

@@ -6,6 +6,7 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,9 +22,31 @@ constexpr double kShort = 0.03;  // seconds, many times the timers' millisecond
 class PointerWindow final : public QWindow {
  public:
   int Moves = 0;
+  std::function<void()> Moved;
 
  protected:
-  void mouseMoveEvent(QMouseEvent*) override { ++Moves; }
+  void mouseMoveEvent(QMouseEvent*) override {
+    ++Moves;
+    if (Moved) Moved();
+  }
+};
+
+// An operator's hand over a shown window: each `Do` is one event of the window system.
+class Hand {
+ public:
+  explicit Hand(std::function<void()> act) {
+    window_.setGeometry(0, 0, 200, 200);
+    window_.show();
+    PumpUntil([this] { return window_.isExposed(); });
+    QCursor::setPos(10, 10);
+    PumpUntil([this] { return window_.Moves > 0; });
+    window_.Moved = std::move(act);
+  }
+  void Do() { QCursor::setPos(20 + 2 * ++place_, 40); }
+
+ private:
+  PointerWindow window_;
+  int place_ = 0;
 };
 
 class QtLoopTest : public ::testing::Test {
@@ -157,6 +180,106 @@ TEST_F(QtLoopTest, UserEventsComeInPumpingWaitsOnly) {
     EXPECT_EQ(window.Moves, before);
     loop->WaitPumping(kShort);
     EXPECT_GT(window.Moves, before);
+  });
+}
+
+TEST_F(QtLoopTest, OfPressesMadeInAPlainWaitOneActsBehindTheStep) {
+  int arrived = 0;
+  int acted = 0;
+  const int control = 0;
+  Hand hand([&] {
+    ++arrived;
+    loop->Press(&control, Presses::OneKept, [&] { ++acted; });
+  });
+  loop->RunStep([&] {
+    for (int press = 0; press < 5; ++press)
+      hand.Do();
+    loop->Wait(kShort);
+    EXPECT_EQ(arrived, 0);
+  });
+  EXPECT_TRUE(PumpUntil([&] { return arrived == 5; }));
+  loop->Wait(kShort);
+  EXPECT_TRUE(PumpUntil([&] { return acted > 0; }));
+  EXPECT_EQ(acted, 1);
+  // Afterwards each press acts again.
+  hand.Do();
+  EXPECT_TRUE(PumpUntil([&] { return acted == 2; }));
+}
+
+TEST_F(QtLoopTest, PressesOfAControlThatKeepsNoneAreDropped) {
+  int arrived = 0;
+  int acted = 0;
+  const int control = 0;
+  Hand hand([&] {
+    ++arrived;
+    loop->Press(&control, Presses::Dropped, [&] { ++acted; });
+  });
+  loop->RunStep([&] {
+    hand.Do();
+    hand.Do();
+    loop->Wait(kShort);
+  });
+  EXPECT_TRUE(PumpUntil([&] { return arrived == 2; }));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(acted, 0);
+  hand.Do();
+  EXPECT_TRUE(PumpUntil([&] { return acted == 1; }));
+}
+
+TEST_F(QtLoopTest, KeptPressesActInTheirOrderAndMayWaitThemselves) {
+  int arrived = 0;
+  std::string order;
+  const int first = 0;
+  const int second = 0;
+  Hand hand([&] {
+    ++arrived;
+    const bool odd = arrived % 2 == 1;
+    loop->Press(odd ? &first : &second, Presses::OneKept, [&, odd] {
+      order += odd ? "a" : "b";
+      loop->Wait(0.001);
+    });
+  });
+  loop->RunStep([&] {
+    for (int press = 0; press < 6; ++press)
+      hand.Do();
+    loop->Wait(kShort);
+  });
+  EXPECT_TRUE(PumpUntil([&] { return order.size() >= 2; }));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(order, "ab");
+}
+
+TEST_F(QtLoopTest, TheEndComesBeforeWhatIsKept) {
+  int arrived = 0;
+  int acted = 0;
+  const int control = 0;
+  Hand hand([&] {
+    ++arrived;
+    loop->Press(&control, Presses::OneKept, [&] { ++acted; });
+  });
+  loop->StepEnded = [&] {
+    // As the program does when it was asked to end.
+    if (arrived > 0) loop->ForgetPresses();
+  };
+  loop->RunStep([&] {
+    hand.Do();
+    loop->Wait(kShort);
+  });
+  EXPECT_TRUE(PumpUntil([&] { return arrived == 1; }));
+  for (int turn = 0; turn < 5; ++turn)
+    QCoreApplication::processEvents();
+  EXPECT_EQ(acted, 0);
+}
+
+TEST_F(QtLoopTest, PressesInAPumpingWaitActAtOnce) {
+  int acted = 0;
+  const int control = 0;
+  Hand hand([&] { loop->Press(&control, Presses::Dropped, [&] { ++acted; }); });
+  loop->RunStep([&] {
+    hand.Do();
+    hand.Do();
+    loop->WaitPumping(kShort);
+    EXPECT_EQ(acted, 2);
   });
 }
 
