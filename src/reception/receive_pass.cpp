@@ -176,11 +176,9 @@ ReceivePass::Next ReceivePass::AfterFrame(FrameLevel level) {
     case FrameLevel::Nothing:
       return waiting > kWaitingAfterNothing ? Next::Again : LeaveAfterNothing();
     case FrameLevel::MoniAll:
+    case FrameLevel::Moni1:
       if (waiting > kWaitingAfterRecord) return Next::Again;
       if (map_behind_) Redraw();
-      return Next::Leave;
-    case FrameLevel::Moni1:
-      Redraw();
       return Next::Leave;
     case FrameLevel::Emergency:
       emergencies_.ShowEmergency();

@@ -188,14 +188,50 @@ TEST(ReceivePass, StandingStationKeepsOnePositionButSeveralRecords) {
   EXPECT_EQ(station.Stores.Moni1Records.At(1).Time(), "1254");
 }
 
-TEST(ReceivePass, PositionOfTheFollowedStationEndsThePassWithARedraw) {
+TEST(ReceivePass, BehindAPositionOfTheFollowedStationThePassGoesOn) {
   Reception station;
   const std::string own = Reception::Frame(kPosition + "Test", "QX7KB*>WIDE1-1>APRS");
   station.Hear(own + Reception::Frame(kPosition + std::string(200, 'x')));
   EXPECT_EQ(station.Stores.Moni1Records.Count(), 1);
-  EXPECT_EQ(station.Heard(), 1);
+  EXPECT_EQ(station.Heard(), 2);
   EXPECT_EQ(station.Actions.Redraws, 1);
   EXPECT_EQ(station.Map.CentreFollow, 1);
+}
+
+TEST(ReceivePass, PositionOfTheFollowedStationEndsThePassWithARedrawWhenLittleWaits) {
+  Reception station;
+  const std::string own = Reception::Frame(kPosition + "Test", "QX7KB*>WIDE1-1>APRS");
+  const std::string other = Reception::Frame(kPosition + "other");
+  station.Hear(own + other);
+  EXPECT_EQ(station.Heard(), 1);
+  EXPECT_EQ(station.Actions.Redraws, 1);
+  EXPECT_EQ(station.Received.RxBuffer, "\n" + other);
+}
+
+TEST(ReceivePass, ManyPositionsOfTheFollowedStationInOnePassDrawTheMapOnce) {
+  Reception station;
+  std::string text;
+  for (int i = 0; i < 50; ++i) {
+    text += Reception::Frame("!52" + ZeroPadded(i, 2) + ".00N/01324.00E>x", "QX7KB*>WIDE1-1>APRS");
+  }
+  station.Hear(text);
+  EXPECT_GE(station.Stores.Moni1Records.Count(), 48);
+  EXPECT_EQ(station.Actions.Redraws, 1);
+}
+
+TEST(ReceivePass, EmergencyLeavesThePassAndWhatWaitsComesInTheNextTick) {
+  Reception station;
+  std::string text = Reception::Frame("!5230.00N\\01324.00E!Help me");
+  for (int i = 0; i < 50; ++i) {
+    text += Reception::Frame("!52" + ZeroPadded(i, 2) + ".00N/01324.00E>x", "N0TWO*>WIDE1-1>APRS");
+  }
+  station.Hear(text);
+  EXPECT_EQ(station.Actions.Emergencies, 1);
+  EXPECT_EQ(station.Actions.Redraws, 0);  // the emergency's own display draws
+  EXPECT_EQ(station.Heard(), 1);
+  for (int pass = 0; pass < 3; ++pass)
+    station.Pass.Run();
+  EXPECT_EQ(station.Heard(), 51);
 }
 
 TEST(ReceivePass, FollowedStationsFileThatCannotBeWrittenIsRecovered) {
