@@ -85,6 +85,7 @@ struct ComboBox : Control {
   bool DropDownWanted = false;  // the list is to be opened; taken and cleared by the desktop
   Event Change;                 // an entry was chosen; what is typed tells itself by KeyDown only
   std::function<void(KeyPress)> KeyDown;
+  double LastKeySeconds = -60.0;  // monotonic, of the last key; where the room's KeyDown keeps it
 
   // The selected entry, or an empty text.
   std::string Selected() const {

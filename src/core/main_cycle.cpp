@@ -13,6 +13,7 @@ constexpr std::uint32_t kCollectingMoniAll = 0xFF80E0;
 constexpr double kEmergencyReturnSeconds = 30.0;
 constexpr double kIonoSeconds = 3600.0;
 constexpr int kChatPassTicks = 30 / 6;
+constexpr double kTypingSeconds = 3.0;
 constexpr int kPanelWidthTwips = 1815;
 
 }  // namespace
@@ -147,6 +148,9 @@ MainCycle::Outcome MainCycle::FollowCallField() {
   const std::string typed = Upper(Trim(field.Text));
   if (typed.empty() && field.HasFocus) return Outcome::GoOn;
   if (typed == Upper(Trim(state_.Followed.Moni1Call))) return Outcome::GoOn;
+  // Half a call, while the rest of it is being typed.
+  const double since_key = clock_.MonotonicSeconds() - field.LastKeySeconds;
+  if (field.HasFocus && since_key < kTypingSeconds) return Outcome::GoOn;
   actions_.ChangeFollowedStation();
   return Outcome::EndTick;
 }

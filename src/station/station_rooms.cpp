@@ -330,6 +330,7 @@ void StationRooms::BindStations() {
   Moni1Controls& moni1 = Controls.Moni1;
   moni1.Combo9.Click = [this] { ChangeFollowedStation(); };
   moni1.Combo9.KeyDown = [this](KeyPress key) {
+    Controls.Moni1.Combo9.LastKeySeconds = machine_.LocalClock.MonotonicSeconds();
     if (key.Code == kEnterKey) ChangeFollowedStation();
   };
   moni1.Check1.Click = [this] {

@@ -225,6 +225,22 @@ TEST_F(MainCycleTest, TypedCallIsFollowedAndEndsTheTick) {
   EXPECT_EQ(Tick(), (Names{"follow"}));
 }
 
+TEST_F(MainCycleTest, AHalfTypedCallIsLeftAloneUntilThreeSecondsAfterTheLastKey) {
+  ComboBox& field = controls.Moni1.Combo9;
+  field.Text = "QX";
+  field.HasFocus = true;
+  clock.Wait(100.0);
+  field.LastKeySeconds = clock.MonotonicSeconds();
+  clock.Wait(2.9);
+  EXPECT_EQ(Tick(), (Names{"receive"}));
+  clock.Wait(0.2);
+  EXPECT_EQ(Tick(), (Names{"follow"}));
+  // Only while the field has the focus.
+  field.LastKeySeconds = clock.MonotonicSeconds();
+  field.HasFocus = false;
+  EXPECT_EQ(Tick(), (Names{"follow"}));
+}
+
 TEST_F(MainCycleTest, RawListShowsItsLastRow) {
   state.Reception.RawLineCount = 17;
   Tick();

@@ -138,6 +138,25 @@ TEST(StationProgram, WithoutRadioNothingIsCollected) {
   EXPECT_EQ(station.program->Lamp().State, LampState::None);
 }
 
+TEST(StationProgram, ACallThatIsBeingTypedIsNotFollowedYet) {
+  StationHarness station;
+  station.Start();
+  station.Ticks(1);
+  ComboBox& field = station.Controls().Moni1.Combo9;
+  field.HasFocus = true;
+  field.Text.clear();
+  // A key every two seconds; a tick comes in the middle.
+  for (char key : std::string("QX2CD")) {
+    field.Text += key;
+    field.KeyDown({key, 0});
+    station.clock.Run(2.0);
+    EXPECT_EQ(station.State().Followed.Moni1Call, "QX1AB-9") << field.Text;
+  }
+  station.Ticks(1);
+  EXPECT_EQ(station.State().Followed.Moni1Call, "QX2CD");
+  EXPECT_EQ(station.File("U33\\LOG\\QX2.TXT"), "(missing)");
+}
+
 TEST(StationProgram, EnterInTheCallFieldFollowsAnotherStation) {
   StationHarness station;
   station.Start();
