@@ -272,8 +272,10 @@ void MapInteraction::RightPress() {
 }
 
 bool MapInteraction::LookUpEverything() {
-  const auto stop_cycle = [this] {
-    tools_.Timer1.Stop();
+  // Press after press must not keep off a tick that is due.
+  const bool tick_first = tools_.Timer1.IsOverdue();
+  const auto stop_cycle = [this, tick_first] {
+    tick_first ? tools_.Timer1.Enable() : tools_.Timer1.Hold();
     tools_.Timer2.Stop();
     tools_.Timer2.Arm(kLookupTimer2Ms);
   };
@@ -435,7 +437,7 @@ void MapInteraction::FocusMap() {
 
 void MapInteraction::Redraw() {
   // The cycle stands still while the map is painted; the redraw starts it again.
-  tools_.Timer1.Stop();
+  tools_.Timer1.Hold();
   tools_.Map.MapRedraw();
 }
 

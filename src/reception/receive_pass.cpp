@@ -81,7 +81,7 @@ ReceivePass::Next ReceivePass::TakeFrame() {
     case CutOutcome::Frame:
       break;
   }
-  timer1_.Stop();
+  timer1_.Hold();
   ++counts_.Frames;
   reception_.PacketInfoText.clear();
   reception_.TimestampStale = 0;

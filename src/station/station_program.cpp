@@ -57,6 +57,10 @@ LinkLamp StationProgram::Lamp() const {
   return rooms_->Lamp();
 }
 
+const ReceptionCounts& StationProgram::Counts() const {
+  return rooms_->Counts();
+}
+
 void StationProgram::UseLocalEnginePort(int port) {
   rooms_->LocalEngine().UsePort(port);
 }

@@ -38,6 +38,7 @@ struct StationPlatform {
 };
 
 class StationRooms;
+struct ReceptionCounts;
 
 class StationProgram {
  public:
@@ -66,6 +67,7 @@ class StationProgram {
   LinkLamp Lamp() const;
   // Once a second, also while the main cycle rests: what is shown for some seconds, and since when.
   void SecondPassed();
+  const ReceptionCounts& Counts() const;
   // For engines of tests on another port than 8000.
   void UseLocalEnginePort(int port);
 

@@ -78,6 +78,7 @@ StationRooms::StationRooms(StationPlatform machine)
   State.Map.ViewWidthPx = machine_.MapSurface.Width();
   State.Map.ViewHeightPx = machine_.MapSurface.Height();
   Timer1.Elapsed = [this] { Tick(); };
+  Timer1.FollowClock(machine_.LocalClock);
   Timer2.Elapsed = [this] { cycle_.Timer2Elapsed(); };
   overlays_.PictureShower = [this] { ShowPicture(); };
   transmit_.SetPositionMissing([this] { OpenQthSetup(); });
@@ -370,7 +371,7 @@ void StationRooms::BindQthSetup() {
 }
 
 void StationRooms::FollowStation(const std::string& call) {
-  Timer1.Stop();
+  Timer1.Hold();
   history_.ChangeStation(call);
   ListFollowedCalls();
   Controls.Moni1.Combo9.Text = State.Followed.Moni1Call;
@@ -393,7 +394,7 @@ void StationRooms::ListFollowedCalls() {
 void StationRooms::Find(const std::string& call) {
   State.Map.FindCall = Upper(Trim(call));
   Controls.MoniAll.Text15.Text = State.Map.FindCall;
-  Timer1.Stop();
+  Timer1.Hold();
   MapRedraw();
 }
 

@@ -197,6 +197,7 @@ class StationRooms final : public TickActions,
 
  public:
   MainCycle& Cycle() { return cycle_; }
+  const ReceptionCounts& Counts() const { return receive_pass_.Counts(); }
   AgwLocal& LocalEngine() { return agw_local_; }
 };
 

@@ -74,7 +74,7 @@ class HurriedClock final : public Clock {
     Timer* Subject;
     bool Pumped;
     double Since;
-    double Due() const { return Since + Subject->IntervalMs() / 1000.0; }
+    double Due() const { return Since + Subject->NextMs() / 1000.0; }
   };
 
   Driven* NextTimer(bool pumped_only) {
@@ -95,6 +95,7 @@ class HurriedClock final : public Clock {
         pumping ? world_.WaitPumping(left / factor_) : world_.Wait(left / factor_);
       } else if (next != nullptr && next->Due() <= end) {
         next->Since = MonotonicSeconds();
+        next->Subject->Fired();
         if (next->Subject->Elapsed) next->Subject->Elapsed();
       } else {
         return;

@@ -88,7 +88,7 @@ class VirtualClock final : public Clock {
     bool Pumped;
     std::uint64_t Generation;
     double Since;
-    double Due() const { return Since + Subject->IntervalMs() / 1000.0; }
+    double Due() const { return Since + Subject->NextMs() / 1000.0; }
   };
 
   std::int64_t Whole() const { return static_cast<std::int64_t>(elapsed_); }
@@ -113,6 +113,7 @@ class VirtualClock final : public Clock {
   void FireTimer(Driven& timer) {
     if (timer.Due() > elapsed_) elapsed_ = timer.Due();
     timer.Since = elapsed_;
+    timer.Subject->Fired();
     if (timer.Subject->Elapsed) timer.Subject->Elapsed();
   }
 

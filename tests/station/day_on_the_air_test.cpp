@@ -85,7 +85,6 @@ struct Rhythm {
   double Armed = 0.0;  // when the cycle's timer was started
   double End = kDay;
   std::vector<double> Presses;  // of the TX button, by hand
-  std::vector<double> Heard;    // when a frame came in, never two in one tick
 
   std::vector<Outgoing> Transmissions() const;
 
@@ -116,7 +115,6 @@ std::vector<Outgoing> Rhythm::Transmissions() const {
   std::int64_t last_report = -1'000'000;
   std::int64_t last_object = -1'000'000;
   auto press = Presses.begin();
-  auto frame = Heard.begin();
   double next = Armed + kTick;
   for (;;) {
     // By hand, between two ticks.
@@ -136,13 +134,8 @@ std::vector<Outgoing> Rhythm::Transmissions() const {
     const bool object = IntervalMinutes > 0 && Object && now - last_object > 120 * IntervalMinutes;
     const bool report = IntervalMinutes > 0 && !object && now - last_report > 60 * IntervalMinutes;
     next = progress.Now + (object || report ? kTickBehindFrame : kTick);
-    const bool scs = Mode == RadioMode::ScsTnc || Mode == RadioMode::ScsPtc;
-    if (scs) progress.Now += kListening;
-    if (frame != Heard.end() && *frame <= progress.Now) {
-      // Behind a frame the timer begins anew.
-      ++frame;
-      if (scs) next += kListening;
-    }
+    // A frame that is heard moves no tick.
+    if (Mode == RadioMode::ScsTnc || Mode == RadioMode::ScsPtc) progress.Now += kListening;
     if (object) {
       Send(progress, ObjectText(SecondsOfDay(progress.Now)));
       last_object = SecondsOfDay(progress.Now);
@@ -211,7 +204,6 @@ TEST_P(DayOnTheAir, WhatIsHeardKeepsNoTransmissionBack) {
     } else {
       station.modem.Reads.push_back(MonitorTextOf(GetParam(), text));
     }
-    rhythm.Heard.push_back(Now());
   }
   RunTo(rhythm.End);
   EXPECT_EQ(station.State().Stores.MoniAllRecords.Count(), 143);

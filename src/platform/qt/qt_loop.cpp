@@ -36,7 +36,7 @@ void QtLoop::Drive(Timer& timer, bool pumped) {
   const auto follow = [&driven] {
     driven.Due = false;
     if (driven.Subject->Enabled()) {
-      driven.Clockwork->start(driven.Subject->IntervalMs());
+      driven.Clockwork->start(driven.Subject->NextMs());
     } else {
       driven.Clockwork->stop();
     }
@@ -56,7 +56,9 @@ void QtLoop::Fire(Driven& driven) {
     return;
   }
   driven.Due = false;
-  if (!driven.Subject->Enabled() || !driven.Subject->Elapsed) return;
+  if (!driven.Subject->Enabled()) return;
+  driven.Subject->Fired();
+  if (!driven.Subject->Elapsed) return;
   RunStep(driven.Subject->Elapsed);
 }
 
