@@ -106,6 +106,7 @@ void DesktopProgram::OpenMainWindow() {
   program_ = std::make_unique<StationProgram>(
       StationPlatform{files_, loop_, dialogs_, desktop_, socket_, modem_, map_surface_,
                       base_surface_, sun_surface_, tx_symbol_surface_, object_symbol_surface_});
+  if (!panel_->ModemIsSetUp()) program_->ModemWasNotSetUp();
   loop_.Drive(program_->Timer1(), false);
   loop_.Drive(program_->Timer2(), true);
   loop_.Drive(program_->ReopenTimer(), true);

@@ -8,17 +8,19 @@ namespace {
 constexpr double kPollSeconds = 0.01;
 constexpr double kPromptSeconds = 1.0;
 
-void AwaitSent(SerialPort& port, Clock& clock) {
+bool AwaitSent(SerialPort& port, Clock& clock) {
   const double end = clock.MonotonicSeconds() + kLongestDrainSeconds;
   while (port.IsOpen() && port.BytesToWrite() > 0 && clock.MonotonicSeconds() < end) {
     clock.Wait(kPollSeconds);
   }
+  return port.IsOpen() && port.BytesToWrite() == 0;
 }
 
-void Drain(SerialPort& port, Clock& clock) {
-  AwaitSent(port, clock);
+bool Drain(SerialPort& port, Clock& clock) {
+  const bool sent = AwaitSent(port, clock);
   for (int reads = 0; reads < kMostReads && !port.ReadAll().empty();)
     ++reads;
+  return sent;
 }
 
 void AwaitPrompt(SerialPort& port, Clock& clock) {
@@ -28,31 +30,40 @@ void AwaitPrompt(SerialPort& port, Clock& clock) {
   }
 }
 
-void Carry(const ModemStep& step, SerialPort& port, Clock& clock) {
+bool Say(const std::string& text, SerialPort& port) {
+  if (!port.IsOpen()) return false;
+  port.Write(text);
+  return true;
+}
+
+// False when the modem has not got what the step is for.
+bool Carry(const ModemStep& step, SerialPort& port, Clock& clock) {
   switch (step.Act) {
     case ModemAct::Open:
-      if (!port.IsOpen()) port.Open(step.Text, step.Baud);
-      return;
+      return port.IsOpen() || port.Open(step.Text, step.Baud);
     case ModemAct::Close:
       if (port.IsOpen()) port.Close();
-      return;
+      return true;
     case ModemAct::Send:
-      if (port.IsOpen()) port.Write(step.Text);
-      return;
+      return Say(step.Text, port);
     case ModemAct::Wait:
-      return clock.Wait(step.Seconds);
+      clock.Wait(step.Seconds);
+      return true;
     case ModemAct::WaitPumping:
-      return clock.WaitPumping(step.Seconds);
+      clock.WaitPumping(step.Seconds);
+      return true;
     case ModemAct::ReadAway:
       port.ReadAll();
-      return;
+      return true;
     case ModemAct::AwaitSent:
       return AwaitSent(port, clock);
     case ModemAct::Drain:
       return Drain(port, clock);
     case ModemAct::AwaitPrompt:
-      return AwaitPrompt(port, clock);
+      AwaitPrompt(port, clock);
+      return true;
   }
+  return true;
 }
 
 double SecondsOfStep(const ModemStep& step) {
@@ -80,6 +91,11 @@ ModemScript& ModemScript::SendPumping(std::string_view bytes, double wait_second
   return WaitPumping(wait_seconds);
 }
 
+ModemScript& ModemScript::Append(const ModemScript& other) {
+  steps_.insert(steps_.end(), other.steps_.begin(), other.steps_.end());
+  return *this;
+}
+
 double ModemScript::Seconds() const {
   double seconds = 0.0;
   for (const ModemStep& step : steps_)
@@ -87,18 +103,22 @@ double ModemScript::Seconds() const {
   return seconds;
 }
 
-void RunModemScript(const ModemScript& script, SerialPort& port, Clock& clock,
-                    const ScriptProgress& progress) {
+bool RunModemScript(const ModemScript& script, SerialPort& port, Clock& clock,
+                    const ScriptProgress& progress, const ScriptTerms& terms) {
   const double whole = script.Seconds();
   double gone = 0.0;
+  bool heard = true;
   for (const ModemStep& step : script.Steps()) {
     // The program is to end: what follows is how the modem is left, not how it is set up.
-    if (clock.EndAsked()) break;
+    if (clock.EndAsked()) return false;
+    if (terms.GoOn && !terms.GoOn()) return false;
     if (progress && whole > 0.0) progress(gone / whole);
-    Carry(step, port, clock);
+    if (!Carry(step, port, clock)) heard = false;
+    if (!heard && terms.OnlyWhileHeard) return false;
     gone += SecondsOfStep(step);
   }
   if (progress) progress(1.0);
+  return heard;
 }
 
 }  // namespace zepril

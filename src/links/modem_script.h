@@ -47,6 +47,9 @@ class ModemScript {
   ModemScript& Drain() { return Add({ModemAct::Drain, {}, 0, 0.0}); }
   ModemScript& AwaitPrompt() { return Add({ModemAct::AwaitPrompt, {}, 0, 0.0}); }
 
+  // All steps of `other` behind those of this one.
+  ModemScript& Append(const ModemScript& other);
+
   const std::vector<ModemStep>& Steps() const { return steps_; }
   // What the waits add up to when the modem is silent: a prompt loop counts 1 s.
   double Seconds() const;
@@ -60,12 +63,21 @@ class ModemScript {
 // Told the share of the waits that is over, 0 to 1.
 using ScriptProgress = std::function<void(double share)>;
 
+// When a script ends before its end.
+struct ScriptTerms {
+  // Asked before each step; false leaves the rest out. May be empty.
+  std::function<bool()> GoOn;
+  // A line that is lost, can't be opened or takes nothing ends it.
+  bool OnlyWhileHeard = false;
+};
+
 // Carries the script out. Nothing fails: on a port that can't be opened only the waits remain. A
 // modem that takes nothing, answers without end or prompts for ever is left alone after
 // kLongestDrainSeconds, kMostReads and kMostPrompts: the described loops have no limit, a program
-// that must not hang has.
-void RunModemScript(const ModemScript& script, SerialPort& port, Clock& clock,
-                    const ScriptProgress& progress = {});
+// that must not hang has. True when the modem has got all of it: every step was carried out on an
+// open port, and the line took what it was given.
+bool RunModemScript(const ModemScript& script, SerialPort& port, Clock& clock,
+                    const ScriptProgress& progress = {}, const ScriptTerms& terms = {});
 
 inline constexpr double kLongestDrainSeconds = 10.0;
 inline constexpr int kMostReads = 1000;

@@ -1,12 +1,27 @@
 #include "links/serial_modem.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "links/agw_link.h"
+#include "links/telling_clock.h"
 
 namespace zepril {
+namespace {
+
+constexpr const char* kTakesNothing = "The modem's line takes no bytes.";
+constexpr const char* kNotReached = "START has not reached the modem.";
+constexpr const char* kLostItsPower = "The modem has lost its power.";
+constexpr int kLookAgainMilliseconds = 1000;
+constexpr const char* kSetUp = "MODEM SET-UP";
+
+}  // namespace
 
 SerialModem::SerialModem(const IdentityState& identity, RadioState& radio,
                          const TransmissionState& transmission, SerialModemTools tools)
     : identity_(identity), radio_(radio), transmission_(transmission), tools_(tools) {}
+
+// ---- Start and end ----------------------------------------------------------------------------
 
 void SerialModem::Open() {
   tools_.Port.DataArrived = [this] {
@@ -14,46 +29,164 @@ void SerialModem::Open() {
     if (DataArrived) DataArrived();
   };
   tools_.ReopenTimer.Elapsed = [this] { ReopenElapsed(); };
-  Run(OpenModemScript({identity_, radio_, transmission_}));
-  // Who was away at START too has not heard under which call it sends.
-  untold_ = !tools_.Port.IsOpen();
+  // One that does not know its call is not brought to where it would transmit.
+  if (set_up_) {
+    Run(PrepareModemScript(Sections()));
+    EnterConverse();
+  } else if (tools_.Port.Trouble().empty()) {
+    trouble_ = kNotReached;
+  }
   tools_.ReopenTimer.Arm(kReopenMilliseconds);
+}
+
+void SerialModem::EnterConverse() {
+  if (tools_.Port.IsOpen() && Memory.Begins) Memory.Begins();
+  Run(ConverseScript(radio_));
+  power_ = tools_.Port.ModemReady();
 }
 
 void SerialModem::Leave() {
   tools_.ReopenTimer.Stop();
   Run(LeaveModemScript(radio_));
+  // One that is away, or that has not taken these bytes, may still be in converse.
+  const bool left = tools_.Port.IsOpen() && tools_.Port.BytesToWrite() == 0;
+  if (left && Memory.Ended) Memory.Ended();
 }
+
+// ---- TX SETUP -----------------------------------------------------------------------------------
 
 void SerialModem::Program(Progress& progress) {
   // A conversation that is under way is not broken into; what it leaves untold follows it.
-  untold_ = busy_;
-  if (!busy_) Tell([&progress](double share) { progress.Report("TX SETUP", share); });
+  untold_ = true;
+  while (!busy_ && untold_) {
+    untold_ = false;
+    const bool told = Run(ApplyTxSetupScript(Sections()),
+                          [&progress](double share) { progress.Report("TX SETUP", share); });
+    // It must not go on under its old call and path.
+    if (!told && tools_.Port.IsOpen()) GiveUp(kTakesNothing);
+  }
   progress.Done();
 }
 
-void SerialModem::Tell(const ScriptProgress& progress) {
-  untold_ = false;
-  Run(ApplyTxSetupScript({identity_, radio_, transmission_}), progress);
-  // Lost before its end: a modem under the old call and path must not stay so.
-  if (!tools_.Port.IsOpen()) untold_ = true;
-}
+// ---- A lost modem -------------------------------------------------------------------------------
 
 void SerialModem::ReopenElapsed() {
-  if (busy_ || tools_.Port.IsOpen() || (MayReopen && !MayReopen())) return;
-  // The waits of the opening only for a device that is there.
-  if (!tools_.Port.Open(ModemDevice(radio_), ModemBaud(radio_))) return;
-  Run(LeaveConverseScript(radio_));
-  Run(OpenModemScript({identity_, radio_, transmission_}));
-  while (untold_ && tools_.Port.IsOpen())
-    Tell();
+  if (busy_) return tools_.ReopenTimer.Arm(kLookAgainMilliseconds);
+  if (tools_.Port.IsOpen() && HasItsPower()) return WatchUnsent();
+  unsent_.clear();
+  tools_.ReopenTimer.Arm(kReopenMilliseconds);
+  if (tools_.Port.IsOpen() || (MayReopen && !MayReopen())) return;
+  trouble_.clear();
+  // The waits of the set-up only for a device that is there.
+  if (!tools_.Port.Reopen(ModemDevice(radio_), ModemBaud(radio_))) return;
+  const bool found = FindAgain();
+  tools_.LongWork.Done();
+  if (!found) {
+    tools_.Port.Close();
+    return;
+  }
+  set_up_ = true;
   if (Reopened) Reopened();
 }
 
-void SerialModem::Run(const ModemScript& script, const ScriptProgress& progress) {
+// No event comes between: all waits are plain ones.
+bool SerialModem::FindAgain() {
+  if (!LeaveConverse() || !SetUpWhole()) return false;
+  Run(PrepareModemScript(Sections()));
+  EnterConverse();
+  return tools_.Port.IsOpen();
+}
+
+bool SerialModem::LeaveConverse() {
+  const std::string device = ModemDevice(radio_);
+  const auto speed = Memory.SpeedLeftAt ? Memory.SpeedLeftAt() : std::nullopt;
+  if (speed && *speed != ModemBaud(radio_)) {
+    if (!tools_.Port.Reopen(device, *speed)) return false;
+    Run(LeaveConverseScript(radio_));
+    if (!tools_.Port.Reopen(device, ModemBaud(radio_))) return false;
+  }
+  Run(LeaveConverseScript(radio_));
+  if (!tools_.Port.IsOpen()) return false;
+  if (tools_.Port.BytesToWrite() > 0) trouble_ = kTakesNothing;
+  return trouble_.empty();
+}
+
+bool SerialModem::SetUpWhole() {
+  const ModemScript script = TncSetupScript(Sections());
+  const double whole = std::max(script.Seconds(), 1.0);
+  const double begin = tools_.LocalClock.MonotonicSeconds();
+  const auto go_on = [this] { return !Ending || !Ending(); };
+  TellingClock clock(
+      tools_.LocalClock,
+      [&] {
+        const double gone = tools_.LocalClock.MonotonicSeconds() - begin;
+        tools_.LongWork.Report(kSetUp, std::min(gone / whole, 1.0));
+      },
+      go_on);
   busy_ = true;
-  RunModemScript(script, tools_.Port, tools_.LocalClock, progress);
+  const bool heard = RunModemScript(script, tools_.Port, clock, {}, {go_on, true});
   busy_ = false;
+  return heard;
+}
+
+// ---- A line that takes nothing ------------------------------------------------------------------
+
+void SerialModem::FrameWritten() {
+  if (!tools_.Port.IsOpen()) return;
+  unsent_.push_back({tools_.LocalClock.MonotonicSeconds(), tools_.Port.BytesWritten()});
+  if (unsent_.size() == 1) WatchUnsent();
+}
+
+void SerialModem::WatchUnsent() {
+  const std::uint64_t gone = tools_.Port.BytesWritten() - tools_.Port.BytesToWrite();
+  while (!unsent_.empty() && unsent_.front().End <= gone)
+    unsent_.pop_front();
+  if (unsent_.empty()) return tools_.ReopenTimer.Arm(kReopenMilliseconds);
+  const double waited = tools_.LocalClock.MonotonicSeconds() - unsent_.front().Seconds;
+  if (waited >= kLongestUnsentSeconds) return GiveUp(kTakesNothing);
+  // A millisecond more, so that the time is over when the timer fires.
+  tools_.ReopenTimer.Arm(static_cast<int>(std::ceil((kLongestUnsentSeconds - waited) * 1000.0)) +
+                         1);
+}
+
+// One that was off and on again has forgotten its call.
+bool SerialModem::HasItsPower() {
+  if (tools_.Port.ModemReady() == power_) return true;
+  GiveUp(kLostItsPower);
+  return false;
+}
+
+bool SerialModem::MaySend() {
+  return !busy_ && (!tools_.Port.IsOpen() || HasItsPower());
+}
+
+void SerialModem::GiveUp(const char* trouble) {
+  trouble_ = trouble;
+  unsent_.clear();
+  tools_.Port.DropUnsent();
+  tools_.Port.Close();
+  tools_.ReopenTimer.Arm(kReopenMilliseconds);
+  if (GivenUp) GivenUp();
+}
+
+void SerialModem::DropUnsent() {
+  if (busy_) return;
+  const bool half_out = tools_.Port.IsOpen() && tools_.Port.BytesToWrite() > 0;
+  unsent_.clear();
+  tools_.Port.DropUnsent();
+  // The modem may hold the frame's beginning: the next one must not be put behind it.
+  if (half_out) tools_.Port.Write(WipeLineBytes(radio_));
+}
+
+std::string SerialModem::Trouble() const {
+  return trouble_.empty() ? tools_.Port.Trouble() : trouble_;
+}
+
+bool SerialModem::Run(const ModemScript& script, const ScriptProgress& progress) {
+  busy_ = true;
+  const bool heard = RunModemScript(script, tools_.Port, tools_.LocalClock, progress);
+  busy_ = false;
+  return heard;
 }
 
 }  // namespace zepril

@@ -2,13 +2,17 @@
 // adapter was unplugged, left in good order at the end.
 //
 // A port that can't be opened is passed over quietly; what is written to it goes nowhere. From then
-// on it is tried again every ten seconds by a timer of its own, without boxes; when it opens, the
-// modem is brought back to its commands and told the same as at start, and behind that the settings
-// that were confirmed while it was away. One that was away at START gets these in any case.
+// on it is tried again every ten seconds by a timer of its own, without boxes. A modem that is
+// found again is brought out of converse and set up whole, as by START, before it may transmit:
+// it may have lost its power, and its call with it. The same holds for one that START has not
+// reached. A line that takes nothing of a frame for ten seconds counts as lost.
 #pragma once
 
+#include <cstdint>
+#include <deque>
 #include <functional>
-#include <string_view>
+#include <optional>
+#include <string>
 
 #include "core/progress.h"
 #include "core/timer.h"
@@ -22,45 +26,87 @@ struct SerialModemTools {
   SerialPort& Port;
   Clock& LocalClock;
   Timer& ReopenTimer;
+  Progress& LongWork;
+};
+
+// Who remembers, beyond the end of a run, that the modem is in converse. Each may be empty.
+struct ConverseMemory {
+  std::function<void()> Begins;                     // before the first byte that leads there
+  std::function<void()> Ended;                      // behind the last byte that leads back
+  std::function<std::optional<int>()> SpeedLeftAt;  // line speed of a modem that was not led back
 };
 
 class SerialModem {
  public:
+  static constexpr double kLongestUnsentSeconds = 10.0;
+
   // Notes the time of the last data in `radio`.
   SerialModem(const IdentityState& identity, RadioState& radio,
               const TransmissionState& transmission, SerialModemTools tools);
   SerialModem(const SerialModem&) = delete;
   SerialModem& operator=(const SerialModem&) = delete;
 
+  // START has not reached the modem: it is set up when it is found. To be told before Open.
+  void WasNotSetUp() { set_up_ = false; }
   void Open();
   // The modem back in its command mode; the port stays open.
   void Leave();
   // TX SETUP was confirmed: the settings as they are now. A lost modem is told when it is found.
   void Program(Progress& progress);
-  // What the line has not taken yet never leaves.
-  void DropUnsent() { tools_.Port.DropUnsent(); }
+  // A frame was written to the port.
+  void FrameWritten();
+  // What the line has not taken yet never leaves, nor does the rest of a frame that is half out. In
+  // the middle of a conversation nothing: its bytes are no frames.
+  void DropUnsent();
   bool LinkIsUp() const { return tools_.Port.IsOpen(); }
   bool IsBusy() const { return busy_; }
+  // A frame may be written just now: no conversation is under way, and the modem has not lost its
+  // power since it was set up, as far as its line tells.
+  bool MaySend();
+  // Why there is no link, as a sentence for the operator; empty when all is well.
+  std::string Trouble() const;
 
   // The re-open timer has fired.
   void ReopenElapsed();
   // Whether a lost port may be opened just now; may be empty. Asked each time.
   std::function<bool()> MayReopen;
+  // Whether the program is asked to end: a modem is not set up any further. May be empty.
+  std::function<bool()> Ending;
   // A lost port was opened again; may be empty.
   std::function<void()> Reopened;
+  // The line was given up: it takes nothing, or its modem has lost its power. May be empty.
+  std::function<void()> GivenUp;
   // Bytes have come; may be empty.
   std::function<void()> DataArrived;
+  ConverseMemory Memory;
 
  private:
-  void Run(const ModemScript& script, const ScriptProgress& progress = {});
-  void Tell(const ScriptProgress& progress = {});
+  // A frame on its way: when it was written, and the count of all bytes up to its end.
+  struct UnsentFrame {
+    double Seconds = 0.0;
+    std::uint64_t End = 0;
+  };
+
+  ModemSections Sections() const { return {identity_, radio_, transmission_}; }
+  bool Run(const ModemScript& script, const ScriptProgress& progress = {});
+  void EnterConverse();
+  bool FindAgain();
+  bool LeaveConverse();
+  bool SetUpWhole();
+  void WatchUnsent();
+  bool HasItsPower();
+  void GiveUp(const char* trouble);
 
   const IdentityState& identity_;
   RadioState& radio_;
   const TransmissionState& transmission_;
   SerialModemTools tools_;
-  bool busy_ = false;    // a conversation is under way
-  bool untold_ = false;  // confirmed settings that the modem has not heard
+  bool busy_ = false;          // a conversation is under way
+  bool set_up_ = true;         // the modem has heard the call under which it sends
+  bool untold_ = false;        // settings confirmed in the middle of a conversation
+  std::string trouble_;        // why the line was given up
+  std::optional<bool> power_;  // what the line told of it at the opening
+  std::deque<UnsentFrame> unsent_;
 };
 
 }  // namespace zepril

@@ -17,7 +17,8 @@ constexpr int kMostBaud = 4'000'000;
 // Ends KISS and host mode, whatever the modem was left in.
 const std::string kLeaveKiss = "\xC0\xFF\xC0";
 const std::string kLeaveHost = {1, 79, 72, 79, 78, 23};
-const std::string kBreak = "\x03";  // leaves converse mode
+const std::string kBreak = "\x03";       // leaves converse mode
+const std::string kCancelLine = "\x18";  // Ctrl+X
 
 RadioMode ModeOf(const RadioState& radio) {
   return static_cast<RadioMode>(radio.RadioMode);
@@ -263,7 +264,7 @@ ModemScript TncSetupScript(const ModemSections& sections) {
   }
 }
 
-ModemScript OpenModemScript(const ModemSections& sections) {
+ModemScript PrepareModemScript(const ModemSections& sections) {
   constexpr int kReads = 11;
   const RadioMode mode = ModeOf(sections.Radio);
   ModemScript script;
@@ -271,8 +272,23 @@ ModemScript OpenModemScript(const ModemSections& sections) {
   if (mode == RadioMode::Pk232) script.Send(std::string("ECHO ON") + kCr, 0.2);
   for (int reads = 0; reads < kReads; ++reads)
     script.ReadAway().Wait(0.1);
-  if (mode != RadioMode::ScsTnc) script.Send(std::string("K") + kCr, 0.2);
   return script;
+}
+
+ModemScript ConverseScript(const RadioState& radio) {
+  ModemScript script;
+  if (ModeOf(radio) != RadioMode::ScsTnc) script.Send(std::string("K") + kCr, 0.2);
+  return script;
+}
+
+ModemScript OpenModemScript(const ModemSections& sections) {
+  ModemScript script = PrepareModemScript(sections);
+  return script.Append(ConverseScript(sections.Radio));
+}
+
+// The PTC takes ESC for the beginning of a command wherever it comes.
+std::string WipeLineBytes(const RadioState& radio) {
+  return ModeOf(radio) == RadioMode::ScsPtc ? std::string(kEsc) + kCr : kCancelLine;
 }
 
 ModemScript LeaveConverseScript(const RadioState& radio) {
@@ -281,9 +297,11 @@ ModemScript LeaveConverseScript(const RadioState& radio) {
     case RadioMode::Pk232:
       script.Send(kBreak, 0.5);
       break;
+    case RadioMode::ScsTnc:
+      script.Send(kCancelLine, 0.2);
+      break;
     case RadioMode::ScsPtc:
       AddEsc(script, "Q", 0.5);
-      script.Send(std::string("PAC") + kCr, 0.3);
       break;
     default:
       break;

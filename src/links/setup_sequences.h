@@ -34,12 +34,19 @@ int ModemBaud(const RadioState& radio);
 // serial modem.
 ModemScript TncSetupScript(const ModemSections& sections);
 
-// The port opened for the run: the modem's rest is read away and it is brought to converse.
+// The port opened for the run, in two parts: the modem's rest is read away, and it is brought to
+// converse, where each line is a packet. From the second part on it has to be left in order.
+ModemScript PrepareModemScript(const ModemSections& sections);
+ModemScript ConverseScript(const RadioState& radio);
+// Both.
 ModemScript OpenModemScript(const ModemSections& sections);
 
-// On a port that was lost and found again: out of converse, in which the modem may have stayed and
-// would put every command on the air. Harmless for a modem that was switched off meanwhile.
+// Out of converse, in which a modem may have stayed whose port was lost or whose program was
+// killed: it would put every command on the air. Half a line that it holds does not leave either.
+// Harmless for a modem that was switched off meanwhile.
 ModemScript LeaveConverseScript(const RadioState& radio);
+// What makes the modem forget the line that it was given half.
+std::string WipeLineBytes(const RadioState& radio);
 
 // TX SETUP was confirmed: on the open port.
 ModemScript ApplyTxSetupScript(const ModemSections& sections);

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -27,8 +29,13 @@ class SerialPort {
   // Takes everything received so far out of the buffer.
   virtual std::string ReadAll() = 0;
   virtual std::size_t BytesToWrite() const = 0;
+  // All bytes that were ever taken to be sent, those that were dropped later too.
+  virtual std::uint64_t BytesWritten() const { return 0; }
   // What was written and has not left yet never leaves.
   virtual void DropUnsent() {}
+  // Whether the modem says that it is ready, as it does while it has its power (DSR). Nothing when
+  // the line can't tell.
+  virtual std::optional<bool> ModemReady() const { return std::nullopt; }
   // Why the port is not open, as a sentence for the operator; empty when all is well.
   virtual std::string Trouble() const { return {}; }
 

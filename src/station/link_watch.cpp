@@ -36,7 +36,7 @@ LinkLamp LinkWatch::Lamp() const {
   const bool up = IsUp();
   LinkLamp lamp = LampOf({HasLink(), up, tools_.Transmit.HoldsTheCycle(), radio_.LastDataSeconds,
                           lost_since_, tools_.LocalClock.MonotonicSeconds()});
-  if (const std::string trouble = tools_.Modem.Trouble(); !trouble.empty() && !up) {
+  if (const std::string trouble = tools_.Transmit.ModemTrouble(); !trouble.empty() && !up) {
     lamp.ToolTip += "\n" + trouble;
   }
   return lamp;

@@ -1,42 +1,14 @@
 #include "station/modem_set_up.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "config/main_window_settings.h"
 #include "links/modem_script.h"
 #include "links/setup_sequences.h"
+#include "links/telling_clock.h"
 
 namespace zepril {
 namespace {
-
-constexpr double kLongestPiece = 0.25;  // seconds between two tellings
-
-// The program's clock, which tells before each wait and cuts long ones so that it can tell in
-// between. What it waits is the same.
-class TellingClock final : public Clock {
- public:
-  TellingClock(Clock& clock, std::function<void()> tell) : clock_(clock), tell_(std::move(tell)) {}
-
-  LocalTime Now() const override { return clock_.Now(); }
-  double SecondsSinceMidnight() const override { return clock_.SecondsSinceMidnight(); }
-  double MonotonicSeconds() const override { return clock_.MonotonicSeconds(); }
-  void Wait(double seconds) override {
-    for (; seconds > 2.0 * kLongestPiece; seconds -= kLongestPiece) {
-      tell_();
-      clock_.Wait(kLongestPiece);
-    }
-    tell_();
-    clock_.Wait(seconds);
-  }
-  void WaitPumping(double seconds) override { clock_.WaitPumping(seconds); }
-  void HandOver() override { clock_.HandOver(); }
-  std::int64_t LoopsPerSecond() override { return clock_.LoopsPerSecond(); }
-
- private:
-  Clock& clock_;
-  std::function<void()> tell_;
-};
 
 IdentityState IdentityOf(const StartPanelSettings& settings) {
   IdentityState identity;
@@ -71,20 +43,31 @@ TransmissionState TransmissionOf(const StartPanelSettings& settings) {
 
 }  // namespace
 
-void TncSetup(const StartPanelSettings& settings, SerialPort& port, Clock& clock,
+bool LeaveConverse(const StartPanelSettings& settings, int baud, SerialPort& port, Clock& clock) {
+  const RadioState radio = RadioOf(settings);
+  ModemScript script;
+  script.Open(ModemDevice(radio), baud).Append(LeaveConverseScript(radio)).AwaitSent().Close();
+  return RunModemScript(script, port, clock);
+}
+
+std::string ModemDevice(const StartPanelSettings& settings) {
+  return ModemDevice(RadioOf(settings));
+}
+
+bool TncSetup(const StartPanelSettings& settings, SerialPort& port, Clock& clock,
               const std::function<void(const SetUpProgress&)>& told) {
   const IdentityState identity = IdentityOf(settings);
   const RadioState radio = RadioOf(settings);
   const TransmissionState transmission = TransmissionOf(settings);
   const ModemScript script = TncSetupScript({identity, radio, transmission});
-  if (script.Steps().empty()) return;
+  if (script.Steps().empty()) return true;
   const double whole = script.Seconds();
   const double begin = clock.MonotonicSeconds();
   TellingClock telling(clock, [&] {
     const double gone = std::min(clock.MonotonicSeconds() - begin, whole);
     told({gone / whole, whole - gone, port.IsOpen() ? std::string() : port.Trouble()});
   });
-  RunModemScript(script, port, telling);
+  return RunModemScript(script, port, telling);
 }
 
 }  // namespace zepril

@@ -19,8 +19,16 @@ struct SetUpProgress {
 
 // Opens the port, carries the sequence of the settings' interface out and closes the port. Returns
 // at once for interfaces without a serial modem. Nothing fails: on a port that can't be opened only
-// the waits remain. `told` is called before each wait, and several times in a long one.
-void TncSetup(const StartPanelSettings& settings, SerialPort& port, Clock& clock,
+// the waits remain. `told` is called before each wait, and several times in a long one. False when
+// the modem has not got all of it.
+bool TncSetup(const StartPanelSettings& settings, SerialPort& port, Clock& clock,
               const std::function<void(const SetUpProgress&)>& told);
+
+// A modem that an earlier run could not leave in order is brought out of converse at the line speed
+// that it had then; the port is closed before and after. False when the modem has not got it.
+bool LeaveConverse(const StartPanelSettings& settings, int baud, SerialPort& port, Clock& clock);
+
+// The port of the settings' interface, as its field tells it.
+std::string ModemDevice(const StartPanelSettings& settings);
 
 }  // namespace zepril

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "config/modem_run_file.h"
 #include "config/ports_file.h"
 #include "core/port_number.h"
 #include "core/text_fields.h"
@@ -346,13 +347,24 @@ std::string StartPanel::ShownPort() const {
   return port.substr(port.rfind('/') + 1);
 }
 
+// After a crash the modem is still in converse: the set-up would go on the air.
+void StartPanel::LeaveConverseOfLastRun() {
+  const ModemRun run{settings_.RadioMode, 0, modem_.LastingName(ModemDevice(settings_))};
+  const auto speed = SpeedOfModemRun(files_, program_folder_, run);
+  if (speed && LeaveConverse(settings_, *speed, modem_, clock_)) {
+    EndModemRun(files_, program_folder_, run);
+  }
+}
+
 void StartPanel::SetUpModem() {
   if (!Chosen().Serial()) return;
   const std::string what =
       " s left   modem on " + ShownPort() + ", " + std::string(Trim(Controls.Text4.Text)) + " Bd";
   Controls.SetupText.Visible = true;
   Controls.SetupBar.Visible = true;
-  TncSetup(settings_, modem_, clock_, [&](const SetUpProgress& progress) {
+  modem_.ForgetDevice();
+  LeaveConverseOfLastRun();
+  modem_is_set_up_ = TncSetup(settings_, modem_, clock_, [&](const SetUpProgress& progress) {
     Controls.SetupText.Caption = ShortNumber(std::ceil(progress.SecondsLeft)) + what;
     Controls.SetupBar.FilledPx = static_cast<int>(progress.Share * kBarSteps);
     Controls.PortFault.Caption = progress.Trouble;

@@ -39,6 +39,8 @@ class StartPanel {
   std::function<void()> Started;
 
   const StartPanelSettings& Settings() const { return settings_; }
+  // START has told the modem everything; true without a modem.
+  bool ModemIsSetUp() const { return modem_is_set_up_; }
   // START is under way or has come to its end; what is asked for meanwhile comes afterwards.
   bool Starting() const { return starting_; }
 
@@ -89,6 +91,7 @@ class StartPanel {
   std::string StableName(const std::string& device) const;
   bool CantWrite(const char* name);
   std::string ShownPort() const;
+  void LeaveConverseOfLastRun();
   void SetUpModem();
 
   Files& files_;
@@ -105,6 +108,7 @@ class StartPanel {
   std::array<Interface, 6> interfaces_;
   PortFields* shown_ = nullptr;  // what stands in Text3 and Text4
   bool starting_ = false;
+  bool modem_is_set_up_ = true;
 };
 
 }  // namespace zepril

@@ -13,6 +13,10 @@ bool StationProgram::Start(const std::string& program_folder, int colour_depth_b
   return rooms_->Start(program_folder, colour_depth_bits);
 }
 
+void StationProgram::ModemWasNotSetUp() {
+  rooms_->ModemWasNotSetUp();
+}
+
 void StationProgram::Stop(bool by_operator) {
   rooms_->Stop(by_operator);
 }

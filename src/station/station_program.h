@@ -47,6 +47,8 @@ class StationProgram {
   StationProgram(const StationProgram&) = delete;
   StationProgram& operator=(const StationProgram&) = delete;
 
+  // START has not reached the modem: it is set up when it is found. To be told before the start.
+  void ModemWasNotSetUp();
   // The start of the main window; false when it ended the program.
   bool Start(const std::string& program_folder, int colour_depth_bits);
   // The stop; `by_operator`: the window was closed, settings are kept.

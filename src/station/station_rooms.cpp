@@ -83,6 +83,7 @@ StationRooms::StationRooms(StationPlatform machine)
   overlays_.PictureShower = [this] { ShowPicture(); };
   transmit_.SetPositionMissing([this] { OpenQthSetup(); });
   transmit_.SetMayReopen([this] { return !cycle_.InTick(); });
+  transmit_.SetEnding([this] { return EndWanted; });
   BindControls();
 }
 

@@ -69,6 +69,7 @@ class StationRooms final : public TickActions,
   void MapResized(int width, int height);
   LinkLamp Lamp() const { return link_watch_.Lamp(); }
   void SecondPassed();
+  void ModemWasNotSetUp() { transmit_.ModemWasNotSetUp(); }
 
   RuntimeState State;
   MainWindowControls Controls;

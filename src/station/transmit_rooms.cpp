@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "config/modem_run_file.h"
 #include "core/text_fields.h"
+#include "links/setup_sequences.h"
 #include "transmit/identification.h"
 
 namespace zepril {
@@ -19,7 +21,7 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
       controls_(controls),
       tools_(tools),
       modem_(state.Identity, state.Radio, state.Transmission,
-             {tools.Machine.MSComm1, tools.Machine.LocalClock, tools.ReopenTimer}),
+             {tools.Machine.MSComm1, tools.Machine.LocalClock, tools.ReopenTimer, tools.LongWork}),
       terminal_(controls.Terminal, {tools.Machine.MSComm1, tools.Map, tools.Timer1, tools.Timer2}),
       temporary_mode_(state.Radio, controls.Raw, controls.Terminal, tools.Machine.MSComm1),
       sender_(
@@ -46,7 +48,8 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
       retransmission_(state.Identity, state.Radio, state.Map, controls.Record,
                       {sender_, tools.Machine.Boxes, tools.Machine.LocalClock, tools.Timer1}) {
   // What is being said to the modem is not broken into.
-  sender_.HeldBack = [this] { return terminal_.IsOpen() || modem_.IsBusy(); };
+  sender_.HeldBack = [this] { return terminal_.IsOpen() || !modem_.MaySend(); };
+  sender_.ModemFrameWritten = [this] { modem_.FrameWritten(); };
   // Off is off: nothing leaves minutes later, when a stalled line moves again.
   switches_.TurnedOff = [this] {
     modem_.DropUnsent();
@@ -58,6 +61,8 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
   };
   sender_.Leaving = [this] { outcome_.Leaving(); };
   sender_.Left = [this](Delivery delivery) { outcome_.Tell(delivery); };
+  modem_.GivenUp = [this] { ShowLinkTrouble(); };
+  BindModemRun();
   modem_.DataArrived = [this] { terminal_.DataArrived(); };
   // A notice of trouble that is over goes by itself.
   modem_.Reopened = [this] {
@@ -73,6 +78,21 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
   controls_.Transmit.NextBeacon.Visible = false;
 }
 
+// Which modem is in converse is kept beyond the end of the run, which may come by a crash.
+void TransmitRooms::BindModemRun() {
+  const auto now = [this] {
+    return ModemRun{state_.Radio.RadioMode, ModemBaud(state_.Radio),
+                    tools_.Machine.MSComm1.LastingName(ModemDevice(state_.Radio))};
+  };
+  Files& files = tools_.Machine.FileSystem;
+  const std::string& folder = state_.Identity.ProgramFolder;
+  modem_.Memory.Begins = [&files, &folder, now] { NoteModemRun(files, folder, now()); };
+  modem_.Memory.Ended = [&files, &folder, now] { EndModemRun(files, folder, now()); };
+  modem_.Memory.SpeedLeftAt = [&files, &folder, now] {
+    return SpeedOfModemRun(files, folder, now());
+  };
+}
+
 void TransmitRooms::SetMayReopen(std::function<bool()> may_reopen) {
   modem_.MayReopen = [this, may = std::move(may_reopen)] { return !terminal_.IsOpen() && may(); };
 }
@@ -86,7 +106,7 @@ void TransmitRooms::OpenSerialModem() {
 // Once, and no box: the lamp goes on telling.
 void TransmitRooms::ShowLinkTrouble() {
   Label& notice = controls_.Status.LinkNotice;
-  notice.Caption = tools_.Machine.MSComm1.Trouble();
+  notice.Caption = modem_.Trouble();
   notice.Visible = !notice.Caption.empty();
 }
 

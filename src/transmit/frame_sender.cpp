@@ -60,6 +60,7 @@ bool FrameSender::ToModem(std::string_view text) {
   std::string line(text);
   std::replace_if(line.begin(), line.end(), IsControlCharacter, ' ');
   tools_.Modem.Write(line + "\r");
+  if (ModemFrameWritten) ModemFrameWritten();
   return tools_.Modem.IsOpen();
 }
 

@@ -63,6 +63,9 @@ class FrameSender {
   // What became of it; may be empty.
   std::function<void(Delivery)> Left;
 
+  // A frame was written to the modem's line; may be empty.
+  std::function<void()> ModemFrameWritten;
+
  private:
   Delivery HandOver(std::string_view text, SecondMode second_mode);
   bool ToLocalEngine(std::string_view text);

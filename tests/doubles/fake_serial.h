@@ -18,11 +18,15 @@ class FakeSerial final : public SerialPort {
     open_ = !Absent;
     return open_;
   }
-  void Close() override { open_ = false; }
+  void Close() override {
+    open_ = false;
+    Waiting = 0;
+  }
   bool IsOpen() const override { return open_; }
   void Write(std::string_view bytes) override {
     if (!open_) return;
     Written += bytes;
+    Count += bytes.size();
     if (OnWrite) OnWrite(bytes);
   }
   std::string ReadAll() override {
@@ -35,6 +39,8 @@ class FakeSerial final : public SerialPort {
     return {};
   }
   std::size_t BytesToWrite() const override { return open_ ? Waiting : 0; }
+  std::uint64_t BytesWritten() const override { return Count; }
+  std::optional<bool> ModemReady() const override { return open_ ? Ready : std::nullopt; }
   void DropUnsent() override {
     Waiting = 0;
     ++Drops;
@@ -52,8 +58,10 @@ class FakeSerial final : public SerialPort {
   std::string Device;
   int Baud = 0;
   std::string Written;
-  std::size_t Waiting = 0;  // bytes not yet taken by the line
-  int Drops = 0;            // how often these were dropped
+  std::optional<bool> Ready;  // what the line tells of the modem's power
+  std::uint64_t Count = 0;    // of all bytes written
+  std::size_t Waiting = 0;    // bytes not yet taken by the line
+  int Drops = 0;              // how often these were dropped
   std::vector<std::string> Reads;
   std::function<void(std::string_view)> OnWrite;
 

@@ -70,6 +70,7 @@ bool ModemStation::PressStart() {
   bool started = false;
   panel.Started = [&] { started = true; };
   panel.Controls.Command1.Click();
+  if (!panel.ModemIsSetUp()) program->ModemWasNotSetUp();
   return started;
 }
 

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -23,6 +26,29 @@ class SerialModemTest : public ::testing::Test {
     clock.Drive(reopen, true);
   }
   void Use(RadioMode mode) { radio.RadioMode = static_cast<int>(mode); }
+  // What START says.
+  std::string SetUp() const {
+    std::string bytes;
+    const ModemScript script = TncSetupScript({identity, radio, transmission});
+    for (const ModemStep& step : script.Steps())
+      bytes += step.Act == ModemAct::Send ? step.Text : "";
+    return bytes;
+  }
+  void SendFrame(const std::string& text) {
+    port.Write(text);
+    modem.FrameWritten();
+  }
+  // From now on the line takes nothing.
+  void Stall() {
+    port.OnWrite = [this](std::string_view bytes) { port.Waiting += bytes.size(); };
+  }
+  void Unstall() { port.OnWrite = nullptr; }
+
+  // What leads each out of converse, and what it is told when the port is opened for the run.
+  const std::vector<std::tuple<RadioMode, std::string, std::string>> kModems{
+      {RadioMode::Pk232, "\x03", "ECHO ON\rK\r"},
+      {RadioMode::ScsTnc, "\x18", ""},
+      {RadioMode::ScsPtc, "\x1BQ\r", "K\r"}};
 
   IdentityState identity;
   RadioState radio;
@@ -31,7 +57,7 @@ class SerialModemTest : public ::testing::Test {
   VirtualClock clock;
   Timer reopen{kReopenMilliseconds};
   RecordedProgress progress;
-  SerialModem modem{identity, radio, transmission, {port, clock, reopen}};
+  SerialModem modem{identity, radio, transmission, {port, clock, reopen, progress}};
 };
 
 TEST_F(SerialModemTest, ItOpensThePortOfTheMode) {
@@ -50,30 +76,50 @@ TEST_F(SerialModemTest, ItOpensThePortOfTheMode) {
   EXPECT_EQ(port.Baud, 38400);
 }
 
-TEST_F(SerialModemTest, AVanishedPortIsOpenedAgainWithWhatTheModemIsToldAtStart) {
-  modem.Open();
-  port.Close();
-  port.Written.clear();
-  clock.Run(9.9);
-  EXPECT_FALSE(modem.LinkIsUp());
-  clock.Run(0.2);
-  EXPECT_TRUE(modem.LinkIsUp());
-  EXPECT_EQ(port.Written,
-            "\x03"
-            "ECHO ON\rK\r");
-}
-
-// It may have stayed in converse, where its commands would go on the air.
-TEST_F(SerialModemTest, AModemThatWasFoundAgainIsBroughtBackToItsCommandsFirst) {
-  for (const auto& [mode, told] : std::vector<std::pair<RadioMode, std::string>>{
-           {RadioMode::ScsTnc, ""}, {RadioMode::ScsPtc, "\x1BQ\rPAC\rK\r"}}) {
+// It may have lost its power, and its call and speed with it; or it may have stayed in converse,
+// where its commands would go on the air.
+TEST_F(SerialModemTest, AVanishedModemIsLedOutOfConverseAndSetUpWholeAgain) {
+  for (const auto& [mode, way_out, opening] : kModems) {
     Use(mode);
     modem.Open();
     port.Close();
     port.Written.clear();
-    clock.Run(kReopenMilliseconds / 1000.0 + 0.1);
-    EXPECT_EQ(port.Written, told);
+    clock.Run(9.9);
+    EXPECT_FALSE(modem.LinkIsUp());
+    clock.Run(60.0);
+    EXPECT_TRUE(modem.LinkIsUp());
+    EXPECT_EQ(port.Written, way_out + SetUp() + opening);
+    // Once.
+    port.Written.clear();
+    clock.Run(60.0);
+    EXPECT_EQ(port.Written, "");
   }
+}
+
+TEST_F(SerialModemTest, WhileAModemIsSetUpAgainTheProgramTellsHowFarItIsAndNoEventComesBetween) {
+  modem.Open();
+  port.Close();
+  progress.Shares.clear();
+  int fired = 0;
+  Timer tick{6000};
+  tick.Elapsed = [&] { fired += modem.IsBusy() || !modem.LinkIsUp() ? 1 : 0; };
+  clock.Run(9.0);
+  clock.Drive(tick, false);
+  tick.Arm(6000);
+  double longest = 0.0;
+  clock.OnWait = [&](double seconds, bool pumping) {
+    EXPECT_FALSE(pumping);
+    longest = std::max(longest, seconds);
+  };
+  clock.Run(2.0);
+  EXPECT_TRUE(modem.LinkIsUp());
+  EXPECT_EQ(fired, 0);
+  EXPECT_EQ(progress.What, "MODEM SET-UP");
+  EXPECT_EQ(progress.Shares.front(), 0.0);
+  EXPECT_GT(progress.Shares.back(), 0.9);
+  EXPECT_GT(progress.Shares.size(), 100U);
+  EXPECT_EQ(progress.Ended, 1);
+  EXPECT_LE(longest, 0.5);
 }
 
 TEST_F(SerialModemTest, AReopenedPortIsToldBehindItsConversation) {
@@ -91,8 +137,49 @@ TEST_F(SerialModemTest, AReopenedPortIsToldBehindItsConversation) {
   port.Absent = false;
   port.Written.clear();
   clock.Run(30.0);
-  EXPECT_EQ(written, (std::vector<std::string>{"\x03"
-                                               "ECHO ON\rK\r"}));
+  ASSERT_EQ(written.size(), 1U);
+  EXPECT_TRUE(written.front().ends_with("ECHO ON\rK\r"));
+}
+
+TEST_F(SerialModemTest, ALineThatIsLostWithinTheSetUpIsTriedAnew) {
+  modem.Open();
+  port.Close();
+  int reopened = 0;
+  modem.Reopened = [&] { ++reopened; };
+  clock.Schedule(20.0, [this] { port.Close(); });
+  port.OnWrite = [this](std::string_view bytes) {
+    if (bytes == "MYCALL QX7KB\r" && !port.Absent) port.Vanish();
+  };
+  clock.Run(60.0);
+  EXPECT_EQ(reopened, 0);
+  // Nothing was waited for behind that.
+  port.OnWrite = nullptr;
+  port.Absent = false;
+  port.Written.clear();
+  clock.Run(60.0);
+  EXPECT_EQ(reopened, 1);
+  EXPECT_EQ(port.Written, "\x03" + SetUp() + "ECHO ON\rK\r");
+}
+
+TEST_F(SerialModemTest, TheEndOfTheProgramIsNotHeldUpByASetUp) {
+  modem.Open();
+  port.Close();
+  bool ending = false;
+  modem.Ending = [&] { return ending; };
+  int reopened = 0;
+  modem.Reopened = [&] { ++reopened; };
+  double ended = 0.0;
+  clock.Schedule(12.0, [&] {
+    ending = true;
+    ended = clock.MonotonicSeconds();
+  });
+  double last = 0.0;
+  clock.OnWait = [&](double seconds, bool) { last = clock.MonotonicSeconds() + seconds; };
+  clock.Run(10.5);
+  ASSERT_GT(ended, 0.0);
+  EXPECT_LE(last - ended, 1.0);
+  EXPECT_EQ(reopened, 0);
+  EXPECT_FALSE(modem.LinkIsUp());
 }
 
 TEST_F(SerialModemTest, AnAbsentDeviceCostsNoTimeAtEachAttempt) {
@@ -108,20 +195,25 @@ TEST_F(SerialModemTest, AnAbsentDeviceCostsNoTimeAtEachAttempt) {
   EXPECT_TRUE(modem.LinkIsUp());
 }
 
-TEST_F(SerialModemTest, AModemThatWasAwayAtStartHearsItsCallWhenItComes) {
+TEST_F(SerialModemTest, AModemThatWasAwayAtStartIsSetUpWholeWhenItComes) {
   port.Absent = true;
   modem.Open();
   port.Absent = false;
-  clock.Run(20.0);
-  EXPECT_NE(port.Written.find("ECHO ON\rK\r"), std::string::npos);
-  EXPECT_NE(port.Written.find("MYCALL QX7KB\r"), std::string::npos);
-  EXPECT_TRUE(port.Written.ends_with("K\r"));
-  // Once is enough.
-  port.Close();
-  port.Written.clear();
-  clock.Run(20.0);
+  clock.Run(60.0);
   EXPECT_TRUE(modem.LinkIsUp());
-  EXPECT_EQ(port.Written.find("MYCALL"), std::string::npos);
+  EXPECT_EQ(port.Written, "\x03" + SetUp() + "ECHO ON\rK\r");
+}
+
+// It came between START and the opening: it would send under the call that it has from the shop.
+TEST_F(SerialModemTest, AModemThatStartHasNotReachedIsNotBroughtToConverseUnprogrammed) {
+  modem.WasNotSetUp();
+  modem.Open();
+  EXPECT_EQ(port.Written, "");
+  EXPECT_FALSE(modem.LinkIsUp());
+  EXPECT_EQ(modem.Trouble(), "START has not reached the modem.");
+  clock.Run(60.0);
+  EXPECT_EQ(port.Written, "\x03" + SetUp() + "ECHO ON\rK\r");
+  EXPECT_EQ(modem.Trouble(), "");
 }
 
 TEST_F(SerialModemTest, APortThatStandsIsLeftAlone) {
@@ -161,15 +253,7 @@ TEST_F(SerialModemTest, ItIsNotOpenedInTheMiddleOfAConversation) {
 
 // Else it would go on under the old call and path.
 TEST_F(SerialModemTest, SettingsConfirmedWhileTheLineWasLostAreToldWhenItIsBack) {
-  for (const auto& [mode, told] : std::vector<std::pair<RadioMode, std::string>>{
-           {RadioMode::Pk232,
-            "\x03"
-            "ECHO ON\rK\r"
-            "\x03MYCALL QX7KB\rUNPROTO APZEP\rDIGIPEAT OFF\rDFROM NONE\rMYALIAS NONE\r\rK\r"},
-           {RadioMode::ScsPtc,
-            "\x1BQ\rPAC\rK\r\x1B"
-            "B 300\r\x1BTXL A 300\r\x1BTXL F 300\r\x1B"
-            "DIGI OFF\r\x1BUNPROTO APZEP \r"}}) {
+  for (const auto& [mode, way_out, opening] : kModems) {
     Use(mode);
     modem.Open();
     port.Vanish();
@@ -178,13 +262,9 @@ TEST_F(SerialModemTest, SettingsConfirmedWhileTheLineWasLostAreToldWhenItIsBack)
     modem.Program(progress);
     port.Absent = false;
     port.Written.clear();
-    clock.Run(20.0);
-    EXPECT_EQ(port.Written, told);
-    // Once is enough.
-    port.Close();
-    port.Written.clear();
-    clock.Run(20.0);
-    EXPECT_EQ(port.Written.find("UNPROTO"), std::string::npos);
+    clock.Run(60.0);
+    EXPECT_EQ(port.Written, way_out + SetUp() + opening);
+    EXPECT_NE(port.Written.find("APZEP"), std::string::npos);
   }
 }
 
@@ -202,9 +282,6 @@ TEST_F(SerialModemTest, SettingsThatALostLineCutShortAreToldWhenItIsBack) {
 TEST_F(SerialModemTest, SettingsConfirmedWhileOthersAreToldFollowBehindThem) {
   transmission.TxPath = "";
   modem.Open();
-  port.Vanish();
-  modem.Program(progress);
-  port.Absent = false;
   port.Written.clear();
   bool pressed = false;
   clock.OnWait = [&](double, bool pumping) {
@@ -213,7 +290,7 @@ TEST_F(SerialModemTest, SettingsConfirmedWhileOthersAreToldFollowBehindThem) {
     transmission.TxDestination = "APZEP";
     modem.Program(progress);
   };
-  clock.Run(30.0);
+  modem.Program(progress);
   clock.OnWait = nullptr;
   ASSERT_TRUE(pressed);
   EXPECT_EQ(progress.Ended, 2);
@@ -222,6 +299,193 @@ TEST_F(SerialModemTest, SettingsConfirmedWhileOthersAreToldFollowBehindThem) {
   ASSERT_NE(first, std::string::npos);
   ASSERT_NE(second, std::string::npos);
   EXPECT_LT(port.Written.find("K\r", first), second);
+}
+
+// ---- A line that takes nothing ----------------------------------------------------------------
+
+TEST_F(SerialModemTest, AFrameThatHasNotLeftWithinTenSecondsMakesTheLinkLost) {
+  modem.Open();
+  clock.Run(3.0);
+  int given_up = 0;
+  modem.GivenUp = [&] { ++given_up; };
+  Stall();
+  SendFrame("=report\r");
+  clock.Run(9.9);
+  EXPECT_TRUE(modem.LinkIsUp());
+  clock.Run(0.2);
+  EXPECT_FALSE(modem.LinkIsUp());
+  EXPECT_EQ(given_up, 1);
+  EXPECT_EQ(port.Drops, 1);
+  EXPECT_EQ(port.Waiting, 0U);
+  EXPECT_EQ(modem.Trouble(), "The modem's line takes no bytes.");
+  // Opened again by the rules.
+  Unstall();
+  port.Written.clear();
+  clock.Run(60.0);
+  EXPECT_TRUE(modem.LinkIsUp());
+  EXPECT_EQ(port.Written, "\x03" + SetUp() + "ECHO ON\rK\r");
+  EXPECT_EQ(modem.Trouble(), "");
+}
+
+TEST_F(SerialModemTest, FramesThatLeaveSlowlyAreNoLoss) {
+  modem.Open();
+  Stall();
+  // Each leaves 9 s after it was written, one in every 5 s.
+  for (int frames = 0; frames < 20; ++frames) {
+    SendFrame("0123456789");
+    clock.Schedule(9.0, [this] { port.Waiting -= 10; });
+    clock.Run(5.0);
+    ASSERT_TRUE(modem.LinkIsUp()) << frames;
+  }
+  clock.Run(30.0);
+  EXPECT_TRUE(modem.LinkIsUp());
+  // The next one that stays is found out as fast as the first.
+  SendFrame("0123456789");
+  clock.Run(10.1);
+  EXPECT_FALSE(modem.LinkIsUp());
+}
+
+TEST_F(SerialModemTest, ALineThatStillTakesNothingIsNotSetUp) {
+  modem.Open();
+  Stall();
+  SendFrame("=report\r");
+  clock.Run(10.1);
+  ASSERT_FALSE(modem.LinkIsUp());
+  port.Written.clear();
+  double waited = 0.0;
+  clock.OnWait = [&](double seconds, bool) { waited += seconds; };
+  clock.Run(100.0);
+  EXPECT_FALSE(modem.LinkIsUp());
+  EXPECT_EQ(port.Written, std::string(10, '\x03'));
+  EXPECT_LE(waited, 10.0);
+}
+
+TEST_F(SerialModemTest, ALineThatTakesNoSettingsIsGivenUp) {
+  modem.Open();
+  Stall();
+  modem.Program(progress);
+  EXPECT_FALSE(modem.LinkIsUp());
+  EXPECT_EQ(modem.Trouble(), "The modem's line takes no bytes.");
+}
+
+TEST_F(SerialModemTest, DroppedIsWhatTheLineHoldsAndTheRestOfAHalfFrame) {
+  for (const auto& [mode, wipe] :
+       std::vector<std::pair<RadioMode, std::string>>{{RadioMode::Pk232, "\x18"},
+                                                      {RadioMode::ScsTnc, "\x18"},
+                                                      {RadioMode::ScsPtc, "\x1B\r"}}) {
+    Use(mode);
+    modem.Open();
+    port.Written.clear();
+    modem.DropUnsent();
+    EXPECT_EQ(port.Written, "");
+    port.Waiting = 12;
+    modem.DropUnsent();
+    EXPECT_EQ(port.Waiting, 0U);
+    EXPECT_EQ(port.Written, wipe);
+  }
+}
+
+TEST_F(SerialModemTest, ADroppedFrameMakesNoLoss) {
+  modem.Open();
+  Stall();
+  SendFrame("=report\r");
+  modem.DropUnsent();
+  clock.Run(30.0);
+  EXPECT_TRUE(modem.LinkIsUp());
+}
+
+TEST_F(SerialModemTest, NothingIsDroppedOfAConversation) {
+  modem.Open();
+  port.Drops = 0;
+  clock.OnWait = [&](double, bool) { modem.DropUnsent(); };
+  modem.Program(progress);
+  EXPECT_EQ(port.Drops, 0);
+}
+
+// ---- Power ------------------------------------------------------------------------------------
+
+// A modem behind an adapter that stays: the device does not vanish with its power.
+TEST_F(SerialModemTest, AModemThatWasOffAndOnAgainIsSetUpBeforeItSends) {
+  port.Ready = true;
+  modem.Open();
+  clock.Run(30.0);
+  EXPECT_TRUE(modem.MaySend());
+  port.Ready = false;
+  EXPECT_FALSE(modem.MaySend());
+  EXPECT_EQ(modem.Trouble(), "The modem has lost its power.");
+  port.Written.clear();
+  clock.Run(60.0);
+  EXPECT_TRUE(modem.LinkIsUp());
+  EXPECT_EQ(port.Written, "\x03" + SetUp() + "ECHO ON\rK\r");
+  // It was spoken to while it was off: once more when it is on.
+  port.Written.clear();
+  port.Ready = true;
+  clock.Run(80.0);
+  EXPECT_TRUE(modem.LinkIsUp());
+  EXPECT_EQ(port.Written, "\x03" + SetUp() + "ECHO ON\rK\r");
+}
+
+TEST_F(SerialModemTest, ALineThatTellsNothingOfThePowerIsLeftAlone) {
+  modem.Open();
+  port.Written.clear();
+  clock.Run(60.0);
+  EXPECT_TRUE(modem.MaySend());
+  EXPECT_EQ(port.Written, "");
+}
+
+// ---- Converse beyond the end of a run ---------------------------------------------------------
+
+TEST_F(SerialModemTest, ConverseIsRememberedBeforeItsFirstByteUntilBehindTheLastOneOfTheWayOut) {
+  for (const auto& [mode, before, after] :
+       std::vector<std::tuple<RadioMode, std::string, std::string>>{
+           {RadioMode::Pk232, "ECHO ON\r", "\x03"},
+           {RadioMode::ScsTnc, "", "\x1B%ZL\r"},
+           {RadioMode::ScsPtc, "", "\x1BQ\r\x1BRESET\r"}}) {
+    Use(mode);
+    std::string noted = "never";
+    std::string ended = "never";
+    modem.Memory.Begins = [&] { noted = port.Written; };
+    modem.Memory.Ended = [&] { ended = port.Written; };
+    port.Written.clear();
+    modem.Open();
+    EXPECT_EQ(noted, before);
+    port.Written.clear();
+    modem.Leave();
+    EXPECT_EQ(ended, after);
+  }
+}
+
+TEST_F(SerialModemTest, AModemThatCouldNotBeLedBackStaysRemembered) {
+  int ended = 0;
+  modem.Memory.Ended = [&] { ++ended; };
+  modem.Open();
+  port.Vanish();
+  modem.Leave();
+  port.Absent = false;
+  modem.Open();
+  Stall();
+  modem.Leave();
+  EXPECT_EQ(ended, 0);
+}
+
+TEST_F(SerialModemTest, NothingIsRememberedOfAModemThatIsAway) {
+  int noted = 0;
+  modem.Memory.Begins = [&] { ++noted; };
+  port.Absent = true;
+  modem.Open();
+  EXPECT_EQ(noted, 0);
+}
+
+TEST_F(SerialModemTest, AModemLeftAtAnotherSpeedIsLedOutOfConverseThere) {
+  modem.Memory.SpeedLeftAt = [] { return std::optional<int>(9600); };
+  modem.Open();
+  port.Close();
+  std::vector<int> speeds;
+  port.OnWrite = [&](std::string_view bytes) {
+    if (bytes == "\x03") speeds.push_back(port.Baud);
+  };
+  clock.Run(30.0);
+  EXPECT_EQ(speeds, (std::vector<int>{9600, 1200}));
 }
 
 TEST_F(SerialModemTest, ProgrammingTellsHowFarItIs) {

@@ -360,10 +360,9 @@ TEST_F(SetupSequencesTest, AModemThatWasFoundAgainLeavesConverseInItsWay) {
   Sections(RadioMode::Pk232);
   EXPECT_EQ(Transcript(LeaveConverseScript(radio)), (Lines{"send <03>", "wait 0.5"}));
   Sections(RadioMode::ScsTnc);
-  EXPECT_EQ(Transcript(LeaveConverseScript(radio)), Lines{});
+  EXPECT_EQ(Transcript(LeaveConverseScript(radio)), (Lines{"send <18>", "wait 0.2"}));
   Sections(RadioMode::ScsPtc);
-  EXPECT_EQ(Transcript(LeaveConverseScript(radio)),
-            (Lines{"send <1B>Q<0D>", "wait 0.5", "send PAC<0D>", "wait 0.3"}));
+  EXPECT_EQ(Transcript(LeaveConverseScript(radio)), (Lines{"send <1B>Q<0D>", "wait 0.5"}));
 }
 
 TEST_F(SetupSequencesTest, TheSecondModeIsSwitchedWithATenthOfASecond) {

@@ -152,6 +152,62 @@ TEST_P(ModemAndTerminal, ALineIsNotOpenedInTheMiddleOfATick) {
   EXPECT_TRUE(station.modem.IsOpen());
 }
 
+// ---- Converse, and what a crash leaves ---------------------------------------------------------
+
+TEST_P(ModemAndTerminal, WhatIsInConverseIsKeptInAFileUntilItIsLedBack) {
+  bool before = true;
+  station.modem.OnWrite = [&](std::string_view bytes) {
+    if (bytes == "K\r") before = before && station.File("MODEM.RUN") != "(missing)";
+  };
+  EXPECT_EQ(station.File("MODEM.RUN"), "(missing)");
+  Begin();
+  EXPECT_TRUE(before);
+  const std::string line = WholeNumber(static_cast<int>(GetParam())) +
+                           (GetParam() == RadioMode::Pk232 ? " 1200 1\r\n" : " 38400 3\r\n");
+  EXPECT_EQ(station.File("MODEM.RUN"), line);
+  RunTo(Now() + 10 * kTick);
+  EXPECT_EQ(station.File("MODEM.RUN"), line);
+  station.program->Stop(true);
+  EXPECT_EQ(station.File("MODEM.RUN"), "(missing)");
+}
+
+TEST_P(ModemAndTerminal, AModemThatIsAwayAtTheEndStaysInTheFile) {
+  Begin();
+  Pull();
+  station.program->Stop(true);
+  EXPECT_NE(station.File("MODEM.RUN"), "(missing)");
+}
+
+// ---- A line that takes nothing ----------------------------------------------------------------
+
+TEST_P(ModemAndTerminal, AReportThatDoesNotLeaveMakesTheLinkLostAndNeverLeaves) {
+  Begin();
+  station.modem.OnWrite = [this](std::string_view bytes) {
+    WriteDown(bytes);
+    station.modem.Waiting += bytes.size();
+  };
+  SwitchOn(Transmit().Check6);
+  RunTo(Now() + kTick + 0.9);
+  ASSERT_EQ(sent.size(), 1U);
+  RunTo(sent[0].Seconds + 10.1);
+  EXPECT_FALSE(station.modem.IsOpen());
+  EXPECT_GE(station.modem.Drops, 1);
+  EXPECT_TRUE(Notice().Visible);
+  EXPECT_EQ(Notice().Caption, "The modem's line takes no bytes.");
+  EXPECT_EQ(station.program->Lamp().State, LampState::Lost);
+  EXPECT_GT(InStr(station.program->Lamp().ToolTip, "takes no bytes"), 0);
+}
+
+TEST_P(ModemAndTerminal, AModemWithoutPowerGetsNoReport) {
+  station.modem.Ready = true;
+  Begin();
+  SwitchOn(Transmit().Check6);
+  station.modem.Ready = false;
+  RunTo(Now() + kTick + 0.9);
+  ExpectSent({});
+  EXPECT_EQ(Notice().Caption, "The modem has lost its power.");
+}
+
 // ---- Two modes --------------------------------------------------------------------------------
 
 class TwoModesAtATerminal : public ModemAndTerminal {};

@@ -34,11 +34,14 @@ class NotedPort final : public SerialPort {
   }
   bool IsOpen() const override { return open_; }
   void Write(std::string_view bytes) override { Notes.emplace_back(bytes); }
+  void ForgetDevice() override { ++Forgotten; }
+  std::string LastingName(const std::string& device) const override { return "usb-" + device; }
   std::string ReadAll() override { return {}; }
   std::size_t BytesToWrite() const override { return 0; }
   std::string Trouble() const override { return Absent ? "no such port" : ""; }
 
   bool Absent = false;
+  int Forgotten = 0;
   Lines Notes;
 
  private:
@@ -591,6 +594,68 @@ TEST_F(StartPanelTest, OfAPortThatIsNotThereOnlyTheWaitsRemain) {
   EXPECT_NEAR(waited, 30.2, 1e-6);
   EXPECT_EQ(marked, "no such port");
   EXPECT_EQ(starts, 1);
+}
+
+// ---- A modem that an earlier run could not leave in order --------------------------------------
+
+class LeftModemTest : public StartPanelTest {
+ protected:
+  // What is done with the port at START when `left` stands in the file.
+  Lines NotesOfStart(const std::string& settings, const std::string& left) {
+    const auto panel = PanelOf(settings);
+    if (!left.empty()) files.Write("C:\\Z\\MODEM.RUN", left);
+    modem.Notes.clear();
+    panel->Controls.Command1.Click();
+    set_up = panel->ModemIsSetUp();
+    return modem.Notes;
+  }
+  std::string Left() { return files.ReadAll("C:\\Z\\MODEM.RUN", 1 << 16).value_or("(none)"); }
+  bool set_up = false;
+};
+
+TEST_F(LeftModemTest, IsLedOutOfConverseAtItsSpeedAndThenToldTheSame) {
+  struct Case {
+    const char* Settings;
+    const char* Run;
+    Lines WayOut;
+  };
+  for (const Case& one :
+       {Case{"MODEM=1\r\nCOM=2\r\nTBAUD=1200\r\n", "1 9600 usb-2\r\n", {"open 2 9600", "\x03"}},
+        Case{
+            "MODEM=5\r\nSCOMP=3\r\nSBAUD=38400\r\n", "5 19200 usb-3\r\n", {"open 3 19200", "\x18"}},
+        Case{"MODEM=6\r\nSCOMP=3\r\nSBAUD=38400\r\n",
+             "6 38400 usb-3\r\n",
+             {"open 3 38400", "\x1BQ\r"}}}) {
+    const Lines clean = NotesOfStart(one.Settings, "");
+    ASSERT_FALSE(clean.empty());
+    Lines expected = one.WayOut;
+    expected.emplace_back("close");
+    expected.insert(expected.end(), clean.begin(), clean.end());
+    EXPECT_EQ(NotesOfStart(one.Settings, one.Run), expected);
+    EXPECT_TRUE(set_up);
+    EXPECT_EQ(Left(), "(none)");
+  }
+}
+
+TEST_F(LeftModemTest, EachStartChoosesItsDeviceAnew) {
+  NotesOfStart("MODEM=1\r\nCOM=2\r\nTBAUD=1200\r\n", "");
+  EXPECT_EQ(modem.Forgotten, 1);
+}
+
+TEST_F(LeftModemTest, AnotherInterfaceOrDeviceIsToldNothingElse) {
+  const std::string settings = "MODEM=1\r\nCOM=2\r\nTBAUD=1200\r\n";
+  const Lines clean = NotesOfStart(settings, "");
+  for (const char* other : {"6 9600 usb-2\r\n", "1 9600 usb-3\r\n", "rubbish\r\n"}) {
+    EXPECT_EQ(NotesOfStart(settings, other), clean);
+    EXPECT_EQ(Left(), other);
+  }
+}
+
+TEST_F(LeftModemTest, OneThatIsAwayIsStillRemembered) {
+  modem.Absent = true;
+  NotesOfStart("MODEM=1\r\nCOM=2\r\nTBAUD=1200\r\n", "1 9600 usb-2\r\n");
+  EXPECT_FALSE(set_up);
+  EXPECT_EQ(Left(), "1 9600 usb-2\r\n");
 }
 
 }  // namespace

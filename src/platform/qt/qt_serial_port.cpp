@@ -108,6 +108,7 @@ void QtSerialPort::Close() {
 void QtSerialPort::Write(std::string_view bytes) {
   if (!open_ || static_cast<std::size_t>(port_.bytesToWrite()) > kLongestBuffer) return;
   port_.write(bytes.data(), static_cast<qint64>(bytes.size()));
+  written_ += bytes.size();
 }
 
 std::string QtSerialPort::ReadAll() {
@@ -120,6 +121,14 @@ std::size_t QtSerialPort::BytesToWrite() const {
   int held = 0;
   if (::ioctl(static_cast<int>(port_.handle()), TIOCOUTQ, &held) != 0) held = 0;
   return static_cast<std::size_t>(port_.bytesToWrite()) + static_cast<std::size_t>(held);
+}
+
+std::optional<bool> QtSerialPort::ModemReady() const {
+  int lines = 0;
+  if (!open_ || ::ioctl(static_cast<int>(port_.handle()), TIOCMGET, &lines) != 0) {
+    return std::nullopt;
+  }
+  return (lines & TIOCM_DSR) != 0;
 }
 
 void QtSerialPort::DropUnsent() {

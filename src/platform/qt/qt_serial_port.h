@@ -40,6 +40,8 @@ class QtSerialPort final : public SerialPort {
   std::string ReadAll() override;
   // Counts what the system holds back too.
   std::size_t BytesToWrite() const override;
+  std::optional<bool> ModemReady() const override;
+  std::uint64_t BytesWritten() const override { return written_; }
   void DropUnsent() override;
 
   // Asked for the device of a port number; may be empty.
@@ -64,6 +66,7 @@ class QtSerialPort final : public SerialPort {
   std::string path_;
   std::string buffer_;
   std::string trouble_;
+  std::uint64_t written_ = 0;
   bool open_ = false;
 };
 

@@ -1,0 +1,46 @@
+// The program's clock for a long conversation: it tells before each wait and cuts long ones so that
+// it can tell in between. What it waits is the same, unless the conversation is given up.
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include "platform/clock.h"
+
+namespace zepril {
+
+class TellingClock final : public Clock {
+ public:
+  static constexpr double kLongestPiece = 0.25;  // seconds between two tellings
+
+  // Nothing is waited any more once `go_on` says no; it may be empty.
+  TellingClock(Clock& clock, std::function<void()> tell, std::function<bool()> go_on = {})
+      : clock_(clock), tell_(std::move(tell)), go_on_(std::move(go_on)) {}
+
+  LocalTime Now() const override { return clock_.Now(); }
+  double SecondsSinceMidnight() const override { return clock_.SecondsSinceMidnight(); }
+  double MonotonicSeconds() const override { return clock_.MonotonicSeconds(); }
+  void Wait(double seconds) override {
+    for (; seconds > 2.0 * kLongestPiece; seconds -= kLongestPiece) {
+      if (!WaitPiece(kLongestPiece)) return;
+    }
+    WaitPiece(seconds);
+  }
+  void WaitPumping(double seconds) override { clock_.WaitPumping(seconds); }
+  void HandOver() override { clock_.HandOver(); }
+  std::int64_t LoopsPerSecond() override { return clock_.LoopsPerSecond(); }
+
+ private:
+  bool WaitPiece(double seconds) {
+    if (go_on_ && !go_on_()) return false;
+    tell_();
+    clock_.Wait(seconds);
+    return true;
+  }
+
+  Clock& clock_;
+  std::function<void()> tell_;
+  std::function<bool()> go_on_;
+};
+
+}  // namespace zepril
