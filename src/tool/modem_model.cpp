@@ -47,6 +47,18 @@ void ModemModel::TakeByte(char byte) {
   }
 }
 
+void ModemModel::LosePower() {
+  settings_.clear();
+  DropLine();
+  behind_return_ = false;
+  Reset();
+}
+
+int ModemModel::Aired(const std::string& call) const {
+  const auto found = aired_.find(call);
+  return found == aired_.end() ? 0 : found->second;
+}
+
 std::string ModemModel::Setting(std::string_view name) const {
   const auto found = settings_.find(name);
   return found == settings_.end() ? std::string() : found->second;
@@ -67,7 +79,8 @@ void ModemModel::TellCommand(const std::string& command) const {
 }
 
 void ModemModel::Send(const std::string& mode, const std::string& from, const std::string& unproto,
-                      const std::string& text) const {
+                      const std::string& text) {
+  ++aired_[from];
   const std::string calls = CommaList(unproto);
   const std::size_t comma = calls.find(',');
   ModemSending sending{mode, from, calls.substr(0, comma), {}, text};

@@ -55,11 +55,18 @@ class ModemModel {
   // What `name` is set to: "MYCALL", "%B". Empty when that was never set and has no first value.
   std::string Setting(std::string_view name) const;
 
+  // Its power was off for a moment: it has forgotten all that it was told, half a line too.
+  void LosePower();
+  // Packets that it was asked to transmit under `call`.
+  int Aired(const std::string& call) const;
+
   // A line that was taken for a command, without its end.
   std::function<void(const std::string& command)> CommandCame;
   std::function<void(const ModemSending&)> Sent;
 
  protected:
+  // As it comes from the shop: the values of its settings, and where its lines go.
+  virtual void Reset() = 0;
   // A byte that does something at once; true when it belongs to no line.
   virtual bool TakeControl(char byte) = 0;
   virtual void TakeLine(const std::string& line) = 0;
@@ -70,7 +77,7 @@ class ModemModel {
   void SetFirstValues(std::span<const ModemCommand> commands);
   void TellCommand(const std::string& command) const;
   void Send(const std::string& mode, const std::string& from, const std::string& unproto,
-            const std::string& text) const;
+            const std::string& text);
   bool AtLineBegin() const { return line_.empty(); }
   void DropLine() { line_.clear(); }
 
@@ -78,6 +85,7 @@ class ModemModel {
   void TakeByte(char byte);
 
   std::map<std::string, std::string, std::less<>> settings_;
+  std::map<std::string, int, std::less<>> aired_;  // by call
   std::string line_;
   std::string printed_;
   bool behind_return_ = false;

@@ -12,7 +12,8 @@ namespace {
 constexpr std::string_view kPrompt = "cmd:";
 constexpr std::string_view kBanner = "\r\nZEPRIL model of a PK-232\r\n";
 
-constexpr char kBreak = 3;      // leaves converse mode
+constexpr char kBreak = 3;  // leaves converse mode
+constexpr char kCancelLine = 24;
 constexpr char kHostBegin = 1;  // a host block, up to
 constexpr char kHostEnd = 23;   // its end
 constexpr std::size_t kLongestHostBlock = 300;
@@ -52,7 +53,13 @@ std::string SevenBits(std::string text) {
 }  // namespace
 
 Pk232Model::Pk232Model() {
+  Pk232Model::Reset();
+}
+
+void Pk232Model::Reset() {
   SetFirstValues(kCommands);
+  converse_ = false;
+  host_bytes_ = 0;
 }
 
 std::string Pk232Model::Heard(const AirPacket& packet) const {
@@ -71,6 +78,10 @@ bool Pk232Model::TakeControl(char byte) {
     DropLine();
     Print("\r\n");
     Print(kPrompt);
+    return true;
+  }
+  if (byte == kCancelLine) {
+    DropLine();
     return true;
   }
   if (converse_) return false;
@@ -125,7 +136,7 @@ void Pk232Model::Act(const ModemCommand& command) {
   if (command.Name == "RESTART") Print(kBanner);
 }
 
-void Pk232Model::Transmit(const std::string& text) const {
+void Pk232Model::Transmit(const std::string& text) {
   const bool eight_bits = Setting("8BITCONV") == "ON";
   Send(Setting("HBAUD"), Setting("MYCALL"), Setting("UNPROTO"),
        eight_bits ? text : SevenBits(text));

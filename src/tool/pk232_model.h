@@ -19,6 +19,7 @@ class Pk232Model final : public ModemModel {
   bool Runs() const override { return converse_; }
 
  protected:
+  void Reset() override;
   bool TakeControl(char byte) override;
   void TakeLine(const std::string& line) override;
   bool Echoes() const override { return Setting("ECHO") == "ON"; }
@@ -27,7 +28,7 @@ class Pk232Model final : public ModemModel {
   void Obey(const std::string& line);
   void Change(const ModemCommand& command, const std::string& value);
   void Act(const ModemCommand& command);
-  void Transmit(const std::string& text) const;
+  void Transmit(const std::string& text);
 
   bool converse_ = false;
   std::size_t host_bytes_ = 0;  // of a host block under way

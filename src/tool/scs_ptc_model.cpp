@@ -50,6 +50,12 @@ std::string NameOfCall(int channel) {
 }  // namespace
 
 ScsPtcModel::ScsPtcModel() {
+  ScsPtcModel::Reset();
+}
+
+void ScsPtcModel::Reset() {
+  place_ = Place::MainMenu;
+  command_ = false;
   SetFirstValues(kMainCommands);
   SetFirstValues(kPacketCommands);
 }
@@ -64,7 +70,9 @@ std::string ScsPtcModel::Heard(const AirPacket& packet) const {
 }
 
 bool ScsPtcModel::TakeControl(char byte) {
-  if (byte != kEsc || !AtLineBegin()) return false;
+  if (byte != kEsc) return false;
+  // Half a line of text in front of it is forgotten.
+  DropLine();
   command_ = true;
   return true;
 }
@@ -115,9 +123,7 @@ void ScsPtcModel::Act(const ModemCommand& command) {
   if (command.Name == "K") place_ = Place::Converse;
   if (command.Name == "Q") place_ = Place::MainMenu;
   if (command.Name == "RESET") {
-    place_ = Place::MainMenu;
-    SetFirstValues(kMainCommands);
-    SetFirstValues(kPacketCommands);
+    Reset();
     Print(kBanner);
   }
 }

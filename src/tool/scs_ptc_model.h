@@ -1,5 +1,5 @@
 // An SCS PTC: a main menu ("cmd:"), a packet menu ("pac:") and a converse mode, in which each line
-// is a packet and ESC at its beginning makes it a command.
+// is a packet. ESC begins a command, and what stood before it on the line is forgotten.
 //
 //   cmd: PAC                      K
 //   pac: UNPROTO ZEPR WIDE1-1     =4830.15N/00805.20E>     (transmitted)
@@ -22,6 +22,7 @@ class ScsPtcModel final : public ModemModel {
   std::string CallOfChannel(int channel) const;
 
  protected:
+  void Reset() override;
   bool TakeControl(char byte) override;
   void TakeLine(const std::string& line) override;
   bool Echoes() const override { return Setting("TERM") != "0"; }

@@ -10,6 +10,7 @@ namespace zepril {
 namespace {
 
 constexpr char kEsc = 27;
+constexpr char kCancelLine = 24;
 constexpr std::string_view kBanner = "\r\nZEPRIL model of an SCS TNC\r\n";
 
 constexpr auto kText = CommandValue::Text;
@@ -47,7 +48,12 @@ constexpr std::array<ModemCommand, 26> kCommands{{
 }  // namespace
 
 ScsTncModel::ScsTncModel() {
+  ScsTncModel::Reset();
+}
+
+void ScsTncModel::Reset() {
   SetFirstValues(kCommands);
+  command_ = false;
 }
 
 bool ScsTncModel::Runs() const {
@@ -59,6 +65,11 @@ std::string ScsTncModel::Heard(const AirPacket& packet) const {
 }
 
 bool ScsTncModel::TakeControl(char byte) {
+  if (byte == kCancelLine) {
+    DropLine();
+    command_ = false;
+    return true;
+  }
   if (byte != kEsc || !AtLineBegin()) return false;
   command_ = true;
   return true;

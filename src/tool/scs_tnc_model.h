@@ -22,6 +22,7 @@ class ScsTncModel final : public ModemModel {
   bool Runs() const override;
 
  protected:
+  void Reset() override;
   bool TakeControl(char byte) override;
   void TakeLine(const std::string& line) override;
   bool Echoes() const override { return Setting("E") == "1"; }

@@ -1,6 +1,7 @@
 #include "tests/integration/modem_station_support.h"
 
 #include <cstdlib>
+#include <filesystem>
 
 #include "config/main_window_settings.h"
 #include "core/text_fields.h"
@@ -41,6 +42,10 @@ ModemStation::ModemStation(RadioMode mode, const std::string& extra_settings, do
                   "UUN=5395.276\r\nUUE=-10.523\r\nONAM=WORKS\r\nOTXT=one lane\r\nOSYM=82\r\n"
                   "OUTN=5817.860\r\nOUTE=391.394\r\n" +
                   extra_settings);
+  Make();
+}
+
+void ModemStation::Make() {
   program = std::make_unique<StationProgram>(
       StationPlatform{files, clock, dialogs, desktop, socket, port, map_surface, base_surface,
                       sun_surface, tx_symbol_surface, object_symbol_surface});
@@ -53,6 +58,25 @@ ModemStation::~ModemStation() {
   clock.ForgetTimers();
   ::unsetenv("ZEPRIL_COM1");
   ::unsetenv("ZEPRIL_COM3");
+  ::unsetenv("ZEPRIL_SERIAL_BY_ID");
+}
+
+void ModemStation::PlayAdapters() {
+  std::filesystem::create_directory(folder.Sub("by-id"));
+  ::setenv("ZEPRIL_SERIAL_BY_ID", folder.Sub("by-id").c_str(), 1);
+  ::unsetenv("ZEPRIL_COM1");
+  ::unsetenv("ZEPRIL_COM3");
+  const std::string ini = std::string(kFolder) + "\\ZEPRIL.INI";
+  const std::string text = files.ReadAll(ini, 1 << 20).value_or("");
+  files.Write(
+      ini, "SCOMP=1\r\n" + text.substr(0, text.find("SCOMP=")) + text.substr(text.find("SBAUD=")));
+}
+
+void ModemStation::Crash() {
+  clock.ForgetTimers();
+  program.reset();
+  port.Close();
+  Make();
 }
 
 ModemScript ModemStation::SetUp() const {

@@ -53,6 +53,8 @@ class ModemStation : public RecordedSurfaces {
   // START of the start window; true when the main window may open.
   bool PressStart();
   bool Start() { return program->Start(kFolder, 32); }
+  // The program is killed in the middle of everything; another one is there to be started.
+  void Crash();
 
   // The program runs for `seconds` of its time.
   void Run(double seconds) { clock.Run(seconds); }
@@ -72,6 +74,10 @@ class ModemStation : public RecordedSurfaces {
     return box.Value == value;
   }
 
+  // From now on the computer has the adapters that are made, and the modem is the first of them.
+  void PlayAdapters();
+  std::string Adapter(const std::string& name) const { return folder.Sub("by-id/" + name); }
+
   // The name by which the station knows its modem.
   std::string Link() const { return folder.Sub("modem"); }
 
@@ -86,6 +92,8 @@ class ModemStation : public RecordedSurfaces {
   std::unique_ptr<StationProgram> program;
 
  private:
+  void Make();
+
   RadioMode mode_;
 };
 

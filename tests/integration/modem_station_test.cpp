@@ -28,7 +28,17 @@ class ModemStationTest : public ::testing::TestWithParam<RadioMode> {
     ASSERT_TRUE(modem->Stands());
     modem->NewCommands();
   }
+  // One as it comes from the shop.
+  void PlugInUntouched() {
+    modem = std::make_unique<ServedModem>(station.Link(), MakeModel(Mode()));
+    ASSERT_TRUE(modem->Stands());
+  }
   void Unplug() { modem.reset(); }
+  // Packets that the modem was asked to transmit, under whatever call.
+  int Aired() { return static_cast<int>(modem->Sent().size()); }
+  int AiredUnderItsCall() {
+    return modem->Ask<int>([](PtyModem& pty) { return pty.Model().Aired("QX7KB-10"); });
+  }
   void PlugInAndStart() {
     PlugIn();
     ASSERT_TRUE(station.Start());
@@ -191,7 +201,23 @@ TEST_P(ModemStationTest, InTheTerminalTheOperatorTalksToTheModemAndTheCycleStand
   EXPECT_EQ(station.Records(), 1);
 }
 
-TEST_P(ModemStationTest, AnUnpluggedModemIsFoundAgainAndToldTheSameAsAtStart) {
+// ---- Found again -------------------------------------------------------------------------------
+
+// The commands that a modem which lies ready takes from these scripts.
+Lines CommandsOf(RadioMode mode, const ModemScript& set_up, const ModemScript& opening) {
+  const std::unique_ptr<ModemModel> model = MakeModel(mode);
+  Lines commands;
+  model->CommandCame = [&](const std::string& command) { commands.push_back(command); };
+  if (mode == RadioMode::ScsPtc) model->Take("\x1BQ\r");
+  for (const ModemScript* script : {&set_up, &opening}) {
+    for (const ModemStep& step : script->Steps())
+      if (step.Act == ModemAct::Send) model->Take(step.Text);
+  }
+  return commands;
+}
+
+// It has lost its power with its line: it comes back with the call and the speed of the shop.
+TEST_P(ModemStationTest, AModemThatLostItsPowerIsSetUpWholeBeforeItSends) {
   PlugInAndStart();
   ExpectHeard("QX2CD", "before");
   Unplug();
@@ -201,32 +227,27 @@ TEST_P(ModemStationTest, AnUnpluggedModemIsFoundAgainAndToldTheSameAsAtStart) {
   station.Run(3 * kTickSeconds);
   EXPECT_EQ(Lamp(), LampState::Lost);
   EXPECT_TRUE(station.program->Timer1().Enabled());
-  PlugIn();
-  EXPECT_FALSE(modem->Runs() && Mode() != RadioMode::ScsTnc);
+  PlugInUntouched();
   station.Run(kReopenSeconds + 0.1);
   EXPECT_NE(Lamp(), LampState::Lost) << station.port.Trouble();
   ASSERT_TRUE(station.Comes([this] { return modem->Runs(); }));
-  const Lines opening = Mode() == RadioMode::Pk232    ? Lines{"ECHO ON", "K"}
-                        : Mode() == RadioMode::ScsTnc ? Lines{}
-                                                      : Lines{"Q", "PAC", "K"};
-  EXPECT_EQ(modem->NewCommands(), opening);
+  EXPECT_EQ(modem->NewCommands(), CommandsOf(Mode(), station.SetUp(), station.Opening()));
   ExpectHeard("QX3EF", "after");
   EXPECT_EQ(Lamp(), LampState::Data);
-  // The report that fell due meanwhile went nowhere; the next one comes in its time.
-  EXPECT_EQ(modem->Sent(), Lines{});
   station.State().Transmission.LastBeaconTime = 0;
-  station.Run(2 * kTickSeconds);
-  seen = 0;
-  EXPECT_EQ(Sent(), SentLineOf("ZEPR,WIDE1-1,WIDE2-1", kReport));
+  EXPECT_TRUE(station.RunUntil([this] { return Aired() > 0; }));
+  EXPECT_EQ(Aired(), AiredUnderItsCall());
 }
 
-// Only the adapter was pulled: the modem has kept its settings and takes every line for a packet.
+// Only the adapter was pulled: the modem has kept its settings, takes every line for a packet and
+// holds half a one.
 TEST_P(ModemStationTest, AModemThatWasLeftTransmittingGetsNoCommandOnTheAir) {
   PlugInAndStart();
   Unplug();
   ASSERT_TRUE(station.Comes([this] { return Lamp() == LampState::Lost; }));
   std::unique_ptr<ModemModel> model = MakeModelSetUpBy(Mode(), station.SetUp());
-  model->Take("K\r");
+  if (Mode() != RadioMode::ScsTnc) model->Take("K\r");
+  model->Take("=4830.15N/008");
   ASSERT_TRUE(model->Runs());
   modem = std::make_unique<ServedModem>(station.Link(), std::move(model));
   station.Run(kReopenSeconds + 0.1);
@@ -234,6 +255,64 @@ TEST_P(ModemStationTest, AModemThatWasLeftTransmittingGetsNoCommandOnTheAir) {
   ASSERT_TRUE(station.Comes([this] { return modem->Runs(); }));
   ExpectHeard("QX3EF", "after");
   EXPECT_EQ(modem->Sent(), Lines{});
+}
+
+TEST_P(ModemStationTest, AModemThatIsPluggedInAfterStartSendsUnderItsCallOnly) {
+  ASSERT_TRUE(station.PressStart());
+  // Just before the main window opens its port.
+  PlugInUntouched();
+  ASSERT_TRUE(station.Start());
+  station.Switch(Transmit().Check6, 1);
+  station.State().Transmission.LastBeaconTime = 0;
+  station.Run(kReopenSeconds + 0.1);
+  station.State().Transmission.LastBeaconTime = 0;
+  EXPECT_TRUE(station.RunUntil([this] { return Aired() > 0; }));
+  EXPECT_EQ(Aired(), AiredUnderItsCall());
+}
+
+// It is in converse, with the program gone: START is another one's.
+TEST_P(ModemStationTest, AfterACrashNothingOfTheNextStartGoesOnTheAir) {
+  PlugInAndStart();
+  modem->Ask<bool>([](PtyModem& pty) { return pty.Model().Take("=4830.15N/008").empty(); });
+  station.Crash();
+  EXPECT_TRUE(station.files.Exists("C:\\ZEPRIL\\MODEM.RUN"));
+  modem->NewCommands();
+  ASSERT_TRUE(station.PressStart());
+  EXPECT_EQ(modem->Sent(), Lines{});
+  EXPECT_EQ(Aired(), 0);
+  ASSERT_TRUE(station.Start());
+  ASSERT_TRUE(station.Comes([this] { return modem->Runs(); }));
+  EXPECT_EQ(Aired(), 0);
+  EXPECT_EQ(modem->Setting(Mode() == RadioMode::ScsTnc ? "I" : "MYCALL"), "QX7KB-10");
+  station.program->Stop(true);
+  EXPECT_FALSE(station.files.Exists("C:\\ZEPRIL\\MODEM.RUN"));
+}
+
+// Two adapters lie on the computer, and the operator has told a number only.
+TEST_P(ModemStationTest, AnotherAdapterIsNeverFoundInPlaceOfTheModem) {
+  station.PlayAdapters();
+  const auto mine = [this](bool fresh) {
+    return std::make_unique<ServedModem>(
+        station.Adapter("usb-a"),
+        fresh ? MakeModel(Mode()) : MakeModelSetUpBy(Mode(), station.SetUp()));
+  };
+  modem = mine(false);
+  ServedModem other(station.Adapter("usb-b"), MakeModelSetUpBy(Mode(), station.SetUp()));
+  ASSERT_TRUE(station.Start());
+  ASSERT_TRUE(station.Comes([this] { return modem->Runs(); }));
+  Unplug();
+  ASSERT_TRUE(station.Comes([this] { return Lamp() == LampState::Lost; }));
+  station.Switch(Transmit().Check6, 1);
+  station.Run(10 * kReopenSeconds);
+  EXPECT_EQ(Lamp(), LampState::Lost);
+  EXPECT_EQ(other.BytesTaken(), 0U);
+  EXPECT_EQ(other.Sent(), Lines{});
+  // The modem itself comes back, behind the other one in the list of the system.
+  modem = mine(true);
+  station.Run(kReopenSeconds + 0.1);
+  EXPECT_NE(Lamp(), LampState::Lost) << station.port.Trouble();
+  ASSERT_TRUE(station.Comes([this] { return modem->Runs(); }));
+  EXPECT_EQ(other.BytesTaken(), 0U);
 }
 
 TEST_P(ModemStationTest, AModemThatComesBackUnderAnOpenTerminalWaitsForItsEnd) {

@@ -118,5 +118,22 @@ TEST_F(Pk232ModelTest, ALineWithoutEndDoesNotGrow) {
   EXPECT_EQ(commands[0].size(), ModemModel::kLongestLine);
 }
 
+TEST_F(Pk232ModelTest, TheCancelByteForgetsHalfALine) {
+  Take("K\r=half\x18=whole\r");
+  ASSERT_EQ(sent.size(), 1U);
+  EXPECT_TRUE(sent[0].ends_with(":=whole\n")) << sent[0];
+}
+
+TEST_F(Pk232ModelTest, WithoutPowerItForgetsAll) {
+  Take("MYCALL QX7KB\rK\r=x\r");
+  EXPECT_EQ(modem.Aired("QX7KB"), 1);
+  modem.LosePower();
+  EXPECT_FALSE(modem.Runs());
+  EXPECT_EQ(modem.Setting("MYCALL"), "PK232");
+  Take("K\r=x\r");
+  EXPECT_EQ(modem.Aired("QX7KB"), 1);
+  EXPECT_EQ(modem.Aired("PK232"), 1);
+}
+
 }  // namespace
 }  // namespace zepril

@@ -86,5 +86,22 @@ TEST_F(ScsPtcModelTest, ReceptionReadsWhatItPrints) {
             "QX1AB*>WIDE1-1>APRS <UI>:\r\n>on\r\n");
 }
 
+TEST_F(ScsPtcModelTest, EscapeForgetsHalfALineOfText) {
+  Take("PAC\r\nMYCALL QX7KB\r\nK\r\n=half\x1BQ\r");
+  EXPECT_EQ(sent, Lines{});
+  EXPECT_FALSE(modem.Runs());
+}
+
+TEST_F(ScsPtcModelTest, WithoutPowerItForgetsAll) {
+  Take("PAC\r\nMYCALL QX7KB\r\nK\r\n=x\r");
+  EXPECT_EQ(modem.Aired("QX7KB"), 1);
+  modem.LosePower();
+  EXPECT_FALSE(modem.Runs());
+  EXPECT_EQ(modem.CallOfChannel(1), "NOCALL");
+  Take("PAC\r\nK\r\n=x\r");
+  EXPECT_EQ(modem.Aired("QX7KB"), 1);
+  EXPECT_EQ(modem.Aired("NOCALL"), 1);
+}
+
 }  // namespace
 }  // namespace zepril

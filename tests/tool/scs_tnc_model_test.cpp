@@ -77,5 +77,21 @@ TEST_F(ScsTncModelTest, ReceptionReadsWhatItPrintsBetweenItsAnswers) {
             "QX1AB*>WIDE1-1>APRS <UI>:\r\n>on\r\n");
 }
 
+TEST_F(ScsTncModelTest, TheCancelByteForgetsHalfALine) {
+  Take("=half\x18\x1BIQX7KB\r");
+  EXPECT_EQ(sent, Lines{});
+  EXPECT_EQ(modem.Setting("I"), "QX7KB");
+}
+
+TEST_F(ScsTncModelTest, WithoutPowerItForgetsAllAndSendsUnderTheCallOfTheShop) {
+  Take("\x1BIQX7KB\r=x\r=half");
+  const std::string shop = ScsTncModel().Setting("I");
+  modem.LosePower();
+  EXPECT_EQ(modem.Setting("I"), shop);
+  Take("=x\r");
+  EXPECT_EQ(modem.Aired("QX7KB"), 1);
+  EXPECT_EQ(modem.Aired(shop), 1);
+}
+
 }  // namespace
 }  // namespace zepril
