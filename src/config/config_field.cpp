@@ -1,5 +1,6 @@
 #include "config/config_field.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/text_fields.h"
@@ -61,6 +62,10 @@ ConfigField RealField(std::string key, double& held) {
 
 ConfigField IntervalField(std::string key, int& held) {
   ConfigField field = IntField(std::move(key), held);
+  field.Take = [&held, take = field.Take](std::string_view value) {
+    take(value);
+    held = std::max(held, 0);
+  };
   field.Give = [&held] { return Str(held); };
   return field;
 }

@@ -29,7 +29,7 @@ ConfigField FolderField(std::string key, std::string& held);     // trimmed, one
 ConfigField ByteField(std::string key, int& held);
 ConfigField IntField(std::string key, int& held);
 ConfigField RealField(std::string key, double& held);
-// The interval keeps the blank of the number's sign place: "TXON= 10".
+// The interval keeps the blank of the number's sign place: "TXON= 10". Below 0 it is 0.
 ConfigField IntervalField(std::string key, int& held);
 // Taken only when there is something behind the key.
 ConfigField NmeaSourceField(std::string key, std::string& held);

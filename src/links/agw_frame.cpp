@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/sent_text.h"
 #include "core/text_fields.h"
 
 namespace zepril {
@@ -12,7 +13,7 @@ constexpr std::size_t kLongestData = 65535;
 constexpr int kMostDigipeaters = 255;
 
 std::string CallField(std::string_view call) {
-  std::string field = Upper(Trim(call));
+  std::string field = Upper(Trim(WithoutControlCharacters(call)));
   field.resize(kCallField, '\0');
   return field;
 }
@@ -59,12 +60,11 @@ std::string MakeAgwFrame(int port, char kind, std::string_view from, std::string
 std::string AgwUnprotoData(std::string_view path, std::string_view text) {
   std::string digipeaters;
   int count = 0;
-  if (!Trim(path).empty()) {
-    for (std::string_view element : Split(path, ',')) {
-      if (count == kMostDigipeaters) break;
-      digipeaters += CallField(element);
-      ++count;
-    }
+  for (std::string_view element : Split(path, ',')) {
+    if (Trim(WithoutControlCharacters(element)).empty()) continue;
+    if (count == kMostDigipeaters) break;
+    digipeaters += CallField(element);
+    ++count;
   }
   return std::string(1, Chr(count)) + digipeaters + std::string(text);
 }

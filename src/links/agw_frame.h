@@ -38,7 +38,7 @@ std::string MakeAgwFrame(int port, char kind, std::string_view from, std::string
                          std::string_view data);
 
 // Data of a "V" frame: count of digipeaters, each zero-padded to 10 bytes, and the text. `path` is
-// a comma list, upper case; an empty one has count 0 and no field.
+// a comma list, upper case; an empty one has count 0 and no field, as has an empty element.
 std::string AgwUnprotoData(std::string_view path, std::string_view text);
 
 // Port by the radio mode: "1200" takes 1; a mode that reads as 300 takes 0; any other keeps `held`.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "core/sent_text.h"
 #include "core/text_fields.h"
 
 namespace zepril {
@@ -44,16 +45,24 @@ std::string SecondModeCommand(const RadioState& radio) {
   return pair ? "%AGH" : "%AG " + radio.CrossMode;
 }
 
-std::string SpacedPath(std::string path) {
+std::string SpacedPath(const std::string& list) {
+  std::string path = WithoutEmptyElements(list);
   std::replace(path.begin(), path.end(), ',', ' ');
   return path;
+}
+
+// A setting's control bytes would be a command of their own.
+void AddLine(ModemScript& script, const std::string& line, double wait_seconds,
+             const char* end = kCr) {
+  script.Send(WithoutControlCharacters(line) + end, wait_seconds);
 }
 
 // ---- PK-232 ---------------------------------------------------------------------------------
 
 std::string Pk232Unproto(const TransmissionState& transmission) {
   std::string line = "UNPROTO " + transmission.TxDestination;
-  if (!Trim(transmission.TxPath).empty()) line += " VIA " + transmission.TxPath;
+  const std::string path = WithoutEmptyElements(transmission.TxPath);
+  if (!Trim(path).empty()) line += " VIA " + path;
   return line;
 }
 
@@ -72,7 +81,7 @@ void AddPk232Search(ModemScript& script, const RadioState& radio, const std::str
     script.Send(kLeaveKiss, 0.2).Send(kCr, 0.2);
     script.Send("KISS OFF", 0.2).Send(kCr, 0.2);
     script.Send(kLeaveHost, 0.2).Send(kCr, 0.2);
-    script.Send("TB " + radio.TncBaud + kCr, 0.2);
+    AddLine(script, "TB " + radio.TncBaud, 0.2);
     script.Send(std::string("RESTART") + kCr, 0.2).Wait(1.0).AwaitSent().Close();
   }
 }
@@ -96,7 +105,7 @@ void AddPk232Parameters(ModemScript& script, const ModemSections& s) {
                                "MYCALL " + call,
                                Pk232Unproto(s.Transmission)};
   for (const std::string& line : lines)
-    script.Send(line + kCr, 0.2);
+    AddLine(script, line, 0.2);
   for (const char* line : Pk232DigiLines(s.Radio.DigiOn))
     script.Send(std::string(line) + kCr, 0.2);
 }
@@ -125,8 +134,8 @@ ModemScript Pk232TxSetup(const ModemSections& s) {
   const std::string call = CallText(s.Identity.MyCall, s.Identity.MySsid);
   ModemScript script;
   script.SendPumping(kBreak, 0.5);
-  script.SendPumping("MYCALL " + call + kCr, 0.2);
-  script.SendPumping(Pk232Unproto(s.Transmission) + kCr, 0.2);
+  for (const std::string& line : {"MYCALL " + call, Pk232Unproto(s.Transmission)})
+    script.SendPumping(WithoutControlCharacters(line) + kCr, 0.2);
   for (const char* line : Pk232DigiLines(s.Radio.DigiOn))
     script.Send(std::string(line) + kCr, 0.2);
   script.SendPumping(kCr, 1.0).AwaitSent().ReadAway().AwaitPrompt();
@@ -138,7 +147,8 @@ ModemScript Pk232TxSetup(const ModemSections& s) {
 
 void AddEsc(ModemScript& script, const std::string& command, double wait_seconds,
             const char* end = kCr) {
-  if (!command.empty()) script.Send(kEsc + command + end, wait_seconds);
+  if (command.empty()) return;
+  script.Send(kEsc + WithoutControlCharacters(command) + end, wait_seconds);
 }
 
 ModemScript ScsTncSetup(const ModemSections& s) {
@@ -146,30 +156,31 @@ ModemScript ScsTncSetup(const ModemSections& s) {
   ModemScript script;
   script.Open(ModemDevice(s.Radio), ModemBaud(s.Radio)).Wait(1.0);
   AddEsc(script, "%R", 0.5);
-  const std::string lines[] = {"E0",
-                               "Z1",
-                               "A1",
-                               "S0",
-                               "Y0",
-                               "C" + s.Transmission.TxDestination + " " + s.Transmission.TxPath,
-                               "I" + call,
-                               "%AM" + call,
-                               "K0",
-                               "MU",
-                               "P255",
-                               "T25",
-                               "U0",
-                               "W0",
-                               "X1",
-                               "%A0",
-                               SpeedCommand("%B", s.Radio.BaudMode),
-                               "%X" + Str(s.Radio.TxAudioLevel),
-                               "%F 2000",
-                               "%T" + Str(s.Radio.TxAfc),
-                               SecondModeCommand(s.Radio),
-                               s.Radio.DigiOn == 1 ? "R1" : "R0",
-                               s.Radio.DigiOn == 1 ? "%AD3" : "%AD0",
-                               s.Radio.HfDualOn == 1 ? "%AU1" : "%AU0"};
+  const std::string lines[] = {
+      "E0",
+      "Z1",
+      "A1",
+      "S0",
+      "Y0",
+      "C" + s.Transmission.TxDestination + " " + WithoutEmptyElements(s.Transmission.TxPath),
+      "I" + call,
+      "%AM" + call,
+      "K0",
+      "MU",
+      "P255",
+      "T25",
+      "U0",
+      "W0",
+      "X1",
+      "%A0",
+      SpeedCommand("%B", s.Radio.BaudMode),
+      "%X" + Str(s.Radio.TxAudioLevel),
+      "%F 2000",
+      "%T" + Str(s.Radio.TxAfc),
+      SecondModeCommand(s.Radio),
+      s.Radio.DigiOn == 1 ? "R1" : "R0",
+      s.Radio.DigiOn == 1 ? "%AD3" : "%AD0",
+      s.Radio.HfDualOn == 1 ? "%AU1" : "%AU0"};
   for (const std::string& line : lines)
     AddEsc(script, line, 0.1);
   script.Wait(1.0).Drain().Close();
@@ -180,16 +191,17 @@ ModemScript ScsTncSetup(const ModemSections& s) {
 ModemScript ScsTncTxSetup(const ModemSections& s) {
   const std::string call = CallText(s.Identity.MyCall, s.Identity.MySsid);
   ModemScript script;
-  const std::string lines[] = {SpeedCommand("%B", s.Radio.BaudMode),
-                               "I" + call,
-                               "%AM" + call,
-                               "C" + s.Transmission.TxDestination + " " + s.Transmission.TxPath,
-                               "%X" + Str(s.Radio.TxAudioLevel),
-                               SecondModeCommand(s.Radio),
-                               s.Radio.DigiOn == 1 ? "R1" : "R0",
-                               s.Radio.DigiOn == 1 ? "%AD3" : "%AD0",
-                               s.Radio.HfDualOn == 1 ? "%AU1" : "%AU0",
-                               "%F 2000"};
+  const std::string lines[] = {
+      SpeedCommand("%B", s.Radio.BaudMode),
+      "I" + call,
+      "%AM" + call,
+      "C" + s.Transmission.TxDestination + " " + WithoutEmptyElements(s.Transmission.TxPath),
+      "%X" + Str(s.Radio.TxAudioLevel),
+      SecondModeCommand(s.Radio),
+      s.Radio.DigiOn == 1 ? "R1" : "R0",
+      s.Radio.DigiOn == 1 ? "%AD3" : "%AD0",
+      s.Radio.HfDualOn == 1 ? "%AU1" : "%AU0",
+      "%F 2000"};
   for (const std::string& line : lines)
     AddEsc(script, line, 0.1);
   script.Wait(1.0).Drain();
@@ -205,7 +217,7 @@ ModemScript ScsPtcSetup(const ModemSections& s) {
   script.Wait(5.0).Open(ModemDevice(s.Radio), ModemBaud(s.Radio)).Wait(1.0);
   script.Send(kCrLf, 3.0);
   for (const std::string& line : {std::string("TERM 0"), "MYCALL " + call, std::string("PAC")})
-    script.Send(line + kCrLf, kPause);
+    AddLine(script, line, kPause, kCrLf);
   const std::string level = Str(s.Radio.TxAudioLevel);
   const std::string lines[] = {
       "MYCALL " + call, "APRS 0", "PORT 1", "PRBOX 0", "USERS 0",

@@ -1,10 +1,9 @@
 #include "transmit/frame_sender.h"
 
-#include <algorithm>
 #include <string>
 
+#include "core/sent_text.h"
 #include "links/setup_sequences.h"
-#include "platform/code_page.h"
 
 namespace zepril {
 
@@ -57,9 +56,7 @@ bool FrameSender::ToModem(std::string_view text) {
   if (!tools_.Modem.IsOpen()) return false;
   // A modem takes some of these for the way back to its commands; a text that was heard may hold
   // any.
-  std::string line(text);
-  std::replace_if(line.begin(), line.end(), IsControlCharacter, ' ');
-  tools_.Modem.Write(line + "\r");
+  tools_.Modem.Write(WithoutControlCharacters(text) + "\r");
   if (ModemFrameWritten) ModemFrameWritten();
   return tools_.Modem.IsOpen();
 }

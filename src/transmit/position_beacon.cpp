@@ -1,5 +1,6 @@
 #include "transmit/position_beacon.h"
 
+#include "core/sent_text.h"
 #include "core/text_fields.h"
 #include "transmit/position_report.h"
 
@@ -54,7 +55,9 @@ void PositionBeacon::Send(const std::string& comment) {
       DegreeTextsOf(view.OwnNorthKm, view.OwnEastKm, view.MapCentralMeridian, view.MapFalseEasting);
   const std::string position =
       PositionFieldOfRow(texts, tools_.Symbols, own.TxSymbolIndex, own.TxOverlay);
-  tools_.Sender.SendFrame(Prefix() + position + CommentField(comment, tools_.Disk));
+  // An engine would put control bytes on the air as they are.
+  const std::string text = Prefix() + position + CommentField(comment, tools_.Disk);
+  tools_.Sender.SendFrame(WithoutControlCharacters(text));
   ShowBusy(false);
 }
 
@@ -68,7 +71,8 @@ void PositionBeacon::SendObjectReport() {
   const std::string position =
       PositionFieldOfRow(texts, tools_.Symbols, own.ObjectSymbol, own.ObjectOverlay);
   const std::string stamp = UtcStamp(tools_.LocalClock.Now(), sections_.Settings.UtcOffsetHours);
-  tools_.Sender.SendFrame(ObjectReport(own.ObjectName, stamp, position, own.ObjectText));
+  tools_.Sender.SendFrame(
+      WithoutControlCharacters(ObjectReport(own.ObjectName, stamp, position, own.ObjectText)));
   ShowBusy(false);
 }
 

@@ -231,6 +231,12 @@ TEST_F(ConfigTest, ValuesBeyondTheirFieldLeaveTheHeldValue) {
   EXPECT_EQ(state.Transmission.TxIntervalMinutes, 0);
 }
 
+TEST_F(ConfigTest, AnIntervalBelowZeroIsZero) {
+  ReadMain("TXON=-7\r\n");
+  EXPECT_EQ(state.Transmission.TxIntervalMinutes, 0);
+  EXPECT_EQ(ReadPanel("TXON=-7\r\n").TxIntervalMinutes, 0);
+}
+
 TEST_F(ConfigTest, AlarmDistanceIsHeldToTheStartPanelsRange) {
   EXPECT_EQ(ReadPanel("DIST=0\r\n").AlarmDistanceKm, 1);
   EXPECT_EQ(ReadPanel("DIST=250\r\n").AlarmDistanceKm, 100);

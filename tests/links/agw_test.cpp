@@ -49,6 +49,23 @@ TEST(AgwFrame, AnEmptyPathHasNoDigipeaterField) {
   EXPECT_EQ(AgwUnprotoData("", "Hi"), std::string("\0Hi", 3));
 }
 
+TEST(AgwFrame, EmptyElementsOfAPathAreLeftOut) {
+  EXPECT_EQ(AgwUnprotoData("A,B,", "Hi"), AgwUnprotoData("A,B", "Hi"));
+  EXPECT_EQ(AgwUnprotoData(",,A, ,\x1B,B", "Hi"), AgwUnprotoData("A,B", "Hi"));
+  EXPECT_EQ(AgwUnprotoData(",,", "Hi"), std::string("\0Hi", 3));
+}
+
+TEST(AgwFrame, ControlBytesOfACallAreBlanks) {
+  EXPECT_EQ(MakeAgwFrame(0, 'V',
+                         "QX\x1B"
+                         "7",
+                         "\x03ZEPR\r",
+                         AgwUnprotoData("A\x07"
+                                        "B",
+                                        "Hi")),
+            MakeAgwFrame(0, 'V', "QX 7", "ZEPR", AgwUnprotoData("A B", "Hi")));
+}
+
 TEST(AgwFrame, LengthIsWrittenLowByteFirstAndStaysInTwoBytes) {
   const std::string frame = MakeAgwFrame(1, 'V', "A", "B", std::string(70000, 'x'));
   EXPECT_EQ(frame.size(), 36U + 65535U);

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/code_page.h"
 #include "tests/doubles/fake_serial.h"
 #include "tests/doubles/virtual_clock.h"
 
@@ -496,6 +497,45 @@ TEST_F(RunModemScriptTest, ProgressGoesFromNothingToAll) {
   script.Wait(1.0).Wait(3.0);
   RunModemScript(script, port, clock, [&](double share) { shares.push_back(share); });
   EXPECT_EQ(shares, (std::vector<double>{0.0, 0.25, 1.0}));
+}
+
+TEST_F(SetupSequencesTest, NoControlByteOfASettingReachesAModem) {
+  const std::string odd = "A\x1B\x03\r\n\x18Z";
+  identity.MyCall = identity.MyCallFull = odd;
+  identity.MySsid = "\x1B";
+  transmission.TxDestination = transmission.TxPath = odd;
+  radio.BaudMode = "1200";
+  radio.CrossMode = radio.TncBaud = radio.ScsBaud = odd;
+  for (const RadioMode mode : {RadioMode::Pk232, RadioMode::ScsTnc, RadioMode::ScsPtc}) {
+    const ModemSections sections = Sections(mode);
+    for (const ModemScript& script : {TncSetupScript(sections), ApplyTxSetupScript(sections)}) {
+      for (const ModemStep& step : script.Steps()) {
+        if (step.Act != ModemAct::Send || step.Text.find('A') == std::string::npos) continue;
+        std::string line = step.Text.substr(step.Text.starts_with('\x1B') ? 1 : 0);
+        while (!line.empty() && (line.back() == '\r' || line.back() == '\n'))
+          line.pop_back();
+        EXPECT_TRUE(std::none_of(line.begin(), line.end(), IsControlCharacter))
+            << Readable(step.Text);
+      }
+    }
+  }
+  EXPECT_TRUE(Holds(Sent(TncSetupScript(Sections(RadioMode::Pk232))), "TB A     Z<0D>"));
+  EXPECT_TRUE(Holds(Sent(ApplyTxSetupScript(Sections(RadioMode::ScsTnc))), "<1B>%AG A     Z<0D>"));
+}
+
+TEST_F(SetupSequencesTest, EmptyElementsOfThePathAreLeftOut) {
+  transmission.TxPath = "A,B,";
+  EXPECT_TRUE(Holds(Sent(TncSetupScript(Sections(RadioMode::Pk232))), "UNPROTO ZEPR VIA A,B<0D>"));
+  EXPECT_TRUE(
+      Holds(Sent(ApplyTxSetupScript(Sections(RadioMode::Pk232))), "UNPROTO ZEPR VIA A,B<0D>"));
+  EXPECT_TRUE(Holds(Sent(TncSetupScript(Sections(RadioMode::ScsTnc))), "<1B>CZEPR A,B<0D>"));
+  EXPECT_TRUE(Holds(Sent(ApplyTxSetupScript(Sections(RadioMode::ScsTnc))), "<1B>CZEPR A,B<0D>"));
+  EXPECT_TRUE(
+      Holds(Sent(TncSetupScript(Sections(RadioMode::ScsPtc))), "<1B>UNPROTO ZEPR A B<0D><0A>"));
+  EXPECT_TRUE(
+      Holds(Sent(ApplyTxSetupScript(Sections(RadioMode::ScsPtc))), "<1B>UNPROTO ZEPR A B<0D>"));
+  transmission.TxPath = ",,";
+  EXPECT_TRUE(Holds(Sent(TncSetupScript(Sections(RadioMode::Pk232))), "UNPROTO ZEPR<0D>"));
 }
 
 }  // namespace

@@ -72,7 +72,9 @@ INSTANTIATE_TEST_SUITE_P(
         "TXI1A=-1\r\nTXI2A=7\r\nTXI3A=32767\r\n", "TXI2=\r\nTXI5={\r\n",
         "TXSS=\xFE\r\nTXSY=104\r\n", "ONAM=A VERY LONG NAME OF AN OBJECT\r\n",
         "OTXT=\xA0\xFF\x80\r\nOSYN=##\r\n", "DIGI=255\r\nTXTIM=255\r\n", "MSYS=U99\r\n",
-        "MSYS=UXX\r\n"));
+        "MSYS=UXX\r\n", "TXON=-5\r\nTXPA=A,B,\r\n",
+        "TXI2=a\x1BQ\x03K\r\nONAM=\x1BQ\r\nOTXT=\x03\r\n",
+        "USER=QX\x1BQ\r\nTXID=\x03\r\nTXTO=\x1B\r\nTXPA=\x03,\x1BQ\r\nXBAUD=\x1B\r\n"));
 
 }  // namespace
 }  // namespace zepril

@@ -85,6 +85,21 @@ TEST_F(BeaconTest, SerialModemsGetTheTextAndACarriageReturn) {
   EXPECT_NEAR(clock.MonotonicSeconds(), 2.4, 1e-9);
 }
 
+TEST_F(BeaconTest, NoControlByteOfASettingReachesAnEngine) {
+  transmission.InfoLine[0] =
+      "a\x1B"
+      "b\x03";
+  beacon.SendPositionBeacon();
+  EXPECT_EQ(LastSent(), "ZEPR,WIDE1-1 | =4830.15N/00805.20E> a b ");
+  transmission.ObjectName = "X\x1BY      ";
+  transmission.ObjectText = "c\rd";
+  transmission.ObjectNorth = 5395.283;
+  transmission.ObjectEast = -10.517;
+  beacon.SendObjectReport();
+  EXPECT_NE(LastSent().find(";X Y      *"), std::string::npos) << LastSent();
+  EXPECT_TRUE(LastSent().ends_with("c d")) << LastSent();
+}
+
 TEST_F(BeaconTest, NoByteOfATextIsACommandToASerialModem) {
   // A heard station's comment may hold anything; it is sent again as it came.
   const std::string heard =
