@@ -127,9 +127,12 @@ void SetStationToolTips(MainWindowControls& c, TipPick pick) {
       {c.Record.Command19, "Next record / cut newer positions"},
       {c.Record.Command23, "Close"},
       {c.Record.Command36, "Highlight this station"},
-      {c.Qth.QthOk, "Take the map center as USER QTH"},
-      {c.Qth.TextQthNorth, "North in km / Enter: center the map there"},
-      {c.Qth.TextQthEast, "East in km / Enter: center the map there"},
+      {c.Qth.QthOk, "Take what was typed, else the map center, as USER QTH"},
+      {c.Qth.TextQthNorth,
+       "North in km, or degrees (52.5041 13.4051), or a locator / Enter: center the map there"},
+      {c.Qth.TextQthEast,
+       "East in km, or degrees (52.5041 13.4051), or a locator / Enter: center the map there"},
+      {c.Qth.Command22, "Close, nothing is changed (Esc)"},
   };
   SetToolTips(rows, pick);
 }

@@ -281,9 +281,10 @@ struct StatusControls {
 // USER QTH SETUP.
 struct QthSetupControls {
   Frame Frame2;
-  TextBox TextQthNorth;  // km
-  TextBox TextQthEast;   // km
-  Button QthOk;          // takes the map centre as own position
+  TextBox TextQthNorth;  // km, or a whole position
+  TextBox TextQthEast;   // km, or a whole position
+  Label QthNote;         // why what was typed is no position
+  Button QthOk;          // takes what was typed, else the map centre, as own position
   Button Command22;      // CANCEL
 };
 

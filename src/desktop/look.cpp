@@ -61,6 +61,7 @@ QFrame#MapBar, QFrame#BottomLine { background: %2; border: none; }
 QFrame[panel="true"] { background: %2; border: 1px solid %4; border-radius: 4px; }
 QLabel[group="true"] { color: %6; font-weight: bold; font-size: 11px; }
 QLabel[dim="true"] { color: %6; }
+QLabel[fault="true"] { color: #E88A8A; }
 QPushButton, QToolButton { background: %2; color: %5; border: 1px solid %4; border-radius: 3px;
   padding: 2px 8px; min-height: 20px; }
 QToolButton, QPushButton[tight="true"] { padding: 2px 4px; }

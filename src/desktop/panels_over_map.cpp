@@ -110,8 +110,14 @@ void PanelsOverMap::MakeQthSetup() {
   QGridLayout* grid = parts_.SetUpGrid(qth_panel_, q.Frame2, 2);
   parts_.FieldRow(grid, 1, "TextQthNorth", "North km", q.TextQthNorth);
   parts_.FieldRow(grid, 2, "TextQthEast", "East km", q.TextQthEast);
-  grid->addWidget(parts_.BoundButton("QthOk", q.QthOk), 3, 0);
-  grid->addWidget(parts_.BoundButton("Command22", q.Command22), 3, 1);
+  auto* note = new QLabel;
+  note->setObjectName(QStringLiteral("QthNote"));
+  note->setProperty("fault", true);
+  note->setWordWrap(true);
+  grid->addWidget(note, 3, 0, 1, 2);
+  parts_.Binding.Bind(note, q.QthNote);
+  grid->addWidget(parts_.BoundButton("QthOk", q.QthOk), 4, 0);
+  grid->addWidget(parts_.BoundButton("Command22", q.Command22), 4, 1);
   parts_.Binding.Bind(qth_panel_, q.Frame2);
 }
 

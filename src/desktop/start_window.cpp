@@ -230,7 +230,7 @@ QLabel* StartWindow::BoundLabel(const char* name, Label& control) {
 
 QLabel* StartWindow::FaultLabel(const char* name, Label& control) {
   QLabel* label = BoundLabel(name, control);
-  label->setStyleSheet(QStringLiteral("color: #E88A8A;"));
+  label->setProperty("fault", true);
   return label;
 }
 

@@ -13,7 +13,6 @@ namespace {
 
 constexpr int kEnterKey = 13;
 constexpr int kFirstLabelLevel = 2;  // marks and calls: what a new operator wants to see
-constexpr int kJumpToTyped = 3;
 constexpr double kEngineSeconds = 2.0;
 constexpr std::uint32_t kLayerOnColour = 0xD08030;  // as a switch that is on
 
@@ -42,6 +41,7 @@ StationRooms::StationRooms(StationPlatform machine)
                    {Controls.Window, Controls.Map, Controls.Readouts, Controls.Scales,
                     Controls.Palette, Controls.Moni1, Controls.MoniAll, Controls.Record},
                    {*this, library_, readouts_, *this, lookups_, machine.Desktop, Timer1, Timer2}),
+      qth_(State.Map, Controls.Qth, Controls.Map, {*this, *this, Timer1, Timer2}),
       saver_(State.Identity, State.Map,
              {machine.FileSystem, machine.Boxes, machine.MapSurface, *this}),
       tracks_(State.Identity, State.Map, State.Settings, State.Places, Controls.Tracks,
@@ -81,7 +81,7 @@ StationRooms::StationRooms(StationPlatform machine)
   Timer1.FollowClock(machine_.LocalClock);
   Timer2.Elapsed = [this] { cycle_.Timer2Elapsed(); };
   overlays_.PictureShower = [this] { ShowPicture(); };
-  transmit_.SetPositionMissing([this] { OpenQthSetup(); });
+  transmit_.SetPositionMissing([this] { qth_.Open(); });
   transmit_.SetMayReopen([this] { return !cycle_.InTick(); });
   transmit_.SetEnding([this] { return EndWanted; });
   BindControls();
@@ -114,7 +114,7 @@ void StationRooms::SecondPassed() {
 
 void StationRooms::Tick() {
   // Whatever has started the timer again meanwhile, a redraw for one.
-  if (transmit_.HoldsTheCycle()) return Timer1.Stop();
+  if (CycleIsHeld()) return Timer1.Stop();
   cycle_.Tick();
   transmit_.ShowNextBeacon();
 }
@@ -246,7 +246,7 @@ void StationRooms::MapRedraw() {
   redrawer_.MapRedraw();
   // Whatever ended the picture, its panel goes with it.
   if (State.Map.PictureMode != 1 && Controls.Picture.Frame8.Visible) pictures_.ClosePicture();
-  if (Controls.Qth.Frame2.Visible) ShowQthFields();
+  qth_.ShowFields();
   Controls.Moni1.Command17.Caption = "TRACK " + WholeNumber(State.Followed.TrackStyle);
   ShowPlaceLevel();
 }
@@ -360,15 +360,17 @@ void StationRooms::BindRecordPanel() {
 }
 
 void StationRooms::BindQthSetup() {
-  QthSetupControls& qth = Controls.Qth;
-  Controls.Map.Option1.RightClick = [this] { OpenQthSetup(); };
-  qth.QthOk.Click = [this] { TakeCentreAsOwnPosition(); };
-  qth.Command22.Click = [this] { Controls.Qth.Frame2.Visible = false; };
-  for (TextBox* field : {&qth.TextQthNorth, &qth.TextQthEast}) {
-    field->KeyDown = [this](KeyPress key) {
-      if (key.Code == kEnterKey) JumpToTypedPosition();
-    };
-  }
+  qth_.PositionTaken = [this] { transmit_.ShowSwitches(); };
+  // Whoever moves the map while the panel is open points out his place.
+  PictureBox& map = Controls.Map.Picture1;
+  map.MouseDown = [this, press = map.MouseDown](const MousePress& at) {
+    qth_.Begin();
+    press(at);
+  };
+  map.KeyDown = [this, press = map.KeyDown](const KeyPress& key) {
+    qth_.Begin();
+    press(key);
+  };
 }
 
 void StationRooms::FollowStation(const std::string& call) {
@@ -396,37 +398,6 @@ void StationRooms::Find(const std::string& call) {
   State.Map.FindCall = Upper(Trim(call));
   Controls.MoniAll.Text15.Text = State.Map.FindCall;
   Timer1.Hold();
-  MapRedraw();
-}
-
-void StationRooms::OpenQthSetup() {
-  Controls.Qth.Frame2.Visible = true;
-  Controls.Map.Option1.Value = false;
-  State.Map.CentreFollow = 0;
-  Controls.Map.Option2.Value = false;
-  MapRedraw();
-}
-
-void StationRooms::ShowQthFields() {
-  QthSetupControls& qth = Controls.Qth;
-  if (qth.TextQthNorth.HasFocus || qth.TextQthEast.HasFocus) return;
-  qth.TextQthNorth.Text = Trim(RecordNorthText(State.Map.CentreNorthKm * 1000.0));
-  qth.TextQthEast.Text = Trim(RecordEastText(State.Map.CentreEastKm * 1000.0));
-}
-
-void StationRooms::JumpToTypedPosition() {
-  State.Map.QthNorthText = Controls.Qth.TextQthNorth.Text;
-  State.Map.QthEastText = Controls.Qth.TextQthEast.Text;
-  State.Map.CentreFollow = kJumpToTyped;
-  MapRedraw();
-}
-
-void StationRooms::TakeCentreAsOwnPosition() {
-  State.Map.OwnNorthKm = State.Map.CentreNorthKm;
-  State.Map.OwnEastKm = State.Map.CentreEastKm;
-  Controls.Qth.Frame2.Visible = false;
-  transmit_.ShowSwitches();
-  WriteConfigFromMainWindow();
   MapRedraw();
 }
 

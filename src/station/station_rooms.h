@@ -28,6 +28,7 @@
 #include "map/map_panels.h"
 #include "map/map_redraw.h"
 #include "map/map_saver.h"
+#include "map/qth_setup.h"
 #include "map/readouts.h"
 #include "map/symbol_sheets.h"
 #include "map/tile_cache.h"
@@ -152,13 +153,10 @@ class StationRooms final : public TickActions,
   void BindStations();
   void BindRecordPanel();
   void BindQthSetup();
+  bool CycleIsHeld() const { return transmit_.HoldsTheCycle() || qth_.HoldsTheCycle(); }
   void FollowStation(const std::string& call);
   void ListFollowedCalls();
   void Find(const std::string& call);
-  void OpenQthSetup();
-  void JumpToTypedPosition();
-  void TakeCentreAsOwnPosition();
-  void ShowQthFields();
   void ShowPlaceLevel();
 
   StationPlatform machine_;
@@ -176,6 +174,7 @@ class StationRooms final : public TickActions,
   MapRedrawer redrawer_;
   PressLookups lookups_;
   MapInteraction interaction_;
+  QthSetup qth_;
   MapSaver saver_;
 
   TrackFiles tracks_;

@@ -81,6 +81,22 @@ TEST_F(FocusTest, TheMenuKeyInAPanelLooksUpNothingOnTheMap) {
   EXPECT_EQ(presses, 0);
 }
 
+// Proved once: the station then stood in the North Sea.
+TEST_F(FocusTest, NumbersTypedEnteredAndTakenAreTheOwnPosition) {
+  AskForMenu(Find<>(*window, "Option1"), false);
+  for (const auto& [name, typed] :
+       {std::pair{"TextQthNorth", "5830.5"}, std::pair{"TextQthEast", "380.25"}}) {
+    auto* field = Find<QLineEdit>(*window, name);
+    field->setFocus(Qt::TabFocusReason);
+    QTest::keyClicks(field, QString::fromLatin1(typed));
+    QTest::keyClick(field, Qt::Key_Return);
+  }
+  QTest::mouseClick(Find<QPushButton>(*window, "QthOk"), Qt::LeftButton);
+  EXPECT_FALSE(Find<>(*window, "Frame2")->isVisible());
+  EXPECT_EQ(State().Map.OwnNorthKm, 5830.5);
+  EXPECT_EQ(State().Map.OwnEastKm, 380.25);
+}
+
 TEST_F(FocusTest, KeysReachTheMapThatHasTheFocus) {
   Map()->setFocus();
   QTest::keyClick(Map(), Qt::Key_Right);

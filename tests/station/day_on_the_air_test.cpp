@@ -247,6 +247,7 @@ TEST_P(DayOnTheAir, WithoutAPositionNothingGoesOut) {
   station.State().Map.OwnEastKm = 0.0;
   sent.clear();
   SwitchOn(Transmit().Check6);
+  station.Controls().Qth.Command22.Click();  // it asks for the position, and is not answered
   RunTo(Now() + kDay / 8);
   // Nor when the switch was on already.
   Transmit().Check6.Value = 1;
