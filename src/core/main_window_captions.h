@@ -6,6 +6,9 @@
 
 namespace zepril {
 
+// On every panel that holds the main cycle.
+inline constexpr const char* kReceptionRests = "Nothing is received while this is open.";
+
 // The state of every control before the start: panels closed, captions in English.
 void SetInitialControls(MainWindowControls& controls);
 

@@ -407,7 +407,7 @@ bool Binder::Pressed(const Watched& row, const QKeyEvent& event) {
     return true;
   }
   // A button acts when its key goes down: one that is held comes up and down again by itself.
-  if (auto* button = qobject_cast<QAbstractButton*>(row.Widget); button && IsClickKey(event)) {
+  if (auto* button = qobject_cast<QAbstractButton*>(row.Widget); button && PressesButton(event)) {
     button->click();
     return true;
   }
@@ -417,6 +417,10 @@ bool Binder::Pressed(const Watched& row, const QKeyEvent& event) {
   }
   if (row.KeyDown) loop_.RunStep([&] { row.KeyDown(KeyPressOf(event)); });
   return false;
+}
+
+bool Binder::PressesButton(const QKeyEvent& event) const {
+  return IsClickKey(event) && (enter_presses_ || event.key() == Qt::Key_Space);
 }
 
 bool Binder::IsPressKey(const Watched& row, const QKeyEvent& event) {
@@ -451,7 +455,7 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
         break;
       case QEvent::KeyRelease:
         if (qobject_cast<QAbstractButton*>(watched) == nullptr) break;
-        if (IsClickKey(*static_cast<QKeyEvent*>(event))) return true;
+        if (PressesButton(*static_cast<QKeyEvent*>(event))) return true;
         break;
       case QEvent::Wheel:
         // A list under a scrolling hand keeps its choice.

@@ -43,6 +43,9 @@ class Binder final : public QObject {
   void Bind(FillBarWidget* widget, FillBar& control);
   void Bind(QWidget* widget, Frame& control);
 
+  // Enter belongs to the window, whatever has the focus; otherwise it presses a button like Space.
+  void LeaveEnterToTheWindow() { enter_presses_ = false; }
+
   // Adds something that is brought out in each pass.
   void OnControlsOut(std::function<void()> out) { outs_.push_back(std::move(out)); }
   // Brings all changed properties to the widgets.
@@ -74,9 +77,11 @@ class Binder final : public QObject {
   void TakeFocusWishes();
   bool Released(const Watched& row, const QMouseEvent& event);
   bool Pressed(const Watched& row, const QKeyEvent& event);
+  bool PressesButton(const QKeyEvent& event) const;
   static bool IsPressKey(const Watched& row, const QKeyEvent& event);
 
   QtLoop& loop_;
+  bool enter_presses_ = true;
   const Look& look_;
   std::vector<std::function<void()>> outs_;
   std::vector<Watched> watched_;

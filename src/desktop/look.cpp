@@ -105,6 +105,8 @@ QColor PlainColour(std::uint32_t state_colour) {
 }
 
 QColor StateShade(std::uint32_t state_colour, const Look& look) {
+  // What is on the air is told loudly.
+  if (state_colour == kOnTheAir) return PlainColour(state_colour);
   // What can't go on sinks into the window.
   if (state_colour == kOwnObjectDimmed) return look.Window;
   const QColor plain = PlainColour(state_colour);

@@ -63,6 +63,7 @@ void LetLongNamesBreak(QLabel* label, Binder& binder) {
 
 StartWindow::StartWindow(StartPanel& panel, QtLoop& loop, const MapFonts& fonts)
     : panel_(panel), loop_(loop), binder_(loop, NightLook()), fixed_font_(fonts.TextFont()) {
+  binder_.LeaveEnterToTheWindow();
   setObjectName(QStringLiteral("Form0"));
   setWindowTitle(QStringLiteral("ZEP RIL  START   V 8.08"));
   auto* all = new QBoxLayout(QBoxLayout::TopToBottom, this);
@@ -259,6 +260,8 @@ void StartWindow::closeEvent(QCloseEvent* event) {
 // Enter anywhere presses START.
 void StartWindow::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    // A key that is leaned on presses once.
+    if (event->isAutoRepeat()) return;
     if (panel_.Controls.Command1.Enabled) loop_.RunStep(panel_.Controls.Command1.Click);
     return;
   }

@@ -30,6 +30,7 @@ QWidget* MakeTerminalPage(WindowParts& parts, TerminalControls& terminal) {
   rule->setWordWrap(true);
   box->addWidget(rule);
   parts.Binding.Bind(rule, terminal.Label47);
+  box->addWidget(RestsLabel());
   QPlainTextEdit* received = Text(parts, "Text20", "what the modem prints");
   received->setFocusPolicy(Qt::ClickFocus);
   box->addWidget(received, 1);

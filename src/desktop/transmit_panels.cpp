@@ -36,6 +36,7 @@ void TransmitPanels::MakeObjectSetup(const QtSurface& symbol) {
   ObjectSetupControls& o = controls_.ObjectSetup;
   auto* grid = new QGridLayout;
   grid->setSpacing(kGap);
+  object_->Content()->addWidget(RestsLabel());
   object_->Content()->addLayout(grid);
   parts_.FieldRow(grid, 0, "ObjectNameField", "NAME", o.ObjectNameField);
   parts_.FieldRow(grid, 1, "ObjectTextField", "TEXT", o.ObjectTextField);

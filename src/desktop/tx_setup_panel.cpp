@@ -42,6 +42,7 @@ TxSetupPanel::TxSetupPanel(WindowParts& parts, MainWindowControls& controls, QWi
       map_(map),
       panel_(new ScrollingPanel(parts, "Frame4", controls_.Frame4, map.parentWidget(), map)) {
   QBoxLayout* box = panel_->Content();
+  box->addWidget(RestsLabel());
   box->setSpacing(2 * kGap);
   MakeStation(box, symbol);
   MakePath(box);

@@ -9,6 +9,7 @@
 #include <QScrollArea>
 #include <QToolButton>
 
+#include "core/main_window_captions.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
@@ -49,6 +50,13 @@ QPushButton* NamedButton(const char* name, QWidget* parent) {
 QLabel* DimLabel(const char* text) {
   auto* label = new QLabel(QString::fromLatin1(text));
   label->setProperty("dim", true);
+  return label;
+}
+
+QLabel* RestsLabel() {
+  QLabel* label = DimLabel(kReceptionRests);
+  label->setObjectName(QStringLiteral("ReceptionRests"));
+  label->setWordWrap(true);
   return label;
 }
 

@@ -52,6 +52,8 @@ struct WindowParts {
 QPushButton* NamedButton(const char* name, QWidget* parent = nullptr);
 QLabel* GroupCaption(const char* text);
 QLabel* DimLabel(const char* text);
+// Says on a panel that the main cycle rests while it is open.
+QLabel* RestsLabel();
 QBoxLayout* TightBox(QBoxLayout::Direction direction, QWidget* parent = nullptr);
 // A column that scrolls where the window is too low for it.
 QWidget* Scrolling(QWidget* column, int width);

@@ -34,8 +34,8 @@ bool LinkWatch::IsUp() const {
 
 LinkLamp LinkWatch::Lamp() const {
   const bool up = IsUp();
-  LinkLamp lamp = LampOf({HasLink(), up, tools_.Transmit.HoldsTheCycle(), radio_.LastDataSeconds,
-                          lost_since_, tools_.LocalClock.MonotonicSeconds()});
+  LinkLamp lamp = LampOf({HasLink(), up, tools_.CycleIsHeld(), radio_.LastDataSeconds, lost_since_,
+                          tools_.LocalClock.MonotonicSeconds()});
   if (const std::string trouble = tools_.Transmit.ModemTrouble(); !trouble.empty() && !up) {
     lamp.ToolTip += "\n" + trouble;
   }

@@ -2,6 +2,7 @@
 // engine is lost.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "core/link_lamp.h"
@@ -10,7 +11,6 @@
 #include "links/agw_link.h"
 #include "links/agw_local.h"
 #include "platform/clock.h"
-#include "platform/serial_port.h"
 #include "station/transmit_rooms.h"
 
 namespace zepril {
@@ -18,9 +18,9 @@ namespace zepril {
 struct LinkWatchTools {
   AgwLink& RemoteEngine;
   AgwLocal& LocalEngine;
-  const SerialPort& Modem;
   const TransmitRooms& Transmit;
   const Clock& LocalClock;
+  std::function<bool()> CycleIsHeld;  // a panel holds the main cycle
 };
 
 class LinkWatch {

@@ -72,7 +72,8 @@ StationRooms::StationRooms(StationPlatform machine)
                 {machine_, agw_link_, agw_local_, sheets_, symbols_, progress_, Timer1, Timer2,
                  ReopenTimer, *this, *this, *this}),
       link_watch_(State.Radio, Controls.Status,
-                  {agw_link_, agw_local_, machine.MSComm1, transmit_, machine.LocalClock}) {
+                  {agw_link_, agw_local_, transmit_, machine.LocalClock,
+                   [this] { return CycleIsHeld(); }}) {
   SetInitialControls(Controls);
   State.Map.StationLabelLevel = kFirstLabelLevel;
   State.Map.ViewWidthPx = machine_.MapSurface.Width();

@@ -9,11 +9,6 @@
 #include "transmit/identification.h"
 
 namespace zepril {
-namespace {
-
-constexpr std::uint32_t kOnTheAir = 0x4848E0;
-
-}  // namespace
 
 TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
                              TransmitRoomsTools tools)
@@ -74,7 +69,7 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
   };
   terminal_.Changed = [this] { TerminalChanged(); };
   controls_.Status.LinkNotice.Click = [this] { controls_.Status.LinkNotice.Visible = false; };
-  controls_.Transmit.NextBeacon.Colour = kOnTheAir;
+  controls_.Transmit.NextBeacon.Colour = TxOutcome::kOnTheAir;
   controls_.Transmit.NextBeacon.Visible = false;
 }
 

@@ -38,6 +38,9 @@ TxOutcome::TxOutcome(TransmitControls& controls, const Clock& clock)
 void TxOutcome::Leaving() {
   colour_before_ = controls_.Check6.BackColour;
   controls_.Check6.BackColour = kOnTheAir;
+  controls_.TxOutcome.Caption = "SENDING";
+  controls_.TxOutcome.ForeColour.reset();
+  told_at_ = clock_.MonotonicSeconds();
 }
 
 void TxOutcome::Tell(Delivery delivery) {

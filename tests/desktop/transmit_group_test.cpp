@@ -40,6 +40,39 @@ TEST_F(TransmitGroupTest, TheBarFillsTowardsTheNextReport) {
   EXPECT_NE(ColourOf("NextBeacon", {bar->width() - 4, 2}), QColor(255, 0, 0));
 }
 
+TEST_F(TransmitGroupTest, WhatBecameOfAFrameStandsUnderTheSwitch) {
+  auto* outcome = Find<QLabel>(*window, "TxOutcome");
+  loop.RunStep([this] {
+    Controls().Transmit.TxOutcome.Caption = "NOT SENT: LINK LOST";
+    Controls().Transmit.TxOutcome.ForeColour = 0x4848E0;
+    Controls().Transmit.Check6.BackColour = 0x4848E0;
+  });
+  EXPECT_EQ(outcome->text(), "NOT SENT: LINK LOST");
+  EXPECT_LE(outcome->fontMetrics().horizontalAdvance(outcome->text()), outcome->width());
+  // The switch is loud while a frame leaves, on or off.
+  EXPECT_EQ(ColourOf("Check6", {8, 13}), QColor(0xE0, 0x48, 0x48));
+  // It is under the switch, whose place does not move with it.
+  const QRect place = PlaceOf(Find<>(*window, "Check6"));
+  loop.RunStep([this] { Controls().Transmit.TxOutcome.Caption.clear(); });
+  Pump();
+  EXPECT_EQ(PlaceOf(Find<>(*window, "Check6")), place);
+  EXPECT_GE(PlaceOf(outcome).top(), place.bottom());
+}
+
+TEST_F(TransmitGroupTest, EveryPanelThatHoldsTheCycleSaysSo) {
+  OpenTxSetup();
+  OpenObjectSetup();
+  OpenTerminal();
+  loop.RunStep([this] { Controls().Qth.Frame2.Visible = true; });
+  Pump();
+  for (const char* panel : {"Frame4", "Frame11", "Frame2", "Frame19"}) {
+    auto* line = Find<QLabel>(*Find<>(*window, panel), "ReceptionRests");
+    EXPECT_EQ(line->text(), "Nothing is received while this is open.") << panel;
+    EXPECT_TRUE(line->isVisible()) << panel;
+  }
+  EXPECT_EQ(Find<QLabel>(*window, "LinkWords")->text(), "paused");
+}
+
 // ---- Notices --------------------------------------------------------------------------------
 
 TEST_F(TransmitGroupTest, TheNoticeOfTheLinkStandsOverTheMapUntilItIsClicked) {
