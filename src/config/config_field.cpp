@@ -1,6 +1,8 @@
 #include "config/config_field.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <utility>
 
 #include "core/text_fields.h"
@@ -11,6 +13,11 @@ namespace {
 constexpr std::int32_t kLowestInt = -32768;
 constexpr std::int32_t kHighestInt = 32767;
 constexpr std::int32_t kHighestByte = 255;
+
+// A number that overflows is read as the largest there is, or is no number at all.
+bool IsHeld(double number) {
+  return std::fabs(number) < std::numeric_limits<double>::max();
+}
 
 ConfigField WholeField(std::string key, int& held, std::int32_t lowest, std::int32_t highest) {
   return {std::move(key),
@@ -56,8 +63,12 @@ ConfigField IntField(std::string key, int& held) {
 }
 
 ConfigField RealField(std::string key, double& held) {
-  return {std::move(key), [&held](std::string_view value) { held = Val(value); },
-          [&held] { return ShortNumber(held); }};
+  return {std::move(key),
+          [&held](std::string_view value) {
+            const double number = Val(value);
+            if (IsHeld(number)) held = number;
+          },
+          [&held] { return ShortNumber(IsHeld(held) ? held : 0.0); }};
 }
 
 ConfigField IntervalField(std::string key, int& held) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <limits>
 #include <set>
 
 #include "config/config_file.h"
@@ -309,6 +310,19 @@ TEST_F(ConfigTest, AFailedWriteLeavesTheOldFileWhole) {
   ASSERT_TRUE(files.MakeFolder("C:\\ZEPRIL.INI.new~"));
   EXPECT_FALSE(WriteConfigFromMainWindow(files, state));
   EXPECT_EQ(Ini(), "USER=QX7KB\r\n");
+}
+
+TEST(ConfigFields, ARealThatOverflowsIsPassedOverAndNeverWritten) {
+  double held = 5800.5;
+  const ConfigFields fields{RealField("UTN", held)};
+  for (const char* line : {"UTN=1e400", "UTN=-1e400", "utn= 9e99999"}) {
+    EXPECT_TRUE(TakeConfigLine(fields, line));
+    EXPECT_EQ(held, 5800.5) << line;
+  }
+  held = std::numeric_limits<double>::infinity();
+  EXPECT_EQ(GiveConfigLines(fields), "UTN=0\r\n");
+  held = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_EQ(GiveConfigLines(fields), "UTN=0\r\n");
 }
 
 TEST(BaudModeLabel, NamesTheMode) {
