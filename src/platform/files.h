@@ -43,13 +43,18 @@ class Files {
   // file can't be opened.
   virtual bool ReadLines(const std::string& path, const LineReader& line) const = 0;
 
-  // Opens, writes at the end, closes; creates the file when missing.
+  // Opens, writes at the end, closes; creates the file when missing. All of the text or nothing.
   virtual bool Append(const std::string& path, std::string_view text) = 0;
   // Writes the file anew in place: for what can be made again.
   virtual bool Write(const std::string& path, std::string_view text) = 0;
   // For the operator's data: writes a new file beside the old one, which it then replaces. After a
   // failure or a power cut the old file is whole.
+  // A symbolic link stays one: the file that it leads to is replaced.
   virtual bool Replace(const std::string& path, std::string_view text) = 0;
+  // The same, and the old file stays under the name `kept`, which must not exist. There is no
+  // moment without a file at `path`; after a failure nothing has changed.
+  virtual bool ReplaceKeeping(const std::string& path, std::string_view text,
+                              const std::string& kept) = 0;
 
   virtual bool Remove(const std::string& path) = 0;
   // Fails when the target exists.
@@ -59,6 +64,9 @@ class Files {
 
   // The path as the computer's other programs know it.
   virtual std::string NativePath(const std::string& path) const = 0;
+
+  // Why the last operation that failed did so, as words for the operator ("the disk is full").
+  virtual std::string Trouble() const { return "it could not be done"; }
 
   virtual std::optional<FileStamp> Stamp(const std::string& path) const = 0;
   bool Exists(const std::string& path) const { return Stamp(path).has_value(); }

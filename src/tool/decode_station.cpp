@@ -76,6 +76,9 @@ class LogKeeper final : public Files {
   }
   bool Write(const std::string&, std::string_view) override { return true; }
   bool Replace(const std::string&, std::string_view) override { return true; }
+  bool ReplaceKeeping(const std::string&, std::string_view, const std::string&) override {
+    return true;
+  }
   bool Remove(const std::string&) override { return true; }
   bool Rename(const std::string&, const std::string&) override { return true; }
   bool MakeFolder(const std::string&) override { return true; }
@@ -120,10 +123,10 @@ struct DecodeStation::Station {
         Link(Radio, Reception, Internet, TheClock, Engine, Modem, Actions),
         Distance(Alarms, Identity, Followed, Map, Controls.Status, Controls.Window),
         History(Identity, Stores, Followed, Map, Gps, Controls.Moni1, Controls.Map, Distance, Logs,
-                Actions),
+                Actions, Controls.Status.FileNotice),
         Browser(Stores, Map, Controls.Record, Controls.Map, History, Boxes, Actions),
         Pass({Identity, Reception, Stores, Map, Alarms, Settings},
-             {Link, History, Browser, Distance, Actions, Actions, Actions}, Symbols, TheClock, Logs,
+             {Link, History, Browser, Distance, Actions, Actions, Actions, Controls.Status.FileNotice}, Symbols, TheClock, Logs,
              Timer1, nullptr) {
     constexpr int kTickMilliseconds = 6000;
     Timer1.Arm(kTickMilliseconds);

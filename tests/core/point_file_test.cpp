@@ -117,6 +117,9 @@ class HugeFile final : public Files {
   bool Append(const std::string&, std::string_view) override { return false; }
   bool Write(const std::string&, std::string_view) override { return false; }
   bool Replace(const std::string&, std::string_view) override { return false; }
+  bool ReplaceKeeping(const std::string&, std::string_view, const std::string&) override {
+    return false;
+  }
   bool Remove(const std::string&) override { return false; }
   bool Rename(const std::string&, const std::string&) override { return false; }
   bool MakeFolder(const std::string&) override { return false; }

@@ -51,10 +51,22 @@ class MemoryFiles final : public Files {
     return Replace(path, text);
   }
   bool Replace(const std::string& path, std::string_view text) override {
-    if (Refused(path)) return false;
+    if (Refused(path) || NoRoomToReplace) return false;
     Contents[path] = text;
     return true;
   }
+  bool ReplaceKeeping(const std::string& path, std::string_view text,
+                      const std::string& kept) override {
+    const auto old = Contents.find(path);
+    if (old == Contents.end() || Contents.contains(kept) || Refused(kept) || Refused(path) ||
+        NoRoomToReplace) {
+      return false;
+    }
+    Contents[kept] = old->second;
+    Contents[path] = text;
+    return true;
+  }
+  std::string Trouble() const override { return Why; }
   bool Remove(const std::string& path) override { return Contents.erase(path) > 0; }
   bool Rename(const std::string&, const std::string&) override { return false; }
   bool MakeFolder(const std::string&) override { return true; }
@@ -94,8 +106,10 @@ class MemoryFiles final : public Files {
   }
 
   std::map<std::string, std::string> Contents;
-  std::string RefusedEnding;     // files whose path ends so can't be written
-  std::string UnreadableEnding;  // nor can these be read
+  std::string RefusedEnding;             // files whose path ends so can't be written
+  bool NoRoomToReplace = false;          // a whole new file finds no room, a line more does
+  std::string Why = "the disk is full";  // told as the trouble of whatever fails
+  std::string UnreadableEnding;          // nor can these be read
 
  private:
   bool Unreadable(const std::string& path) const {

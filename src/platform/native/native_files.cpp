@@ -69,13 +69,17 @@ std::optional<struct stat> StatOf(const std::string& native) {
 
 bool IsRegularOrMissing(const std::string& native) {
   const auto info = StatOf(native);
-  return !info || S_ISREG(info->st_mode);
+  if (!info || S_ISREG(info->st_mode)) return true;
+  errno = EISDIR;
+  return false;
 }
 
 // Opening must not hang on a pipe or a device: only ordinary files are read.
 bool IsReadable(const std::string& native) {
   const auto info = StatOf(native);
-  return info && S_ISREG(info->st_mode);
+  if (!info) return false;
+  errno = EISDIR;
+  return S_ISREG(info->st_mode);
 }
 
 struct CloseFolder {
@@ -119,9 +123,67 @@ std::string ParentOf(const std::string& native) {
   return slash == 0 ? "/" : native.substr(0, slash);
 }
 
+// Where a symbolic link leads to, also when nothing is there yet; any other path itself. Empty when
+// it leads in a circle.
+std::string TargetOf(std::string native) {
+  constexpr int kMostLinks = 16;
+  for (int links = 0; links < kMostLinks; ++links) {
+    std::array<char, 4096> buffer;
+    const ssize_t length = ::readlink(native.c_str(), buffer.data(), buffer.size());
+    if (length <= 0) return native;
+    const std::string_view target(buffer.data(), static_cast<std::size_t>(length));
+    native = target.starts_with('/') ? std::string(target)
+                                     : ParentOf(native) + "/" + std::string(target);
+  }
+  errno = ELOOP;
+  return {};
+}
+
 void SyncFolder(const std::string& native_folder) {
   const Descriptor folder(native_folder, O_RDONLY | O_DIRECTORY);
   if (folder.Ok()) ::fsync(folder.Get());
+}
+
+// A new file with the text, safely on the disk, under the mode of `old`. Gone again on failure.
+bool WriteFresh(const std::string& fresh, std::string_view text,
+                const std::optional<struct stat>& old) {
+  Descriptor file(fresh, O_WRONLY | O_CREAT | O_TRUNC);
+  bool written = file.Ok() && WriteWhole(file.Get(), text) && ::fsync(file.Get()) == 0;
+  if (written && old) ::fchmod(file.Get(), old->st_mode & 07777U);
+  int why = errno;
+  if (written && !file.Close()) {
+    written = false;
+    why = errno;
+  }
+  if (!written) ::unlink(fresh.c_str());
+  errno = why;
+  return written;
+}
+
+// A copy, for disks on which a file has one name only.
+bool CopyFile(const std::string& from, const std::string& to) {
+  const Descriptor source(from, O_RDONLY);
+  Descriptor copy(to, O_WRONLY | O_CREAT | O_EXCL);
+  if (!source.Ok() || !copy.Ok()) return false;
+  std::array<char, 65536> buffer;
+  for (;;) {
+    const ssize_t got = ReadSome(source.Get(), buffer.data(), buffer.size());
+    if (got == 0 && ::fsync(copy.Get()) == 0 && copy.Close()) return true;
+    if (got <= 0 || !WriteWhole(copy.Get(), {buffer.data(), static_cast<std::size_t>(got)})) {
+      const int why = errno;
+      ::unlink(to.c_str());
+      errno = why;
+      return false;
+    }
+  }
+}
+
+// A second name where the disk knows such, else a copy. False when `to` exists already.
+bool KeepUnder(const std::string& from, const std::string& to) {
+  if (::link(from.c_str(), to.c_str()) == 0) return true;
+  const bool has_one_name_only =
+      errno == EPERM || errno == EOPNOTSUPP || errno == EMLINK || errno == ENOSYS || errno == EXDEV;
+  return has_one_name_only && CopyFile(from, to);
 }
 
 }  // namespace
@@ -160,21 +222,21 @@ std::string NativeFiles::NativePath(const std::string& path) const {
 
 std::optional<std::string> NativeFiles::ReadAll(const std::string& path, std::size_t limit) const {
   const std::string native = NativePath(path);
-  if (!IsReadable(native)) return std::nullopt;
+  if (!IsReadable(native)) return Unread();
   const Descriptor file(native, O_RDONLY);
-  if (!file.Ok()) return std::nullopt;
+  if (!file.Ok()) return Unread();
   std::string text;
   const auto info = StatOf(native);
   if (info && info->st_size > 0) {
-    if (static_cast<std::uint64_t>(info->st_size) > limit) return std::nullopt;
+    if (static_cast<std::uint64_t>(info->st_size) > limit) return TooLarge();
     text.reserve(static_cast<std::size_t>(info->st_size));
   }
   std::array<char, 65536> buffer;
   for (;;) {
     const ssize_t got = ReadSome(file.Get(), buffer.data(), buffer.size());
-    if (got < 0) return std::nullopt;
+    if (got < 0) return Unread();
     if (got == 0) return text;
-    if (text.size() + static_cast<std::size_t>(got) > limit) return std::nullopt;
+    if (text.size() + static_cast<std::size_t>(got) > limit) return TooLarge();
     text.append(buffer.data(), static_cast<std::size_t>(got));
   }
 }
@@ -182,16 +244,16 @@ std::optional<std::string> NativeFiles::ReadAll(const std::string& path, std::si
 std::optional<std::string> NativeFiles::ReadRange(const std::string& path, std::int64_t offset,
                                                   std::size_t length) const {
   const std::string native = NativePath(path);
-  if (offset < 0 || !IsReadable(native)) return std::nullopt;
+  if (offset < 0 || !IsReadable(native)) return Unread();
   const Descriptor file(native, O_RDONLY);
-  if (!file.Ok()) return std::nullopt;
+  if (!file.Ok()) return Unread();
   if (::lseek(file.Get(), static_cast<off_t>(offset), SEEK_SET) < 0) return std::nullopt;
   std::string text;
   std::array<char, 65536> buffer;
   while (text.size() < length) {
     const std::size_t wanted = std::min(buffer.size(), length - text.size());
     const ssize_t got = ReadSome(file.Get(), buffer.data(), wanted);
-    if (got < 0) return std::nullopt;
+    if (got < 0) return Unread();
     if (got == 0) break;
     text.append(buffer.data(), static_cast<std::size_t>(got));
   }
@@ -200,16 +262,16 @@ std::optional<std::string> NativeFiles::ReadRange(const std::string& path, std::
 
 bool NativeFiles::ReadLines(const std::string& path, const LineReader& line) const {
   const std::string native = NativePath(path);
-  if (!IsReadable(native)) return false;
+  if (!IsReadable(native)) return Fail();
   const Descriptor file(native, O_RDONLY);
-  if (!file.Ok()) return false;
+  if (!file.Ok()) return Fail();
   std::array<char, 65536> buffer;
   std::string current;
   bool after_cr = false;
   bool pending = false;  // bytes stand behind the last line end
   for (;;) {
     const ssize_t got = ReadSome(file.Get(), buffer.data(), buffer.size());
-    if (got < 0) return false;
+    if (got < 0) return Fail();
     if (got == 0) break;
     for (char c : std::string_view(buffer.data(), static_cast<std::size_t>(got))) {
       const bool second_half = after_cr && c == '\n';
@@ -231,38 +293,96 @@ bool NativeFiles::ReadLines(const std::string& path, const LineReader& line) con
 
 bool NativeFiles::Append(const std::string& path, std::string_view text) {
   const std::string native = NativePath(path);
-  if (!IsRegularOrMissing(native)) return false;
+  if (!IsRegularOrMissing(native)) return Fail();
   Descriptor file(native, O_WRONLY | O_CREAT | O_APPEND);
-  return file.Ok() && WriteWhole(file.Get(), text) && file.Close();
+  if (!file.Ok()) return Fail();
+  const off_t end = ::lseek(file.Get(), 0, SEEK_END);
+  if (WriteWhole(file.Get(), text)) return file.Close() || Fail();
+  // Half a line must not run into the next one.
+  Fail();
+  if (end >= 0 && ::ftruncate(file.Get(), end) != 0) Fail();
+  return false;
 }
 
 bool NativeFiles::Write(const std::string& path, std::string_view text) {
   const std::string native = NativePath(path);
-  if (!IsRegularOrMissing(native)) return false;
+  if (!IsRegularOrMissing(native)) return Fail();
   Descriptor file(native, O_WRONLY | O_CREAT | O_TRUNC);
-  return file.Ok() && WriteWhole(file.Get(), text) && file.Close();
+  return (file.Ok() && WriteWhole(file.Get(), text) && file.Close()) || Fail();
 }
 
 bool NativeFiles::Replace(const std::string& path, std::string_view text) {
-  const std::string native = NativePath(path);
-  if (!IsRegularOrMissing(native)) return false;
+  const std::string native = TargetOf(NativePath(path));
+  if (native.empty() || !IsRegularOrMissing(native)) return Fail();
   const std::string fresh = native + ".new~";
-  const auto old = StatOf(native);
-  {
-    Descriptor file(fresh, O_WRONLY | O_CREAT | O_TRUNC);
-    const bool written = file.Ok() && WriteWhole(file.Get(), text) && ::fsync(file.Get()) == 0;
-    if (written && old) ::fchmod(file.Get(), old->st_mode & 07777U);
-    if (!file.Close() || !written) {
-      ::unlink(fresh.c_str());
-      return false;
-    }
-  }
+  if (!WriteFresh(fresh, text, StatOf(native))) return Fail();
   if (::rename(fresh.c_str(), native.c_str()) != 0) {
+    Fail();
     ::unlink(fresh.c_str());
     return false;
   }
   SyncFolder(ParentOf(native));
   return true;
+}
+
+bool NativeFiles::ReplaceKeeping(const std::string& path, std::string_view text,
+                                 const std::string& kept) {
+  const std::string native = TargetOf(NativePath(path));
+  const std::string other = NativePath(kept);
+  if (!IsReadable(native)) return Fail();
+  const std::string fresh = native + ".new~";
+  if (!WriteFresh(fresh, text, StatOf(native))) return Fail();
+  const bool has_copy = KeepUnder(native, other);
+  if (!has_copy || ::rename(fresh.c_str(), native.c_str()) != 0) {
+    Fail();
+    ::unlink(fresh.c_str());
+    if (has_copy) ::unlink(other.c_str());
+    return false;
+  }
+  SyncFolder(ParentOf(native));
+  SyncFolder(ParentOf(other));
+  return true;
+}
+
+bool NativeFiles::Fail() const {
+  trouble_ = errno;
+  return false;
+}
+
+std::nullopt_t NativeFiles::Unread() const {
+  Fail();
+  return std::nullopt;
+}
+
+std::nullopt_t NativeFiles::TooLarge() const {
+  errno = EFBIG;
+  return Unread();
+}
+
+std::string NativeFiles::Trouble() const {
+  switch (trouble_) {
+    case ENOSPC:
+    case EDQUOT:
+      return "the disk is full";
+    case EACCES:
+    case EPERM:
+      return "there is no permission";
+    case EROFS:
+      return "the disk is read only";
+    case ENOENT:
+    case ENOTDIR:
+      return "its folder is missing";
+    case EISDIR:
+      return "it is no ordinary file";
+    case EEXIST:
+      return "another file has its name";
+    case EIO:
+      return "the disk reports an error";
+    case EFBIG:
+      return "it is too large";
+    default:
+      return "the system refuses it";
+  }
 }
 
 bool NativeFiles::Remove(const std::string& path) {

@@ -24,6 +24,8 @@ class NativeFiles final : public Files {
   bool Append(const std::string& path, std::string_view text) override;
   bool Write(const std::string& path, std::string_view text) override;
   bool Replace(const std::string& path, std::string_view text) override;
+  bool ReplaceKeeping(const std::string& path, std::string_view text,
+                      const std::string& kept) override;
   bool Remove(const std::string& path) override;
   bool Rename(const std::string& from, const std::string& to) override;
   bool MakeFolder(const std::string& path) override;
@@ -31,11 +33,19 @@ class NativeFiles final : public Files {
   std::vector<FolderEntry> List(const std::string& folder,
                                 const std::string& pattern) const override;
 
+  std::string Trouble() const override;
+
   // The native path of `path`, every element that exists spelled as on the disk.
   std::string NativePath(const std::string& path) const override;
 
  private:
+  // Note why, from errno; results of what failed.
+  bool Fail() const;
+  std::nullopt_t Unread() const;
+  std::nullopt_t TooLarge() const;
+
   std::string drive_folder_;
+  mutable int trouble_ = 0;  // errno of the last failure
 };
 
 // The drive folder of this computer: the environment variable ZEPRIL_DRIVE_C, else the home folder.

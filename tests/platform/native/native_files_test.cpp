@@ -1,9 +1,11 @@
 #include "platform/native/native_files.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 
@@ -100,6 +102,83 @@ TEST_F(NativeFilesTest, AFullDiskLeavesTheOldFileWhole) {
   std::filesystem::create_symlink("/dev/full", folder.Sub("f.new~"));
   EXPECT_FALSE(files.Replace("C:\\f", "new"));
   EXPECT_EQ(files.ReadAll("C:\\f", 10), "old");
+}
+
+TEST_F(NativeFilesTest, AFileBehindASymbolicLinkIsReplacedAndTheLinkStays) {
+  std::filesystem::create_directories(folder.Sub("elsewhere"));
+  Put("elsewhere/real.ini", "old");
+  std::filesystem::create_symlink("elsewhere/real.ini", folder.Sub("ZEPRIL.INI"));
+  std::filesystem::create_symlink(folder.Sub("ZEPRIL.INI"), folder.Sub("second.ini"));
+  for (const char* name : {"C:\\ZEPRIL.INI", "C:\\second.ini"}) {
+    EXPECT_TRUE(files.Replace(name, std::string("new ") + name));
+    EXPECT_EQ(files.ReadAll("C:\\elsewhere\\real.ini", 100), std::string("new ") + name);
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.Sub("ZEPRIL.INI")));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.Sub("second.ini")));
+  }
+  // One that leads nowhere yet, and one that leads to itself.
+  std::filesystem::create_symlink("elsewhere/new.ini", folder.Sub("dangling.ini"));
+  EXPECT_TRUE(files.Replace("C:\\dangling.ini", "first"));
+  EXPECT_EQ(files.ReadAll("C:\\elsewhere\\new.ini", 100), "first");
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.Sub("dangling.ini")));
+  std::filesystem::create_symlink("circle.ini", folder.Sub("circle.ini"));
+  EXPECT_FALSE(files.Replace("C:\\circle.ini", "x"));
+}
+
+TEST_F(NativeFilesTest, ReplaceKeepingLeavesTheOldFileUnderItsOtherName) {
+  Put("H.TXT", "old");
+  EXPECT_TRUE(files.ReplaceKeeping("C:\\H.TXT", "short", "C:\\H.TXT.BAK"));
+  EXPECT_EQ(files.ReadAll("C:\\H.TXT", 100), "short");
+  EXPECT_EQ(files.ReadAll("C:\\H.TXT.BAK", 100), "old");
+  // They are two files from now on.
+  EXPECT_TRUE(files.Append("C:\\H.TXT", "er"));
+  EXPECT_EQ(files.ReadAll("C:\\H.TXT.BAK", 100), "old");
+  // No copy is written over.
+  EXPECT_FALSE(files.ReplaceKeeping("C:\\H.TXT", "shorter still", "C:\\H.TXT.BAK"));
+  EXPECT_EQ(files.Trouble(), "another file has its name");
+  EXPECT_EQ(files.ReadAll("C:\\H.TXT", 100), "shorter");
+  EXPECT_EQ(files.ReadAll("C:\\H.TXT.BAK", 100), "old");
+  EXPECT_FALSE(files.ReplaceKeeping("C:\\NONE.TXT", "x", "C:\\NONE.TXT.BAK"));
+  EXPECT_EQ(files.List("C:\\", "*").size(), 2u);
+}
+
+// Files may grow to `bytes` while it lives; what is more fails as on a full disk.
+class SizeLimit {
+ public:
+  explicit SizeLimit(rlim_t bytes) {
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    handler_ = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit = before_;
+    limit.rlim_cur = bytes;
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~SizeLimit() {
+    ::setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int) = nullptr;
+};
+
+TEST_F(NativeFilesTest, WhereALineFindsNoRoomNothingOfItStays) {
+  Put("log.txt", std::string(995, 'x') + "\r\n");
+  {
+    const SizeLimit limit(1000);
+    EXPECT_FALSE(files.Append("C:\\log.txt", "a new line\r\n"));
+    EXPECT_EQ(files.Trouble(), "it is too large");
+    EXPECT_FALSE(files.ReplaceKeeping("C:\\log.txt", std::string(2000, 'y'), "C:\\log.txt.BAK"));
+  }
+  EXPECT_EQ(files.ReadAll("C:\\log.txt", 2000), std::string(995, 'x') + "\r\n");
+  EXPECT_EQ(files.List("C:\\", "*").size(), 1u);
+}
+
+TEST_F(NativeFilesTest, TroubleIsToldInWords) {
+  EXPECT_FALSE(files.Append("C:\\no\\such\\folder.txt", "x"));
+  EXPECT_EQ(files.Trouble(), "its folder is missing");
+  std::filesystem::create_directories(folder.Sub("folder"));
+  EXPECT_FALSE(files.ReadAll("C:\\folder", 10).has_value());
+  EXPECT_EQ(files.Trouble(), "it is no ordinary file");
 }
 
 TEST_F(NativeFilesTest, RenameNeverOverwritesAndMayChangeTheCase) {
