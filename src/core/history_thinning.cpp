@@ -62,9 +62,11 @@ int HistoryDay(const StationRecord& record) {
 
 bool CutAtGap(std::vector<StationRecord>& records, int most_days) {
   std::size_t first = 0;
+  int newest = records.empty() ? 0 : HistoryDay(records.front());
   for (std::size_t i = 1; i < records.size(); ++i) {
-    const int days = HistoryDay(records[i]) - HistoryDay(records[i - 1]);
-    if (std::abs(days) > most_days) first = i;
+    const int day = HistoryDay(records[i]);
+    if (day - newest > most_days) first = i;
+    newest = std::max(newest, day);
   }
   records.erase(records.begin(), records.begin() + static_cast<std::ptrdiff_t>(first));
   return first > 0;

@@ -14,8 +14,9 @@ namespace zepril {
 // being of this century. Not a real calendar: 240210 and 240301 differ by 21.
 int HistoryDay(const StationRecord& record);
 
-// Removes everything up to the older side of the newest gap of more than `most_days` between
-// neighbours. True when something was removed.
+// Removes everything up to the older side of the newest gap: a record more than `most_days` after
+// all before it. A clock that jumps back, and forward again, makes no gap. True when something was
+// removed.
 bool CutAtGap(std::vector<StationRecord>& records, int most_days);
 
 // Removes the later of two neighbours closer than 0.01 to 0.5 km in both north and east, in five

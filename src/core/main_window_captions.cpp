@@ -195,6 +195,7 @@ void SetTransmitToolTips(MainWindowControls& c, TipPick pick) {
        "Every key goes to the modem, Tab, Esc and Ctrl too / Alt+C closes / Shift+Tab leaves"},
       {c.Terminal.Text20, "What the modem prints"},
       {c.Terminal.Command66, "Close the terminal (Alt+C), the program goes on"},
+      {c.Status.FileNotice, "Lclick closes / a text can be selected and copied"},
       {c.Status.LinkNotice, "Lclick closes / a text can be selected and copied"},
       {c.Record.Label20, "Station record / Lclick: retransmit its position"},
   };
@@ -202,18 +203,15 @@ void SetTransmitToolTips(MainWindowControls& c, TipPick pick) {
 }
 
 void HidePanels(MainWindowControls& c) {
-  for (Control* panel :
-       std::initializer_list<Control*>{&c.Record.Frame1,          &c.Picture.Frame8,
-                                       &c.Transmit.Frame3,        &c.Transmit.Frame7,
-                                       &c.Status.Text10,          &c.Status.Frame12,
-                                       &c.Status.Frame14,         &c.Qth.Frame2,
-                                       &c.Palette.PalettePanel,   &c.MoniAll.HeardPanel,
-                                       &c.Map.PictureBase,        &c.Raw.RawList,
-                                       &c.Status.LinkNotice,      &c.Places.PoiPanel,
-                                       &c.Iono.Frame18,           &c.Sun.SunPanel,
-                                       &c.Progress.ProgressPanel, &c.TxSetup.Frame4,
-                                       &c.ObjectSetup.Frame11,    &c.Terminal.Frame19,
-                                       &c.Terminal.Label49}) {
+  for (Control* panel : std::initializer_list<Control*>{
+           &c.Record.Frame1,      &c.Picture.Frame8,      &c.Transmit.Frame3,
+           &c.Transmit.Frame7,    &c.Status.Text10,       &c.Status.Frame12,
+           &c.Status.Frame14,     &c.Qth.Frame2,          &c.Palette.PalettePanel,
+           &c.MoniAll.HeardPanel, &c.Map.PictureBase,     &c.Raw.RawList,
+           &c.Status.FileNotice,  &c.Status.LinkNotice,   &c.Places.PoiPanel,
+           &c.Iono.Frame18,       &c.Sun.SunPanel,        &c.Progress.ProgressPanel,
+           &c.TxSetup.Frame4,     &c.ObjectSetup.Frame11, &c.Terminal.Frame19,
+           &c.Terminal.Label49}) {
     panel->Visible = false;
   }
 }

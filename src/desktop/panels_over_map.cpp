@@ -55,8 +55,10 @@ void PanelsOverMap::MakeNotices() {
     return label;
   };
   link_notice_ = notice("LinkNotice", controls_.Status.LinkNotice);
-  // It may name a command that is to be copied.
+  file_notice_ = notice("FileNotice", controls_.Status.FileNotice);
+  // They may name a command or a file that is to be copied.
   link_notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  file_notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   mode_notice_ = notice("Label49", controls_.Terminal.Label49);
   mode_notice_->setAlignment(Qt::AlignCenter);
 }
@@ -199,14 +201,16 @@ void PanelsOverMap::Place() {
   PlaceNotices();
 }
 
-// Wide, over everything else on the map: the reason of a dead link at the top, the mode that lasts
-// while the button is held at the bottom, next to the list.
+// Wide, over everything else on the map: the reason of a dead link at the top, trouble with a file
+// below it, the mode that lasts while the button is held at the bottom, next to the list.
 void PanelsOverMap::PlaceNotices() {
   const int width = std::min(kNoticeWidth, std::max(map_.width() - 2 * kOverlayMargin, 100));
-  for (QLabel* notice : {link_notice_, mode_notice_}) {
+  int top = kOverlayMargin;
+  for (QLabel* notice : {link_notice_, file_notice_, mode_notice_}) {
     if (notice->isHidden()) continue;
     const int height = notice->heightForWidth(width);
-    const int y = notice == link_notice_ ? kOverlayMargin : map_.height() - height - kOverlayMargin;
+    const int y = notice == mode_notice_ ? map_.height() - height - kOverlayMargin : top;
+    if (notice != mode_notice_) top += height + kOverlayMargin;
     notice->setGeometry((map_.width() - width) / 2, y, width, height);
     notice->raise();
   }

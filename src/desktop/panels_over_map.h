@@ -49,6 +49,7 @@ class PanelsOverMap {
   QFrame* palette_panel_ = nullptr;
   QLabel* banner_ = nullptr;
   QLabel* link_notice_ = nullptr;
+  QLabel* file_notice_ = nullptr;
   QLabel* mode_notice_ = nullptr;
   QLabel* record_text_ = nullptr;
 };

@@ -9,22 +9,11 @@
 
 namespace zepril {
 
-std::string HistoryText(const std::vector<StationRecord>& records) {
-  std::string text;
-  text.reserve(records.size() * (StationRecord::kLength + 2));
-  for (const StationRecord& record : records) {
-    if (record.IsBlank()) continue;
-    text += record.RightTrimmed();
-    text += "\r\n";
-  }
-  return text;
-}
-
 FollowedHistory::FollowedHistory(const IdentityState& identity, StoresState& stores,
                                  FollowedStationState& followed, MapViewState& map,
                                  const GpsState& gps, Moni1Controls& moni1,
                                  MapControls& map_controls, DistanceAlarm& alarm, Files& files,
-                                 SettingsActions& settings)
+                                 SettingsActions& settings, Label& file_notice)
     : identity_(identity),
       stores_(stores),
       followed_(followed),
@@ -33,7 +22,7 @@ FollowedHistory::FollowedHistory(const IdentityState& identity, StoresState& sto
       moni1_(moni1),
       map_controls_(map_controls),
       alarm_(alarm),
-      files_(files),
+      file_(followed.Moni1LogPath, files, file_notice),
       settings_(settings) {}
 
 bool FollowedHistory::IsFollowed(std::string_view call) const {
@@ -55,7 +44,7 @@ bool FollowedHistory::Enter(const StationRecord& record) {
 
   HoldCount();
   Thin();
-  if (!WriteFile()) return false;
+  if (!WriteFile(HistoryText({entry}))) return false;
   RefreshMonitorValues();
   alarm_.TestFollowed(entry);
   FollowOnMap();
@@ -70,15 +59,18 @@ void FollowedHistory::HoldCount() {
   }
 }
 
-// Thins a history that has outgrown its limit by a tenth down to eight tenths of it.
+// Thins a history that has outgrown its limit by a tenth down to eight tenths of it. What goes at a
+// gap, or with a file that holds more than is read, stays in a copy of the file; without one
+// nothing goes.
 void FollowedHistory::Thin() {
   constexpr int kMostGapDays = 20;
   StationStore& history = stores_.Moni1Records;
   if (followed_.Moni1ThinningOn != 1 || history.Count() * 10 <= history.Limit * 11) return;
   std::vector<StationRecord> records = history.All();
-  CutAtGap(records, kMostGapDays);
+  const bool cut = CutAtGap(records, kMostGapDays);
   KeepReadable(records, kMostHistoryLines);
   ThinByDistance(records, history.Limit * 0.8);
+  if ((cut || file_.HoldsMore()) && !file_.Shorten(records)) return;
   history.Assign(std::move(records));
 }
 
@@ -107,36 +99,9 @@ void FollowedHistory::RefreshMonitorValues() {
   if (followed_.MonitorTime == "    ") followed_.MonitorTime.clear();
 }
 
-FollowedHistory::LoadedHistory FollowedHistory::Read() {
-  LoadedHistory loaded;
-  const bool opened = files_.ReadLines(followed_.Moni1LogPath, [&loaded](std::string_view line) {
-    if (static_cast<int>(loaded.Records.size()) >= kMostHistoryLines) {
-      loaded.LinesLeftOut = true;
-      return false;
-    }
-    if (line.size() < StationRecord::kShortestLine || line.size() > StationRecord::kLongestLine) {
-      loaded.LinesLeftOut = loaded.LinesLeftOut || !line.empty();
-      return true;
-    }
-    loaded.Records.emplace_back(line);
-    return true;
-  });
-  unread_ = !opened && files_.Exists(followed_.Moni1LogPath);
-  return loaded;
-}
-
-// A station without a name has no file; its history is empty and valid. A file that is there but
-// could not be read is never written over.
-bool FollowedHistory::WriteFile() const {
-  if (Trim(followed_.Moni1Call).empty()) return true;
-  if (unread_) return false;
-  return files_.Replace(followed_.Moni1LogPath, HistoryText(stores_.Moni1Records.All()));
-}
-
-bool FollowedHistory::KeepCopy() const {
-  constexpr std::size_t kLargestCopied = 64u << 20;
-  const auto old = files_.ReadAll(followed_.Moni1LogPath, kLargestCopied);
-  return old.has_value() && files_.Replace(followed_.Moni1LogPath + ".BAK", *old);
+// A station without a name has no file; its history is empty and valid.
+bool FollowedHistory::WriteFile(std::string_view entered) {
+  return Trim(followed_.Moni1Call).empty() || file_.Write(stores_.Moni1Records.All(), entered);
 }
 
 void FollowedHistory::LoadAtStart() {
@@ -144,14 +109,12 @@ void FollowedHistory::LoadAtStart() {
   followed_.Moni1LogPath = HistoryPath(identity_, followed_.Moni1Call);
   stores_.Moni1Records.Clear();
   if (!Trim(followed_.Moni1Call).empty()) {
-    if (!files_.Exists(followed_.Moni1LogPath)) files_.Append(followed_.Moni1LogPath, "");
-    LoadedHistory loaded = Read();
-    const bool cut = CutAtGap(loaded.Records, kMostGapDays);
-    stores_.Moni1Records.Assign(std::move(loaded.Records));
-    // What is dropped, now or with the next position, stays in a copy; without one the file is
-    // left alone.
-    const bool kept = (cut || loaded.LinesLeftOut) && KeepCopy();
-    if (cut && kept && WriteFile()) stores_.Moni1Records.Assign(Read().Records);
+    std::vector<StationRecord> records = file_.Load();
+    std::vector<StationRecord> kept = records;
+    if (CutAtGap(kept, kMostGapDays) && file_.Shorten(kept)) {
+      records = file_.Load();
+    }
+    stores_.Moni1Records.Assign(std::move(records));
   }
   RefreshMonitorValues();
 }
@@ -159,21 +122,18 @@ void FollowedHistory::LoadAtStart() {
 void FollowedHistory::ChangeStation(const std::string& call) {
   followed_.Moni1Call = call;
   followed_.Moni1LogPath = HistoryPath(identity_, call);
-  unread_ = false;
   stores_.Moni1Records.Clear();
   if (!Trim(call).empty()) {
-    if (!files_.Exists(followed_.Moni1LogPath)) files_.Append(followed_.Moni1LogPath, "");
-    LoadedHistory loaded = Read();
-    stores_.Moni1Records.Assign(std::move(loaded.Records));
-    AppendFromAllStations();
-    if (!loaded.LinesLeftOut || KeepCopy()) WriteFile();
+    stores_.Moni1Records.Assign(file_.Load());
+    WriteFile(AppendFromAllStations());
   }
   RefreshMonitorValues();
   settings_.ReplaceConfigLine("CALL", call);
 }
 
-// Everything heard of the station since its newest record.
-void FollowedHistory::AppendFromAllStations() {
+// Everything heard of the station since its newest record, and the lines of that.
+std::string FollowedHistory::AppendFromAllStations() {
+  std::string entered;
   StationStore& history = stores_.Moni1Records;
   const std::string newest(history.Count() > 0 ? history.At(history.Count()).DateAndTime()
                                                : std::string_view{});
@@ -183,8 +143,10 @@ void FollowedHistory::AppendFromAllStations() {
     if (!IsFollowed(record.Call()) || record.DateAndTime() <= newest) continue;
     if (IsEmptyInternetRecord(record)) continue;
     history.Append(HistoryRecord(record));
+    entered += HistoryText({HistoryRecord(record)});
     HoldCount();
   }
+  return entered;
 }
 
 // While the station's internet record is being collected, records of the area query without a text
@@ -195,13 +157,12 @@ bool FollowedHistory::IsEmptyInternetRecord(const StationRecord& record) const {
 }
 
 bool FollowedHistory::WriteAndReadBack() {
-  if (!WriteFile()) return false;
   if (Trim(followed_.Moni1Call).empty()) return true;
-  LoadedHistory back = Read();
-  if (unread_) return false;
-  stores_.Moni1Records.Assign(std::move(back.Records));
+  const std::vector<StationRecord>& records = stores_.Moni1Records.All();
+  const bool written = file_.HoldsMore() ? file_.Shorten(records) : file_.Rewrite(records);
+  stores_.Moni1Records.Assign(file_.Load());
   RefreshMonitorValues();
-  return true;
+  return written;
 }
 
 }  // namespace zepril

@@ -1,7 +1,4 @@
-// The position history of the followed station (`MONI 1`) and its file.
-//
-// The file holds one record a line, right-trimmed, oldest first, and is written whole at each new
-// position: a new file replaces the old one, so that a power cut loses nothing.
+// The position history of the followed station (`MONI 1`), kept in its file with each new position.
 #pragma once
 
 #include <string>
@@ -17,54 +14,45 @@
 #include "core/state/stores.h"
 #include "platform/files.h"
 #include "reception/distance_alarm.h"
+#include "reception/history_file.h"
 
 namespace zepril {
-
-// Most records that are read from a history file.
-inline constexpr int kMostHistoryLines = 9998;
 
 class FollowedHistory {
  public:
   FollowedHistory(const IdentityState& identity, StoresState& stores,
                   FollowedStationState& followed, MapViewState& map, const GpsState& gps,
                   Moni1Controls& moni1, MapControls& map_controls, DistanceAlarm& alarm,
-                  Files& files, SettingsActions& settings);
+                  Files& files, SettingsActions& settings, Label& file_notice);
 
   // True when `call` is the followed station, without regard to case.
   bool IsFollowed(std::string_view call) const;
 
-  // A new position (a `MONI ALL` record of the followed station). False when the file can't be
-  // written.
+  // A new position (a `MONI ALL` record of the followed station). False at the first failure to
+  // write the file in this run; a notice tells of that one and of later ones.
   bool Enter(const StationRecord& record);
 
   // At the start of the program: path and history of `Moni1Call`. What lies before a gap of more
-  // than 30 days goes, after the file as it was has been kept beside it under the ending ".BAK"; so
-  // is a file with lines that are no records.
+  // than 30 days goes, but the file as it was stays beside it; where it can't, nothing goes.
   void LoadAtStart();
 
   // The operator follows another station: its history is loaded and completed from the list of all
   // stations, and the call stored in the configuration.
   void ChangeStation(const std::string& call);
 
-  // Writes the list and reads it back, as after a cut by the operator. False when that failed.
+  // Writes the list and reads it back, as after a cut by the operator. False when that failed: then
+  // the list is what the file holds, as before the cut.
   bool WriteAndReadBack();
 
   // The monitor values from the newest record; an empty history clears them.
   void RefreshMonitorValues();
 
  private:
-  struct LoadedHistory {
-    std::vector<StationRecord> Records;
-    bool LinesLeftOut = false;
-  };
-
-  LoadedHistory Read();
-  bool WriteFile() const;
-  bool KeepCopy() const;
+  bool WriteFile(std::string_view entered);
   void Thin();
   void HoldCount();
   void FollowOnMap();
-  void AppendFromAllStations();
+  std::string AppendFromAllStations();
   bool IsEmptyInternetRecord(const StationRecord& record) const;
 
   const IdentityState& identity_;
@@ -75,12 +63,8 @@ class FollowedHistory {
   Moni1Controls& moni1_;
   MapControls& map_controls_;
   DistanceAlarm& alarm_;
-  Files& files_;
+  HistoryFile file_;
   SettingsActions& settings_;
-  bool unread_ = false;  // the file is there and can't be read
 };
-
-// The lines of a history file: right-trimmed records with CR LF.
-std::string HistoryText(const std::vector<StationRecord>& records);
 
 }  // namespace zepril

@@ -38,7 +38,8 @@ ReceivePass::ReceivePass(Sections sections, Partners partners, const SymbolTable
       timer1_(timer1),
       raw_list_(raw_list),
       all_stations_(stores_.MoniAllRecords),
-      logs_(sections.Identity, files) {}
+      logs_(sections.Identity, files),
+      resting_logs_(logs_, files, clock, partners.Notice) {}
 
 void ReceivePass::Run() {
   // A link that delivers without end must not keep the tick for ever.
@@ -65,7 +66,7 @@ bool ReceivePass::Collect() {
   raw_list_behind_ = true;
   reception_.RxBuffer += collected_;
   if (reception_.RxBuffer.size() > kLongestReceiveBuffer) reception_.RxBuffer.clear();
-  return stores_.LogsOn != 1 || logs_.AppendRaw(collected_);
+  return stores_.LogsOn != 1 || resting_logs_.AppendRaw(collected_);
 }
 
 // Cuts one frame out of the waiting text and sees it through.
@@ -142,7 +143,7 @@ std::optional<FrameLevel> ReceivePass::Store(const StationRecord& record) {
   if (!all_stations_.Append(record)) return std::nullopt;
   ++counts_.Stored;
   map_behind_ = true;
-  if (stores_.LogsOn == 1 && !logs_.AppendRecord(record)) return std::nullopt;
+  if (stores_.LogsOn == 1 && !resting_logs_.AppendRecord(record)) return std::nullopt;
   all_stations_.KeepLimit();
   distance_.TestAllStations(record);
 

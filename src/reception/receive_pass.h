@@ -30,6 +30,7 @@
 #include "reception/header_analysis.h"
 #include "reception/packet_decoder.h"
 #include "reception/record_browser.h"
+#include "reception/resting_logs.h"
 #include "reception/station_logs.h"
 
 namespace zepril {
@@ -71,6 +72,7 @@ class ReceivePass {
     MapActions& MapDrawing;
     MessageActions& Messages;
     EmergencyActions& Emergencies;
+    Label& Notice;  // tells of logs that can't be written
   };
 
   // `raw_list` may be missing: then no list is filled.
@@ -122,6 +124,7 @@ class ReceivePass {
   ListBox* raw_list_;
   AllStationsStore all_stations_;
   StationLogs logs_;
+  RestingLogs resting_logs_;
   ReceptionCounts counts_;
 
   // Of the pass under way; kept for their memory.

@@ -22,7 +22,14 @@ std::string StationLogs::LogPath(std::string_view name) const {
 }
 
 bool StationLogs::AppendRaw(std::string_view collected) {
-  return files_.Append(LogPath("_LOGRAW_.TXT"), collected);
+  return Append("_LOGRAW_.TXT", collected);
+}
+
+bool StationLogs::Append(std::string_view name, std::string_view text) {
+  const std::string path = LogPath(name);
+  if (files_.Append(path, text)) return true;
+  failed_path_ = path;
+  return false;
 }
 
 std::string ShortLogLine(const StationRecord& record) {
@@ -35,10 +42,10 @@ std::string ShortLogLine(const StationRecord& record) {
 bool StationLogs::AppendRecord(const StationRecord& record) {
   line_ = ShortLogLine(record);
   line_ += kLineEnd;
-  const bool short_written = files_.Append(LogPath("_LOG_.TXT"), line_);
+  const bool short_written = Append("_LOG_.TXT", line_);
   line_.assign(record.Text());
   line_ += kLineEnd;
-  const bool long_written = files_.Append(LogPath("_LOGL_.TXT"), line_);
+  const bool long_written = Append("_LOGL_.TXT", line_);
   return short_written && long_written;
 }
 
@@ -57,7 +64,7 @@ bool StationLogs::AppendEmergency(const AlarmState& alarm, std::string_view posi
   add("UTM(Z" + zone + "): ", alarm.AlarmNorth + " " + alarm.AlarmEast);
   add("INFO    : ", alarm.AlarmInfo);
   add(rule, kLineEnd);
-  return files_.Append(LogPath("_ALARM_.TXT"), block);
+  return Append("_ALARM_.TXT", block);
 }
 
 std::string HistoryPath(const IdentityState& identity, std::string_view call) {

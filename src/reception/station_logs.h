@@ -28,10 +28,16 @@ class StationLogs {
   // Path of a file in the LOG folder, as the program writes paths.
   std::string LogPath(std::string_view name) const;
 
+  // The last file that could not be written.
+  const std::string& FailedPath() const { return failed_path_; }
+
  private:
+  bool Append(std::string_view name, std::string_view text);
+
   const IdentityState& identity_;
   Files& files_;
   std::string line_;
+  std::string failed_path_;
 };
 
 // Short line of a record, without its line end: 90 characters.

@@ -56,7 +56,7 @@ StationRooms::StationRooms(StationPlatform machine)
       distance_(State.Alarms, State.Identity, State.Followed, State.Map, Controls.Status,
                 Controls.Window),
       history_(State.Identity, State.Stores, State.Followed, State.Map, State.Gps, Controls.Moni1,
-               Controls.Map, distance_, machine.FileSystem, *this),
+               Controls.Map, distance_, machine.FileSystem, *this, Controls.Status.FileNotice),
       browser_(State.Stores, State.Map, Controls.Record, Controls.Map, history_, machine.Boxes,
                *this),
       heard_(State.Stores, Controls.MoniAll, browser_),
@@ -64,8 +64,9 @@ StationRooms::StationRooms(StationPlatform machine)
                  machine.MSComm1, *this),
       receive_pass_(
           {State.Identity, State.Reception, State.Stores, State.Map, State.Alarms, State.Settings},
-          {collector_, history_, browser_, distance_, *this, *this, *this}, symbols_,
-          machine.LocalClock, machine.FileSystem, Timer1, &Controls.Raw.RawList),
+          {collector_, history_, browser_, distance_, *this, *this, *this,
+           Controls.Status.FileNotice},
+          symbols_, machine.LocalClock, machine.FileSystem, Timer1, &Controls.Raw.RawList),
       cycle_(State, Controls, machine.LocalClock, machine.Desktop, Timer1, Timer2, *this, *this),
       raw_search_(Controls.Raw, State.Settings, Timer1),
       transmit_(State, Controls,
@@ -85,6 +86,7 @@ StationRooms::StationRooms(StationPlatform machine)
   transmit_.SetPositionMissing([this] { qth_.Open(); });
   transmit_.SetMayReopen([this] { return !cycle_.InTick(); });
   transmit_.SetEnding([this] { return EndWanted; });
+  Controls.Status.FileNotice.Click = [this] { Controls.Status.FileNotice.Visible = false; };
   BindControls();
 }
 

@@ -69,7 +69,7 @@ TEST(MainWindowCaptions, TheTransmittersPanelsWaitUntilTheyAreAskedFor) {
   SetInitialControls(c);
   for (const Control* panel : std::initializer_list<const Control*>{
            &c.TxSetup.Frame4, &c.ObjectSetup.Frame11, &c.Terminal.Frame19, &c.Terminal.Label49,
-           &c.Status.LinkNotice}) {
+           &c.Status.LinkNotice, &c.Status.FileNotice}) {
     EXPECT_FALSE(panel->Visible);
   }
   for (const CheckBox* box :

@@ -96,6 +96,29 @@ TEST_F(TransmitGroupTest, TheNoticeOfTheLinkStandsOverTheMapUntilItIsClicked) {
   EXPECT_FALSE(notice->isVisible());
 }
 
+TEST_F(TransmitGroupTest, TheNoticeOfAFileStandsBelowThatOfTheLinkUntilItIsClicked) {
+  StatusControls& status = Controls().Status;
+  status.FileNotice.Click = [&status] { status.FileNotice.Visible = false; };
+  loop.RunStep([&status] {
+    status.LinkNotice.Visible = status.FileNotice.Visible = true;
+    status.LinkNotice.Caption = "The port can't be opened: permission denied.";
+    status.FileNotice.Caption =
+        "C:\\ZEPRIL\\U33\\LOG\\_LOGRAW_.TXT can't be written: the disk is full. Logs rest and are "
+        "tried again every 10 minutes; reception goes on.";
+  });
+  auto* notice = Find<QLabel>(*window, "FileNotice");
+  for (const QSize size : {QSize(640, 480), QSize(1280, 800)}) {
+    Resize(size.width(), size.height());
+    EXPECT_TRUE(notice->isVisible());
+    EXPECT_TRUE(Map()->rect().contains(notice->geometry())) << size.width();
+    EXPECT_GE(notice->height(), notice->heightForWidth(notice->width())) << size.width();
+    EXPECT_FALSE(notice->geometry().intersects(Find<>(*window, "LinkNotice")->geometry()));
+  }
+  QTest::mouseClick(notice, Qt::LeftButton);
+  EXPECT_FALSE(notice->isVisible());
+  EXPECT_TRUE(Find<>(*window, "LinkNotice")->isVisible());
+}
+
 TEST_F(TransmitGroupTest, TheNoticeOfTheTemporaryModeStandsOverTheMap) {
   loop.RunStep([this] {
     Controls().Raw.RawList.Visible = true;

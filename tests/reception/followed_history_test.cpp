@@ -130,6 +130,7 @@ TEST(FollowedHistory, LoadingStopsAtTheMostLines) {
   station.Disk.Contents[kPath] = text;
   station.History.LoadAtStart();
   EXPECT_EQ(station.Stores.Moni1Records.Count(), 9998);
+  EXPECT_EQ(station.Stores.Moni1Records.At(9998).NorthText(), Place(10049 % 9000));
   EXPECT_EQ(station.Disk.Of(kPath), text);
 }
 
@@ -181,7 +182,15 @@ TEST(FollowedHistory, FileStaysWhenItsCopyCannotBeKept) {
   station.Disk.RefusedEnding = ".BAK";
   station.History.LoadAtStart();
   EXPECT_EQ(station.Disk.LineCount(kPath), 2);
-  EXPECT_EQ(station.Stores.Moni1Records.Count(), 1);
+  // The cut is put off, for what goes out of the list would go out of the file too.
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 2);
+  EXPECT_TRUE(station.Notice().Visible);
+  EXPECT_EQ(station.Notice().Caption,
+            kPath +
+                " is not shortened, for no copy of it can be kept: the disk is full. It stays "
+                "whole; new positions are added at its end.");
+  EXPECT_TRUE(station.History.Enter(Position(3, "240203 1200")));
+  EXPECT_EQ(station.Disk.LineCount(kPath), 3);
 }
 
 TEST(FollowedHistory, FileThatCannotBeReadIsNotWrittenOver) {
@@ -192,8 +201,12 @@ TEST(FollowedHistory, FileThatCannotBeReadIsNotWrittenOver) {
   station.History.LoadAtStart();
   EXPECT_FALSE(station.History.Enter(Position(2)));
   EXPECT_EQ(station.Disk.Of(kPath), old);
+  EXPECT_EQ(station.Notice().Caption,
+            kPath +
+                " can't be read: the disk is full. It is left as it is; new positions are not "
+                "stored in it.");
   station.History.ChangeStation("QX7KB");
-  EXPECT_FALSE(station.History.Enter(Position(2)));
+  EXPECT_TRUE(station.History.Enter(Position(2)));  // told of once is enough
   EXPECT_EQ(station.Disk.Of(kPath), old);
   // Another station's file is not concerned.
   station.History.ChangeStation("N0NEW");
@@ -208,6 +221,153 @@ TEST(FollowedHistory, LinesThatAreNoRecordsStayInACopy) {
   EXPECT_TRUE(station.History.Enter(Position(2)));
   EXPECT_EQ(station.Disk.LineCount(kPath), 2);
   EXPECT_EQ(station.Disk.Of(kPath + ".BAK"), old);
+}
+
+// ---- Nothing is lost ------------------------------------------------------------------------
+
+TEST(FollowedHistory, ABackwardJumpOfTheClockIsNoGap) {
+  Reception station;
+  const std::string old = LineOf(Position(1, "240301 1200")) + LineOf(Position(2, "240101 1200")) +
+                          LineOf(Position(3, "240302 1200"));
+  station.Disk.Contents[kPath] = old;
+  station.History.LoadAtStart();
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 3);
+  EXPECT_EQ(station.Disk.Of(kPath), old);
+}
+
+// A history with one gap, told apart by its place.
+std::string WithGap(int place) {
+  return LineOf(Position(place, "240101 1200")) + LineOf(Position(place + 1, "240202 1200"));
+}
+
+TEST(FollowedHistory, NoCopyIsWrittenOver) {
+  Reception station;
+  std::vector<std::string> copies{kPath + ".BAK"};
+  for (int number = 1; number <= 9; ++number)
+    copies.push_back(kPath + ".BA" + WholeNumber(number));
+  for (int cut = 0; cut < 10; ++cut) {
+    station.Disk.Contents[kPath] = WithGap(10 * cut);
+    station.History.LoadAtStart();
+    EXPECT_EQ(station.Stores.Moni1Records.Count(), 1) << cut;
+  }
+  for (int cut = 0; cut < 10; ++cut)
+    EXPECT_EQ(station.Disk.Of(copies[static_cast<std::size_t>(cut)]), WithGap(10 * cut)) << cut;
+  // Ten stand there, each with something of its own: the next cut is put off.
+  station.Disk.Contents[kPath] = WithGap(500);
+  station.History.LoadAtStart();
+  EXPECT_EQ(station.Disk.Of(kPath), WithGap(500));
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 2);
+  EXPECT_NE(station.Notice().Caption.find("ten copies stand beside it already"), std::string::npos);
+  EXPECT_EQ(station.Disk.Of(kPath + ".BAK"), WithGap(0));
+}
+
+TEST(FollowedHistory, TheOldestCopyGoesWhenNewerOnesHoldAllOfIt) {
+  Reception station;
+  station.Disk.Contents[kPath + ".BAK"] = WithGap(0);
+  for (int number = 1; number <= 9; ++number) {
+    station.Disk.Contents[kPath + ".BA" + WholeNumber(number)] = WithGap(0) + WithGap(10 * number);
+  }
+  station.Disk.Contents[kPath] = WithGap(500);
+  station.History.LoadAtStart();
+  EXPECT_EQ(station.Disk.Of(kPath + ".BAK"), WithGap(500));
+  EXPECT_EQ(station.Disk.LineCount(kPath), 1);
+  EXPECT_EQ(station.Disk.Of(kPath + ".BA1"), WithGap(0) + WithGap(10));
+}
+
+// A history of more records than are read.
+std::string LongHistory(int records) {
+  std::string text;
+  for (int i = 0; i < records; ++i)
+    text += LineOf(Position(i % 9000));
+  return text;
+}
+
+TEST(FollowedHistory, AHistoryThatIsTooLongIsAppendedTo) {
+  for (int records : {9999, 10050, 30000}) {
+    Reception station;
+    const std::string old = LongHistory(records);
+    station.Disk.Contents[kPath] = old;
+    station.History.LoadAtStart();
+    EXPECT_EQ(station.Stores.Moni1Records.Count(), 9998);
+    EXPECT_NE(station.Notice().Caption.find("longer than is read"), std::string::npos);
+    EXPECT_TRUE(station.History.Enter(Position(9100)));
+    EXPECT_TRUE(station.History.Enter(Position(9200)));
+    EXPECT_EQ(station.Disk.Of(kPath), old + LineOf(Position(9100)) + LineOf(Position(9200)));
+    EXPECT_FALSE(station.Disk.Exists(kPath + ".BAK"));
+  }
+}
+
+TEST(FollowedHistory, AHistoryThatIsTooLongIsThinnedBesideItsOldFile) {
+  Reception station;
+  station.Followed.Moni1ThinningOn = 1;
+  station.Stores.Moni1Records.Limit = 1000;
+  const std::string old = LongHistory(30000);
+  station.Disk.Contents[kPath] = old;
+  station.History.LoadAtStart();
+  EXPECT_TRUE(station.History.Enter(Position(9100)));
+  EXPECT_EQ(station.Disk.Of(kPath + ".BAK"), old);
+  EXPECT_LE(station.Disk.LineCount(kPath), 800);
+  EXPECT_TRUE(station.Disk.Of(kPath).ends_with(LineOf(Position(9100))));
+  EXPECT_EQ(station.Disk.LineCount(kPath), station.Stores.Moni1Records.Count());
+}
+
+TEST(FollowedHistory, WithoutRoomForItsCopyATooLongHistoryIsOnlyAppendedTo) {
+  Reception station;
+  station.Followed.Moni1ThinningOn = 1;
+  station.Stores.Moni1Records.Limit = 1000;
+  const std::string old = LongHistory(30000);
+  station.Disk.Contents[kPath] = old;
+  station.Disk.NoRoomToReplace = true;
+  station.History.LoadAtStart();
+  EXPECT_TRUE(station.History.Enter(Position(9100)));
+  EXPECT_TRUE(station.History.Enter(Position(9200)));
+  EXPECT_EQ(station.Disk.Of(kPath), old + LineOf(Position(9100)) + LineOf(Position(9200)));
+  EXPECT_TRUE(station.Notice().Visible);
+  EXPECT_NE(station.Notice().Caption.find("no copy of it can be kept: the disk is full"),
+            std::string::npos);
+}
+
+TEST(FollowedHistory, ATooLongHistoryIsOnlyAppendedToAtAChangeOfStation) {
+  Reception station;
+  const std::string path = R"(C:\ZEPRIL\U33\LOG\N0NEW.TXT)";
+  std::string old;
+  for (int i = 0; i < 20000; ++i)
+    old += LineOf(RecordOf("N0NEW", "240115 1100", Place(i % 9000)));
+  station.Disk.Contents[path] = old;
+  station.Stores.MoniAllRecords.Append(RecordOf("N0NEW", "240115 1201", Place(9500)));
+  station.History.ChangeStation("N0NEW");
+  EXPECT_EQ(station.Disk.Of(path), old + LineOf(RecordOf("N0NEW", "240115 1201", Place(9500))));
+}
+
+TEST(FollowedHistory, WithoutRoomToWriteItAnewItIsAppendedToAndThatIsTold) {
+  Reception station;
+  station.History.Enter(Position(1));
+  station.Disk.NoRoomToReplace = true;
+  EXPECT_TRUE(station.History.Enter(Position(2)));
+  EXPECT_EQ(station.Disk.Of(kPath), LineOf(Position(1)) + LineOf(Position(2)));
+  EXPECT_TRUE(station.Notice().Visible);
+  EXPECT_EQ(station.Notice().Caption, kPath +
+                                          " can't be written anew: the disk is full. New "
+                                          "positions are added at its end; nothing is lost.");
+  station.Disk.NoRoomToReplace = false;
+  EXPECT_TRUE(station.History.Enter(Position(3)));
+  EXPECT_EQ(station.Disk.LineCount(kPath), 3);
+  EXPECT_FALSE(station.Notice().Visible);
+}
+
+TEST(FollowedHistory, WhatCouldNotBeWrittenFollowsAsSoonAsItCan) {
+  Reception station;
+  const std::string old = LongHistory(10050);
+  station.Disk.Contents[kPath] = old;
+  station.History.LoadAtStart();
+  station.Disk.RefusedEnding = "QX7KB.TXT";
+  EXPECT_FALSE(station.History.Enter(Position(9100)));
+  EXPECT_TRUE(station.History.Enter(Position(9200)));
+  EXPECT_NE(station.Notice().Caption.find("can't be written: the disk is full"), std::string::npos);
+  station.Disk.RefusedEnding.clear();
+  EXPECT_TRUE(station.History.Enter(Position(9300)));
+  EXPECT_EQ(station.Disk.Of(kPath),
+            old + LineOf(Position(9100)) + LineOf(Position(9200)) + LineOf(Position(9300)));
 }
 
 TEST(FollowedHistory, ChangeOfStationTakesWhatWasHeardSince) {

@@ -166,6 +166,52 @@ TEST(ReceivePass, LogThatCannotBeWrittenIsRecovered) {
   }
 }
 
+TEST(ReceivePass, LogsRestWhileTheyCannotBeWrittenAndDecodingGoesOn) {
+  for (const char* log : {"_LOGRAW_.TXT", "_LOG_.TXT", "_LOGL_.TXT"}) {
+    Reception station;
+    station.Stores.LogsOn = 1;
+    station.Disk.RefusedEnding = log;
+    station.HearPacket(kPosition + "1");
+    EXPECT_EQ(station.Pass.Counts().Recoveries, 1) << log;
+    const int heard = station.Heard();
+    EXPECT_TRUE(station.Notice().Visible);
+    EXPECT_EQ(station.Notice().Caption,
+              Reception::Log(log) +
+                  " can't be written: the disk is full. Logs rest and are tried "
+                  "again every 10 minutes; reception goes on.");
+    station.HearPacket(kPosition + "2");
+    station.HearPacket(kPosition + "3");
+    EXPECT_EQ(station.Heard(), heard + 2) << log;
+    EXPECT_EQ(station.Pass.Counts().Recoveries, 1) << log;
+    // Closed by the operator, it does not come back with each attempt, nor does one cost a frame.
+    station.Notice().Visible = false;
+    for (int attempt = 0; attempt < 3; ++attempt) {
+      station.Time.Wait(601.0);
+      station.HearPacket(kPosition + "later " + WholeNumber(attempt));
+    }
+    EXPECT_EQ(station.Heard(), heard + 5) << log;
+    EXPECT_EQ(station.Pass.Counts().Recoveries, 1) << log;
+    EXPECT_FALSE(station.Notice().Visible);
+    EXPECT_EQ(station.Stores.LogsOn, 1);  // the setting is the operator's
+  }
+}
+
+TEST(ReceivePass, LogsGoOnTenMinutesLaterWhenThereIsRoomAgain) {
+  Reception station;
+  station.Stores.LogsOn = 1;
+  station.Disk.RefusedEnding = "_LOGRAW_.TXT";
+  station.HearPacket(kPosition + "1");
+  station.Disk.RefusedEnding.clear();
+  station.Time.Wait(590.0);
+  station.HearPacket(kPosition + "2");
+  EXPECT_FALSE(station.Disk.Exists(Reception::Log("_LOGL_.TXT")));
+  EXPECT_TRUE(station.Notice().Visible);
+  station.Time.Wait(11.0);
+  station.HearPacket(kPosition + "3");
+  EXPECT_EQ(station.Disk.LineCount(Reception::Log("_LOGL_.TXT")), 1);
+  EXPECT_FALSE(station.Notice().Visible);
+}
+
 TEST(ReceivePass, SameSecondDigipeaterStoresOnce) {
   Reception station;
   station.HearPacket(kPosition, "N0CALL>DIGIA*>APRS");
@@ -342,7 +388,7 @@ TEST(ReceivePass, LinkWithoutEndDoesNotHoldTheTick) {
   ReceivePass pass({station.Identity, station.Received, station.Stores, station.Map, station.Alarms,
                     station.Settings},
                    {link, station.History, station.Browser, station.Distance, station.Actions,
-                    station.Actions, station.Actions},
+                    station.Actions, station.Actions, station.Controls.Status.FileNotice},
                    station.Symbols, station.Time, station.Disk, station.Timer1, nullptr);
   pass.Run();
   EXPECT_LE(pass.Counts().Frames, 5000);

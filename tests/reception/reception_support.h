@@ -77,11 +77,12 @@ class Reception {
       : Link(Radio, Received, Internet, Time, Engine, Modem, Actions),
         Distance(Alarms, Identity, Followed, Map, Controls.Status, Controls.Window),
         History(Identity, Stores, Followed, Map, Gps, Controls.Moni1, Controls.Map, Distance, Disk,
-                Actions),
+                Actions, Controls.Status.FileNotice),
         Browser(Stores, Map, Controls.Record, Controls.Map, History, Boxes, Actions),
         Pass({Identity, Received, Stores, Map, Alarms, Settings},
-             {Link, History, Browser, Distance, Actions, Actions, Actions}, Symbols, Time, Disk,
-             Timer1, &Controls.Raw.RawList) {
+             {Link, History, Browser, Distance, Actions, Actions, Actions,
+              Controls.Status.FileNotice},
+             Symbols, Time, Disk, Timer1, &Controls.Raw.RawList) {
     Identity.MyCall = Identity.MyCallFull = "QX7KB";
     Identity.MapSystemFolder = R"(C:\ZEPRIL\U33)";
     Radio.RadioMode = 1;
@@ -92,6 +93,7 @@ class Reception {
     Map.MapDrawn = true;
     Controls.Record.Frame1.Visible = false;
     Controls.Status.Frame12.Visible = false;
+    Controls.Status.FileNotice.Visible = false;
     Actions.OnRedraw = [this] { Timer1.Enable(); };
     Modem.Open("1", 1200);
     Timer1.Arm(6000);
@@ -117,6 +119,7 @@ class Reception {
   std::int64_t Drops(DropReason reason) const {
     return Pass.Counts().Drops[static_cast<std::size_t>(reason)];
   }
+  Label& Notice() { return Controls.Status.FileNotice; }
   static std::string Log(const std::string& name) { return R"(C:\ZEPRIL\U33\LOG\)" + name; }
 
   IdentityState Identity;

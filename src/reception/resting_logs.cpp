@@ -1,0 +1,34 @@
+#include "reception/resting_logs.h"
+
+namespace zepril {
+
+bool RestingLogs::AppendRaw(std::string_view collected) {
+  return IsResting() || Written(Kind::Raw, logs_.AppendRaw(collected));
+}
+
+bool RestingLogs::AppendRecord(const StationRecord& record) {
+  return IsResting() || Written(Kind::Records, logs_.AppendRecord(record));
+}
+
+bool RestingLogs::IsResting() const {
+  return failing_ != Kind::None && clock_.MonotonicSeconds() < try_again_;
+}
+
+bool RestingLogs::Written(Kind kind, bool written) {
+  if (written) {
+    // Only the log that failed tells that all is well again.
+    if (failing_ != kind) return true;
+    failing_ = Kind::None;
+    notice_.Withdraw();
+    return true;
+  }
+  failing_ = kind;
+  try_again_ = clock_.MonotonicSeconds() + kRestSeconds;
+  notice_.Tell(logs_.FailedPath() + " can't be written: " + files_.Trouble() +
+               ". Logs rest and are tried again every 10 minutes; reception goes on.");
+  const bool first = !failed_once_;
+  failed_once_ = true;
+  return !first;
+}
+
+}  // namespace zepril

@@ -1,0 +1,43 @@
+// The logs of all stations, which rest while they can't be written: a full disk must not keep the
+// program from receiving.
+//
+// The first failure of a run is one of the receive pass, which recovers from it. From then on a
+// notice tells which file it is and why, and every ten minutes writing is tried again.
+#pragma once
+
+#include <string_view>
+
+#include "core/file_notice.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "reception/station_logs.h"
+
+namespace zepril {
+
+class RestingLogs {
+ public:
+  static constexpr double kRestSeconds = 600.0;
+
+  RestingLogs(StationLogs& logs, const Files& files, const Clock& clock, Label& notice)
+      : logs_(logs), files_(files), clock_(clock), notice_(notice) {}
+
+  // As those of `StationLogs`; false only at the first failure of the run.
+  bool AppendRaw(std::string_view collected);
+  bool AppendRecord(const StationRecord& record);
+
+ private:
+  enum class Kind { None, Raw, Records };
+
+  bool IsResting() const;
+  bool Written(Kind kind, bool written);
+
+  StationLogs& logs_;
+  const Files& files_;
+  const Clock& clock_;
+  FileNotice notice_;
+  Kind failing_ = Kind::None;
+  double try_again_ = 0.0;  // monotonic seconds
+  bool failed_once_ = false;
+};
+
+}  // namespace zepril
