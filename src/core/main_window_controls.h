@@ -228,6 +228,7 @@ struct TxSetupControls {
   Label CrossField;                    // second mode
   Button CrossDown;
   Button CrossUp;
+  Label CallNotice;  // beside OK: what OK does not do
   Button TxOk;
   Button TxAbort;
 };

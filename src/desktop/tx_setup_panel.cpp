@@ -50,7 +50,10 @@ TxSetupPanel::TxSetupPanel(WindowParts& parts, MainWindowControls& controls, QWi
   MakeTimer(box);
   MakeRadio(box);
   box->addStretch(1);
+  QLabel* notice = parts_.FixedLabel("CallNotice");
+  parts_.Binding.Bind(notice, controls_.CallNotice);
   panel_->Buttons()->addStretch(1);
+  panel_->Buttons()->addWidget(notice);
   for (QPushButton* button : {parts_.BoundButton("TxOk", controls_.TxOk),
                               parts_.BoundButton("TxAbort", controls_.TxAbort)}) {
     button->setMinimumWidth(kButtonWidth);

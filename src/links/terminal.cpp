@@ -4,9 +4,18 @@
 
 #include "core/baud_mode.h"
 #include "core/text_fields.h"
+#include "links/setup_sequences.h"
 
 namespace zepril {
 namespace {
+
+constexpr char kBreak = 3;
+constexpr char kBackspace = 8;
+constexpr char kCancelLine = 24;
+constexpr char kEsc = 27;
+constexpr const char* kTitle = "ZEP RIL          TERMINAL";
+constexpr const char* kHalfLine =
+    "A LINE IS TYPED WITHOUT ITS END. DO YOU WANT TO SEND IT OFF NOW ?   (NO: IT IS WIPED)";
 
 void AddTo(std::string& text, std::string_view more) {
   text += more;
@@ -15,8 +24,8 @@ void AddTo(std::string& text, std::string_view more) {
 
 }  // namespace
 
-Terminal::Terminal(TerminalControls& controls, TerminalTools tools)
-    : controls_(controls), tools_(tools) {
+Terminal::Terminal(const RadioState& radio, TerminalControls& controls, TerminalTools tools)
+    : radio_(radio), controls_(controls), tools_(tools) {
   controls_.Frame19.Visible = false;
   controls_.Command65.Enabled = false;
   controls_.Command65.Click = [this] { Open(); };
@@ -34,6 +43,7 @@ void Terminal::Open() {
   tools_.Timer1.Stop();
   controls_.Text19.Text.clear();
   controls_.Text20.Text.clear();
+  half_line_ = 0;
   controls_.Frame19.Visible = true;
   controls_.Text19.FocusWanted = true;
   if (Changed) Changed();
@@ -42,6 +52,40 @@ void Terminal::Open() {
 void Terminal::KeyTyped(char character) {
   AddTo(controls_.Text19.Text, {&character, 1});
   tools_.Port.Write({&character, 1});
+  CountTyped(character);
+}
+
+// As the modem does.
+void Terminal::CountTyped(char character) {
+  const auto mode = static_cast<RadioMode>(radio_.RadioMode);
+  if (character == '\r' || (character == kBreak && mode == RadioMode::Pk232) ||
+      (character == kCancelLine && mode != RadioMode::ScsPtc)) {
+    half_line_ = 0;
+  } else if (character == kEsc && mode == RadioMode::ScsPtc) {
+    half_line_ = 1;
+  } else if (character == kBackspace) {
+    half_line_ -= half_line_ > 0 ? 1 : 0;
+  } else if (character != '\n' || half_line_ > 0) {
+    ++half_line_;
+  }
+}
+
+bool Terminal::HasHalfLine() const {
+  return IsOpen() && half_line_ > 0 && tools_.Port.IsOpen();
+}
+
+void Terminal::WipeHalfLine() {
+  if (HasHalfLine()) tools_.Port.Write(WipeLineBytes(radio_));
+  half_line_ = 0;
+}
+
+void Terminal::SettleHalfLine() {
+  if (!HasHalfLine()) return;
+  const DialogAnswer answer =
+      tools_.Boxes.Ask(kTitle, kHalfLine, DialogButtons::YesNo, DialogAnswer::No);
+  if (answer != DialogAnswer::Yes) return WipeHalfLine();
+  tools_.Port.Write("\r");
+  half_line_ = 0;
 }
 
 void Terminal::DataArrived() {
@@ -53,6 +97,7 @@ void Terminal::DataArrived() {
 }
 
 void Terminal::Close() {
+  SettleHalfLine();
   controls_.Frame19.Visible = false;
   if (Changed) Changed();
   tools_.Timer1.Enable();

@@ -1,7 +1,8 @@
 // The terminal window: the operator talks to the serial modem himself.
 //
 // As long as it is open the main cycle stands still: nothing is decoded, nothing is transmitted,
-// and what the modem prints is shown here only.
+// and what the modem prints is shown here only. A line that was typed half does not stay in the
+// modem, which would put the next report behind it.
 #pragma once
 
 #include <string>
@@ -10,6 +11,7 @@
 #include "core/main_window_controls.h"
 #include "core/state/radio.h"
 #include "core/timer.h"
+#include "platform/dialogs.h"
 #include "platform/serial_port.h"
 
 namespace zepril {
@@ -19,6 +21,7 @@ struct TerminalTools {
   MapActions& Map;
   Timer& Timer1;
   Timer& Timer2;
+  Dialogs& Boxes;
 };
 
 class Terminal {
@@ -28,14 +31,17 @@ class Terminal {
   static constexpr std::size_t kKeptText = 300;
 
   // Sets the events of the panel; the button is disabled until EnableFor.
-  Terminal(TerminalControls& controls, TerminalTools tools);
+  Terminal(const RadioState& radio, TerminalControls& controls, TerminalTools tools);
   Terminal(const Terminal&) = delete;
   Terminal& operator=(const Terminal&) = delete;
 
   // Only a serial modem has a terminal.
   void EnableFor(RadioMode mode);
   void Open();
+  // Asks first what becomes of half a line.
   void Close();
+  // The program ends: half a line is wiped without a question.
+  void WipeHalfLine();
   bool IsOpen() const { return controls_.Frame19.Visible; }
   // The port has received something. Left alone while the terminal is closed.
   void DataArrived();
@@ -44,9 +50,14 @@ class Terminal {
 
  private:
   void KeyTyped(char character);
+  void CountTyped(char character);
+  void SettleHalfLine();
+  bool HasHalfLine() const;
 
+  const RadioState& radio_;
   TerminalControls& controls_;
   TerminalTools tools_;
+  std::size_t half_line_ = 0;  // characters that the modem holds without their end
 };
 
 }  // namespace zepril

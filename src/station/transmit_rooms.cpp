@@ -17,7 +17,9 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
       tools_(tools),
       modem_(state.Identity, state.Radio, state.Transmission,
              {tools.Machine.MSComm1, tools.Machine.LocalClock, tools.ReopenTimer, tools.LongWork}),
-      terminal_(controls.Terminal, {tools.Machine.MSComm1, tools.Map, tools.Timer1, tools.Timer2}),
+      terminal_(
+          state.Radio, controls.Terminal,
+          {tools.Machine.MSComm1, tools.Map, tools.Timer1, tools.Timer2, tools.Machine.Boxes}),
       temporary_mode_(state.Radio, controls.Raw, controls.Terminal, tools.Machine.MSComm1),
       sender_(
           state.Radio, state.Transmission,
@@ -107,6 +109,11 @@ void TransmitRooms::ShowLinkTrouble() {
 
 void TransmitRooms::RunTerminalHandler() {
   if (terminal_.IsOpen()) terminal_.Open();
+}
+
+void TransmitRooms::LeaveSerialModem() {
+  terminal_.WipeHalfLine();
+  modem_.Leave();
 }
 
 void TransmitRooms::KeepSecondModeMonitored() {

@@ -66,7 +66,7 @@ class TransmitRooms {
   // Once a second.
   void RenewOutcome() { outcome_.Renew(); }
   // The stop.
-  void LeaveSerialModem() { modem_.Leave(); }
+  void LeaveSerialModem();
 
   // The operator talks to the modem, sets the transmitter up or places the object: the main cycle
   // stands still.

@@ -11,6 +11,7 @@ namespace {
 constexpr std::array<const char*, 5> kSpeeds{"300R", "300", "1200", "9600", "19200"};
 constexpr std::array<const char*, TxSetupControls::kQuick> kQuickPaths{
     "WIDE1-1", "WIDE2-1", "WIDE2-2", "RELAY", "ECHO", "GATE"};
+constexpr const char* kCallFollows = "the call follows at the next START";
 constexpr int kLongestInterval = 60;
 constexpr int kHighestLevel = 32767;
 
@@ -197,6 +198,9 @@ void TxSetup::ShowByMode() {
                                        : " SCS PTC: AFSK TX LEVEL ( 30 mV - 3000 mV )";
   controls_.TxLevelLabel.Visible = level;
   controls_.TxLevel.Visible = level;
+  // The PTC is not told its call by OK.
+  controls_.CallNotice.Caption = kCallFollows;
+  controls_.CallNotice.Visible = ptc;
   transmit_.Check2.Visible = tnc;
   controls_.CrossField.Visible = tnc;
   controls_.CrossUp.Visible = tnc;

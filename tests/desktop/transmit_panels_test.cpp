@@ -149,6 +149,24 @@ TEST_F(TransmitPanelsTest, WhatTheLinkDoesNotOfferIsNotShown) {
   }
 }
 
+TEST_F(TransmitPanelsTest, WhatOkDoesNotDoStandsBesideIt) {
+  OpenTxSetup();
+  loop.RunStep([this] {
+    Tx().CallNotice.Caption = "the call follows at the next START";
+    Tx().CallNotice.Visible = true;
+  });
+  Pump();
+  auto* notice = Find<QLabel>(*window, "CallNotice");
+  EXPECT_EQ(notice->text(), QStringLiteral("the call follows at the next START"));
+  EXPECT_GE(notice->width(), notice->sizeHint().width());
+  const QRect ok = PlaceOf(Find<>(*window, "TxOk"));
+  const QRect place = PlaceOf(notice);
+  EXPECT_LE(place.right(), ok.left());
+  EXPECT_LT(std::abs(place.center().y() - ok.center().y()), ok.height());
+  loop.RunStep([this] { Tx().CallNotice.Visible = false; });
+  EXPECT_FALSE(notice->isVisible());
+}
+
 TEST_F(TransmitPanelsTest, NamesOfSymbolsAndTheSecondModeAreRead) {
   OpenTxSetup();
   OpenObjectSetup();

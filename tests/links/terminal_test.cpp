@@ -2,7 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "tests/doubles/fake_serial.h"
+#include "tests/doubles/scripted_dialogs.h"
 
 namespace zepril {
 namespace {
@@ -35,7 +40,9 @@ class TerminalTest : public ::testing::Test {
   TerminalControls panel;
   Timer Timer1{6000};
   Timer Timer2{3000};
-  Terminal terminal{panel, {port, map, Timer1, Timer2}};
+  ScriptedDialogs boxes;
+  RadioState radio;
+  Terminal terminal{radio, panel, {port, map, Timer1, Timer2, boxes}};
 };
 
 TEST_F(TerminalTest, OnlyASerialModemHasOne) {
@@ -117,6 +124,100 @@ TEST_F(TerminalTest, ClosingBringsBothTimersBackAndTellsOfIt) {
   EXPECT_TRUE(Timer1.Enabled());
   EXPECT_TRUE(Timer2.Enabled());
   EXPECT_EQ(map.Refreshed, 1);
+}
+
+// ---- Half a line -------------------------------------------------------------------------------
+
+class HalfLineTest : public TerminalTest {
+ protected:
+  void Use(RadioMode mode) { radio.RadioMode = static_cast<int>(mode); }
+  void Expect(DialogAnswer answer) {
+    boxes.Expect("ZEP RIL          TERMINAL",
+                 "A LINE IS TYPED WITHOUT ITS END. DO YOU WANT TO SEND IT OFF NOW ?   (NO: IT IS "
+                 "WIPED)",
+                 answer);
+  }
+  // What goes to the modem at CLOSE.
+  std::string WrittenAtClose() {
+    port.Written.clear();
+    panel.Command66.Click();
+    return port.Written;
+  }
+};
+
+TEST_F(HalfLineTest, IsSentOffOrWipedAsTheModemTakesItBeforeTheProgramGoesOn) {
+  for (const auto& [mode, wipe] :
+       std::vector<std::pair<RadioMode, std::string>>{{RadioMode::Pk232, "\x18"},
+                                                      {RadioMode::ScsTnc, "\x18"},
+                                                      {RadioMode::ScsPtc, "\x1B\r"}}) {
+    Use(mode);
+    boxes.WhileAsking = [&] {
+      EXPECT_TRUE(panel.Frame19.Visible);
+      EXPECT_FALSE(Timer1.Enabled());
+    };
+    for (const auto& [answer, written] : std::vector<std::pair<DialogAnswer, std::string>>{
+             {DialogAnswer::Yes, "\r"}, {DialogAnswer::No, wipe}}) {
+      terminal.Open();
+      Type(">half");
+      Expect(answer);
+      EXPECT_EQ(WrittenAtClose(), written);
+      EXPECT_EQ(boxes.LastButtons, DialogButtons::YesNo);
+      EXPECT_EQ(boxes.LastDefault, DialogAnswer::No);
+      EXPECT_FALSE(panel.Frame19.Visible);
+      EXPECT_TRUE(Timer1.Enabled());
+    }
+  }
+}
+
+TEST_F(HalfLineTest, AWholeLineOrNoneIsNoQuestion) {
+  for (const auto& [mode, keys] :
+       std::vector<std::pair<RadioMode, std::string>>{{RadioMode::Pk232, ""},
+                                                      {RadioMode::Pk232, "MYCALL\r"},
+                                                      {RadioMode::Pk232, "MYCALL\r\n"},
+                                                      {RadioMode::Pk232, "ab\b\b\b"},
+                                                      {RadioMode::Pk232, "ab\x18"},
+                                                      {RadioMode::Pk232, "ab\x03"},
+                                                      {RadioMode::ScsTnc, "\x1BI\r"},
+                                                      {RadioMode::ScsTnc, "ab\x18"},
+                                                      {RadioMode::ScsPtc, "ab\x1BQ\r"}}) {
+    Use(mode);
+    terminal.Open();
+    Type(keys);
+    EXPECT_EQ(WrittenAtClose(), "") << keys;
+  }
+}
+
+TEST_F(HalfLineTest, ACommandWithoutItsEndIsHalfALineToo) {
+  for (const auto& [mode, keys] :
+       std::vector<std::pair<RadioMode, std::string>>{{RadioMode::ScsTnc, "\x1B"},
+                                                      {RadioMode::ScsTnc, "ab\x03"},
+                                                      {RadioMode::ScsPtc, "x\r\x1B"},
+                                                      {RadioMode::ScsPtc, "\x18"},
+                                                      {RadioMode::Pk232, "ab\b"}}) {
+    Use(mode);
+    terminal.Open();
+    Type(keys);
+    Expect(DialogAnswer::No);
+    EXPECT_NE(WrittenAtClose(), "") << keys;
+  }
+}
+
+TEST_F(HalfLineTest, OnALostLineNothingIsAsked) {
+  terminal.Open();
+  Type("ab");
+  port.Vanish();
+  EXPECT_EQ(WrittenAtClose(), "");
+}
+
+TEST_F(HalfLineTest, AtTheEndOfTheProgramItIsWipedWithoutAQuestion) {
+  Use(RadioMode::ScsTnc);
+  terminal.Open();
+  Type("ab");
+  port.Written.clear();
+  terminal.WipeHalfLine();
+  EXPECT_EQ(port.Written, "\x18");
+  terminal.WipeHalfLine();
+  EXPECT_EQ(port.Written, "\x18");
 }
 
 }  // namespace

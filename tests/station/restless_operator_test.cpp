@@ -26,12 +26,18 @@ class RestlessOperator : public OnAirStation {
       }
     };
     station.modem.OnWrite = [this](std::string_view bytes) { LookAt(bytes); };
+    station.dialogs.Allow(
+        "ZEP RIL          TERMINAL",
+        "A LINE IS TYPED WITHOUT ITS END. DO YOU WANT TO SEND IT OFF NOW ?   (NO: "
+        "IT IS WIPED)",
+        DialogAnswer::No);
   }
   // Whatever is said to a modem is a whole line, and while the operator talks to it nobody else
   // does; only a temporary mode, whose button is let go meanwhile, is ended.
   void LookAt(std::string_view bytes) {
     if (typing_) return;
-    EXPECT_TRUE(!station.Controls().Terminal.Frame19.Visible || bytes.starts_with("\x1B%B"))
+    EXPECT_TRUE(!station.Controls().Terminal.Frame19.Visible || bytes.starts_with("\x1B%B") ||
+                IsWipe(bytes))
         << bytes;
     EXPECT_TRUE(bytes.ends_with('\r') || bytes.ends_with("\r\n") || IsNoLine(bytes)) << bytes;
     const bool frame = bytes.starts_with("=") || bytes.starts_with(";") || bytes.starts_with("}");
@@ -46,6 +52,8 @@ class RestlessOperator : public OnAirStation {
     return bytes == "\x03" || bytes == "\x18" || bytes == "*" || bytes == "KISS OFF" ||
            bytes == "\xC0\xFF\xC0" || bytes == "\x01OHON\x17";
   }
+  // Half a line that the operator has typed, at CLOSE.
+  static bool IsWipe(std::string_view bytes) { return bytes == "\x18" || bytes == "\x1B\r"; }
   int Any(int count) { return std::uniform_int_distribution<int>(0, count - 1)(random_); }
 
   // Only what an operator can reach.

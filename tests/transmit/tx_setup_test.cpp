@@ -164,6 +164,9 @@ TEST_F(TxSetupTest, WhatIsOfferedDependsOnTheInterface) {
     Open();
     EXPECT_EQ(Panel().TxLevel.Visible, row.Level) << static_cast<int>(row.Mode);
     EXPECT_EQ(Panel().TxLevelLabel.Visible, row.Level);
+    // Only the PTC is not told a new call by OK.
+    EXPECT_EQ(Panel().CallNotice.Visible, row.Mode == RadioMode::ScsPtc);
+    EXPECT_EQ(Panel().CallNotice.Caption, "the call follows at the next START");
     EXPECT_EQ(Panel().CrossField.Visible, row.Second);
     EXPECT_EQ(Panel().CrossUp.Visible, row.Second);
     EXPECT_EQ(Panel().CrossDown.Visible, row.Second);
