@@ -81,8 +81,12 @@ bool ChildProcess::Runs() {
   return pid_ > 0;
 }
 
+void ChildProcess::Signal(int number) {
+  if (Runs()) ::kill(pid_, number);
+}
+
 void ChildProcess::AskToEnd() {
-  if (Runs()) ::kill(pid_, SIGTERM);
+  Signal(SIGTERM);
 }
 
 void ChildProcess::End() {

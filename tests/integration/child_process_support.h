@@ -27,6 +27,7 @@ class ChildProcess {
   ChildProcess& operator=(const ChildProcess&) = delete;
 
   bool Runs();
+  void Signal(int number);
   // Asks it to end in order; `Runs` tells when it has.
   void AskToEnd();
   void End();
