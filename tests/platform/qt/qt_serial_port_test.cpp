@@ -126,6 +126,27 @@ TEST_F(QtSerialPortTest, ALineThatTakesNothingHoldsNobodyUp) {
   EXPECT_EQ(port.BytesToWrite(), 0U);
 }
 
+TEST_F(QtSerialPortTest, DroppedBytesNeverLeave) {
+  ASSERT_TRUE(Open());
+  for (int texts = 0; texts < 60; ++texts)
+    port.Write(std::string(1000, 'x'));
+  EXPECT_EQ(port.BytesWritten(), 60000U);
+  loop.Wait(kShort);  // the line is full by now
+  port.DropUnsent();
+  EXPECT_EQ(port.BytesToWrite(), 0U);
+  EXPECT_TRUE(port.IsOpen());
+  modem->Heard();
+  port.Write("y");
+  EXPECT_EQ(Heard(1), "y");
+}
+
+TEST_F(QtSerialPortTest, ThePowerOfAModemIsNotGuessed) {
+  EXPECT_FALSE(port.ModemReady().has_value());
+  ASSERT_TRUE(Open());
+  // A pseudo-terminal has no such line.
+  EXPECT_FALSE(port.ModemReady().has_value());
+}
+
 TEST_F(QtSerialPortTest, BytesThatTheLineTakesLaterAreNotLost) {
   ASSERT_TRUE(Open());
   std::string sent;
