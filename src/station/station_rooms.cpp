@@ -6,6 +6,7 @@
 #include "core/position_text.h"
 #include "core/text_fields.h"
 #include "core/title_line.h"
+#include "station/view_memory.h"
 #include "transmit/tx_setup_rules.h"
 
 namespace zepril {
@@ -59,7 +60,7 @@ StationRooms::StationRooms(StationPlatform machine)
                Controls.Map, distance_, machine.FileSystem, *this, Controls.Status.FileNotice),
       browser_(State.Stores, State.Map, Controls.Record, Controls.Map, history_, machine.Boxes,
                *this),
-      heard_(State.Stores, Controls.MoniAll, browser_),
+      heard_(State.Stores, State.Map, Controls.MoniAll, browser_, machine.LocalClock),
       collector_(State.Radio, State.Reception, State.Internet, machine.LocalClock, agw_local_,
                  machine.MSComm1, *this),
       receive_pass_(
@@ -119,6 +120,7 @@ void StationRooms::Tick() {
   // Whatever has started the timer again meanwhile, a redraw for one.
   if (CycleIsHeld()) return Timer1.Stop();
   cycle_.Tick();
+  heard_.Renew();
   transmit_.ShowNextBeacon();
 }
 
@@ -135,6 +137,7 @@ void StationRooms::RunReceivePass() {
 
 void StationRooms::ReadConfig() {
   ReadConfigForMainWindow(machine_.FileSystem, State);
+  ApplyViewValues(ReadWindowFile(machine_.FileSystem, State.Identity.ProgramFolder), State);
   Controls.Moni1.Check1.Value = State.Followed.Moni1AlarmOn;
   TakeZone(State.Identity, State.Map);
 }
@@ -237,6 +240,7 @@ void StationRooms::MergeConfigAtExit() {
   last.OwnNorthKm = State.Map.OwnNorthKm;
   last.OwnEastKm = State.Map.OwnEastKm;
   zepril::MergeConfigAtExit(machine_.FileSystem, State.Identity.ProgramFolder, last);
+  WriteWindowFile(machine_.FileSystem, State.Identity.ProgramFolder, ViewValues(State));
 }
 
 void StationRooms::DeleteRunFiles() {
