@@ -41,6 +41,7 @@ struct Control {
   std::optional<std::uint32_t> ForeColour;
   int WidthPx = 0;           // 0: by layout
   bool FocusWanted = false;  // taken and cleared by the desktop
+  bool LeaveWanted = false;  // gives the focus back to the map; taken and cleared by the desktop
   bool HasFocus = false;     // set by the desktop
   Presses PressesInWaits = Presses::OneKept;
 
@@ -84,6 +85,7 @@ struct ComboBox : Control {
   int ListIndex = -1;           // 0-based, -1 none
   bool DropDownWanted = false;  // the list is to be opened; taken and cleared by the desktop
   Event Change;                 // an entry was chosen; what is typed tells itself by KeyDown only
+  Event Left;                   // the operator went elsewhere in the window
   std::function<void(KeyPress)> KeyDown;
   double LastKeySeconds = -60.0;  // monotonic, of the last key; where the room's KeyDown keeps it
 
@@ -102,8 +104,9 @@ struct ComboBox : Control {
 struct ListBox : Control {
   std::vector<std::string> Items;
   std::uint64_t Revision = 0;  // raised by whoever changes Items
-  int ListIndex = -1;          // 0-based
-  int TopIndex = 0;            // first row shown
+  int ListIndex = -1;          // 0-based; the desktop tells what the operator selects
+  int TopIndex = 0;            // first row shown; the desktop tells where the operator scrolls to
+  bool Held = false;           // set by the desktop: a button is down on a row
   Event RightDown;             // the second mouse button goes down over the list, and up again
   Event RightUp;
 };

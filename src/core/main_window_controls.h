@@ -101,6 +101,7 @@ struct MoniAllControls {
   Button Command14;  // FIND
   Button Command3;   // list of heard stations
   ListBox HeardList;
+  std::array<OptionButton, 4> HeardOrder;  // above its columns: call, age, distance, direction
   Frame HeardPanel;
 };
 

@@ -8,10 +8,14 @@
 #include <QListView>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStringListModel>
 
+#include <algorithm>
+
+#include "desktop/control_access.h"
 #include "desktop/corner_mark.h"
 #include "desktop/fill_bar_widget.h"
 #include "desktop/keys.h"
@@ -60,16 +64,39 @@ void ShowColours(QWidget* widget, const Control& control, const Look& look) {
   widget->setStyleSheet(sheet);
 }
 
+// The tool tip, with the key that does the same.
+QString TipOf(const QWidget* widget, const std::string& tip) {
+  const QString key = widget->property("key_name").toString();
+  if (tip.empty() || key.isEmpty()) return ToQt(tip);
+  return ToQt(tip) + QStringLiteral("  [%1]").arg(key);
+}
+
+// Left to itself the focus of what goes would jump to whatever comes next, and Enter press that, or
+// letters be typed into it.
+void DropFocusIn(QWidget* widget) {
+  QWidget* focused = widget->window()->focusWidget();
+  if (focused != nullptr && (focused == widget || widget->isAncestorOf(focused))) {
+    focused->clearFocus();
+  }
+}
+
 void ShowCommon(QWidget* widget, Control& control, Shown& shown, const Look& look) {
-  if (!shown.Known || shown.Visible != control.Visible) widget->setVisible(control.Visible);
+  if (!shown.Known || shown.Visible != control.Visible) {
+    if (!control.Visible) DropFocusIn(widget);
+    widget->setVisible(control.Visible);
+  }
   if (!shown.Known || shown.Enabled != control.Enabled) {
-    // Left to itself the focus would go to whatever comes next, and Enter press that.
-    if (!control.Enabled && widget->hasFocus()) widget->clearFocus();
+    if (!control.Enabled) DropFocusIn(widget);
     widget->setEnabled(control.Enabled);
   }
-  if (!shown.Known || shown.ToolTip != control.ToolTip) widget->setToolTip(ToQt(control.ToolTip));
+  if (!shown.Known || shown.ToolTip != control.ToolTip)
+    widget->setToolTip(TipOf(widget, control.ToolTip));
   if (shown.BackColour != control.BackColour || shown.ForeColour != control.ForeColour) {
     ShowColours(widget, control, look);
+  }
+  if (control.LeaveWanted) {
+    control.LeaveWanted = false;
+    if (widget->hasFocus()) widget->clearFocus();
   }
   shown = {true,
            control.Visible,
@@ -85,6 +112,40 @@ QString CaptionText(const std::string& caption) {
 }
 QString ButtonText(const std::string& caption) {
   return CaptionText(caption).replace(QStringLiteral("&"), QStringLiteral("&&"));
+}
+
+struct ShownCaption {
+  bool Known = false;
+  std::string Caption;
+  std::string ToolTip;
+  QString Name;
+};
+
+// What a screen reader says: a name that the window has given stays; else it is the caption where
+// that is a word, else what the tool tip begins with.
+void ShowName(QWidget* widget, const std::string& caption, const std::string& tip, QString& shown) {
+  if (widget->accessibleName() != shown) return;
+  QString name = CaptionText(caption).trimmed();
+  const QString told = ToQt(tip).section(QStringLiteral(" / "), 0, 0);
+  const auto letters =
+      std::count_if(name.begin(), name.end(), [](QChar c) { return c.isLetter(); });
+  if (letters < 2 && !told.isEmpty()) name = told;
+  if (name.isEmpty()) name = SpokenOfEmpty(widget);
+  if (name.isEmpty()) return;
+  shown = name;
+  widget->setAccessibleName(name);
+}
+
+void ShowCaption(QAbstractButton* widget, const std::string& caption, const std::string& tip,
+                 ShownCaption& shown) {
+  if (shown.Known && shown.Caption == caption && shown.ToolTip == tip) return;
+  if (!shown.Known || shown.Caption != caption) {
+    if (!widget->property("picture_only").toBool()) widget->setText(ButtonText(caption));
+  }
+  ShowName(widget, caption, tip, shown.Name);
+  shown.Known = true;
+  shown.Caption = caption;
+  shown.ToolTip = tip;
 }
 
 // A modem's text: CR, LF or both end a line, what has no picture shows as the key that types it.
@@ -149,17 +210,15 @@ void Binder::Bind(QAbstractButton* widget, Button& control) {
   connect(widget, &QAbstractButton::pressed, this, [this, &control] {
     if (control.RepeatMs > 0) Press(control, control.Click);
   });
-  outs_.push_back([widget, &control, caption = std::string("\x01")]() mutable {
+  outs_.push_back([widget, &control, shown = ShownCaption()]() mutable {
     ShowRepeat(widget, control.RepeatMs);
-    if (caption == control.Caption) return;
-    caption = control.Caption;
-    if (!widget->property("picture_only").toBool()) widget->setText(ButtonText(caption));
-    widget->setAccessibleName(CaptionText(caption));
+    ShowCaption(widget, control.Caption, control.ToolTip, shown);
   });
 }
 
 void Binder::Bind(QAbstractButton* widget, CheckBox& control) {
   BindCommon(widget, control);
+  SetAccessibleRole(widget, QAccessible::CheckBox);
   widget->setCheckable(true);
   const bool three_states = widget->property("three_states").toBool();
   connect(widget, &QAbstractButton::clicked, this, [this, &control, three_states] {
@@ -168,7 +227,7 @@ void Binder::Bind(QAbstractButton* widget, CheckBox& control) {
       if (control.Click) control.Click();
     });
   });
-  outs_.push_back([widget, &control, caption = std::string("\x01")]() mutable {
+  outs_.push_back([widget, &control, shown = ShownCaption()]() mutable {
     if (widget->isChecked() != (control.Value != 0)) {
       const QSignalBlocker quiet(widget);
       widget->setChecked(control.Value != 0);
@@ -177,15 +236,13 @@ void Binder::Bind(QAbstractButton* widget, CheckBox& control) {
       widget->setProperty("third_state", control.Value == 2);
       widget->update();
     }
-    if (caption == control.Caption) return;
-    caption = control.Caption;
-    if (!widget->property("picture_only").toBool()) widget->setText(ButtonText(caption));
-    widget->setAccessibleName(CaptionText(caption));
+    ShowCaption(widget, control.Caption, control.ToolTip, shown);
   });
 }
 
 void Binder::Bind(QAbstractButton* widget, OptionButton& control) {
   BindCommon(widget, control);
+  SetAccessibleRole(widget, QAccessible::RadioButton);
   widget->setCheckable(true);
   connect(widget, &QAbstractButton::clicked, this, [this, &control] {
     Press(control, [&control] {
@@ -193,20 +250,18 @@ void Binder::Bind(QAbstractButton* widget, OptionButton& control) {
       if (control.Click) control.Click();
     });
   });
-  outs_.push_back([widget, &control, caption = std::string("\x01")]() mutable {
+  outs_.push_back([widget, &control, shown = ShownCaption()]() mutable {
     if (widget->isChecked() != control.Value) {
       const QSignalBlocker quiet(widget);
       widget->setChecked(control.Value);
     }
-    if (caption == control.Caption) return;
-    caption = control.Caption;
-    if (!widget->property("picture_only").toBool()) widget->setText(ButtonText(caption));
-    widget->setAccessibleName(CaptionText(caption));
+    ShowCaption(widget, control.Caption, control.ToolTip, shown);
   });
 }
 
 void Binder::Bind(QLabel* widget, Label& control) {
   BindCommon(widget, control, true);
+  if (control.Click) SetAccessibleRole(widget, QAccessible::Button);
   widget->setTextFormat(Qt::PlainText);
   outs_.push_back([widget, &control, caption = std::string("\x01")]() mutable {
     if (caption == control.Caption) return;
@@ -259,7 +314,9 @@ void Binder::Bind(QComboBox* widget, ComboBox& control) {
   BindCommon(widget, control);
   new CornerMark(widget, MarkKind::DropDown);
   connect(widget, &QComboBox::activated, this, [this, widget, &control](int index) {
-    // A field that is left with the name of an entry in it was typed, not chosen.
+    // A field that is left with the name of an entry in it was typed, or just passed by the Tab
+    // key: not chosen.
+    if (widget->property("leaving").toBool()) return;
     const bool typed = widget->property("typed").toBool();
     if (typed && control.Text == FromQt(widget->itemText(index))) return;
     widget->setProperty("typed", false);
@@ -285,6 +342,11 @@ void Binder::Bind(QComboBox* widget, ComboBox& control) {
       if (widget->count() > 0) widget->showPopup();
     }
     if (widget->currentIndex() != control.ListIndex) widget->setCurrentIndex(control.ListIndex);
+    // Its parts are known by its name.
+    if (widget->view()->accessibleName() != widget->accessibleName()) {
+      widget->view()->setAccessibleName(widget->accessibleName());
+      if (widget->isEditable()) widget->lineEdit()->setAccessibleName(widget->accessibleName());
+    }
     if (!widget->isEditable()) return;
     const QString text = ToQt(control.Text);
     if (widget->currentText() != text) {
@@ -303,6 +365,9 @@ void Binder::BindTyping(QComboBox* widget, ComboBox& control) {
             widget->setProperty("typed", true);
             control.Text = OneLine(text);
           });
+  for (Watched& watched : watched_) {
+    if (watched.Widget == widget) watched.Choice = &control;
+  }
   // The list has the focus in place of its field and hands keys on without an event of its own.
   BindKeys(widget, [&control](KeyPress key) {
     if (control.KeyDown) control.KeyDown(key);
@@ -329,11 +394,15 @@ void Binder::Bind(QListView* widget, QStringListModel* model, ListBox& control) 
       if (act) act();
     });
   });
+  BindPlace(widget, control);
   // What is not shown is passed over by what the list itself is told, never by what the window
   // happens to show: its panel may come a moment later, its page any time, with rows of before.
   outs_.push_back(
       [widget, model, &control, revision = ~std::uint64_t{0}, row = -1, top = -1]() mutable {
         if (!control.Visible) return;
+        // What moves here is no work of the operator's.
+        widget->setProperty("quiet", true);
+        const auto loud = qScopeGuard([widget] { widget->setProperty("quiet", false); });
         if (revision != control.Revision ||
             model->rowCount() != static_cast<int>(control.Items.size())) {
           revision = control.Revision;
@@ -348,18 +417,37 @@ void Binder::Bind(QListView* widget, QStringListModel* model, ListBox& control) 
         if (row == control.ListIndex && top == control.TopIndex) return;
         row = control.ListIndex;
         const QModelIndex index = model->index(row, 0);
-        if (index.isValid()) widget->setCurrentIndex(index);
+        widget->setCurrentIndex(index);
         if (top != control.TopIndex) {
           top = control.TopIndex;
           const QModelIndex shown = model->index(std::min(top, model->rowCount() - 1), 0);
-          if (shown.isValid()) widget->scrollTo(shown, QAbstractItemView::EnsureVisible);
+          if (shown.isValid()) widget->scrollTo(shown, QAbstractItemView::PositionAtTop);
         }
       });
 }
 
+// Where the operator goes in a list by keys, wheel and bar: the next renewal keeps to it.
+void Binder::BindPlace(QListView* widget, ListBox& control) {
+  const auto quiet = [widget] { return widget->property("quiet").toBool(); };
+  connect(widget->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [quiet, &control](const QModelIndex& now) {
+            if (!quiet() && now.isValid()) control.ListIndex = now.row();
+          });
+  connect(widget->verticalScrollBar(), &QScrollBar::valueChanged, this,
+          [quiet, &control](int first_row) {
+            if (!quiet()) control.TopIndex = first_row;
+          });
+  Watched row{widget->viewport(), &control, nullptr, false};
+  row.List = &control;
+  watched_.push_back(row);
+  widget->viewport()->installEventFilter(this);
+}
+
 void Binder::Bind(FillBarWidget* widget, FillBar& control) {
   BindCommon(widget, control, true);
-  outs_.push_back([widget, &control] {
+  SetAccessibleRole(widget, QAccessible::ProgressBar);
+  outs_.push_back([widget, &control, name = QString()]() mutable {
+    ShowName(widget, {}, control.ToolTip, name);
     widget->Show(control.FilledPx, control.FullWidthPx, PlainColour(control.Colour));
   });
 }
@@ -420,7 +508,7 @@ bool Binder::Pressed(const Watched& row, const QKeyEvent& event) {
 }
 
 bool Binder::PressesButton(const QKeyEvent& event) const {
-  return IsClickKey(event) && (enter_presses_ || event.key() == Qt::Key_Space);
+  return IsClickKey(event) && (EnterPresses || event.key() == Qt::Key_Space);
 }
 
 bool Binder::IsPressKey(const Watched& row, const QKeyEvent& event) {
@@ -428,6 +516,26 @@ bool Binder::IsPressKey(const Watched& row, const QKeyEvent& event) {
   if (!IsClickKey(event)) return false;
   const bool types = row.KeyDown && event.key() == Qt::Key_Space;
   return !types && qobject_cast<QPlainTextEdit*>(row.Widget) == nullptr;
+}
+
+void Binder::NoteHold(const Watched& row, bool held) {
+  if (row.List != nullptr) row.List->Held = held;
+}
+
+// True: the field has had the event.
+bool Binder::Leave(const Watched& row, QFocusEvent& event) {
+  auto* field = static_cast<QComboBox*>(row.Widget);
+  // The toolkit takes the field's text for a choice while the focus goes.
+  field->setProperty("leaving", true);
+  field->event(&event);
+  field->setProperty("leaving", false);
+  // Another window, or the field's own list, is no leaving.
+  if (event.reason() == Qt::ActiveWindowFocusReason || event.reason() == Qt::PopupFocusReason) {
+    return true;
+  }
+  field->setProperty("typed", false);
+  if (row.Choice->Left) Raise(row.Choice->Left);
+  return true;
 }
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
@@ -441,13 +549,18 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
         break;
       case QEvent::FocusOut:
         control.HasFocus = false;
+        if (row.Choice != nullptr) return Leave(row, *static_cast<QFocusEvent*>(event));
         break;
       case QEvent::ContextMenu:
         // A disabled widget would not act on it; here it is seen before.
         if (!control.RightClick || !control.Enabled) break;
         Press(control, control.RightClick);
         return true;
+      case QEvent::MouseButtonPress:
+        NoteHold(row, true);
+        break;
       case QEvent::MouseButtonRelease:
+        NoteHold(row, false);
         if (Released(row, *static_cast<QMouseEvent*>(event))) return true;
         break;
       case QEvent::KeyPress:

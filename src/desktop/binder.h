@@ -14,6 +14,7 @@
 #include "platform/qt/qt_loop.h"
 
 class QAbstractButton;
+class QFocusEvent;
 class QKeyEvent;
 class QLabel;
 class QLineEdit;
@@ -43,8 +44,9 @@ class Binder final : public QObject {
   void Bind(FillBarWidget* widget, FillBar& control);
   void Bind(QWidget* widget, Frame& control);
 
-  // Enter belongs to the window, whatever has the focus; otherwise it presses a button like Space.
-  void LeaveEnterToTheWindow() { enter_presses_ = false; }
+  // Enter presses the button that has the focus, as the space bar does; not where it means another
+  // thing all over the window.
+  bool EnterPresses = true;
 
   // Adds something that is brought out in each pass.
   void OnControlsOut(std::function<void()> out) { outs_.push_back(std::move(out)); }
@@ -60,7 +62,9 @@ class Binder final : public QObject {
     Control* Subject;
     std::function<void(KeyPress)> KeyDown;
     bool PressIsClick;
-    const TextBox* Field = nullptr;  // tells when it gets the focus
+    const TextBox* Field = nullptr;    // tells when it gets the focus
+    const ComboBox* Choice = nullptr;  // tells when it loses it
+    ListBox* List = nullptr;           // is told when it is held
   };
   struct FocusWish {
     QPointer<QWidget> Widget;
@@ -69,19 +73,21 @@ class Binder final : public QObject {
 
   void BindCommon(QWidget* widget, Control& control, bool press_is_click = false);
   void BindTyping(QComboBox* widget, ComboBox& control);
+  void BindPlace(QListView* widget, ListBox& control);
   void BindKeys(QWidget* widget, std::function<void(KeyPress)> key_down);
   void BindFocus(QWidget* widget, const TextBox& control);
   void Raise(const Event& event);
   // The operator has pressed the control: `act`, which may be empty, in the loop's order.
   void Press(const Control& control, const Event& act);
   void TakeFocusWishes();
+  bool Leave(const Watched& row, QFocusEvent& event);
+  void NoteHold(const Watched& row, bool held);
   bool Released(const Watched& row, const QMouseEvent& event);
   bool Pressed(const Watched& row, const QKeyEvent& event);
   bool PressesButton(const QKeyEvent& event) const;
   static bool IsPressKey(const Watched& row, const QKeyEvent& event);
 
   QtLoop& loop_;
-  bool enter_presses_ = true;
   const Look& look_;
   std::vector<std::function<void()>> outs_;
   std::vector<Watched> watched_;

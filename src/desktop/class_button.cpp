@@ -19,7 +19,7 @@ void ClassButton::SetFill(const QColor& fill) {
 void ClassButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QRect frame = rect().adjusted(0, 0, -1, -1);
-  painter.setPen(isChecked() || hasFocus() ? look_.Text : look_.Line);
+  painter.setPen(hasFocus() ? look_.Text : (isChecked() ? look_.Dim : look_.Line));
   painter.setBrush(fill_.isValid() ? fill_ : (isChecked() ? look_.Accent : look_.Field));
   painter.drawRoundedRect(frame, 3, 3);
   if (!fill_.isValid()) {
@@ -30,6 +30,12 @@ void ClassButton::paintEvent(QPaintEvent*) {
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(TextOn(fill_), 2));
     painter.drawRoundedRect(frame.adjusted(2, 2, -2, -2), 2, 2);
+  }
+  if (hasFocus()) {
+    // Also on one that is on: a second frame inside.
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(fill_.isValid() ? TextOn(fill_) : look_.Text);
+    painter.drawRoundedRect(frame.adjusted(1, 1, -1, -1), 2, 2);
   }
   if (property("third_state").toBool()) {
     // Only if moved: an arrow at the corner.

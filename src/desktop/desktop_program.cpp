@@ -5,6 +5,8 @@
 #include <cstdlib>
 
 #include "config/ports_file.h"
+#include "config/window_file.h"
+#include "desktop/window_place.h"
 #include "map/symbol_sheets.h"
 #include "platform/qt/serial_devices.h"
 #include "platform/qt/text.h"
@@ -78,6 +80,7 @@ void DesktopProgram::ShowStartWindow() {
   };
   panel_->Started = [this] { start_asked_ = true; };
   start_window_->Closed = [this] { CloseAsOperator(); };
+  PlaceWindow(*start_window_, ReadWindowFile(files_, places_.ProgramFolder), "START");
   start_window_->show();
   DrawMissingSampleMaps();
 }
@@ -127,7 +130,9 @@ void DesktopProgram::OpenMainWindow() {
   window_->Closed = [this] { End(true); };
   loop_.ControlsOut = [this] { window_->ControlsOut(); };
   loop_.StepEnded = [this] { window_->CloseWhenAsked(); };
+  window_->TakeKept(ReadWindowFile(files_, places_.ProgramFolder));
   window_->show();
+  KeepPlaces();
   start_window_->Closed = nullptr;
   start_window_->close();
 }
@@ -149,15 +154,25 @@ void DesktopProgram::End(bool by_operator) {
   loop_.ControlsOut = nullptr;
   loop_.StepEnded = nullptr;
   start_window_->Closed = nullptr;
+  KeepPlaces();
   if (window_) window_->hide();
   start_window_->hide();
   loop_.RunStep([&] { program_->Stop(by_operator && !program_->EndWanted()); });
   TellEnded();
 }
 
+// For the next run. It is no harm where the file can't be written.
+void DesktopProgram::KeepPlaces() {
+  WindowValues values;
+  if (start_window_ && start_window_->isVisible()) values = PlaceOf(*start_window_, "START");
+  if (window_ && window_->isVisible()) values.merge(window_->Kept());
+  if (!values.empty()) WriteWindowFile(files_, places_.ProgramFolder, values);
+}
+
 void DesktopProgram::TellEnded() {
   if (ended_) return;
   ended_ = true;
+  if (!window_) KeepPlaces();
   if (Ended) Ended();
 }
 

@@ -49,6 +49,7 @@ class DesktopProgram {
   void ShowWhatTheTerminalReceives();
   void End(bool by_operator);
   void TellEnded();
+  void KeepPlaces();
 
   ProgramPlaces places_;
   NativeFiles files_;

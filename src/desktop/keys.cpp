@@ -50,9 +50,12 @@ KeyPress KeyPressOf(const QKeyEvent& event) {
   return key;
 }
 
+bool IsEnterKey(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
 bool IsClickKey(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter ||
-         event.key() == Qt::Key_Space;
+  return IsEnterKey(event) || event.key() == Qt::Key_Space;
 }
 
 bool IsTypedIn(const QWidget* widget) {

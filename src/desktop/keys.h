@@ -13,6 +13,7 @@ namespace zepril {
 
 KeyPress KeyPressOf(const QKeyEvent& event);
 
+bool IsEnterKey(const QKeyEvent& event);
 // Enter or the space bar presses what has the focus.
 bool IsClickKey(const QKeyEvent& event);
 // Shift+F10 on the focused control is its right click. (The Menu key comes as a menu event.)

@@ -131,6 +131,7 @@ void LayerPanels::MakeProgressPanel() {
   text->setObjectName(QStringLiteral("ProgressText"));
   auto* bar = new FillBarWidget;
   bar->setObjectName(QStringLiteral("ProgressBar"));
+  bar->setAccessibleName(QStringLiteral("progress"));
   box->addWidget(text);
   box->addWidget(bar);
   parts_.Binding.Bind(text, p.ProgressText);

@@ -67,8 +67,11 @@ QPushButton, QToolButton { background: %2; color: %5; border: 1px solid %4; bord
 QToolButton, QPushButton[tight="true"] { padding: 2px 4px; }
 QPushButton:hover, QToolButton:hover { border-color: %6; }
 QPushButton:pressed, QToolButton:pressed { background: %3; }
-QPushButton:checked, QToolButton:checked { background: %7; border-color: %5; font-weight: bold; }
-QPushButton:focus, QToolButton:focus, QLineEdit:focus, QComboBox:focus { border: 1px solid %5; }
+QPushButton:checked, QToolButton:checked { background: %7; border-color: %6; font-weight: bold; }
+QLineEdit:focus, QComboBox:focus { border: 1px solid %5; }
+QPushButton:focus { border: 2px solid %5; padding: 1px 7px; }
+QToolButton:focus, QPushButton[tight="true"]:focus { border: 2px solid %5; padding: 1px 3px; }
+QLabel:focus { border: 1px solid %5; }
 QPushButton:disabled, QToolButton:disabled { color: %6; }
 QLineEdit, QComboBox { background: %3; color: %5; border: 1px solid %4; border-radius: 3px;
   padding: 1px 4px; min-height: 20px; }
@@ -107,6 +110,9 @@ QColor PlainColour(std::uint32_t state_colour) {
 QColor StateShade(std::uint32_t state_colour, const Look& look) {
   // What is on the air is told loudly.
   if (state_colour == kOnTheAir) return PlainColour(state_colour);
+  // A dimmed map is a switch that is on; the brighter one is seen by itself.
+  if (state_colour == kMapDimmed) return look.Accent;
+  if (state_colour == kMapAsItIs || state_colour == kMapBrighter) return look.Panel;
   // What can't go on sinks into the window.
   if (state_colour == kOwnObjectDimmed) return look.Window;
   const QColor plain = PlainColour(state_colour);

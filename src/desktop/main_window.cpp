@@ -14,9 +14,12 @@
 
 #include <algorithm>
 
+#include "core/text_fields.h"
+#include "desktop/fitted_label.h"
 #include "desktop/keys.h"
 #include "desktop/map_bar.h"
 #include "desktop/terminal_page.h"
+#include "desktop/window_place.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
@@ -79,6 +82,11 @@ MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fo
   transmit_panels_ = std::make_unique<TransmitPanels>(
       parts_, controls_, *map_, TransmitPanels::Symbols{surfaces.TxSymbol, surfaces.ObjectSymbol});
   map_->PlaceOverlays = [this] { PlacePanels(); };
+  map_->Pointer = [this] {
+    const MapViewState& view = program_.State().Map;
+    return QPointF(view.CursorX, view.CursorY);
+  };
+  NameKeys();
 
   // Ages grow, and what is told for some seconds goes, also when nothing happens.
   lamp_timer_.setInterval(1000);
@@ -90,6 +98,25 @@ MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fo
   ControlsOut();
 }
 
+// The tool tips tell the keys.
+void MainWindow::NameKeys() {
+  static constexpr const char* kKeys[][2] = {
+      {"Command8", "+"},         {"Command7", "-"},       {"Command1", "Page Up"},
+      {"Command2", "Page Down"}, {"Command12", "Home"},   {"Command13", "L"},
+      {"Check4", "G"},           {"Check9", "C"},         {"Check12", "I"},
+      {"Check14", "T"},          {"Command73", "P"},      {"PoiNew", "N"},
+      {"Command72", "D"},        {"Text15", "Ctrl+F"},    {"Command3", "Ctrl+L"},
+      {"Command57", "Ctrl+R"},   {"Command59", "Ctrl+S"}, {"Check6", "Ctrl+T: TX SETUP"},
+      {"Command66", "Alt+C"},    {"Command23", "Esc"},    {"Command43", "Esc"},
+      {"Command22", "Esc"},      {"Command71", "Esc"},    {"PoiClose", "Esc"},
+      {"IonoClose", "Esc"},      {"TxAbort", "Esc"},      {"Command32", "Esc"}};
+  for (const auto& [name, key] : kKeys) {
+    if (auto* widget = findChild<QWidget*>(QString::fromLatin1(name))) {
+      widget->setProperty("key_name", QString::fromLatin1(key));
+    }
+  }
+}
+
 // ---- Parts of the window --------------------------------------------------------------------
 
 QWidget* MainWindow::MakeBottomLine() {
@@ -97,9 +124,10 @@ QWidget* MainWindow::MakeBottomLine() {
   line->setObjectName(QStringLiteral("BottomLine"));
   auto* row = TightBox(QBoxLayout::LeftToRight, line);
   row->setContentsMargins(8, 4, 8, 4);
-  QLabel* station = parts_.FixedLabel("Label11");
-  station->setMinimumWidth(0);
-  station->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  auto* station = new FittedLabel(1);
+  station->setObjectName(QStringLiteral("Label11"));
+  station->setFont(parts_.FixedFont);
+  station->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   QLabel* status = parts_.FixedLabel("Label15");
   lamp_ = new LampWidget;
   row->addWidget(station, 1);
@@ -202,7 +230,10 @@ void MainWindow::ShowDrawer() {
 void MainWindow::ShowPage(QWidget* page, bool shown, const char* title) {
   const int at = drawer_->indexOf(page);
   if (shown == (at >= 0)) return;
-  if (!shown) return drawer_->removeTab(at);
+  if (!shown) {
+    if (page->isAncestorOf(focusWidget())) map_->setFocus();
+    return drawer_->removeTab(at);
+  }
   drawer_->insertTab(0, page, QString::fromLatin1(title));
   drawer_->setCurrentWidget(page);
 }
@@ -229,6 +260,8 @@ void MainWindow::ControlsOut() {
   ShowDrawer();
   binder_.ControlsOut();
   map_->ControlsOut();
+  // What had the focus has gone.
+  if (isVisible() && focusWidget() == nullptr) map_->setFocus();
   if (lamp_ != nullptr) ShowLamp();
   const QString title = ToQt(controls_.Window.Title);
   if (windowTitle() != title) setWindowTitle(title);
@@ -239,6 +272,30 @@ void MainWindow::ControlsOut() {
   const bool busy = controls_.Window.Pointer == PointerShape::Hourglass;
   setCursor(busy ? Qt::WaitCursor : Qt::ArrowCursor);
   if (transmit_panels_) PlacePanels();
+}
+
+// ---- What outlives a run ---------------------------------------------------------------------
+
+WindowValues MainWindow::Kept() const {
+  WindowValues values = PlaceOf(*this, "MAIN");
+  values["DRAWER"] = controls_.Raw.RawList.Visible ? "RAW" : "";
+  const QList<int> sizes =
+      controls_.Terminal.Frame19.Visible ? sizes_without_terminal_ : split_->sizes();
+  if (!drawer_->isHidden() && sizes.size() == 2 && sizes.back() > 0) {
+    values["DRAWERHEIGHT"] = WholeNumber(sizes.back());
+  }
+  return values;
+}
+
+void MainWindow::TakeKept(const WindowValues& values) {
+  PlaceWindow(*this, values, "MAIN");
+  const auto drawer = values.find("DRAWER");
+  if (drawer == values.end() || drawer->second != "RAW") return;
+  controls_.Raw.RawList.Visible = true;
+  ControlsOut();
+  if (const auto wanted = WindowNumber(values, "DRAWERHEIGHT", kLowestDrawer, height())) {
+    split_->setSizes({std::max(split_->height() - *wanted, kLowestMap), *wanted});
+  }
 }
 
 // ---- Window events --------------------------------------------------------------------------
@@ -275,6 +332,12 @@ void MainWindow::Switch(CheckBox& control) {
   });
 }
 
+// Opened by a key it takes the next ones.
+void MainWindow::OpenStations() {
+  Press(controls_.MoniAll.Command3);
+  if (controls_.MoniAll.HeardPanel.Visible) FocusOn("HeardList");
+}
+
 // The field may lie on a page of the drawer that is not the shown one.
 void MainWindow::FocusOn(const char* name) {
   auto* widget = findChild<QWidget*>(QString::fromLatin1(name));
@@ -307,6 +370,8 @@ void MainWindow::PressControlKey(const QKeyEvent& event) {
   switch (event.key()) {
     case Qt::Key_F:
       return FocusOn("Text15");
+    case Qt::Key_L:
+      return OpenStations();
     case Qt::Key_R:
       return Press(controls_.Raw.Command57);
     case Qt::Key_S:

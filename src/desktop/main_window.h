@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 
+#include "config/window_file.h"
 #include "desktop/binder.h"
 #include "desktop/lamp_widget.h"
 #include "desktop/layer_panels.h"
@@ -45,6 +46,10 @@ class MainWindow final : public QWidget {
   // The operator has closed the window (or the program wants to end), and no step is under way.
   std::function<void()> Closed;
   void ControlsOut();
+  // Where the window stands and which drawer is open, for the next run; to be given back before the
+  // window is shown.
+  WindowValues Kept() const;
+  void TakeKept(const WindowValues& values);
   // A close request that came inside a step is carried out now.
   void CloseWhenAsked();
 
@@ -63,6 +68,8 @@ class MainWindow final : public QWidget {
   void ShowPage(QWidget* page, bool shown, const char* title);
   void MakeRoomForTerminal(bool open);
   void ShareHeight();
+  void NameKeys();
+  void OpenStations();
   void FocusOn(const char* name);
   void Press(const Button& control);
   void Switch(CheckBox& control);

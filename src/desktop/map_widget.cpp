@@ -6,6 +6,10 @@
 #include <QPainter>
 #include <QWheelEvent>
 
+#include <algorithm>
+#include <utility>
+
+#include "desktop/control_access.h"
 #include "desktop/keys.h"
 #include "platform/qt/text.h"
 
@@ -13,6 +17,7 @@ namespace zepril {
 namespace {
 
 constexpr int kWheelStep = 120;  // eighths of a degree
+constexpr int kPointerArm = 7;   // pixels
 
 }  // namespace
 
@@ -30,6 +35,7 @@ MapWidget::MapWidget(QtLoop& loop, PictureBox& map, PictureBox& base, QtSurface&
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setCursor(Qt::CrossCursor);
+  SetAccessibleRole(this, QAccessible::Graphic);
 }
 
 void MapWidget::ControlsOut() {
@@ -61,6 +67,26 @@ void MapWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   // While the map is hidden the plain form under it is seen.
   painter.drawImage(rect(), map_.Visible ? map_surface_.Picture() : base_surface_.Picture());
+  if (by_keys_ && hasFocus()) DrawPointer(painter);
+}
+
+QPoint MapWidget::PointerPlace() const {
+  const QPointF at = Pointer ? Pointer() : QPointF();
+  return {std::clamp(qRound(at.x()), 0, std::max(width() - 1, 0)),
+          std::clamp(qRound(at.y()), 0, std::max(height() - 1, 0))};
+}
+
+// Where the desktop does not let the mouse be moved this is all that is seen of it: white on black,
+// so that it shows on every map.
+void MapWidget::DrawPointer(QPainter& painter) const {
+  const QPoint at = PointerPlace();
+  const QPoint across(kPointerArm, 0);
+  const QPoint down(0, kPointerArm);
+  for (const auto& [colour, thick] : {std::pair{Qt::black, 3}, std::pair{Qt::white, 1}}) {
+    painter.setPen(QPen(colour, thick));
+    painter.drawLine(at - across, at + across);
+    painter.drawLine(at - down, at + down);
+  }
 }
 
 void MapWidget::resizeEvent(QResizeEvent*) {
@@ -88,6 +114,7 @@ MousePress MapWidget::PressOf(const QMouseEvent& event) const {
 }
 
 void MapWidget::mousePressEvent(QMouseEvent* event) {
+  by_keys_ = false;
   if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton) return;
   const MousePress press = PressOf(*event);
   if (!map_.MouseDown) return;
@@ -102,6 +129,8 @@ void MapWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void MapWidget::mouseMoveEvent(QMouseEvent* event) {
+  // The mouse that the arrow keys moved along tells so itself.
+  if (event->position().toPoint() != PointerPlace()) by_keys_ = false;
   const MousePress press = PressOf(*event);
   if (map_.MouseMove) loop_.RunStep([&] { map_.MouseMove(press); });
 }
@@ -126,7 +155,9 @@ void MapWidget::keyPressEvent(QKeyEvent* event) {
     QWidget::keyPressEvent(event);
     return;
   }
+  if (key.Code != 13) by_keys_ = true;
   loop_.Press(&map_.KeyDown, map_.PressesInWaits, [this, key] { map_.KeyDown(key); });
+  update();
 }
 
 void MapWidget::contextMenuEvent(QContextMenuEvent* event) {
@@ -135,7 +166,8 @@ void MapWidget::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void MapWidget::PressRightAtPointer() {
-  const QPoint at = mapFromGlobal(QCursor::pos());
+  // Not where the mouse is: where it can't be moved the two part.
+  const QPoint at = PointerPlace();
   MousePress press;
   press.Button = 2;
   press.X = at.x();
@@ -148,11 +180,13 @@ void MapWidget::PressRightAtPointer() {
 
 void MapWidget::focusInEvent(QFocusEvent* event) {
   map_.HasFocus = true;
+  update();
   QWidget::focusInEvent(event);
 }
 
 void MapWidget::focusOutEvent(QFocusEvent* event) {
   map_.HasFocus = false;
+  update();
   QWidget::focusOutEvent(event);
 }
 

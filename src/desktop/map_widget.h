@@ -3,6 +3,7 @@
 // so that nothing is blurred. Panels that belong to the map lie over it as children.
 #pragma once
 
+#include <QPointF>
 #include <QWidget>
 
 #include <functional>
@@ -11,6 +12,8 @@
 #include "desktop/focus_watch.h"
 #include "platform/qt/qt_loop.h"
 #include "platform/qt/qt_surface.h"
+
+class QPainter;
 
 namespace zepril {
 
@@ -25,6 +28,9 @@ class MapWidget final : public QWidget {
   std::function<void()> PlaceOverlays;
   // Told of turns of the wheel: over 0 away from the operator.
   std::function<void(int steps)> Wheel;
+  // The pointer of the arrow keys, in pixels of the map: where the mouse was last, or where they
+  // brought it.
+  std::function<QPointF()> Pointer;
   // Shows the map or the plain form under it, as the controls say.
   void ControlsOut();
 
@@ -46,6 +52,8 @@ class MapWidget final : public QWidget {
   void TakeSize();
   void ShowPointer();
   void PressRightAtPointer();
+  QPoint PointerPlace() const;
+  void DrawPointer(QPainter& painter) const;
 
   QtLoop& loop_;
   PictureBox& map_;
@@ -56,6 +64,7 @@ class MapWidget final : public QWidget {
   std::uint64_t shown_revision_ = 0;
   bool shown_visible_ = true;
   bool size_waits_ = false;  // a new size came inside a step
+  bool by_keys_ = false;     // the pointer was moved by them, and not by the mouse since
   int wheel_angle_ = 0;      // eighths of a degree that are no whole step yet
 };
 

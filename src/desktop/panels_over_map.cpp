@@ -8,8 +8,11 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <string>
 
+#include "core/text_fields.h"
 #include "desktop/class_button.h"
+#include "desktop/control_access.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
@@ -18,8 +21,10 @@ namespace {
 constexpr int kOverlayMargin = 8;
 constexpr int kRecordWidth = 984;  // 120 columns of 8 pixels and a frame
 constexpr int kQthWidth = 260;
-constexpr int kHeardWidth = 168;
+constexpr int kHeardWidth = 290;  // 31 columns of 8 pixels, a scroll bar and a frame
 constexpr int kHeardHeight = 420;
+constexpr int kLowestHeard = 96;
+constexpr int kPathColumn = 91;  // 1-based: from here on the record is one word
 constexpr int kNoticeWidth = 760;
 
 }  // namespace
@@ -49,6 +54,7 @@ void PanelsOverMap::MakeNotices() {
     auto* label = new QLabel(&map_);
     label->setObjectName(QString::fromLatin1(name));
     label->setProperty("notice", true);
+    SpeakOfEmpty(label, "notice");
     label->setWordWrap(true);
     label->setAttribute(Qt::WA_NoMousePropagation);
     parts_.Binding.Bind(label, control);
@@ -69,10 +75,12 @@ void PanelsOverMap::MakeRecordPanel() {
   auto* box = TightBox(QBoxLayout::TopToBottom, record_panel_);
   box->setContentsMargins(8, 8, 8, 8);
   record_text_ = parts_.FixedLabel("Label20");
+  SpeakOfEmpty(record_text_, "station record");
   record_text_->setWordWrap(true);
   record_text_->setFocusPolicy(Qt::TabFocus);
   box->addWidget(record_text_);
   parts_.Binding.Bind(record_text_, r.Label20);
+  KeepTailTogether();
   auto* row = TightBox(QBoxLayout::LeftToRight);
   QLabel* mode = parts_.FixedLabel("Label19");
   parts_.Binding.Bind(mode, r.Label19);
@@ -80,14 +88,30 @@ void PanelsOverMap::MakeRecordPanel() {
     row->addWidget(parts_.BoundButton(name, control));
   };
   button("Command18", r.Command18);
+  SpeakOfEmpty(row->itemAt(0)->widget(), "previous record");
   row->addWidget(mode);
   button("Command19", r.Command19);
+  SpeakOfEmpty(row->itemAt(2)->widget(), "next record");
   row->addStretch(1);
   button("Command11", r.Command11);
   button("Command36", r.Command36);
   button("Command23", r.Command23);
   box->addLayout(row);
   parts_.Binding.Bind(record_panel_, r.Frame1);
+}
+
+// Path, symbol and class stay on one line where the record is folded.
+void PanelsOverMap::KeepTailTogether() {
+  parts_.Binding.OnControlsOut([this] {
+    QString text = record_text_->text();
+    const QString tail = text.mid(kPathColumn - 1);
+    if (!tail.contains(QLatin1Char(' '))) return;
+    QString joined = tail;
+    while (joined.endsWith(QLatin1Char(' ')))
+      joined.chop(1);
+    record_text_->setText(text.left(kPathColumn - 1) +
+                          joined.replace(QLatin1Char(' '), QChar::Nbsp));
+  });
 }
 
 void PanelsOverMap::MakeAlarmPanel() {
@@ -129,6 +153,16 @@ void PanelsOverMap::MakeHeardList() {
   auto* box = TightBox(QBoxLayout::TopToBottom, heard_panel_);
   box->setContentsMargins(8, 8, 8, 8);
   box->addWidget(GroupCaption("HEARD STATIONS"));
+  auto* heads = TightBox(QBoxLayout::LeftToRight);
+  heads->setSpacing(0);
+  static constexpr int kHeadWidths[] = {76, 76, 64, 48};
+  for (std::size_t column = 0; column < controls_.MoniAll.HeardOrder.size(); ++column) {
+    QPushButton* head = parts_.BoundButton(("HeardOrder" + WholeNumber(column)).c_str(),
+                                           controls_.MoniAll.HeardOrder[column]);
+    head->setProperty("tight", true);
+    heads->addWidget(head, kHeadWidths[column]);
+  }
+  box->addLayout(heads);
   auto* list = new QListView;
   list->setObjectName(QStringLiteral("HeardList"));
   list->setAccessibleName(QStringLiteral("heard stations"));
@@ -185,9 +219,13 @@ void PanelsOverMap::Place() {
     qth_panel_->move(kOverlayMargin, kOverlayMargin);
   }
   if (!heard_panel_->isHidden()) {
-    const int heard_height = std::min(height - 2 * kOverlayMargin, kHeardHeight);
-    heard_panel_->setGeometry(width - kHeardWidth - kOverlayMargin, kOverlayMargin, kHeardWidth,
+    // The buttons of an open record stay free.
+    const int floor = record_panel_->isHidden() ? height : record_panel_->y();
+    const int heard_height = std::clamp(floor - 2 * kOverlayMargin, kLowestHeard, kHeardHeight);
+    const int heard_width = std::min(kHeardWidth, inner);
+    heard_panel_->setGeometry(width - heard_width - kOverlayMargin, kOverlayMargin, heard_width,
                               heard_height);
+    if (!record_panel_->isHidden()) record_panel_->raise();
   }
   if (!palette_panel_->isHidden()) {
     palette_panel_->adjustSize();

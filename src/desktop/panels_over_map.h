@@ -29,6 +29,7 @@ class PanelsOverMap {
  private:
   void MakePanels();
   void MakeRecordPanel();
+  void KeepTailTogether();
   void MakeAlarmPanel();
   void MakeQthSetup();
   void MakeHeardList();

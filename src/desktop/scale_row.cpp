@@ -5,14 +5,22 @@
 #include <QComboBox>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace zepril {
 namespace {
 
 constexpr int kLegendHeight = 18;
+constexpr int kLegendLeft = 4;
+constexpr int kLegendBox = 13;
+constexpr int kLegendText = 17;  // from the left edge of its box
+constexpr int kLegendGap = 8;
+constexpr const char* kTilesHere = "tiles here";
+constexpr const char* kFrames = "frames";
 
 void PaintFrameBox(QPainter& painter, const QRect& box, const Look& look, bool covered,
                    bool checked, bool focused) {
-  painter.setPen(QPen(focused ? look.Text : look.Dim, 1));
+  painter.setPen(QPen(focused ? look.Text : look.Dim, focused ? 2 : 1));
   painter.setBrush(covered ? QBrush(look.Accent) : QBrush(look.Field));
   painter.drawRect(box);
   if (!checked) return;
@@ -43,12 +51,13 @@ class FrameBoxButton final : public QAbstractButton {
 
 }  // namespace
 
-ScaleRow::ScaleRow(const QString& folder_name, const Look& look, QWidget* parent)
+ScaleRow::ScaleRow(const QString& folder_name, const QString& scale, const Look& look,
+                   QWidget* parent)
     : QWidget(parent), look_(look), box_(new FrameBoxButton(look)), folders_(new QComboBox) {
   box_->setObjectName(folder_name + QStringLiteral("Frames"));
-  box_->setAccessibleName(QStringLiteral("tile frames"));
+  box_->setAccessibleName(QStringLiteral("tile frames %1").arg(scale));
   folders_->setObjectName(folder_name);
-  folders_->setAccessibleName(QStringLiteral("map folder"));
+  folders_->setAccessibleName(QStringLiteral("map folder %1").arg(scale));
   folders_->setFixedHeight(24);
   folders_->setMinimumWidth(0);
   folders_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -83,15 +92,30 @@ ScaleLegend::ScaleLegend(const Look& look, QWidget* parent) : QWidget(parent), l
   setAccessibleName(QStringLiteral("filled: tiles at the center, ticked: tile frames"));
 }
 
+ScaleLegend::Places ScaleLegend::PlacesIn(int width, const QFontMetrics& metrics) {
+  Places places;
+  places.First = kLegendLeft;
+  places.FirstEnd =
+      kLegendLeft + kLegendText + metrics.horizontalAdvance(QString::fromLatin1(kTilesHere));
+  // In the middle where there is room, never into the first.
+  places.Second = std::max(width / 2 + kLegendGap, places.FirstEnd + kLegendGap);
+  const int length = kLegendText + metrics.horizontalAdvance(QString::fromLatin1(kFrames));
+  if (places.Second + length > width) places.Second = places.FirstEnd + kLegendGap;
+  places.SecondEnd = places.Second + length;
+  return places;
+}
+
 void ScaleLegend::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const auto entry = [&](int x, const QString& text, bool covered, bool checked) {
-    PaintFrameBox(painter, QRect(x, 2, 13, 13), look_, covered, checked, false);
+  const auto entry = [&](int x, const char* text, bool covered, bool checked) {
+    PaintFrameBox(painter, QRect(x, 2, kLegendBox, kLegendBox), look_, covered, checked, false);
     painter.setPen(look_.Dim);
-    painter.drawText(QRect(x + 18, 0, width(), height()), Qt::AlignLeft | Qt::AlignVCenter, text);
+    painter.drawText(QRect(x + kLegendText, 0, width(), height()), Qt::AlignLeft | Qt::AlignVCenter,
+                     QString::fromLatin1(text));
   };
-  entry(10, QStringLiteral("tiles here"), true, false);
-  entry(width() / 2 + 8, QStringLiteral("frames"), false, true);
+  const Places places = PlacesIn(width(), fontMetrics());
+  entry(places.First, kTilesHere, true, false);
+  entry(places.Second, kFrames, false, true);
 }
 
 }  // namespace zepril

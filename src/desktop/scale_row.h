@@ -13,7 +13,9 @@ namespace zepril {
 
 class ScaleRow final : public QWidget {
  public:
-  ScaleRow(const QString& folder_name, const Look& look, QWidget* parent = nullptr);
+  // `scale` is what the row is called, "M0050".
+  ScaleRow(const QString& folder_name, const QString& scale, const Look& look,
+           QWidget* parent = nullptr);
   QAbstractButton* FrameBox() { return box_; }
   QComboBox* Folders() { return folders_; }
   void Show(bool covered, bool active);
@@ -33,6 +35,15 @@ class ScaleRow final : public QWidget {
 class ScaleLegend final : public QWidget {
  public:
   explicit ScaleLegend(const Look& look, QWidget* parent = nullptr);
+
+  // Left edges of the two entries in a legend of `width` pixels, and where their texts end.
+  struct Places {
+    int First = 0;
+    int FirstEnd = 0;
+    int Second = 0;
+    int SecondEnd = 0;
+  };
+  static Places PlacesIn(int width, const QFontMetrics& metrics);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

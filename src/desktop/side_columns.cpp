@@ -9,6 +9,7 @@
 
 #include "desktop/class_button.h"
 #include "desktop/fill_bar_widget.h"
+#include "desktop/fitted_label.h"
 #include "desktop/scale_row.h"
 
 namespace zepril {
@@ -72,11 +73,11 @@ QWidget* SideColumns::MakeScales() {
   box->addWidget(GroupCaption("SCALES"));
   static constexpr const char* kNames[] = {"Combo3", "Combo4", "Combo5",
                                            "Combo6", "Combo7", "Combo8"};
-  static constexpr const char* kNoFolder[] = {"no M5000", "no M1000", "no M0200",
-                                              "no M0050", "no M0010", "no M0002"};
+  static constexpr const char* kScales[] = {"M5000", "M1000", "M0200", "M0050", "M0010", "M0002"};
   for (std::size_t at = 0; at < controls_.Scales.Folder.size(); ++at) {
-    auto* row = new ScaleRow(QString::fromLatin1(kNames[at]), parts_.Shades);
-    row->Folders()->setPlaceholderText(QString::fromLatin1(kNoFolder[at]));
+    const QString scale = QString::fromLatin1(kScales[at]);
+    auto* row = new ScaleRow(QString::fromLatin1(kNames[at]), scale, parts_.Shades);
+    row->Folders()->setPlaceholderText(QStringLiteral("no ") + scale);
     box->addWidget(row);
     parts_.Binding.Bind(row->FrameBox(), controls_.Scales.FrameBox[at]);
     parts_.Binding.Bind(row->Folders(), controls_.Scales.Folder[at]);
@@ -170,6 +171,7 @@ QWidget* SideColumns::MakeMoni1() {
   QLabel* count = parts_.FixedLabel("Label6");
   auto* bar = new FillBarWidget;
   bar->setObjectName(QStringLiteral("Label17"));
+  bar->setAccessibleName(QStringLiteral("size of the MONI 1 history"));
   counts->addWidget(count);
   counts->addWidget(bar, 1);
   box->addLayout(counts);
@@ -178,14 +180,11 @@ QWidget* SideColumns::MakeMoni1() {
 
   for (auto& [name, control] : {std::pair<const char*, Label&>{"Label9", m.Label9},
                                 std::pair<const char*, Label&>{"Label10", m.Label10}}) {
-    QLabel* label = parts_.FixedLabel(name);
-    label->setWordWrap(&control == &m.Label10);  // the time stays on its line
-    label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    label->setMinimumWidth(0);
-    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
     // What stands below must not move under the hand when a text comes.
-    const int lines = &control == &m.Label10 ? kLongestTextLines : 1;
-    label->setMinimumHeight(lines * QFontMetrics(parts_.FixedFont).lineSpacing());
+    auto* label = new FittedLabel(&control == &m.Label10 ? kLongestTextLines : 1);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setFont(parts_.FixedFont);
+    label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     box->addWidget(label);
     parts_.Binding.Bind(label, control);
   }
@@ -258,6 +257,7 @@ QWidget* SideColumns::MakeMoniAll() {
 
   auto* bar = new FillBarWidget;
   bar->setObjectName(QStringLiteral("Label5"));
+  bar->setAccessibleName(QStringLiteral("size of the MONI ALL list"));
   box->addWidget(bar);
   parts_.Binding.Bind(bar, m.Label5);
 
@@ -300,6 +300,7 @@ QWidget* SideColumns::MakeTransmit() {
   parts_.Binding.Bind(outcome, t.TxOutcome);
   auto* bar = new FillBarWidget;
   bar->setObjectName(QStringLiteral("NextBeacon"));
+  bar->setAccessibleName(QStringLiteral("time to the next report"));
   box->addWidget(bar);
   parts_.Binding.Bind(bar, t.NextBeacon);
   return group;

@@ -9,6 +9,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollArea>
 
 #include "desktop/device_box.h"
 #include "desktop/fill_bar_widget.h"
@@ -63,11 +64,13 @@ void LetLongNamesBreak(QLabel* label, Binder& binder) {
 
 StartWindow::StartWindow(StartPanel& panel, QtLoop& loop, const MapFonts& fonts)
     : panel_(panel), loop_(loop), binder_(loop, NightLook()), fixed_font_(fonts.TextFont()) {
-  binder_.LeaveEnterToTheWindow();
   setObjectName(QStringLiteral("Form0"));
   setWindowTitle(QStringLiteral("ZEP RIL  START   V 8.08"));
-  auto* all = new QBoxLayout(QBoxLayout::TopToBottom, this);
-  all->setContentsMargins(24, 20, 24, 20);
+  binder_.EnterPresses = false;  // it is START's
+  // On a low screen the fields scroll; START stays where it is.
+  auto* page = new QWidget;
+  auto* all = new QBoxLayout(QBoxLayout::TopToBottom, page);
+  all->setContentsMargins(24, 20, 24, 12);
   all->setSpacing(12);
 
   auto* title = new QLabel(QStringLiteral("ZEP RIL"));
@@ -82,7 +85,19 @@ StartWindow::StartWindow(StartPanel& panel, QtLoop& loop, const MapFonts& fonts)
   columns->addLayout(RadioColumn(), 5);
   all->addLayout(columns);
   all->addStretch(1);
-  all->addLayout(BottomLine());
+  auto* area = new QScrollArea;
+  area->setObjectName(QStringLiteral("StartFields"));
+  area->setWidget(page);
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  auto* whole = new QBoxLayout(QBoxLayout::TopToBottom, this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->setSpacing(0);
+  whole->addWidget(area, 1);
+  QBoxLayout* bottom = BottomLine();
+  bottom->setContentsMargins(24, 4, 24, 20);
+  whole->addLayout(bottom);
   resize(kFirstWidth, kFirstHeight);
   ControlsOut();
 }
@@ -132,12 +147,14 @@ QBoxLayout* StartWindow::BottomLine() {
   progress_text_ = DimLabel("The sample maps are being drawn, once ...");
   progress_ = new QProgressBar;
   progress_->setObjectName(QStringLiteral("MapProgress"));
+  progress_->setAccessibleName(QStringLiteral("sample maps drawn"));
   progress_text_->hide();
   progress_->hide();
   QLabel* set_up = BoundLabel("SetupText", c.SetupText);
   KeepWidth(set_up);
   auto* set_up_bar = new FillBarWidget;
   set_up_bar->setObjectName(QStringLiteral("SetupBar"));
+  set_up_bar->setAccessibleName(QStringLiteral("set-up of the modem"));
   set_up_bar->setFixedHeight(10);
   binder_.Bind(set_up_bar, c.SetupBar);
   auto* told = new QBoxLayout(QBoxLayout::TopToBottom);
@@ -201,13 +218,13 @@ void StartWindow::AddPort(QGridLayout* grid, int row) {
   port->setFixedHeight(kControlHeight);
   port->setMinimumContentsLength(16);
   port->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  binder_.OnControlsOut([port, &c] { port->setAccessibleName(ToQt(c.PortLabel.Caption)); });
   binder_.Bind(port, c.Text3);
   // What is typed is looked at as it is typed.
   connect(port->lineEdit(), &QLineEdit::textEdited, this,
           [this, &c] { loop_.RunStep(c.Text3.Change); });
   port->Entered = [this] { loop_.RunStep([this] { panel_.ReadDevices(); }); };
   port->ListOpens = [this] { loop_.RunStep([this] { panel_.DeviceListOpens(); }); };
-  binder_.OnControlsOut([port, &c] { port->setAccessibleName(ToQt(c.PortLabel.Caption)); });
   grid->addWidget(BoundLabel("PortLabel", c.PortLabel), row, 0);
   grid->addWidget(port, row, 1);
   KeepPlace(port);

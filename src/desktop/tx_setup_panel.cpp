@@ -107,6 +107,7 @@ void TxSetupPanel::MakePath(QBoxLayout* box) {
   grid->setColumnStretch(0, 1);
   for (std::size_t at = 0; at < TxSetupControls::kPaths; ++at) {
     QPushButton* memory = parts_.BoundButton(Numbered("PathMemory", at), controls_.PathMemory[at]);
+    memory->setAccessibleName(QStringLiteral("path memory %1").arg(at + 1));
     grid->addWidget(Tight(memory), 1, 1 + static_cast<int>(at));
   }
   constexpr std::size_t kInARow = TxSetupControls::kQuick / 2;
@@ -135,10 +136,15 @@ void TxSetupPanel::MakeLines(QBoxLayout* box) {
     grid->addWidget(
         parts_.BoundField(Numbered("InfoField", line), "info line", controls_.InfoField[line]), row,
         1);
-    grid->addWidget(parts_.BoundButton(Numbered("fr4ta", line), controls_.fr4ta[line]), row, 2);
-    grid->addWidget(
-        Tight(parts_.BoundButton(Numbered("InfoMemory", line), controls_.InfoMemory[line])), row,
-        3);
+    grid->itemAtPosition(row, 1)->widget()->setAccessibleName(
+        QStringLiteral("info line %1").arg(row + 1));
+    QPushButton* active = parts_.BoundButton(Numbered("fr4ta", line), controls_.fr4ta[line]);
+    active->setAccessibleName(QStringLiteral("info line %1 active").arg(row + 1));
+    grid->addWidget(active, row, 2);
+    QPushButton* memory =
+        parts_.BoundButton(Numbered("InfoMemory", line), controls_.InfoMemory[line]);
+    memory->setAccessibleName(QStringLiteral("info line memory %1").arg(row + 1));
+    grid->addWidget(Tight(memory), row, 3);
   }
 }
 

@@ -32,6 +32,7 @@ TrackFiles::TrackFiles(const IdentityState& identity, MapViewState& view, Settin
   controls_.Combo1.KeyDown = [this](KeyPress key) {
     if (key.Code == kEnterKey) SelectTrack();
   };
+  controls_.Combo1.Left = [this] { ShowLoaded(); };
   controls_.Command68.Click = [this] { StepFile(-1); };
   controls_.Command69.Click = [this] { StepFile(1); };
   controls_.Frame10.Click = [this] { CentreOnEnd(); };
@@ -76,6 +77,7 @@ void TrackFiles::Choose(const std::string& name) {
   // An empty name, or that of the file which is loaded, changes nothing.
   if (name.empty() || (loaded_ && EqualFolded(name, settings_.TrackFile))) {
     ShowLoaded();
+    controls_.Combo1.LeaveWanted = true;
     return;
   }
   if (!IsPlainFileName(name)) {
@@ -98,6 +100,7 @@ void TrackFiles::Choose(const std::string& name) {
   ListTrackFiles();
   tools_.Settings.WriteConfigFromMainWindow();
   if (view_.TracksOn) tools_.Map.MapRedraw();
+  controls_.Combo1.LeaveWanted = true;
   map_.Picture1.FocusWanted = true;
 }
 

@@ -59,6 +59,8 @@ PlaceFiles::PlaceFiles(const IdentityState& identity, MapViewState& view, Settin
     if (key.Code == kEnterKey) CreatePoiFile();
   };
   controls_.Combo2.RightClick = [this] { CreatePoiFile(); };
+  // What was typed and not entered is no name of a file.
+  controls_.Combo2.Left = [this] { ShowLoaded(); };
   controls_.PoiNew.Click = [this] { NewPlace(); };
   controls_.PoiOk.Click = [this] { ApplyPoiEdit(); };
   controls_.PoiClose.Click = [this] { ClosePanel(); };
@@ -121,6 +123,7 @@ void PlaceFiles::SelectPoiFile() {
   // An empty name, or that of the file which is loaded, changes nothing.
   if (name.empty() || (loaded_ && EqualFolded(name, settings_.PoiFile))) {
     ShowLoaded();
+    controls_.Combo2.LeaveWanted = true;
     return;
   }
   if (!RefuseName(name)) Take(name);
@@ -157,6 +160,8 @@ void PlaceFiles::Take(const std::string& name) {
   ListPoiFiles();
   tools_.Settings.WriteConfigFromMainWindow();
   RedrawPlaces();
+  // The keys are the map's again.
+  controls_.Combo2.LeaveWanted = true;
   map_.Picture1.FocusWanted = true;
 }
 
@@ -267,8 +272,11 @@ void PlaceFiles::ApplyPoiEdit() {
     if (!RoomForOneMore()) return;
     line = NewLine(name);
   }
+  const bool new_place = places_.PoiEditIndex <= 0;
   if (!WriteFile(line)) return;
   ClosePanel();
+  // Who makes a place wants to see it, and its name.
+  if (new_place && view_.PoiLevel <= 0) view_.PoiLevel = kLevels - 1;
   RedrawPlaces();
 }
 

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
@@ -94,6 +95,37 @@ TEST_F(DesktopProgramTest, TheFieldsShowTheSettings) {
   EXPECT_FALSE(Find<QComboBox>(Start(), "Text3")->isVisible());
   EXPECT_TRUE(Find<QPushButton>(Start(), "Option10")->isChecked());
   EXPECT_FALSE(Find<QPushButton>(Start(), "Option9")->isChecked());
+}
+
+// The screen of these tests is 800 pixels wide, the main window's first size 1280.
+TEST_F(DesktopProgramTest, NoWindowOpensBeyondTheScreen) {
+  WriteSettings("MODEM=4\r\n");
+  Begin();
+  const QRect screen = Start().screen()->availableGeometry();
+  ASSERT_LT(screen.width(), 1280);
+  EXPECT_TRUE(screen.contains(Start().geometry()));
+  EXPECT_TRUE(Start().rect().contains(
+      QRect(StartButton()->mapTo(&Start(), QPoint()), StartButton()->size())));
+  QTest::mouseClick(StartButton(), Qt::LeftButton);
+  ASSERT_NE(program->Window(), nullptr);
+  EXPECT_TRUE(screen.contains(program->Window()->geometry()));
+}
+
+TEST_F(DesktopProgramTest, TheWindowsStandWhereTheyWere) {
+  WriteSettings("MODEM=4\r\n");
+  Begin();
+  Start().setGeometry(20, 50, 700, 500);
+  QTest::mouseClick(StartButton(), Qt::LeftButton);
+  ASSERT_NE(program->Window(), nullptr);
+  program->Window()->setGeometry(30, 60, 680, 490);
+  Pump();
+  program->Window()->close();
+  Pump();
+  Begin();
+  EXPECT_EQ(Start().geometry(), QRect(20, 50, 700, 500));
+  QTest::mouseClick(StartButton(), Qt::LeftButton);
+  ASSERT_NE(program->Window(), nullptr);
+  EXPECT_EQ(program->Window()->geometry(), QRect(30, 60, 680, 490));
 }
 
 TEST_F(DesktopProgramTest, EnterInAnyFieldPressesStartOnce) {
@@ -315,7 +347,7 @@ TEST_F(DesktopProgramTest, TheTimersStandStillWhileABoxIsOpen) {
     ASSERT_NE(box, nullptr);
     EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::No));
     EXPECT_EQ(box->icon(), QMessageBox::Warning);  // what follows a Yes can't be taken back
-    box->close();  // as the harmless button
+    box->close();                                  // as the harmless button
   });
   loop.RunStep([&] {
     EXPECT_EQ(dialogs.Ask("DELETE", "DELETE  IT ?", DialogButtons::YesNo, DialogAnswer::No),

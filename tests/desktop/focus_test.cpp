@@ -175,5 +175,170 @@ TEST_F(FocusTest, TheMapTakesTheFocusFromWhatTheMousePressed) {
   EXPECT_EQ(window->focusWidget(), Map());
 }
 
+// ---- Fields that list files -----------------------------------------------------------------
+
+class FileFieldTest : public FocusTest {
+ protected:
+  FileFieldTest() {
+    files.MakeFolder("C:\\ZEPRIL\\U33\\POI");
+    files.Write("C:\\ZEPRIL\\U33\\POI\\HUTS.POI", "\xFE 5800.000  400.000  HUT\r\n");
+    Places().setFocus();
+    Type("HUTS");
+    QTest::keyClick(&Places(), Qt::Key_Return);
+    Map()->setFocus();
+  }
+  QComboBox& Places() { return *Find<QComboBox>(*window, "Combo2"); }
+  void Type(const char* text) {
+    Places().lineEdit()->selectAll();
+    QTest::keyClicks(&Places(), QString::fromLatin1(text));
+  }
+};
+
+TEST_F(FileFieldTest, TheFieldGivesTheFocusBackAfterAChoice) {
+  Places().setFocus(Qt::MouseFocusReason);
+  Type("HUTS");
+  QTest::keyClick(&Places(), Qt::Key_Return);
+  EXPECT_EQ(window->focusWidget(), Map());
+  Places().setFocus(Qt::MouseFocusReason);
+  Type("LAKES");
+  QTest::keyClick(&Places(), Qt::Key_Return);
+  EXPECT_EQ(State().Settings.PoiFile, "LAKES");
+  EXPECT_EQ(window->focusWidget(), Map());
+  // The next letter is the map's.
+  const int level = State().Map.PoiLevel;
+  QTest::keyClick(window->focusWidget(), Qt::Key_P);
+  EXPECT_NE(State().Map.PoiLevel, level);
+  EXPECT_EQ(Places().currentText(), QStringLiteral("LAKES"));
+}
+
+TEST_F(FileFieldTest, LettersThatWereNotEnteredGoWithTheFocus) {
+  Places().setFocus(Qt::MouseFocusReason);
+  QTest::keyClicks(&Places(), QStringLiteral("gg"));
+  QTest::mouseClick(Map(), Qt::LeftButton, {}, QPoint(20, 20));
+  EXPECT_EQ(Places().currentText(), QStringLiteral("HUTS"));
+  EXPECT_EQ(State().Settings.PoiFile, "HUTS");
+}
+
+TEST_F(FileFieldTest, PassingByWithTheTabKeyChoosesNothing) {
+  auto* call = Find<QComboBox>(*window, "Combo9");
+  TabTo(call);
+  int chosen = 0;
+  Controls().Moni1.Combo9.Click = [&] { ++chosen; };
+  QTest::keyClick(call, Qt::Key_Tab);
+  EXPECT_EQ(chosen, 0);
+  EXPECT_EQ(window->focusWidget(), Find<>(*window, "Command17"));
+}
+
+TEST_F(FocusTest, WhenAPanelGoesItsFocusGoesToTheMap) {
+  loop.RunStep([this] { Controls().Iono.Frame18.Visible = true; });
+  Find<>(*window, "Text11")->setFocus(Qt::TabFocusReason);
+  loop.RunStep([this] { Controls().Iono.Frame18.Visible = false; });
+  EXPECT_EQ(window->focusWidget(), Map());
+  QTest::keyClick(Map(), Qt::Key_R, Qt::ControlModifier);
+  Find<>(*window, "Text14")->setFocus(Qt::TabFocusReason);
+  loop.RunStep([this] { Controls().Raw.Command57.Click(); });
+  EXPECT_EQ(window->focusWidget(), Map());
+}
+
+// ---- Keys on buttons ------------------------------------------------------------------------
+
+TEST_F(FocusTest, EnterPressesTheButtonThatHasTheFocus) {
+  TabTo(Find<>(*window, "Command3"));
+  QTest::keyClick(window->focusWidget(), Qt::Key_Return);
+  EXPECT_TRUE(Controls().MoniAll.HeardPanel.Visible);
+  TabTo(Find<>(*window, "Check4"));
+  QTest::keyClick(window->focusWidget(), Qt::Key_Enter);
+  EXPECT_TRUE(State().Map.GridOn);
+  QTest::keyClick(window->focusWidget(), Qt::Key_Enter);
+  EXPECT_FALSE(State().Map.GridOn);
+  TabTo(Find<>(*window, "Combo3Frames"));
+  QTest::keyClick(window->focusWidget(), Qt::Key_Enter);
+  EXPECT_EQ(Controls().Scales.FrameBox[0].Value, 1);
+  EXPECT_TRUE(MapStandsStill());
+}
+
+TEST_F(FocusTest, ALeanedOnEnterPressesOnce) {
+  TabTo(Find<>(*window, "Check4"));
+  for (int repeat = 0; repeat < 4; ++repeat) {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"),
+                    repeat > 0);
+    QApplication::sendEvent(window->focusWidget(), &press);
+  }
+  EXPECT_TRUE(State().Map.GridOn);
+}
+
+TEST_F(FocusTest, TheFocusIsSeenOnAButtonThatIsOn) {
+  for (const char* name : {"Check4", "Check1", "Check10", "Combo3Frames", "Optionink3"}) {
+    if (std::string(name) == "Optionink3") {
+      loop.RunStep([this] { Controls().Palette.PalettePanel.Visible = true; });
+    }
+    auto* button = Find<QAbstractButton>(*window, name);
+    button->setChecked(true);
+    Map()->setFocus();
+    const QImage without = button->grab().toImage();
+    button->setFocus(Qt::TabFocusReason);
+    const QImage with = button->grab().toImage();
+    int changed = 0;
+    for (int y = 0; y < with.height(); ++y)
+      for (int x = 0; x < with.width(); ++x)
+        if (with.pixel(x, y) != without.pixel(x, y)) ++changed;
+    EXPECT_GE(changed, with.width() + with.height()) << name;
+  }
+}
+
+TEST_F(FocusTest, ToolTipsTellTheKeys) {
+  for (const auto& [name, key] :
+       {std::pair{"Command8", "[+]"}, std::pair{"Check4", "[G]"}, std::pair{"Command3", "[Ctrl+L]"},
+        std::pair{"Command57", "[Ctrl+R]"}, std::pair{"Command12", "[Home]"},
+        std::pair{"PoiNew", "[N]"}, std::pair{"Command23", "[Esc]"}}) {
+    const QString tip = Find<>(*window, name)->toolTip();
+    EXPECT_TRUE(tip.endsWith(QString::fromLatin1(key))) << name << ": " << tip.toStdString();
+  }
+  // Switched off they are off.
+  loop.RunStep([this] { Controls().Map.Check4.ToolTip.clear(); });
+  EXPECT_TRUE(Find<>(*window, "Check4")->toolTip().isEmpty());
+}
+
+// ---- The pointer of the arrow keys ----------------------------------------------------------
+
+class KeyPointerTest : public FocusTest {
+ protected:
+  // Where the picture on the window differs from the map that was painted.
+  QRect Cross() {
+    const QImage shown = Map()->grab().toImage();
+    const QImage& painted = map_surface.Picture();
+    QRect cross;
+    for (int y = 0; y < shown.height(); ++y)
+      for (int x = 0; x < shown.width(); ++x)
+        if (shown.pixel(x, y) != painted.pixel(x, y) && !OverPanel(QPoint(x, y)))
+          cross |= QRect(x, y, 1, 1);
+    return cross;
+  }
+  bool OverPanel(const QPoint& at) { return Map()->childAt(at) != nullptr; }
+};
+
+TEST_F(KeyPointerTest, ItIsSeenWhereTheKeysBroughtIt) {
+  Map()->setFocus();
+  EXPECT_TRUE(Cross().isEmpty());
+  QTest::keyClick(Map(), Qt::Key_Right, Qt::ShiftModifier);
+  const QRect cross = Cross();
+  EXPECT_EQ(cross.center(), QPoint(50, 30));
+  EXPECT_LE(cross.width(), 20);
+  // The mouse takes over.
+  QTest::mouseMove(Map(), QPoint(200, 200));
+  EXPECT_TRUE(Cross().isEmpty());
+}
+
+TEST_F(KeyPointerTest, ShiftF10LooksUpThereAndNotAtTheMouse) {
+  Map()->setFocus();
+  QTest::keyClick(Map(), Qt::Key_Right, Qt::ShiftModifier);
+  MousePress last;
+  Controls().Map.Picture1.MouseDown = [&](MousePress press) { last = press; };
+  QTest::keyClick(Map(), Qt::Key_F10, Qt::ShiftModifier);
+  EXPECT_EQ(last.Button, 2);
+  EXPECT_EQ(last.X, 50.0);
+  EXPECT_EQ(last.Y, 30.0);
+}
+
 }  // namespace
 }  // namespace zepril

@@ -224,10 +224,12 @@ TEST_F(MainWindowTest, TheTickLeavesTheFieldToTheOneWhoTypes) {
     field->setFocus();
     State().Map.MapDrawn = false;
     Tick();
+    loop.RunStep([this] { Controls().Map.Command9.Click(); });
     EXPECT_TRUE(field->hasFocus()) << name;
     EXPECT_FALSE(Controls().Map.Picture1.FocusWanted) << name;
   }
   // From a button it comes back to the map.
+  Controls().Qth.Frame2.Visible = false;  // it holds the cycle
   Find<>(*window, "Command13")->setFocus();
   State().Map.MapDrawn = false;
   Tick();

@@ -89,5 +89,25 @@ TEST(TracksAndPlaces, TheEndOfATrackIsCentredAndNoLongerFollowed) {
   EXPECT_FALSE(station.Controls().Map.Option1.Value);
 }
 
+TEST(TracksAndPlaces, ANewPlaceSwitchesPlacesOn) {
+  PlacesStation station;
+  station.ShowAround();
+  ASSERT_EQ(station.State().Map.PoiLevel, 0);
+  station.Controls().Places.PoiNew.Click();
+  station.Controls().Places.Text4.Text = "SHELTER";
+  station.Controls().Places.PoiOk.Click();
+  EXPECT_EQ(station.State().Map.PoiLevel, 2);
+  EXPECT_EQ(station.Controls().Map.Command73.Caption, "POI 2");
+  EXPECT_TRUE(station.DrewText("SHELTER"));
+  // A level that was chosen stays.
+  station.Controls().Map.Command73.Click();
+  station.Controls().Map.Command73.Click();
+  ASSERT_EQ(station.State().Map.PoiLevel, 1);
+  station.Controls().Places.PoiNew.Click();
+  station.Controls().Places.Text4.Text = "SECOND";
+  station.Controls().Places.PoiOk.Click();
+  EXPECT_EQ(station.State().Map.PoiLevel, 1);
+}
+
 }  // namespace
 }  // namespace zepril
