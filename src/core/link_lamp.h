@@ -26,7 +26,4 @@ struct LinkLamp {
 // Data within 60 s lights the lamp.
 LinkLamp LampOf(const LampFacts& facts);
 
-// "34 s", "12 min", "3 h": the largest unit that is full, cut.
-std::string AgeText(double seconds);
-
 }  // namespace zepril
