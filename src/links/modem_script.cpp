@@ -104,17 +104,16 @@ double ModemScript::Seconds() const {
 }
 
 bool RunModemScript(const ModemScript& script, SerialPort& port, Clock& clock,
-                    const ScriptProgress& progress, const ScriptTerms& terms) {
+                    const ScriptProgress& progress, ScriptTerms terms) {
   const double whole = script.Seconds();
   double gone = 0.0;
   bool heard = true;
   for (const ModemStep& step : script.Steps()) {
     // The program is to end: what follows is how the modem is left, not how it is set up.
     if (clock.EndAsked()) return false;
-    if (terms.GoOn && !terms.GoOn()) return false;
     if (progress && whole > 0.0) progress(gone / whole);
     if (!Carry(step, port, clock)) heard = false;
-    if (!heard && terms.OnlyWhileHeard) return false;
+    if (!heard && terms == ScriptTerms::OnlyWhileHeard) return false;
     gone += SecondsOfStep(step);
   }
   if (progress) progress(1.0);

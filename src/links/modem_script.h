@@ -63,13 +63,8 @@ class ModemScript {
 // Told the share of the waits that is over, 0 to 1.
 using ScriptProgress = std::function<void(double share)>;
 
-// When a script ends before its end.
-struct ScriptTerms {
-  // Asked before each step; false leaves the rest out. May be empty.
-  std::function<bool()> GoOn;
-  // A line that is lost, can't be opened or takes nothing ends it.
-  bool OnlyWhileHeard = false;
-};
+// Whether a line that is lost, can't be opened or takes nothing ends a script before its end.
+enum class ScriptTerms { ToTheEnd, OnlyWhileHeard };
 
 // Carries the script out. Nothing fails: on a port that can't be opened only the waits remain. A
 // modem that takes nothing, answers without end or prompts for ever is left alone after
@@ -77,7 +72,7 @@ struct ScriptTerms {
 // that must not hang has. True when the modem has got all of it: every step was carried out on an
 // open port, and the line took what it was given.
 bool RunModemScript(const ModemScript& script, SerialPort& port, Clock& clock,
-                    const ScriptProgress& progress = {}, const ScriptTerms& terms = {});
+                    const ScriptProgress& progress = {}, ScriptTerms terms = ScriptTerms::ToTheEnd);
 
 inline constexpr double kLongestDrainSeconds = 10.0;
 inline constexpr int kMostReads = 1000;

@@ -63,7 +63,8 @@ void SerialModem::Program(Progress& progress) {
     const bool told = Run(ApplyTxSetupScript(Sections()),
                           [&progress](double share) { progress.Report("TX SETUP", share); });
     // It must not go on under its old call and path.
-    if (!told && tools_.Port.IsOpen()) GiveUp(kTakesNothing);
+    const bool stalled = !told && tools_.Port.IsOpen() && !tools_.LocalClock.EndAsked();
+    if (stalled) GiveUp(kTakesNothing);
   }
   progress.Done();
 }
@@ -115,16 +116,12 @@ bool SerialModem::SetUpWhole() {
   const ModemScript script = TncSetupScript(Sections());
   const double whole = std::max(script.Seconds(), 1.0);
   const double begin = tools_.LocalClock.MonotonicSeconds();
-  const auto go_on = [this] { return !Ending || !Ending(); };
-  TellingClock clock(
-      tools_.LocalClock,
-      [&] {
-        const double gone = tools_.LocalClock.MonotonicSeconds() - begin;
-        tools_.LongWork.Report(kSetUp, std::min(gone / whole, 1.0));
-      },
-      go_on);
+  TellingClock clock(tools_.LocalClock, [&] {
+    const double gone = tools_.LocalClock.MonotonicSeconds() - begin;
+    tools_.LongWork.Report(kSetUp, std::min(gone / whole, 1.0));
+  });
   busy_ = true;
-  const bool heard = RunModemScript(script, tools_.Port, clock, {}, {go_on, true});
+  const bool heard = RunModemScript(script, tools_.Port, clock, {}, ScriptTerms::OnlyWhileHeard);
   busy_ = false;
   return heard;
 }

@@ -70,8 +70,6 @@ class SerialModem {
   void ReopenElapsed();
   // Whether a lost port may be opened just now; may be empty. Asked each time.
   std::function<bool()> MayReopen;
-  // Whether the program is asked to end: a modem is not set up any further. May be empty.
-  std::function<bool()> Ending;
   // A lost port was opened again; may be empty.
   std::function<void()> Reopened;
   // The line was given up: it takes nothing, or its modem has lost its power. May be empty.

@@ -1,5 +1,5 @@
 // The program's clock for a long conversation: it tells before each wait and cuts long ones so that
-// it can tell in between. What it waits is the same, unless the conversation is given up.
+// it can tell in between. What it waits is the same, until the program is asked to end.
 #pragma once
 
 #include <functional>
@@ -13,9 +13,7 @@ class TellingClock final : public Clock {
  public:
   static constexpr double kLongestPiece = 0.25;  // seconds between two tellings
 
-  // Nothing is waited any more once `go_on` says no; it may be empty.
-  TellingClock(Clock& clock, std::function<void()> tell, std::function<bool()> go_on = {})
-      : clock_(clock), tell_(std::move(tell)), go_on_(std::move(go_on)) {}
+  TellingClock(Clock& clock, std::function<void()> tell) : clock_(clock), tell_(std::move(tell)) {}
 
   LocalTime Now() const override { return clock_.Now(); }
   double SecondsSinceMidnight() const override { return clock_.SecondsSinceMidnight(); }
@@ -28,11 +26,12 @@ class TellingClock final : public Clock {
   }
   void WaitPumping(double seconds) override { clock_.WaitPumping(seconds); }
   void HandOver() override { clock_.HandOver(); }
+  bool EndAsked() const override { return clock_.EndAsked(); }
   std::int64_t LoopsPerSecond() override { return clock_.LoopsPerSecond(); }
 
  private:
   bool WaitPiece(double seconds) {
-    if (go_on_ && !go_on_()) return false;
+    if (clock_.EndAsked()) return false;
     tell_();
     clock_.Wait(seconds);
     return true;
@@ -40,7 +39,6 @@ class TellingClock final : public Clock {
 
   Clock& clock_;
   std::function<void()> tell_;
-  std::function<bool()> go_on_;
 };
 
 }  // namespace zepril

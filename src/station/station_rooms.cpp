@@ -86,7 +86,6 @@ StationRooms::StationRooms(StationPlatform machine)
   overlays_.PictureShower = [this] { ShowPicture(); };
   transmit_.SetPositionMissing([this] { qth_.Open(); });
   transmit_.SetMayReopen([this] { return !cycle_.InTick(); });
-  transmit_.SetEnding([this] { return EndWanted; });
   Controls.Status.FileNotice.Click = [this] { Controls.Status.FileNotice.Visible = false; };
   BindControls();
 }

@@ -78,8 +78,6 @@ class TransmitRooms {
   std::string ModemTrouble() const { return modem_.Trouble(); }
   // START has not reached the modem; to be told before the start.
   void ModemWasNotSetUp() { modem_.WasNotSetUp(); }
-  // Whether the program is asked to end: a modem is not set up any further then.
-  void SetEnding(std::function<bool()> ending) { modem_.Ending = std::move(ending); }
   // The operator wants to transmit without an own position.
   void SetPositionMissing(Event missing) { switches_.PositionMissing = std::move(missing); }
   // Asked before a lost modem is opened anew; set by the owner of the main cycle.

@@ -164,13 +164,11 @@ TEST_F(SerialModemTest, ALineThatIsLostWithinTheSetUpIsTriedAnew) {
 TEST_F(SerialModemTest, TheEndOfTheProgramIsNotHeldUpByASetUp) {
   modem.Open();
   port.Close();
-  bool ending = false;
-  modem.Ending = [&] { return ending; };
   int reopened = 0;
   modem.Reopened = [&] { ++reopened; };
   double ended = 0.0;
   clock.Schedule(12.0, [&] {
-    ending = true;
+    clock.EndIsAsked = true;
     ended = clock.MonotonicSeconds();
   });
   double last = 0.0;
@@ -299,6 +297,19 @@ TEST_F(SerialModemTest, SettingsConfirmedWhileOthersAreToldFollowBehindThem) {
   ASSERT_NE(first, std::string::npos);
   ASSERT_NE(second, std::string::npos);
   EXPECT_LT(port.Written.find("K\r", first), second);
+}
+
+// The way out of converse is still to be told.
+TEST_F(SerialModemTest, TheEndInTheMiddleOfTxSetupLosesNoLine) {
+  modem.Open();
+  clock.OnWait = [&](double, bool) { clock.EndIsAsked = true; };
+  modem.Program(progress);
+  EXPECT_TRUE(modem.LinkIsUp());
+  clock.EndIsAsked = false;
+  clock.OnWait = nullptr;
+  port.Written.clear();
+  modem.Leave();
+  EXPECT_EQ(port.Written, "\x03");
 }
 
 // ---- A line that takes nothing ----------------------------------------------------------------
