@@ -168,6 +168,10 @@ class BabbledAt : public ModemTroubleTest {
     for (int keys = 0; keys < 1500; ++keys)
       terminal.Text19.KeyTyped('x');
     EXPECT_LE(terminal.Text19.Text.size(), 1000U);
+    station.dialogs.Expect("ZEP RIL          TERMINAL",
+                           "A LINE IS TYPED WITHOUT ITS END. DO YOU WANT TO SEND IT OFF NOW ?   "
+                           "(NO: IT IS WIPED)",
+                           DialogAnswer::No);
     terminal.Command66.Click();
     EXPECT_FALSE(terminal.Frame19.Visible);
   }
