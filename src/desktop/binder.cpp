@@ -320,8 +320,11 @@ void Binder::Bind(QComboBox* widget, ComboBox& control) {
     const bool typed = widget->property("typed").toBool();
     if (typed && control.Text == FromQt(widget->itemText(index))) return;
     widget->setProperty("typed", false);
-    Press(control, [&control, index] {
-      control.Select(index);
+    // By its name: kept while the program waits, the list may be another one when it acts.
+    Press(control, [&control, chosen = FromQt(widget->itemText(index))] {
+      const auto found = std::find(control.Items.begin(), control.Items.end(), chosen);
+      if (found == control.Items.end()) return;
+      control.Select(static_cast<int>(found - control.Items.begin()));
       if (control.Change) control.Change();
       if (control.Click) control.Click();
     });
@@ -382,17 +385,14 @@ void Binder::Bind(QListView* widget, QStringListModel* model, ListBox& control) 
   new RightHold(widget, loop_, control, this);
   widget->setModel(model);
   connect(widget, &QListView::clicked, this, [this, &control](const QModelIndex& index) {
-    Press(control, [&control, row = index.row()] {
-      control.ListIndex = row;
-      if (control.Click) control.Click();
-    });
+    // Noted at once: a press that is kept while the program waits opens the row that was pressed,
+    // wherever a renewal puts it meanwhile.
+    control.ListIndex = index.row();
+    Press(control, control.Click);
   });
   connect(widget, &QListView::activated, this, [this, &control](const QModelIndex& index) {
-    Press(control, [&control, row = index.row()] {
-      control.ListIndex = row;
-      const Event& act = control.DoubleClick ? control.DoubleClick : control.Click;
-      if (act) act();
-    });
+    control.ListIndex = index.row();
+    Press(control, control.DoubleClick ? control.DoubleClick : control.Click);
   });
   BindPlace(widget, control);
   // What is not shown is passed over by what the list itself is told, never by what the window

@@ -15,6 +15,7 @@ namespace {
 constexpr int kEnterKey = 13;
 constexpr int kFirstLabelLevel = 2;  // marks and calls: what a new operator wants to see
 constexpr double kEngineSeconds = 2.0;
+constexpr double kUnseenSeconds = 0.05;             // too short to press something meanwhile
 constexpr std::uint32_t kLayerOnColour = 0xD08030;  // as a switch that is on
 
 }  // namespace
@@ -118,8 +119,12 @@ void StationRooms::SecondPassed() {
 void StationRooms::Tick() {
   // Whatever has started the timer again meanwhile, a redraw for one.
   if (CycleIsHeld()) return Timer1.Stop();
+  // A press that was made while the program waited, or worked long, is meant for the rows that were
+  // seen then: after such a tick the list of stations is renewed at the beginning of the next one.
+  if (heard_list_waits_) heard_.Renew();
+  heard_list_waits_ = true;
+  tick_began_ = machine_.LocalClock.MonotonicSeconds();
   cycle_.Tick();
-  heard_.Renew();
   transmit_.ShowNextBeacon();
 }
 
@@ -130,6 +135,8 @@ void StationRooms::ChangeFollowedStation() {
 
 void StationRooms::RunReceivePass() {
   receive_pass_.Run();
+  heard_list_waits_ = machine_.LocalClock.MonotonicSeconds() - tick_began_ > kUnseenSeconds;
+  if (!heard_list_waits_) heard_.Renew();
 }
 
 // ---- Start ----------------------------------------------------------------------------------

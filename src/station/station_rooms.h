@@ -187,6 +187,8 @@ class StationRooms final : public TickActions,
   FollowedHistory history_;
   RecordBrowser browser_;
   HeardStationsPanel heard_;
+  bool heard_list_waits_ = false;
+  double tick_began_ = 0.0;
   Collector collector_;
   ReceivePass receive_pass_;
 

@@ -655,6 +655,45 @@ TEST_F(BinderTest, AShortPressOfARepeatingButtonIsOneStepAlsoBySpace) {
 
 // ---- Fields ---------------------------------------------------------------------------------
 
+// A press that came while the program waited acts behind that, when the rows may be others.
+TEST_F(BinderTest, APressKeptOverAWaitMeansTheRowThatWasPressed) {
+  auto* widget = Place(new QListView);
+  QStringListModel model;
+  ListBox control;
+  control.Items = {"one", "two", "three"};
+  std::string opened;
+  control.Click = [&] { opened = control.Items[static_cast<std::size_t>(control.ListIndex)]; };
+  binder.Bind(widget, &model, control);
+  Show();
+  loop.RunStep([this] { loop.Wait(0.0); });
+  const QPoint at = widget->visualRect(model.index(1, 0)).center();
+  QTest::mouseClick(widget->viewport(), Qt::LeftButton, {}, at);
+  ASSERT_EQ(opened, "");
+  loop.RunStep([&] {
+    control.Items.insert(control.Items.begin(), "new");
+    ++control.ListIndex;  // the selection goes with its row
+    ++control.Revision;
+  });
+  ASSERT_TRUE(PumpUntil([&] { return !opened.empty(); }));
+  EXPECT_EQ(opened, "two");
+}
+
+TEST_F(BinderTest, AChoiceKeptOverAWaitMeansTheEntryByItsName) {
+  auto* widget = Place(new QComboBox);
+  ComboBox control;
+  control.Items = {"one", "two", "three"};
+  std::string chosen;
+  control.Change = [&] { chosen = control.Text; };
+  binder.Bind(widget, control);
+  Show();
+  loop.RunStep([this] { loop.Wait(0.0); });
+  emit widget->activated(1);
+  ASSERT_EQ(chosen, "");
+  loop.RunStep([&] { control.Items.insert(control.Items.begin(), "new"); });
+  ASSERT_TRUE(PumpUntil([&] { return !chosen.empty(); }));
+  EXPECT_EQ(chosen, "two");
+}
+
 TEST_F(BinderTest, AFieldTellsEachTimeItGetsTheFocus) {
   TextBox first;
   TextBox second;

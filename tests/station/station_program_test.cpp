@@ -239,6 +239,32 @@ TEST(StationProgram, AStationIsPickedFromTheListAndFollowed) {
   EXPECT_EQ(controls.Map.Command12.Caption, "MAP");
 }
 
+TEST(StationProgram, TheListOfStationsIsRenewedByTheTick) {
+  StationHarness station;
+  station.Start();
+  MainWindowControls& controls = station.Controls();
+  controls.MoniAll.Command3.Click();
+  station.Hear("QX2CD", "=5231.00N/01324.00E>a");
+  station.Ticks(1);
+  EXPECT_EQ(controls.MoniAll.HeardList.Items.size(), 1U);
+}
+
+// What was pressed meanwhile arrives behind the tick and is meant for the rows of before.
+TEST(StationProgram, AfterATickThatWaitedTheListIsRenewedByTheNextOne) {
+  StationHarness station;
+  station.Start();
+  station.Ticks(1);
+  MainWindowControls& controls = station.Controls();
+  controls.MoniAll.Command3.Click();
+  station.Hear("QX2CD", "=5231.00N/01324.00E>a");
+  station.clock.Schedule(1.0, [] {});  // to there the tick hands over
+  station.program->Timer1().Elapsed();
+  ASSERT_EQ(station.State().Stores.MoniAllRecords.Count(), 1);
+  EXPECT_EQ(controls.MoniAll.HeardList.Items.size(), 0U);
+  station.program->Timer1().Elapsed();
+  EXPECT_EQ(controls.MoniAll.HeardList.Items.size(), 1U);
+}
+
 TEST(StationProgram, ANewWindowShowsMarksAndCallsOfAllClasses) {
   StationHarness station;
   station.Start();
