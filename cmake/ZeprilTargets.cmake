@@ -1,11 +1,16 @@
 # The rooms of the house: one small static library a folder, all with the same flags.
 
+include(ZeprilHardening)
+
 add_library(zepril_flags INTERFACE)
 target_compile_options(zepril_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
                                               -Wno-sign-conversion -Wnon-virtual-dtor)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # This compiler warns wrongly at text + std::string when it optimises.
   target_compile_options(zepril_flags INTERFACE -Wno-restrict)
+endif()
+if(NOT ZEPRIL_SANITIZE AND NOT ZEPRIL_FUZZ)
+  target_link_libraries(zepril_flags INTERFACE zepril_hardening)
 endif()
 if(ZEPRIL_WERROR)
   target_compile_options(zepril_flags INTERFACE -Werror)

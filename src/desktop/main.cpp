@@ -42,7 +42,7 @@ int main(int argc, char** argv) {
   app.setStyleSheet(zepril::StyleSheetOf(zepril::NightLook()));
 
   const std::string executable = zepril::NativeText(QCoreApplication::applicationDirPath());
-  zepril::DesktopProgram desktop(zepril::FindProgramPlaces(executable, ZEPRIL_DATA_DIR));
+  zepril::DesktopProgram desktop(zepril::FindProgramPlaces(executable, executable + "/data"));
   if (!desktop.LoadFonts()) {
     std::fputs("zepril: its fonts are missing, a fixed font of the system stands in\n", stderr);
   }
