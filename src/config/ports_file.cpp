@@ -14,10 +14,6 @@ constexpr std::size_t kLongestFile = 4U << 20;  // bytes
 constexpr std::string_view kKey = "COM";
 constexpr const char* kLineEnd = "\r\n";
 
-std::string PortsPath(const std::string& program_folder) {
-  return program_folder + "\\PORTS.TXT";
-}
-
 struct PortLine {
   int Number = 0;
   std::string_view Device;
@@ -79,6 +75,10 @@ std::string WithPortLine(std::string_view text, int number, const std::string& p
 }
 
 }  // namespace
+
+std::string PortsPath(const std::string& program_folder) {
+  return program_folder + "\\PORTS.TXT";
+}
 
 std::string DeviceOfPort(const Files& files, const std::string& program_folder, int number) {
   std::string device;

@@ -14,6 +14,9 @@
 
 namespace zepril {
 
+// Where it lies.
+std::string PortsPath(const std::string& program_folder);
+
 // Lines behind this many, and longer ones, are not read.
 inline constexpr int kMostPortLines = 1000;
 inline constexpr std::size_t kLongestPortLine = 1000;  // characters
@@ -21,8 +24,9 @@ inline constexpr std::size_t kLongestPortLine = 1000;  // characters
 // The device chosen for port `number`, as it stands in the file; empty when there is none.
 std::string DeviceOfPort(const Files& files, const std::string& program_folder, int number);
 
-// Makes `device` the one of port `number`, 1 to kHighestPortNumber: in its line, or in a new one. False, with the
-// file as it was, when it can't be written or the device's name would not be read again.
+// Makes `device` the one of port `number`, 1 to kHighestPortNumber: in its line, or in a new one.
+// False, with the file as it was, when it can't be written or the device's name would not be read
+// again.
 bool ChooseDeviceOfPort(Files& files, const std::string& program_folder, int number,
                         std::string_view device);
 

@@ -11,10 +11,6 @@ namespace {
 constexpr int kFarthest = 100000;
 constexpr const char* kLineEnd = "\r\n";
 
-std::string WindowPath(const std::string& program_folder) {
-  return program_folder + "\\WINDOW.TXT";
-}
-
 struct WindowLine {
   std::string Key;  // capitals; empty for a line that is none of ours
   std::string Value;
@@ -57,6 +53,10 @@ std::optional<int> PlainWhole(std::string_view text, int lowest, int highest) {
 }
 
 }  // namespace
+
+std::string WindowPath(const std::string& program_folder) {
+  return program_folder + "\\WINDOW.TXT";
+}
 
 WindowValues ReadWindowFile(const Files& files, const std::string& program_folder) {
   WindowValues values;

@@ -18,6 +18,9 @@
 
 namespace zepril {
 
+// Where it lies.
+std::string WindowPath(const std::string& program_folder);
+
 inline constexpr int kMostWindowLines = 200;
 inline constexpr std::size_t kLongestWindowLine = 200;  // characters
 

@@ -4,9 +4,11 @@
 
 #include <cstdlib>
 
+#include "config/config_file.h"
 #include "config/ports_file.h"
 #include "config/window_file.h"
 #include "desktop/window_place.h"
+#include "make_sample_maps/sample_maps.h"
 #include "map/symbol_sheets.h"
 #include "platform/qt/serial_devices.h"
 #include "platform/qt/text.h"
@@ -18,12 +20,13 @@ namespace {
 constexpr int kFirstMapWidth = 880;
 constexpr int kFirstMapHeight = 700;
 constexpr int kColourDepthBits = 32;
+constexpr const char* kBoxTitle = "ZEP RIL";
 
 }  // namespace
 
 DesktopProgram::DesktopProgram(const ProgramPlaces& places)
     : places_(places),
-      files_(DefaultDriveFolder()),
+      disk_(DefaultDriveFolder()),
       dialogs_(loop_),
       map_surface_(kFirstMapWidth, kFirstMapHeight, fonts_),
       base_surface_(kFirstMapWidth, kFirstMapHeight, fonts_),
@@ -58,14 +61,62 @@ void DesktopProgram::CloseAsOperator() {
   }
 }
 
-void DesktopProgram::ShowStartWindow() {
+// One program a folder: two would overwrite each other's logs, histories and settings.
+bool DesktopProgram::TakeFolder() {
+  constexpr int kFrontPollMs = 500;
+  disk_.MakeFolder(places_.ProgramFolder);
+  const std::string path = disk_.NativePath(places_.ProgramFolder + "\\ZEPRIL.RUN");
+  if (lock_.Take(path) != RunLock::Outcome::TakenByOther) {
+    QObject::connect(&front_timer_, &QTimer::timeout, [this] {
+      if (lock_.FrontWanted()) ComeToFront();
+    });
+    front_timer_.start(kFrontPollMs);
+    return true;
+  }
+  const std::string text = "ZEPRIL RUNS IN  " + places_.ProgramFolder +
+                           "  ALREADY.\n\nYes brings it to the front, No ends this start. Nothing "
+                           "has been changed.";
+  const DialogAnswer answer =
+      dialogs_.Ask(kBoxTitle, text, DialogButtons::YesNo, DialogAnswer::Yes);
+  if (answer == DialogAnswer::Yes) RunLock::AskForFront(path);
+  return false;
+}
+
+void DesktopProgram::ComeToFront() {
+  QWidget* window = window_ ? static_cast<QWidget*>(window_.get()) : start_window_.get();
+  if (window == nullptr) return;
+  window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+  window->raise();
+  window->activateWindow();
+}
+
+// Settings that can't be read are never written over.
+bool DesktopProgram::ReadableSettings() {
+  const auto trouble = TroubleWithConfig(disk_, places_.ProgramFolder);
+  if (!trouble) return true;
+  const std::string text = "CAN'T READ  " + ConfigPath(places_.ProgramFolder) + "\n\n" + *trouble +
+                           "\n\nGo on with the default settings? The file stays as it is, and no "
+                           "setting of this run is kept.";
+  if (dialogs_.Ask(kBoxTitle, text, DialogButtons::YesNo, DialogAnswer::No) != DialogAnswer::Yes) {
+    return false;
+  }
+  held_settings_ = std::make_unique<SettingsInMemory>(disk_, places_.ProgramFolder);
+  files_ = held_settings_.get();
+  return true;
+}
+
+bool DesktopProgram::ShowStartWindow() {
+  if (!TakeFolder() || !ReadableSettings()) {
+    TellEnded();
+    return false;
+  }
   const char* temp = std::getenv("TEMP");
-  FillProgramFolder(files_, places_);
+  FillProgramFolder(disk_, places_);
   modem_.DeviceOfNumber = [this](int number) {
-    return DeviceOfPort(files_, places_.ProgramFolder, number);
+    return DeviceOfPort(*files_, places_.ProgramFolder, number);
   };
   panel_ = std::make_unique<StartPanel>(
-      StartPanelPlatform{files_, loop_, dialogs_, modem_, PresentSerialDevices},
+      StartPanelPlatform{*files_, loop_, dialogs_, modem_, PresentSerialDevices},
       places_.ProgramFolder, temp != nullptr ? temp : "");
   start_window_ = std::make_unique<StartWindow>(*panel_, loop_, fonts_);
   dialogs_.SetOwner(start_window_.get());
@@ -80,18 +131,21 @@ void DesktopProgram::ShowStartWindow() {
   };
   panel_->Started = [this] { start_asked_ = true; };
   start_window_->Closed = [this] { CloseAsOperator(); };
-  PlaceWindow(*start_window_, ReadWindowFile(files_, places_.ProgramFolder), "START");
+  PlaceWindow(*start_window_, ReadWindowFile(*files_, places_.ProgramFolder), "START");
   start_window_->show();
   DrawMissingSampleMaps();
+  return true;
 }
 
-// A first run without any map gets the sample library.
+// A first run without any map gets the sample library; one that was ended early goes on.
 void DesktopProgram::DrawMissingSampleMaps() {
   const std::string target = places_.ProgramFolder + "\\U33";
-  if (!files_.List(target, "M*.*").empty() || panel_->Controls.Text1.Text.empty()) return;
-  files_.MakeFolder(target);
+  const bool begun = !files_->List(target, std::string(kFolderBeingDrawn) + "*").empty();
+  if (!begun && !files_->List(target, "M*.*").empty()) return;
+  if (panel_->Controls.Text1.Text.empty()) return;
+  files_->MakeFolder(target);
   worker_ =
-      std::make_unique<SampleMapWorker>(places_.DataFolder + "/maps", files_.NativePath(target));
+      std::make_unique<SampleMapWorker>(places_.DataFolder + "/maps", files_->NativePath(target));
   worker_->Progress = [this](int done, int total) {
     start_window_->ShowMapProgress(done, total);
     panel_->Controls.Command1.Enabled = done >= total;
@@ -107,7 +161,7 @@ void DesktopProgram::OpenMainWindow() {
   start_asked_ = false;
   loop_.StepEnded = nullptr;
   program_ = std::make_unique<StationProgram>(
-      StationPlatform{files_, loop_, dialogs_, desktop_, socket_, modem_, map_surface_,
+      StationPlatform{*files_, loop_, dialogs_, desktop_, socket_, modem_, map_surface_,
                       base_surface_, sun_surface_, tx_symbol_surface_, object_symbol_surface_});
   if (!panel_->ModemIsSetUp()) program_->ModemWasNotSetUp();
   loop_.Drive(program_->Timer1(), false);
@@ -124,13 +178,13 @@ void DesktopProgram::OpenMainWindow() {
   window_ = std::make_unique<MainWindow>(*program_, loop_, fonts_,
                                          WindowSurfaces{map_surface_, base_surface_, sun_surface_,
                                                         tx_symbol_surface_, object_symbol_surface_},
-                                         files_);
+                                         *files_);
   dialogs_.SetOwner(window_.get());
   desktop_.SetWindows(window_.get(), window_->Map());
   window_->Closed = [this] { End(true); };
   loop_.ControlsOut = [this] { window_->ControlsOut(); };
   loop_.StepEnded = [this] { window_->CloseWhenAsked(); };
-  window_->TakeKept(ReadWindowFile(files_, places_.ProgramFolder));
+  window_->TakeKept(ReadWindowFile(*files_, places_.ProgramFolder));
   window_->show();
   KeepPlaces();
   start_window_->Closed = nullptr;
@@ -166,7 +220,7 @@ void DesktopProgram::KeepPlaces() {
   WindowValues values;
   if (start_window_ && start_window_->isVisible()) values = PlaceOf(*start_window_, "START");
   if (window_ && window_->isVisible()) values.merge(window_->Kept());
-  if (!values.empty()) WriteWindowFile(files_, places_.ProgramFolder, values);
+  if (!values.empty()) WriteWindowFile(*files_, places_.ProgramFolder, values);
 }
 
 void DesktopProgram::TellEnded() {

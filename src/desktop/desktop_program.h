@@ -1,10 +1,13 @@
 // One run of the program on the desktop: the start window, then the main window, to the end.
 #pragma once
 
+#include <QTimer>
+
 #include <functional>
 #include <memory>
 
 #include "desktop/key_repeats.h"
+#include "config/settings_in_memory.h"
 #include "desktop/main_window.h"
 #include "desktop/qt_desktop_actions.h"
 #include "desktop/qt_dialogs.h"
@@ -12,6 +15,7 @@
 #include "desktop/start_window.h"
 #include "platform/native/native_files.h"
 #include "platform/native/program_folder.h"
+#include "platform/native/run_lock.h"
 #include "platform/qt/map_fonts.h"
 #include "platform/qt/qt_loop.h"
 #include "platform/qt/qt_serial_port.h"
@@ -31,7 +35,9 @@ class DesktopProgram {
 
   // False when the program's fonts are missing: a fixed font of the system stands in.
   bool LoadFonts();
-  void ShowStartWindow();
+  // False when the run ends before it has begun: another program runs in the folder, or the
+  // settings can't be read and the operator does not want the defaults. Nothing has changed then.
+  bool ShowStartWindow();
   // The session ends: as if the operator closed the window that is open.
   void CloseAsOperator();
   // The run is over and everything is stored. Called once.
@@ -44,6 +50,9 @@ class DesktopProgram {
   MainWindow* Window() { return window_.get(); }
 
  private:
+  bool TakeFolder();
+  bool ReadableSettings();
+  void ComeToFront();
   void DrawMissingSampleMaps();
   void OpenMainWindow();
   void ShowWhatTheTerminalReceives();
@@ -52,7 +61,11 @@ class DesktopProgram {
   void KeepPlaces();
 
   ProgramPlaces places_;
-  NativeFiles files_;
+  NativeFiles disk_;
+  std::unique_ptr<SettingsInMemory> held_settings_;  // of a run on defaults that writes none
+  Files* files_ = &disk_;
+  RunLock lock_;
+  QTimer front_timer_;
   QtLoop loop_;
   QtDialogs dialogs_;
   QtDesktopActions desktop_;

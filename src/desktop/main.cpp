@@ -48,6 +48,6 @@ int main(int argc, char** argv) {
   }
   desktop.Ended = [] { QCoreApplication::quit(); };
   const zepril::SessionEnd session_end([&desktop] { desktop.CloseAsOperator(); });
-  desktop.ShowStartWindow();
+  if (!desktop.ShowStartWindow()) return 0;
   return QApplication::exec();
 }

@@ -14,6 +14,10 @@
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <set>
+
+#include "make_sample_maps/sample_maps.h"
 #include "tests/desktop/desktop_support.h"
 #include "tests/desktop/loopback_engine.h"
 #include "tests/doubles/temp_folder.h"
@@ -51,15 +55,15 @@ class DesktopProgramTest : public ::testing::Test {
   StartWindow& Start() { return *program->Starting(); }
   QPushButton* StartButton() { return Find<QPushButton>(Start(), "Command1"); }
   // Presses the button of the next message box, and keeps its text.
-  void AnswerNextBox() {
+  void AnswerNextBox(QMessageBox::StandardButton button = QMessageBox::NoButton) {
     box_answer_.setInterval(5);
-    QObject::connect(&box_answer_, &QTimer::timeout, [this] {
+    QObject::connect(&box_answer_, &QTimer::timeout, [this, button] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       if (box == nullptr) return;
       box_answer_.stop();
       box_title = box->windowTitle().toStdString();
       box_text = box->text().replace(QChar(0xA0), QChar(' ')).toStdString();
-      box->defaultButton()->click();
+      (button == QMessageBox::NoButton ? box->defaultButton() : box->button(button))->click();
     });
     box_answer_.start();
   }
@@ -173,6 +177,117 @@ TEST_F(DesktopProgramTest, StartWaitsForTheSampleMapsAndShowsHowFarTheyAre) {
   // The program can be left in the middle of it.
   Start().close();
   EXPECT_EQ(ended, 1);
+}
+
+TEST_F(DesktopProgramTest, SampleMapsThatWereEndedEarlyAreGoneOnWith) {
+  std::error_code ignored;
+  std::filesystem::remove_all(files.NativePath("C:\\ZEPRIL\\U33\\M0050"), ignored);
+  WriteSettings("MODEM=4\r\n");
+  Begin();
+  auto* progress = Find<QProgressBar>(Start(), "MapProgress");
+  EXPECT_TRUE(PumpUntil([&] { return progress->value() > 1 && progress->maximum() > 1; }));
+  Start().close();
+  program.reset();
+  // No folder has its name yet, so the next start knows that they are not whole.
+  EXPECT_TRUE(files.List("C:\\ZEPRIL\\U33", "M*.*").empty());
+  const auto begun = files.List("C:\\ZEPRIL\\U33", "NEW~*");
+  ASSERT_FALSE(begun.empty());
+  Begin();
+  EXPECT_FALSE(StartButton()->isEnabled());
+  Start().close();
+}
+
+// A folder that is named already does not keep the rest from being drawn.
+TEST_F(DesktopProgramTest, SampleMapsAreGoneOnWithBesideFoldersThatAreNamed) {
+  files.MakeFolder("C:\\ZEPRIL\\U33\\NEW~M0200");
+  WriteSettings("MODEM=4\r\n");
+  Begin();
+  EXPECT_FALSE(StartButton()->isEnabled());
+  Start().close();
+}
+
+TEST(SampleMaps, TheFoldersGetTheirNamesWhenAllAreWhole) {
+  const TempFolder folder;
+  const std::string source = std::string(ZEPRIL_SOURCE_DIR) + "/data/maps";
+  const auto names = [&folder] {
+    std::set<std::string> found;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
+      found.insert(entry.path().filename().string());
+    return found;
+  };
+  const SampleMapsResult first =
+      DrawSampleMaps(source, folder.Path(), [](int done, int) { return done < 3; });
+  EXPECT_FALSE(first.complete);
+  EXPECT_EQ(names(), std::set<std::string>{"NEW~M1000"});
+  const SampleMapsResult second = DrawSampleMaps(source, folder.Path(), {});
+  EXPECT_TRUE(second.complete);
+  EXPECT_EQ(second.kept, 3);
+  EXPECT_EQ(names(), (std::set<std::string>{"M0200", "M1000", "M1000RELIEF", "M5000"}));
+  // Ended between two of the names.
+  std::filesystem::rename(folder.Sub("M5000"), folder.Sub("NEW~M5000"));
+  EXPECT_TRUE(DrawSampleMaps(source, folder.Path(), {}).complete);
+  EXPECT_EQ(names().count("M5000"), 1u);
+}
+
+// ---- One program a folder -------------------------------------------------------------------
+
+TEST_F(DesktopProgramTest, ASecondStartInTheFolderChangesNothingAndEnds) {
+  WriteSettings("MODEM=4\r\n");
+  Begin();
+  files.Write("C:\\ZEPRIL\\U33\\LOG\\_LOG_.TXT", "of the first\r\n");
+  const std::string ini = Ini();
+  DesktopProgram second({"C:\\ZEPRIL", std::string(ZEPRIL_SOURCE_DIR) + "/data"});
+  int second_ended = 0;
+  second.Ended = [&second_ended] { ++second_ended; };
+  AnswerNextBox(QMessageBox::No);
+  EXPECT_FALSE(second.ShowStartWindow());
+  EXPECT_EQ(second_ended, 1);
+  EXPECT_EQ(second.Starting(), nullptr);
+  EXPECT_NE(box_text.find("ZEPRIL RUNS IN  C:\\ZEPRIL  ALREADY."), std::string::npos) << box_text;
+  EXPECT_EQ(files.ReadAll("C:\\ZEPRIL\\U33\\LOG\\_LOG_.TXT", 100), "of the first\r\n");
+  EXPECT_EQ(Ini(), ini);
+  // The first one ends: the folder is free.
+  Start().close();
+  program.reset();
+  EXPECT_TRUE(second.ShowStartWindow());
+}
+
+TEST_F(DesktopProgramTest, ASecondStartBringsTheFirstToTheFront) {
+  WriteSettings("MODEM=4\r\n");
+  Begin();
+  Start().setWindowState(Qt::WindowMinimized);
+  DesktopProgram second({"C:\\ZEPRIL", std::string(ZEPRIL_SOURCE_DIR) + "/data"});
+  AnswerNextBox(QMessageBox::Yes);
+  EXPECT_FALSE(second.ShowStartWindow());
+  EXPECT_TRUE(PumpUntil([&] { return !Start().isMinimized(); }));
+}
+
+// ---- Settings that can't be read ------------------------------------------------------------
+
+TEST_F(DesktopProgramTest, SettingsThatCannotBeReadEndTheRunUnlessTheOperatorGoesOn) {
+  files.MakeFolder("C:\\ZEPRIL\\ZEPRIL.INI");  // no file: it can't be read
+  program = std::make_unique<DesktopProgram>(
+      ProgramPlaces{"C:\\ZEPRIL", std::string(ZEPRIL_SOURCE_DIR) + "/data"});
+  program->Ended = [this] { ++ended; };
+  AnswerNextBox(QMessageBox::No);
+  EXPECT_FALSE(program->ShowStartWindow());
+  EXPECT_EQ(ended, 1);
+  EXPECT_NE(box_text.find("CAN'T READ  C:\\ZEPRIL\\ZEPRIL.INI"), std::string::npos) << box_text;
+  EXPECT_NE(box_text.find("it is no ordinary file"), std::string::npos) << box_text;
+}
+
+TEST_F(DesktopProgramTest, ARunOnDefaultsWritesNoSettings) {
+  files.MakeFolder("C:\\ZEPRIL\\ZEPRIL.INI");
+  AnswerNextBox(QMessageBox::Yes);
+  Begin();
+  auto* call = Find<QLineEdit>(Start(), "Text8");
+  EXPECT_EQ(call->text(), QString());
+  QTest::keyClicks(call, QStringLiteral("qx2cd"));
+  program->Loop().RunStep([] {});
+  EXPECT_TRUE(files.List("C:\\ZEPRIL\\ZEPRIL.INI", "*.*").empty());
+  QTest::keyClick(&Start(), Qt::Key_Escape);
+  EXPECT_EQ(ended, 1);
+  EXPECT_TRUE(files.Stamp("C:\\ZEPRIL\\ZEPRIL.INI")->IsFolder);
 }
 
 TEST_F(DesktopProgramTest, StartComesAliveWhenTheMapsAreDrawn) {

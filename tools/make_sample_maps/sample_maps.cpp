@@ -28,6 +28,10 @@ constexpr ScaleFolder kFolders[] = {
     {"M1000RELIEF", 1000, 4000, 7000, -2000, 2000, 3, 3, {true, 0, 0, true}},
 };
 
+std::filesystem::path BeingDrawn(const std::filesystem::path& target, const ScaleFolder& folder) {
+  return target / (std::string(kFolderBeingDrawn) + folder.name);
+}
+
 class Drawing {
  public:
   Drawing(const MapData& data, const SampleMapsProgress& progress)
@@ -88,10 +92,21 @@ SampleMapsResult DrawSampleMaps(const std::filesystem::path& source,
   const auto data = ReadMapData(source, result.fault);
   if (!data) return result;
   Drawing drawing(*data, progress);
+  std::error_code error;
   for (const ScaleFolder& folder : kFolders) {
-    if (!drawing.DrawFolder(folder, target / folder.name)) return drawing.Result();
+    const bool stands = std::filesystem::exists(target / folder.name, error);
+    const std::filesystem::path path = stands ? target / folder.name : BeingDrawn(target, folder);
+    if (!drawing.DrawFolder(folder, path)) return drawing.Result();
   }
   result = drawing.Result();
+  for (const ScaleFolder& folder : kFolders) {
+    if (!std::filesystem::exists(BeingDrawn(target, folder), error)) continue;
+    std::filesystem::rename(BeingDrawn(target, folder), target / folder.name, error);
+    if (error) {
+      result.fault = (target / folder.name).string();
+      return result;
+    }
+  }
   result.complete = true;
   return result;
 } catch (const std::exception& error) {  // out of memory, or a path the system refuses

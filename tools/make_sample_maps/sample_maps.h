@@ -17,10 +17,14 @@ struct SampleMapsResult {
   std::string fault;  // what could not be read or written; empty otherwise
 };
 
+// What a scale folder's name begins with until the whole library is drawn.
+inline constexpr const char* kFolderBeingDrawn = "NEW~";
+
 // Draws the tiles of zone 33 into scale folders under `target` (which is made where missing), from
-// europe.txt, lakes.txt, towns.txt, waters.txt and letters.txt in `source`. Tiles that exist with
-// the right size are left alone, so work that was ended early goes on where it stopped. A tile
-// appears under its name only when it is whole. Takes a few seconds; throws nothing.
+// europe.txt, lakes.txt, towns.txt, waters.txt and letters.txt in `source`. A folder that is not
+// there yet gets its name only when all are whole. Tiles that exist with the right size are left
+// alone, so work that was ended early goes on where it stopped. A tile appears under its name only
+// when it is whole. Takes a few seconds; throws nothing.
 SampleMapsResult DrawSampleMaps(const std::filesystem::path& source,
                                 const std::filesystem::path& target,
                                 const SampleMapsProgress& progress);
