@@ -332,6 +332,7 @@ void SetInitialControls(MainWindowControls& c) {
 void SetMainWindowLabels(MainWindowControls& c, int language) {
   c.Qth.Frame2.Caption = "USER QTH SETUP: CENTER THE MAP TO YOUR QTH!";
   c.Qth.Command22.Caption = "CANCEL";
+  c.Qth.QthRests.Caption = kReceptionRests;
   c.Places.Label14.Caption = "DELETE POINT: CLEAR TEXT  /  CREATE POINT: TYPE TEXT";
   c.Places.Command64.Caption = " POS->CENTER";
   c.Places.Command67.Caption = "OPEN LINK";

@@ -144,7 +144,9 @@ void PanelsOverMap::MakeQthSetup() {
   parts_.Binding.Bind(note, q.QthNote);
   grid->addWidget(parts_.BoundButton("QthOk", q.QthOk), 4, 0);
   grid->addWidget(parts_.BoundButton("Command22", q.Command22), 4, 1);
-  grid->addWidget(RestsLabel(), 5, 0, 1, 2);
+  QLabel* rests = RestsLabel();
+  grid->addWidget(rests, 5, 0, 1, 2);
+  parts_.Binding.Bind(rests, q.QthRests);
   parts_.Binding.Bind(qth_panel_, q.Frame2);
 }
 

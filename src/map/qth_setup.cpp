@@ -43,6 +43,7 @@ QthSetup::QthSetup(MapViewState& view, QthSetupControls& controls, MapControls& 
       if (key.Code == kEnterKey && Typed()) JumpToTyped();
     };
   }
+  controls_.QthRests.Visible = false;
   Tell({});
 }
 
@@ -60,6 +61,7 @@ void QthSetup::Open() {
 void QthSetup::Begin() {
   if (!controls_.Frame2.Visible || begun_) return;
   begun_ = true;
+  controls_.QthRests.Visible = true;
   tools_.Timer1.Stop();
   tools_.Timer2.Stop();
 }
@@ -117,6 +119,7 @@ void QthSetup::Cancel() {
 void QthSetup::Close() {
   controls_.Frame2.Visible = false;
   begun_ = false;
+  controls_.QthRests.Visible = false;
   // What was typed and not entered is not there again at the next opening.
   controls_.TextQthNorth.Text = shown_north_;
   controls_.TextQthEast.Text = shown_east_;

@@ -63,7 +63,7 @@ TEST_F(TransmitGroupTest, EveryPanelThatHoldsTheCycleSaysSo) {
   OpenTxSetup();
   OpenObjectSetup();
   OpenTerminal();
-  loop.RunStep([this] { Controls().Qth.Frame2.Visible = true; });
+  loop.RunStep([this] { Controls().Map.Option1.RightClick(); });
   Pump();
   for (const char* panel : {"Frame4", "Frame11", "Frame2", "Frame19"}) {
     auto* line = Find<QLabel>(*Find<>(*window, panel), "ReceptionRests");

@@ -19,14 +19,15 @@ expect() { # expect WHAT COMMAND...
     bad=1
   }
 }
-header() { readelf -hW "$program" | grep -q 'Type:.*DYN'; }
-dynamic() { readelf -dW "$program" | grep -qE '\(FLAGS_1\).*NOW|BIND_NOW'; }
-relro() { readelf -lW "$program" | grep -q GNU_RELRO; }
-stack() { readelf --dyn-syms -W "$program" | grep -q __stack_chk_fail; }
-fortified() { readelf --dyn-syms -W "$program" | grep -qE '__[a-z]+_chk'; }
-jumps() { readelf -nW "$program" 2>/dev/null | grep -q 'IBT'; }
+header() { readelf -hW "$program" | grep >/dev/null 'Type:.*DYN'; }
+dynamic() { readelf -dW "$program" | grep -E >/dev/null '\(FLAGS_1\).*NOW|BIND_NOW'; }
+relro() { readelf -lW "$program" | grep >/dev/null GNU_RELRO; }
+stack() { readelf --dyn-syms -W "$program" | grep >/dev/null __stack_chk_fail; }
+fortified() { readelf --dyn-syms -W "$program" | grep -E >/dev/null '__[a-z]+_chk'; }
+# The mark of the whole program would need every object of the system to have it too.
+jumps() { objdump -d --no-show-raw-insn "$program" | grep -c endbr64 | grep -qE '^[0-9]{4,}$'; }
 no_path() { ! LC_ALL=C grep -aqF "$sources" "$program"; }
-no_rpath() { ! readelf -dW "$program" | grep -qE 'RPATH|RUNPATH'; }
+no_rpath() { ! readelf -dW "$program" | grep -E >/dev/null 'RPATH|RUNPATH'; }
 
 expect "is not position independent" header
 expect "binds its names late" dynamic

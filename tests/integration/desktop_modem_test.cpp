@@ -102,6 +102,7 @@ TEST_F(DesktopModemTest, AnScsTncFromStartToTheEnd) {
   auto* const tx = whole.Window()->findChild<QAbstractButton*>(QStringLiteral("Check6"));
   ASSERT_NE(tx, nullptr);
   EXPECT_EQ(tx->text().toStdString(), "TX !");
+  QCoreApplication::processEvents();  // a press right behind START's waits counts as made in them
   QTest::mouseClick(tx, Qt::LeftButton);
   EXPECT_TRUE(Comes([this] {
     return IsReported("SENT scs-tnc R300 QX7KB-10>ZEPR,WIDE1-1:=4830.15N/00805.20E> Test");
@@ -120,6 +121,7 @@ TEST_F(DesktopModemTest, AnScsTncFromStartToTheEnd) {
   // seconds later, stand still here.
   auto* const opens = whole.Window()->findChild<QAbstractButton*>(QStringLiteral("Command65"));
   auto* const printed = whole.Window()->findChild<QPlainTextEdit*>(QStringLiteral("Text20"));
+  QCoreApplication::processEvents();
   QTest::mouseClick(opens, Qt::LeftButton);
   ASSERT_TRUE(station.Controls().Terminal.Frame19.Visible);
   QCoreApplication::processEvents();  // the map has its new size

@@ -158,7 +158,9 @@ TEST_F(QthSetupTest, TheHelpOfAFirstStartHoldsNothingUntilTheOperatorBegins) {
   station->Hear("QX2CD", "=5231.00N/01324.00E>hello");
   station->Ticks(1);
   EXPECT_EQ(station->State().Stores.MoniAllRecords.Count(), 1);
+  EXPECT_FALSE(Qth().QthRests.Visible);
   station->Controls().Map.Picture1.MouseDown({1, 0, 500.0, 299.0});
+  EXPECT_TRUE(Qth().QthRests.Visible);
   const double east = View().CentreEastKm;
   Report();
   EXPECT_EQ(View().CentreEastKm, east);
