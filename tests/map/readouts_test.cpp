@@ -66,6 +66,20 @@ TEST(CentreReadout, ANegativeEastKeepsItsSignInTheFirstColumn) {
   EXPECT_EQ(world.Centre(), "UTMcen 6600.000 / 33! 15-  12.345");
 }
 
+TEST(ZoneOfMap, ItsNameTellsTheMeridian) {
+  MapViewState view;
+  IdentityState identity;
+  const auto meridian = [&](const char* name) {
+    identity.MapZoneName = name;
+    TakeZone(identity, view);
+    return view.MapCentralMeridian;
+  };
+  EXPECT_EQ(meridian("U60"), 177.0);
+  EXPECT_EQ(meridian("U01"), -177.0);
+  EXPECT_EQ(meridian("U33"), 15.0);
+  EXPECT_EQ(meridian("RT90"), 15.0);  // no zone: as it was
+}
+
 TEST(CentreReadout, AMeridianOfFourCharactersLosesItsSign) {
   ReadoutWorld world;
   world.State.Identity.MapZoneName = "U01";

@@ -2,9 +2,11 @@
 
 #include <QCoreApplication>
 #include <QPointer>
+#include <QString>
 #include <QTcpServer>
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <memory>
 #include <string>
 
@@ -41,6 +43,64 @@ class QtSocketTest : public ::testing::Test {
   std::string got;
   std::unique_ptr<QtSocket> socket;
 };
+
+// The row of the connection to `port` in the system's table: state, timer, queues.
+std::string RowOfConnectionTo(int port) {
+  std::ifstream table("/proc/net/tcp");
+  const std::string wanted =
+      " 0100007F:" + QString::number(port, 16).toUpper().rightJustified(4, '0').toStdString() +
+      " 01 ";
+  for (std::string line; std::getline(table, line);) {
+    // Local and remote address stand in this order.
+    const std::size_t at = line.find(wanted);
+    if (at != std::string::npos && at > 10) return line.substr(at + wanted.size());
+  }
+  return {};
+}
+
+TEST_F(QtSocketTest, ASilentPeerIsProbed) {
+  Connect();
+  // Queues, then "02": the timer of keep-alive runs, and in how many hundredths of a second.
+  const std::string row = RowOfConnectionTo(server.serverPort());
+  ASSERT_GE(row.size(), 29U) << row;
+  EXPECT_EQ(row.substr(18, 3), "02:") << row;
+  const int hundredths = QString::fromStdString(row.substr(21, 8)).toInt(nullptr, 16);
+  EXPECT_LE(hundredths, 100 * QtSocket::kAliveIdleSeconds);
+  EXPECT_GT(hundredths, 100 * (QtSocket::kAliveIdleSeconds - 30));
+}
+
+TEST_F(QtSocketTest, WhatIsDroppedDoesNotLeave) {
+  Connect();
+  // More than the system takes for a peer that does not read.
+  peer->setReadBufferSize(1);
+  std::string much(1 << 20, 'x');
+  std::size_t handed_over = 0;
+  for (int block = 0; block < 16 && socket->Send(much); ++block) {
+    handed_over += much.size();
+    QCoreApplication::processEvents();
+  }
+  EXPECT_GT(socket->UnsentBytes(), 0U);
+  socket->Drop();
+  EXPECT_EQ(socket->State(), SocketState::Closed);
+  EXPECT_EQ(socket->UnsentBytes(), 0U);
+  // A hard end: the peer gets what its system had taken already, never the rest.
+  qint64 got_bytes = 0;
+  peer->setReadBufferSize(0);
+  ASSERT_TRUE(PumpUntil([&] {
+    got_bytes += peer->readAll().size();
+    return peer->state() != QAbstractSocket::ConnectedState;
+  }));
+  got_bytes += peer->readAll().size();
+  EXPECT_LT(got_bytes, static_cast<qint64>(handed_over));
+}
+
+TEST_F(QtSocketTest, TellsWhenTheConnectionStands) {
+  int connected = 0;
+  socket->Connected = [&] { ++connected; };
+  Connect();
+  EXPECT_EQ(connected, 1);
+  EXPECT_EQ(socket->UnsentBytes(), 0U);
+}
 
 TEST_F(QtSocketTest, BytesArriveWholeAndInOrder) {
   Connect();

@@ -54,6 +54,23 @@ TEST(RenderCommand, DrawsTheStationsOfARecordFile) {
   EXPECT_EQ(map.pixel(320 + 200 + 8, 199 + 5), 0xFF9800B8u);
 }
 
+TEST(RenderCommand, TakesTheZoneOfTheSettings) {
+  const auto painted = [](const std::string& zone) {
+    const TempFolder folder;
+    NativeFiles files(folder.Path());
+    files.Write(R"(C:\ZEPRIL.INI)", "MSYS=" + zone + "\r\n");
+    const std::string picture = folder.Sub("map.png");
+    EXPECT_EQ(Render({"--folder", folder.Path(), "-o", picture, "--centre", "5825,425", "--tile",
+                      "50", "--size", "640x400", "--fonts", ZEPRIL_SOURCE_DIR "/data/fonts",
+                      "--level", "0", "--grid", "geo"}),
+              0);
+    return QImage(QString::fromStdString(picture));
+  };
+  // The labels of the degrees tell it.
+  EXPECT_NE(painted("U33"), painted("U60"));
+  EXPECT_EQ(painted("U33"), painted("U33"));
+}
+
 TEST(RenderCommand, RefusesWhatItCannotUse) {
   const TempFolder folder;
   EXPECT_EQ(Render({}), 2);
