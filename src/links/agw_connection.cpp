@@ -21,7 +21,15 @@ AgwConnection::AgwConnection(TcpSocket& socket, Clock& clock, Timer& look_timer)
       stream_([this](std::string_view frame) { FrameArrived(frame); }),
       pulse_(socket, clock) {}
 
+AgwConnection::~AgwConnection() {
+  if (!owns_events_) return;
+  socket_.Connected = nullptr;
+  socket_.DataArrived = nullptr;
+  look_timer_.Elapsed = nullptr;
+}
+
 void AgwConnection::Connect(const std::string& host, int port) {
+  owns_events_ = true;
   socket_.Connected = [this] { Connected(); };
   socket_.DataArrived = [this](std::string_view bytes) { Arrived(bytes); };
   look_timer_.Elapsed = [this] { Look(); };
@@ -62,7 +70,11 @@ void AgwConnection::Connected() {
 
 void AgwConnection::Arrived(std::string_view bytes) {
   fed_at_ = clock_.MonotonicSeconds();
+  const std::size_t waiting = stream_.PendingBytes() + bytes.size();
+  const bool began_before = stream_.PendingBytes() > 0;
   stream_.Feed(bytes);
+  // Another frame has begun.
+  if (!began_before || stream_.PendingBytes() < waiting) begun_at_ = fed_at_;
 }
 
 void AgwConnection::FrameArrived(std::string_view frame) {
@@ -77,7 +89,8 @@ void AgwConnection::FrameArrived(std::string_view frame) {
 void AgwConnection::Look() {
   if (!watched_) return;
   const double now = clock_.MonotonicSeconds();
-  if (stream_.PendingBytes() > 0 && now - fed_at_ >= kHalfFrameSeconds) stream_.GiveUp();
+  const bool stands = now - fed_at_ >= kHalfFrameSeconds || now - begun_at_ >= kLongestFrameSeconds;
+  if (stream_.PendingBytes() > 0 && stands) stream_.GiveUp();
   if (socket_.State() == SocketState::Connected) {
     if (pulse_.LooksLost()) Lose();
     return;

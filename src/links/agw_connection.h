@@ -3,9 +3,9 @@
 //
 // Watched means: a link that has said nothing for five minutes is asked, one without an answer, or
 // whose bytes do not leave, is dropped with all that waits in it (`links/agw_pulse`), and half a
-// frame that is not continued for five seconds is given up. A lost link is tried again every ten
-// seconds, without boxes; it greets the engine as soon as the connection stands, and counts as up
-// with the engine's first word.
+// frame that is not continued for five seconds, or not whole in ten, is given up. A lost link is
+// tried again every ten seconds, without boxes; it greets the engine as soon as the connection
+// stands, and counts as up with the engine's first word.
 #pragma once
 
 #include <functional>
@@ -25,11 +25,14 @@ inline constexpr int kReopenMilliseconds = 10000;
 
 class AgwConnection {
  public:
+  // Without more bytes; and with more, which on a busy channel come all the time.
   static constexpr double kHalfFrameSeconds = 5.0;
+  static constexpr double kLongestFrameSeconds = 10.0;
 
   // Takes the events of `socket` and `look_timer` from `Connect` on: two of these may share them as
   // long as one is open at a time.
   AgwConnection(TcpSocket& socket, Clock& clock, Timer& look_timer);
+  ~AgwConnection();
   AgwConnection(const AgwConnection&) = delete;
   AgwConnection& operator=(const AgwConnection&) = delete;
 
@@ -71,10 +74,12 @@ class AgwConnection {
   AgwPulse pulse_;
   std::string host_;
   int port_ = 0;
+  bool owns_events_ = false;
   bool watched_ = false;
   bool up_ = false;
   double tried_at_ = 0.0;  // monotonic seconds
   double fed_at_ = 0.0;
+  double begun_at_ = 0.0;  // the frame that is not whole yet
 };
 
 }  // namespace zepril

@@ -22,10 +22,12 @@ bool IsMonitorText(std::string_view data) {
 }
 
 // Unnumbered information, from `begins` on: all that only ends it becomes one pair of returns.
-// Some radios send information that itself ends in a return; it is no part of what is told.
+// Some radios send information that itself ends in returns or line feeds; they are no part of what
+// is told.
 std::string WithOnePair(std::string_view data, std::size_t begins) {
   std::size_t end = data.size();
-  while (end > begins && (data[end - 1] == '\0' || data[end - 1] == '\r'))
+  const auto only_ends = [](char c) { return c == '\0' || c == '\r' || c == '\n'; };
+  while (end > begins && only_ends(data[end - 1]))
     --end;
   return std::string(data.substr(0, end)) + "\r\r";
 }

@@ -224,9 +224,24 @@ TEST_F(WatchedLink, ALongFrameThatGoesOnComingIsWaitedFor) {
   const std::string frame = MakeAgwFrame(0, 'U', "QX1AB", "", text);
   for (const char byte : frame) {
     socket.Deliver(std::string(1, byte));
-    clock.Run(3.0);
+    clock.Run(0.08);
   }
   EXPECT_EQ(radio.AgwRxBuffer, text);
+}
+
+TEST_F(WatchedLink, ALyingLengthOnABusyChannelIsGivenUpToo) {
+  const std::string lying =
+      MakeAgwFrame(0, 'U', "QX1AB", "", std::string(60000, 'x')).substr(0, 40);
+  socket.Deliver(lying);
+  const std::string good = MakeAgwFrame(0, 'U', "QX1AB", "", "1:Fm QX1AB To APRS <UI >[1]\r!x\r\r");
+  for (int frame = 0; frame < 4; ++frame) {
+    clock.Run(3.0);
+    socket.Deliver(good);
+  }
+  radio.AgwRxBuffer.clear();
+  radio.AgwFrame.clear();
+  socket.Deliver(good);
+  EXPECT_EQ(radio.AgwFrame, good);
 }
 
 TEST_F(WatchedLink, AsksNoMoreWhenItIsClosed) {

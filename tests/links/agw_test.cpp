@@ -129,6 +129,9 @@ TEST_F(AgwStreamTest, BehindTheInformationStandsExactlyOnePairOfReturns) {
       {"!x\r\r", "!x\r\r"},        // as most engines send it
       {"!x\r\r\r", "!x\r\r"},      // the information itself ends in a return
       {"!x\r\r\r\r\r", "!x\r\r"},  //
+      {"!x\r\n\r\r", "!x\r\r"},    // or in a line end
+      {"!x\r\n\r" + std::string(1, '\0'), "!x\r\r"},
+      {"!x\n\r\n\r", "!x\r\r"},
       {"!x\r" + std::string(2, '\0') + "\r", "!x\r\r"},
       {"!x\r", "!x\r\r"},            // an ending that is too short would swallow the next frame
       {"!x", "!x\r\r"},              //
