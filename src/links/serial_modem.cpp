@@ -21,9 +21,16 @@ SerialModem::SerialModem(const IdentityState& identity, RadioState& radio,
                          const TransmissionState& transmission, SerialModemTools tools)
     : identity_(identity), radio_(radio), transmission_(transmission), tools_(tools) {}
 
+SerialModem::~SerialModem() {
+  if (!opened_) return;
+  tools_.Port.DataArrived = nullptr;
+  tools_.ReopenTimer.Elapsed = nullptr;
+}
+
 // ---- Start and end ----------------------------------------------------------------------------
 
 void SerialModem::Open() {
+  opened_ = true;
   tools_.Port.DataArrived = [this] {
     radio_.LastDataSeconds = tools_.LocalClock.MonotonicSeconds();
     if (DataArrived) DataArrived();

@@ -43,6 +43,7 @@ class SerialModem {
   // Notes the time of the last data in `radio`.
   SerialModem(const IdentityState& identity, RadioState& radio,
               const TransmissionState& transmission, SerialModemTools tools);
+  ~SerialModem();
   SerialModem(const SerialModem&) = delete;
   SerialModem& operator=(const SerialModem&) = delete;
 
@@ -99,6 +100,7 @@ class SerialModem {
   RadioState& radio_;
   const TransmissionState& transmission_;
   SerialModemTools tools_;
+  bool opened_ = false;        // the port's events are taken
   bool busy_ = false;          // a conversation is under way
   bool set_up_ = true;         // the modem has heard the call under which it sends
   bool untold_ = false;        // settings confirmed in the middle of a conversation
