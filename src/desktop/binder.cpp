@@ -1,6 +1,7 @@
 #include "desktop/binder.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -12,6 +13,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStringListModel>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -26,6 +28,8 @@
 
 namespace zepril {
 namespace {
+
+constexpr int kAimMilliseconds = 1500;  // from the last move of the mouse
 
 // What was last brought out of a control; a property goes out again only when it differs.
 struct Shown {
@@ -441,6 +445,16 @@ void Binder::BindPlace(QListView* widget, ListBox& control) {
   row.List = &control;
   watched_.push_back(row);
   widget->viewport()->installEventFilter(this);
+  widget->viewport()->setMouseTracking(true);
+}
+
+// While the operator aims, the rows stay where he sees them.
+void Binder::AimAt(ListBox& list) {
+  list.Held = true;
+  const int aim = ++aims_;
+  QTimer::singleShot(kAimMilliseconds, this, [this, aim, &list] {
+    if (aim == aims_ && QApplication::mouseButtons() == Qt::NoButton) list.Held = false;
+  });
 }
 
 void Binder::Bind(FillBarWidget* widget, FillBar& control) {
@@ -454,6 +468,11 @@ void Binder::Bind(FillBarWidget* widget, FillBar& control) {
 
 void Binder::Bind(QWidget* widget, Frame& control) {
   BindCommon(widget, control, true);
+  // What is opened last lies on top.
+  outs_.push_back([widget, &control, shown = control.Visible]() mutable {
+    if (control.Visible && !shown) widget->raise();
+    shown = control.Visible;
+  });
 }
 
 void Binder::ControlsOut() {
@@ -503,8 +522,11 @@ bool Binder::Pressed(const Watched& row, const QKeyEvent& event) {
     Press(control, control.Click);
     return true;
   }
-  if (row.KeyDown) loop_.RunStep([&] { row.KeyDown(KeyPressOf(event)); });
-  return false;
+  if (!row.KeyDown) return false;
+  loop_.RunStep([&] { row.KeyDown(KeyPressOf(event)); });
+  // Enter that a field has acted on goes no further: what it closed has given the focus to the map
+  // by now, which would take it for a press of its own.
+  return EnterPresses && IsEnterKey(event) && qobject_cast<QLineEdit*>(row.Widget) != nullptr;
 }
 
 bool Binder::PressesButton(const QKeyEvent& event) const {
@@ -558,6 +580,9 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
         return true;
       case QEvent::MouseButtonPress:
         NoteHold(row, true);
+        break;
+      case QEvent::MouseMove:
+        if (row.List != nullptr) AimAt(*row.List);
         break;
       case QEvent::MouseButtonRelease:
         NoteHold(row, false);

@@ -82,6 +82,7 @@ class Binder final : public QObject {
   void TakeFocusWishes();
   bool Leave(const Watched& row, QFocusEvent& event);
   void NoteHold(const Watched& row, bool held);
+  void AimAt(ListBox& list);
   bool Released(const Watched& row, const QMouseEvent& event);
   bool Pressed(const Watched& row, const QKeyEvent& event);
   bool PressesButton(const QKeyEvent& event) const;
@@ -92,6 +93,7 @@ class Binder final : public QObject {
   std::vector<std::function<void()>> outs_;
   std::vector<Watched> watched_;
   std::vector<FocusWish> focus_wishes_;
+  int aims_ = 0;  // moves of the mouse over lists
 };
 
 }  // namespace zepril

@@ -24,7 +24,7 @@ constexpr int kQthWidth = 260;
 constexpr int kHeardWidth = 290;  // 31 columns of 8 pixels, a scroll bar and a frame
 constexpr int kHeardHeight = 420;
 constexpr int kLowestHeard = 96;
-constexpr int kPathColumn = 91;  // 1-based: from here on the record is one word
+constexpr int kPathColumn = 91;  // 1-based: from here on the record stays together
 constexpr int kNoticeWidth = 760;
 
 }  // namespace
@@ -100,17 +100,17 @@ void PanelsOverMap::MakeRecordPanel() {
   parts_.Binding.Bind(record_panel_, r.Frame1);
 }
 
-// Path, symbol and class stay on one line where the record is folded.
+// Where the record does not fit on one line, path, symbol and class go to the second one together.
 void PanelsOverMap::KeepTailTogether() {
   parts_.Binding.OnControlsOut([this] {
-    QString text = record_text_->text();
-    const QString tail = text.mid(kPathColumn - 1);
-    if (!tail.contains(QLatin1Char(' '))) return;
-    QString joined = tail;
-    while (joined.endsWith(QLatin1Char(' ')))
-      joined.chop(1);
-    record_text_->setText(text.left(kPathColumn - 1) +
-                          joined.replace(QLatin1Char(' '), QChar::Nbsp));
+    QString line = ToQt(controls_.Record.Label20.Caption);
+    line.replace(QStringLiteral("&&"), QStringLiteral("&"));
+    const bool fits = record_text_->fontMetrics().horizontalAdvance(line) <= record_text_->width();
+    const QString tail = line.mid(kPathColumn - 1);
+    const QString shown = fits || tail.trimmed().isEmpty()
+                              ? line
+                              : line.left(kPathColumn - 1) + QLatin1Char('\n') + tail;
+    if (record_text_->text() != shown) record_text_->setText(shown);
   });
 }
 

@@ -69,6 +69,19 @@ TEST_F(BinderTest, AKeyThatIsLeanedOnPressesOnce) {
   }
 }
 
+TEST_F(BinderTest, RowsStandStillWhileTheMouseAims) {
+  ListBox list;
+  list.Items = {"one", "two", "three"};
+  QStringListModel rows;
+  auto* widget = Place(new QListView);
+  binder.Bind(widget, &rows, list);
+  Show();
+  EXPECT_FALSE(list.Held);
+  QTest::mouseMove(widget->viewport(), QPoint(10, 10));
+  Pump();
+  EXPECT_TRUE(list.Held);
+}
+
 TEST_F(BinderTest, AKeyThatIsPressedAgainPressesAgain) {
   KeyRepeats repeats;
   qApp->installEventFilter(&repeats);

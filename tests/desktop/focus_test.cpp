@@ -70,6 +70,46 @@ TEST_F(FocusTest, KeysOfAPanelDoNotReachTheMapBelow) {
   }
 }
 
+// The field's own Enter closes the panel, and the map has the focus before the key is through.
+TEST_F(FocusTest, AnEnterThatClosesItsPanelStopsThere) {
+  for (TextBox* field : {&Controls().Iono.Text11, &Controls().Places.Text4}) {
+    Frame& panel =
+        field == &Controls().Iono.Text11 ? Controls().Iono.Frame18 : Controls().Places.PoiPanel;
+    panel.Visible = true;
+    const auto keep = field->KeyDown;
+    field->KeyDown = [this, &panel](KeyPress key) {
+      if (key.Code != 13) return;
+      panel.Visible = false;
+      Controls().Map.Picture1.FocusWanted = true;
+    };
+    loop.RunStep([] {});
+    int pressed = 0;
+    const auto map_keys = Controls().Map.Picture1.KeyDown;
+    Controls().Map.Picture1.KeyDown = [&](KeyPress) { ++pressed; };
+    auto* widget = Find<QLineEdit>(*window, field == &Controls().Iono.Text11 ? "Text11" : "Text4");
+    widget->setFocus();
+    QTest::keyClick(widget, Qt::Key_Return);
+    EXPECT_FALSE(panel.Visible);
+    EXPECT_EQ(pressed, 0);
+    field->KeyDown = keep;
+    Controls().Map.Picture1.KeyDown = map_keys;
+  }
+}
+
+TEST_F(FocusTest, WhatIsOpenedLastLiesOnTop) {
+  loop.RunStep([this] { Controls().Record.Frame1.Visible = true; });
+  loop.RunStep([this] { Controls().Places.PoiPanel.Visible = true; });
+  auto* record = Find<QWidget>(*window, "Frame1");
+  auto* places = Find<QWidget>(*window, "PoiPanel");
+  ASSERT_EQ(record->parentWidget(), places->parentWidget());
+  const QObjectList siblings = record->parentWidget()->children();
+  EXPECT_GT(siblings.indexOf(places), siblings.indexOf(record));
+  loop.RunStep([this] { Controls().Record.Frame1.Visible = false; });
+  loop.RunStep([this] { Controls().Record.Frame1.Visible = true; });
+  const QObjectList again = record->parentWidget()->children();
+  EXPECT_GT(again.indexOf(record), again.indexOf(places));
+}
+
 TEST_F(FocusTest, TheMenuKeyInAPanelLooksUpNothingOnTheMap) {
   int presses = 0;
   Controls().Map.Picture1.MouseDown = [&](MousePress) { ++presses; };

@@ -125,9 +125,19 @@ TEST_F(WindowsFitTest, TheRecordKeepsItsClassWithPathAndSymbol) {
       Controls().MoniAll.HeardList.Click();
     });
     Pump();
-    const QString text = Find<QLabel>(*window, "Label20")->text();
-    EXPECT_FALSE(text.mid(90).contains(QLatin1Char(' '))) << width;
+    const auto* label = Find<QLabel>(*window, "Label20");
+    const QString text = label->text();
     EXPECT_TRUE(text.startsWith(QStringLiteral("2"))) << width;
+    const QFontMetrics metrics = label->fontMetrics();
+    if (!text.contains(QLatin1Char('\n'))) {
+      EXPECT_LE(metrics.horizontalAdvance(text), label->width()) << width;
+      continue;
+    }
+    // Path, symbol and class are the second line, and whole on it.
+    const QString tail = text.section(QLatin1Char('\n'), 1);
+    EXPECT_TRUE(tail.contains(QStringLiteral("/>"))) << width;
+    EXPECT_TRUE(tail.trimmed().endsWith(QLatin1Char('0'))) << width;
+    EXPECT_LE(metrics.horizontalAdvance(tail), label->width()) << width;
   }
 }
 
