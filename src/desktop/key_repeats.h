@@ -1,8 +1,8 @@
 // Tells a key that is leaned on from one that is pressed again, and lets it press no button.
 //
-// The window system marks the repeats of a held key, but not reliably when it is read in a hurry: it
-// then looks like a key let go and pressed anew, at one and the same millisecond. Such a press is
-// handed on with its mark, so that everything behind can rely on it.
+// The window system marks the repeats of a held key, but not reliably when it is read in a hurry:
+// it then looks like a key let go and pressed anew, at one and the same millisecond. Such a press
+// is handed on with its mark, so that everything behind can rely on it.
 #pragma once
 
 #include <QObject>

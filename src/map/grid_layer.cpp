@@ -20,8 +20,8 @@ constexpr int kReachPixels = 5000;    // of the map's own grid, from the corner 
 constexpr int kGeographicSteps = 16;  // either way
 constexpr double kHighestLatitude = 80.0;
 constexpr double kMinutesShownBelow = 1000.0;  // metres a pixel
-// How far a metric grid reaches from the centre either way, in thousands of pixels; in a window that
-// is larger, to its corners.
+// How far a metric grid reaches from the centre either way, in thousands of pixels; in a window
+// that is larger, to its corners.
 constexpr double kMetricWidths = 1.0;
 constexpr double kGaussKruegerEastWidths = 3.0;
 constexpr double kMetricLimitKm = 10000.0;

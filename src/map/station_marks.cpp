@@ -37,8 +37,8 @@ void FillRings(DrawingSurface& surface, PixelPoint at, int inside, const MarkRin
                Colour colour) {
   const RadiusTable& radii = Radii();
   const auto is_ring = [&](int dx, int dy) {
-    const int radius = radii[static_cast<std::size_t>(std::abs(dy))]
-                            [static_cast<std::size_t>(std::abs(dx))];
+    const int radius =
+        radii[static_cast<std::size_t>(std::abs(dy))][static_cast<std::size_t>(std::abs(dx))];
     return radius > inside && radius <= rings.Third && rings.At(radius) == colour;
   };
   for (int dy = -rings.Third; dy <= rings.Third; ++dy) {

@@ -126,8 +126,9 @@ struct DecodeStation::Station {
                 Actions, Controls.Status.FileNotice),
         Browser(Stores, Map, Controls.Record, Controls.Map, History, Boxes, Actions),
         Pass({Identity, Reception, Stores, Map, Alarms, Settings},
-             {Link, History, Browser, Distance, Actions, Actions, Actions, Controls.Status.FileNotice}, Symbols, TheClock, Logs,
-             Timer1, nullptr) {
+             {Link, History, Browser, Distance, Actions, Actions, Actions,
+              Controls.Status.FileNotice},
+             Symbols, TheClock, Logs, Timer1, nullptr) {
     constexpr int kTickMilliseconds = 6000;
     Timer1.Arm(kTickMilliseconds);
     Identity.MyCallFull = settings.MyCallFull;

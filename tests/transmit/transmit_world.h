@@ -83,7 +83,8 @@ struct TransmitWorld {
   SymbolSheets Sheets{Disk, ProgramFolder};
   RecorderSurface Cell{kSymbolCellPixels, kSymbolCellPixels};
   RecordedProgress LongWork;
-  SerialModem Modem{State.Identity, State.Radio, State.Transmission, {Port, Clock, Reopen, LongWork}};
+  SerialModem Modem{
+      State.Identity, State.Radio, State.Transmission, {Port, Clock, Reopen, LongWork}};
   AgwLink Link{State.Radio, State.Identity, State.Transmission, Socket, Clock, Boxes,
                Actions,     Reopen};
   FrameSender Sender{State.Radio, State.Transmission, {Engine, Link, Port, Clock}};
