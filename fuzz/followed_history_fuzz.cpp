@@ -36,7 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   identity.MapSystemFolder = "M";
   zepril::DistanceAlarm alarm(alarms, identity, followed, map, controls.Status, controls.Window);
   zepril::FollowedHistory history(identity, stores, followed, map, gps, controls.Moni1,
-                                  controls.Map, alarm, disk, settings);
+                                  controls.Map, alarm, disk, settings, controls.Status.FileNotice);
 
   // Loading, and a second start on what the first one left.
   const std::string path = "M\\LOG\\QX7KB.TXT";
