@@ -47,7 +47,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::vector<zepril::StationRecord> readable = loaded;
   zepril::KeepReadable(readable, 9998);
   history.LoadAtStart();
-  if (readable == loaded && stores.Moni1Records.All() != loaded) std::abort();
+  // A record whose line was cut too short by the trimming may leave a gap behind it.
+  std::vector<zepril::StationRecord> expected = loaded;
+  zepril::CutAtGap(expected, 30);
+  if (readable == loaded && stores.Moni1Records.All() != expected) std::abort();
 
   // Written and read back, every record that makes a valid line is there again.
   stores.Moni1Records.Assign(loaded);
