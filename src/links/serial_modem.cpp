@@ -12,6 +12,7 @@ namespace {
 constexpr const char* kTakesNothing = "The modem's line takes no bytes.";
 constexpr const char* kNotReached = "START has not reached the modem.";
 constexpr const char* kLostItsPower = "The modem has lost its power.";
+constexpr const char* kDoesNotAnswer = "The modem does not answer.";
 constexpr int kLookAgainMilliseconds = 1000;
 constexpr const char* kSetUp = "MODEM SET-UP";
 
@@ -31,6 +32,7 @@ SerialModem::~SerialModem() {
 
 void SerialModem::Open() {
   opened_ = true;
+  asked_at_ = tools_.LocalClock.MonotonicSeconds();
   tools_.Port.DataArrived = [this] {
     radio_.LastDataSeconds = tools_.LocalClock.MonotonicSeconds();
     if (DataArrived) DataArrived();
@@ -65,6 +67,7 @@ void SerialModem::Leave() {
 void SerialModem::Program(Progress& progress) {
   // A conversation that is under way is not broken into; what it leaves untold follows it.
   untold_ = true;
+  changed_ = changed_ || !tools_.Port.IsOpen();
   while (!busy_ && untold_) {
     untold_ = false;
     const bool told = Run(ApplyTxSetupScript(Sections()),
@@ -80,26 +83,36 @@ void SerialModem::Program(Progress& progress) {
 
 void SerialModem::ReopenElapsed() {
   if (busy_) return tools_.ReopenTimer.Arm(kLookAgainMilliseconds);
-  if (tools_.Port.IsOpen() && HasItsPower()) return WatchUnsent();
+  if (tools_.Port.IsOpen() && HasItsPower()) LookAtSilence();
+  if (tools_.Port.IsOpen()) return WatchUnsent();
   unsent_.clear();
   tools_.ReopenTimer.Arm(kReopenMilliseconds);
-  if (tools_.Port.IsOpen() || (MayReopen && !MayReopen())) return;
+  if (MayReopen && !MayReopen()) return;
   trouble_.clear();
-  // The waits of the set-up only for a device that is there.
   if (!tools_.Port.Reopen(ModemDevice(radio_), ModemBaud(radio_))) return;
-  const bool found = FindAgain();
+  const bool found = IsAsItWasLeft() || FindAgain();
   tools_.LongWork.Done();
   if (!found) {
     tools_.Port.Close();
     return;
   }
   set_up_ = true;
+  silent_ = changed_ = false;
   if (Reopened) Reopened();
+}
+
+// One that has only been silent, and has its call, is spared the set-up.
+bool SerialModem::IsAsItWasLeft() {
+  if (!silent_) return false;
+  const CallHeld call = Ask();
+  if (call == CallHeld::NotTold) trouble_ = kDoesNotAnswer;
+  return call == CallHeld::Own && !changed_;
 }
 
 // No event comes between: all waits are plain ones.
 bool SerialModem::FindAgain() {
-  if (!LeaveConverse() || !SetUpWhole()) return false;
+  // The waits of the set-up only for a device that is there, and for a modem that is.
+  if (!trouble_.empty() || !LeaveConverse() || !SetUpWhole()) return false;
   Run(PrepareModemScript(Sections()));
   EnterConverse();
   return tools_.Port.IsOpen();
@@ -161,11 +174,54 @@ bool SerialModem::HasItsPower() {
 }
 
 bool SerialModem::MaySend() {
-  return !busy_ && (!tools_.Port.IsOpen() || HasItsPower());
+  if (busy_) return false;
+  return !tools_.Port.IsOpen() || (HasItsPower() && HasItsCall());
+}
+
+// ---- The modem's call
+// -----------------------------------------------------------------------------
+
+CallHeld SerialModem::Ask() {
+  busy_ = true;
+  std::string heard;
+  const CallHeld call =
+      AskForCall(ModeOf(radio_), identity_.MyCall, tools_.Port, tools_.LocalClock, heard);
+  busy_ = false;
+  const double now = tools_.LocalClock.MonotonicSeconds();
+  asked_at_ = now;
+  if (call != CallHeld::NotTold) answers_ = true;
+  if (call == CallHeld::Own) own_call_at_ = now;
+  if (HeardMeanwhile && !heard.empty()) HeardMeanwhile(heard);
+  return call;
+}
+
+bool SerialModem::HasItsCall() {
+  constexpr int kQuestions = 2;  // it may be transmitting
+  const double now = tools_.LocalClock.MonotonicSeconds();
+  if (own_call_at_ && now - *own_call_at_ < kAnswerHoldsSeconds) return true;
+  // An answer behind bytes that the line does not take will not come; these have a watch of their
+  // own.
+  if (tools_.Port.BytesToWrite() > 0) return true;
+  for (int question = 1; question <= kQuestions; ++question) {
+    const CallHeld call = Ask();
+    if (call == CallHeld::Own) return true;
+    if (call == CallHeld::Another) return GiveUp(kLostItsPower), false;
+    if (!answers_) return true;
+  }
+  if (tools_.LocalClock.EndAsked()) return false;
+  silent_ = true;
+  return GiveUp(kDoesNotAnswer), false;
+}
+
+void SerialModem::LookAtSilence() {
+  const double now = tools_.LocalClock.MonotonicSeconds();
+  if (now - std::max(asked_at_, radio_.LastDataSeconds) < kLongestSilenceSeconds) return;
+  if (!MayReopen || MayReopen()) HasItsCall();
 }
 
 void SerialModem::GiveUp(const char* trouble) {
   trouble_ = trouble;
+  own_call_at_.reset();
   unsent_.clear();
   tools_.Port.DropUnsent();
   tools_.Port.Close();

@@ -6,6 +6,11 @@
 // found again is brought out of converse and set up whole, as by START, before it may transmit:
 // it may have lost its power, and its call with it. The same holds for one that START has not
 // reached. A line that takes nothing of a frame for ten seconds counts as lost.
+//
+// The power of a modem behind an adapter that stays is not seen to go. So it is asked for its call
+// before a frame, and when it has said nothing for five minutes. One that names another call is set
+// up whole; one that answered before and does not any more counts as lost until it answers. Of a
+// modem that never answered nothing is known, and it is sent to.
 #pragma once
 
 #include <cstdint>
@@ -16,6 +21,7 @@
 
 #include "core/progress.h"
 #include "core/timer.h"
+#include "links/modem_call.h"
 #include "links/setup_sequences.h"
 #include "platform/clock.h"
 #include "platform/serial_port.h"
@@ -39,6 +45,9 @@ struct ConverseMemory {
 class SerialModem {
  public:
   static constexpr double kLongestUnsentSeconds = 10.0;
+  static constexpr double kLongestSilenceSeconds = 300.0;
+  // So long what it has answered holds.
+  static constexpr double kAnswerHoldsSeconds = 5.0;
 
   // Notes the time of the last data in `radio`.
   SerialModem(const IdentityState& identity, RadioState& radio,
@@ -62,7 +71,8 @@ class SerialModem {
   bool LinkIsUp() const { return tools_.Port.IsOpen(); }
   bool IsBusy() const { return busy_; }
   // A frame may be written just now: no conversation is under way, and the modem has not lost its
-  // power since it was set up, as far as its line tells.
+  // power since it was set up, as far as its line and itself tell. It is asked, which may take some
+  // seconds of plain waits, and is given up when it has.
   bool MaySend();
   // Why there is no link, as a sentence for the operator; empty when all is well.
   std::string Trouble() const;
@@ -77,6 +87,8 @@ class SerialModem {
   std::function<void()> GivenUp;
   // Bytes have come; may be empty.
   std::function<void()> DataArrived;
+  // What the modem printed besides while it was asked; may be empty.
+  std::function<void(const std::string&)> HeardMeanwhile;
   ConverseMemory Memory;
 
  private:
@@ -94,18 +106,27 @@ class SerialModem {
   bool SetUpWhole();
   void WatchUnsent();
   bool HasItsPower();
+  CallHeld Ask();
+  bool HasItsCall();
+  void LookAtSilence();
+  bool IsAsItWasLeft();
   void GiveUp(const char* trouble);
 
   const IdentityState& identity_;
   RadioState& radio_;
   const TransmissionState& transmission_;
   SerialModemTools tools_;
-  bool opened_ = false;        // the port's events are taken
-  bool busy_ = false;          // a conversation is under way
-  bool set_up_ = true;         // the modem has heard the call under which it sends
-  bool untold_ = false;        // settings confirmed in the middle of a conversation
-  std::string trouble_;        // why the line was given up
-  std::optional<bool> power_;  // what the line told of it at the opening
+  bool opened_ = false;                // the port's events are taken
+  bool busy_ = false;                  // a conversation is under way
+  bool set_up_ = true;                 // the modem has heard the call under which it sends
+  bool untold_ = false;                // settings confirmed in the middle of a conversation
+  std::string trouble_;                // why the line was given up
+  std::optional<bool> power_;          // what the line told of it at the opening
+  bool answers_ = false;               // it has told its call
+  bool silent_ = false;                // it did, and does not any more
+  bool changed_ = false;               // settings were confirmed while it was lost
+  double asked_at_ = 0.0;              // monotonic seconds
+  std::optional<double> own_call_at_;  // when it last named the own call
   std::deque<UnsentFrame> unsent_;
 };
 

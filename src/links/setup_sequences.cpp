@@ -21,10 +21,6 @@ const std::string kLeaveHost = {1, 79, 72, 79, 78, 23};
 const std::string kBreak = "\x03";       // leaves converse mode
 const std::string kCancelLine = "\x18";  // Ctrl+X
 
-RadioMode ModeOf(const RadioState& radio) {
-  return static_cast<RadioMode>(radio.RadioMode);
-}
-
 int BaudOf(const std::string& text) {
   return WholeVal(text, 0, kMostBaud).value_or(0);
 }

@@ -58,6 +58,9 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
   };
   sender_.Leaving = [this] { outcome_.Leaving(); };
   sender_.Left = [this](Delivery delivery) { outcome_.Tell(delivery); };
+  modem_.HeardMeanwhile = [this](const std::string& heard) {
+    state_.Reception.ModemText += heard;
+  };
   modem_.GivenUp = [this] { ShowLinkTrouble(); };
   BindModemRun();
   modem_.DataArrived = [this] { terminal_.DataArrived(); };

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/baud_mode.h"
 #include "core/sent_text.h"
 #include "links/setup_sequences.h"
 
@@ -16,6 +17,8 @@ Delivery FrameSender::SendFrame(std::string_view text, SecondMode second_mode) {
     // Without a radio nothing goes out, and nothing is waited for.
     if (delivery != Delivery::NoRadio) tools_.LocalClock.Wait(kPauseSeconds);
     sending_ = false;
+  } else if (IsSerialModem(ModeOf(radio_)) && !tools_.Modem.IsOpen()) {
+    delivery = Delivery::LinkLost;
   }
   if (Left) Left(delivery);
   return delivery;
@@ -23,7 +26,7 @@ Delivery FrameSender::SendFrame(std::string_view text, SecondMode second_mode) {
 
 Delivery FrameSender::HandOver(std::string_view text, SecondMode second_mode) {
   const auto told = [](bool sent) { return sent ? Delivery::Sent : Delivery::LinkLost; };
-  switch (static_cast<RadioMode>(radio_.RadioMode)) {
+  switch (ModeOf(radio_)) {
     case RadioMode::AgwLocal:
       return told(ToLocalEngine(text));
     case RadioMode::AgwRemote:

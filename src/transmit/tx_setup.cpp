@@ -15,10 +15,6 @@ constexpr const char* kCallFollows = "the call follows at the next START";
 constexpr int kLongestInterval = 60;
 constexpr int kHighestLevel = 32767;
 
-RadioMode ModeOf(const RadioState& radio) {
-  return static_cast<RadioMode>(radio.RadioMode);
-}
-
 std::string PathOf(std::string_view typed) {
   return Upper(Trim(typed));
 }

@@ -7,6 +7,7 @@
 # LOG gets a line for each thing that happens: "POWER", "GOT" once bytes come, "CMD line", "AIR call
 # line" for what would go on the air, and "GARBLED line" for what comes at another line speed than
 # the modem's. SIGUSR1: the power goes, the device vanishes, and half a second later it is back.
+# SIGUSR2: the power goes and comes back behind an adapter that stays; LOG gets "POWER" again.
 import os
 import select
 import signal
@@ -19,6 +20,7 @@ KIND, LINK, LOG = sys.argv[1:4]
 ESC, BREAK, CANCEL, BACKSPACE = 27, 3, 24, 8
 SPEEDS = {getattr(termios, "B%d" % n): n for n in (300, 1200, 2400, 4800, 9600, 19200, 38400)}
 power_fails = False
+power_blinks = False
 
 
 def log(text):
@@ -31,15 +33,14 @@ def fail(*_):
     power_fails = True
 
 
+def blink(*_):
+    global power_blinks
+    power_blinks = True
+
+
 class Modem:
     def __init__(self):
-        self.call = {"pk232": "PK232", "tnc": "N0CALL", "ptc": "NOCALL"}[KIND]
-        self.speed = {"pk232": 1200, "tnc": 38400, "ptc": 38400}[KIND]
-        self.next_speed = self.speed
-        self.fresh = True  # looks for the speed of its line
-        self.place = "text" if KIND == "tnc" else "menu"
-        self.command = False
-        self.line = bytearray()
+        self.from_the_shop()
         self.master, slave = os.openpty()
         tty.setraw(slave)
         self.path = os.ttyname(slave)
@@ -49,6 +50,15 @@ class Modem:
             os.unlink(LINK)
         os.symlink(self.path, LINK)
         log("POWER")
+
+    def from_the_shop(self):
+        self.call = {"pk232": "PK232", "tnc": "N0CALL", "ptc": "NOCALL"}[KIND]
+        self.speed = {"pk232": 1200, "tnc": 38400, "ptc": 38400}[KIND]
+        self.next_speed = self.speed
+        self.fresh = True  # looks for the speed of its line
+        self.place = "text" if KIND == "tnc" else "menu"
+        self.command = False
+        self.line = bytearray()
 
     def off(self):
         os.unlink(LINK)
@@ -106,6 +116,8 @@ class Modem:
         if KIND == "pk232":
             if words[0] == "MYCALL" and len(words) > 1:
                 self.call = words[1]
+            elif words[0] == "MYCALL":
+                self.say("MYCALL   %s\r\n" % self.call)
             elif words[0] == "TB" and len(words) > 1:
                 self.next_speed = int(words[1])
             elif words[0] == "RESTART":
@@ -115,9 +127,13 @@ class Modem:
         elif KIND == "tnc":
             if line.startswith("I") and len(line) > 1:
                 self.call = line[1:]
+            elif line == "I":
+                self.say("* %s *\r\n" % self.call)
         elif words[0] == "MYCALL" and len(words) > 1:
             if not words[1].startswith(("WIDE", "RELAY", "ECHO")):
                 self.call = words[1]
+        elif words[0] == "MYCALL":
+            self.say("*** MYCALL: %s\r\n" % self.call)
         elif words[0] == "PAC":
             self.place = "packet"
         elif words[0] == "K" and self.place == "packet":
@@ -127,8 +143,13 @@ class Modem:
 
 
 def serve(modem):
+    global power_blinks
     got = False
     while not power_fails:
+        if power_blinks:
+            power_blinks = False
+            modem.from_the_shop()
+            log("POWER")
         poll = select.poll()
         poll.register(modem.master, select.POLLIN)
         events = poll.poll(5)
@@ -146,6 +167,7 @@ def serve(modem):
 
 
 signal.signal(signal.SIGUSR1, fail)
+signal.signal(signal.SIGUSR2, blink)
 signal.signal(signal.SIGTERM, lambda *_: sys.exit(0))
 while True:
     here = Modem()

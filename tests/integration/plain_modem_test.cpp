@@ -47,6 +47,8 @@ class PlainModem {
   }
   int Count(const std::string& begin) const { return static_cast<int>(Logged(begin).size()); }
   void LosePower() { child_.Signal(SIGUSR1); }
+  // The adapter keeps its own, and the device stays.
+  void LosePowerBehindItsAdapter() { child_.Signal(SIGUSR2); }
 
  private:
   std::string log_;
@@ -79,7 +81,7 @@ class PlainModemTest : public ::testing::TestWithParam<RadioMode> {
     EXPECT_EQ(modem->Logged("GARBLED"), Lines{});
   }
 
-  ModemStation station{GetParam(), {}, 40.0};
+  ModemStation station{GetParam(), {}, 20.0};
   std::unique_ptr<PlainModem> modem;
 };
 
@@ -95,6 +97,22 @@ TEST_P(PlainModemTest, OneThatLosesItsPowerSendsUnderItsCallAtItsSpeedAgain) {
   modem->LosePower();
   ASSERT_TRUE(station.Comes([this] { return !Stands(); }));
   ASSERT_TRUE(station.Comes([this] { return modem->Count("POWER") == 2; }));
+  ASSERT_TRUE(station.RunUntil([this] { return Stands(); })) << station.port.Trouble();
+  LetItReport();
+  ExpectOnlyOwnReports();
+}
+
+TEST_P(PlainModemTest, OneThatLosesItsPowerBehindItsAdapterSendsUnderItsCallAgain) {
+  PlugIn(station.Link());
+  ASSERT_TRUE(station.PressStart());
+  ASSERT_TRUE(station.Start());
+  LetItReport();
+  modem->LosePowerBehindItsAdapter();
+  ASSERT_TRUE(station.Comes([this] { return modem->Count("POWER") == 2; }));
+  station.Run(kTickSeconds);
+  // The report that is due does not leave; the next one does.
+  station.State().Transmission.LastBeaconTime = 0;
+  ASSERT_TRUE(station.RunUntil([this] { return !Stands(); }));
   ASSERT_TRUE(station.RunUntil([this] { return Stands(); })) << station.port.Trouble();
   LetItReport();
   ExpectOnlyOwnReports();

@@ -436,12 +436,222 @@ TEST_F(SerialModemTest, AModemThatWasOffAndOnAgainIsSetUpBeforeItSends) {
   EXPECT_EQ(port.Written, "\x03" + SetUp() + "ECHO ON\rK\r");
 }
 
-TEST_F(SerialModemTest, ALineThatTellsNothingOfThePowerIsLeftAlone) {
+TEST_F(SerialModemTest, WithoutThatLineTheModemItselfIsAsked) {
   modem.Open();
   port.Written.clear();
   clock.Run(60.0);
+  EXPECT_EQ(port.Written, "");
+  // One that never answered is sent to.
+  EXPECT_TRUE(modem.MaySend());
+  EXPECT_EQ(port.Written, "\x03*\rMYCALL\rK\r");
+  EXPECT_TRUE(modem.LinkIsUp());
+}
+
+// ---- A modem that tells its call ----------------------------------------------------------------
+
+// Answers with the call that it was given, as long as it has its power.
+class SerialModemCallTest : public SerialModemTest {
+ protected:
+  SerialModemCallTest() {
+    modem.HeardMeanwhile = [this](const std::string& text) { heard += text; };
+    port.OnWrite = [this](std::string_view bytes) {
+      line += bytes;
+      for (std::size_t end; (end = line.find('\r')) != line.npos; line.erase(0, end + 1))
+        Obey(line.substr(0, end));
+    };
+  }
+  void OpenIn(RadioMode mode) {
+    Use(mode);
+    modem.Open();
+    call = "QX7KB";
+    clock.Run(30.0);
+    port.Written.clear();
+  }
+  void SwitchOffAndOn() {
+    call = "NOCALL";
+    line.clear();
+  }
+  std::string Question() const {
+    switch (static_cast<RadioMode>(radio.RadioMode)) {
+      case RadioMode::Pk232:
+        return "\x03*\rMYCALL\rK\r";
+      case RadioMode::ScsTnc:
+        return "\x1BI\r";
+      default:
+        return "\x1BMYCALL\r\n";
+    }
+  }
+
+  std::string call = "NOCALL";
+  bool has_power = true;
+  std::string heard;
+
+ private:
+  void Obey(std::string command) {
+    if (!has_power) return;
+    std::erase_if(command, [](char c) { return c < ' ' || c == '*'; });
+    if (command == "I") port.Reads.push_back("* I " + call + " *\r\n");
+    if (command == "MYCALL") port.Reads.push_back("MYCALL   " + call + "\r\n");
+    if (command == "IQX7KB" || command == "MYCALL QX7KB") call = "QX7KB";
+  }
+  std::string line;
+};
+
+TEST_F(SerialModemCallTest, ItIsAskedBeforeAFrameAndAnOwnCallHoldsForSomeSeconds) {
+  for (const auto& [mode, way_out, opening] : kModems) {
+    OpenIn(mode);
+    EXPECT_TRUE(modem.MaySend());
+    EXPECT_EQ(port.Written, Question());
+    clock.Run(SerialModem::kAnswerHoldsSeconds - 0.5);
+    EXPECT_TRUE(modem.MaySend());
+    EXPECT_EQ(port.Written, Question());
+    clock.Run(1.0);
+    EXPECT_TRUE(modem.MaySend());
+    EXPECT_EQ(port.Written, Question() + Question());
+  }
+}
+
+TEST_F(SerialModemCallTest, OneThatLostItsPowerUnseenIsSetUpWholeBeforeItSends) {
+  for (const auto& [mode, way_out, opening] : kModems) {
+    OpenIn(mode);
+    ASSERT_TRUE(modem.MaySend());
+    clock.Run(30.0);
+    SwitchOffAndOn();
+    port.Written.clear();
+    EXPECT_FALSE(modem.MaySend());
+    EXPECT_EQ(modem.Trouble(), "The modem has lost its power.");
+    EXPECT_FALSE(modem.LinkIsUp());
+    clock.Run(60.0);
+    EXPECT_EQ(port.Written, Question() + way_out + SetUp() + opening);
+    EXPECT_TRUE(modem.LinkIsUp());
+    EXPECT_TRUE(modem.MaySend());
+    EXPECT_EQ(modem.Trouble(), "");
+  }
+}
+
+// It may have been off when START spoke to it.
+TEST_F(SerialModemCallTest, OneThatComesToItsPowerAfterStartIsSetUpBeforeItSends) {
+  Use(RadioMode::ScsTnc);
+  has_power = false;
+  modem.Open();
+  EXPECT_TRUE(modem.MaySend());
+  clock.Run(30.0);
+  has_power = true;
+  EXPECT_FALSE(modem.MaySend());
+  clock.Run(60.0);
+  EXPECT_EQ(call, "QX7KB");
+  EXPECT_TRUE(modem.MaySend());
+}
+
+TEST_F(SerialModemCallTest, OneThatDoesNotAnswerAnyMoreIsLostUntilItAnswers) {
+  for (const auto& [mode, way_out, opening] : kModems) {
+    has_power = true;
+    OpenIn(mode);
+    ASSERT_TRUE(modem.MaySend());
+    clock.Run(30.0);
+    has_power = false;
+    port.Written.clear();
+    EXPECT_FALSE(modem.MaySend());
+    EXPECT_EQ(port.Written, Question() + Question());
+    EXPECT_EQ(modem.Trouble(), "The modem does not answer.");
+    // No set-up for nobody.
+    port.Written.clear();
+    clock.Run(25.0);
+    EXPECT_EQ(port.Written, Question() + Question());
+    EXPECT_FALSE(modem.LinkIsUp());
+    EXPECT_EQ(modem.Trouble(), "The modem does not answer.");
+    // It kept its power: only its cable was off.
+    has_power = true;
+    port.Written.clear();
+    clock.Run(10.0);
+    EXPECT_EQ(port.Written, Question());
+    EXPECT_TRUE(modem.LinkIsUp());
+    EXPECT_EQ(modem.Trouble(), "");
+  }
+}
+
+TEST_F(SerialModemCallTest, OneThatAnswersAgainUnderAnotherCallIsSetUpWhole) {
+  for (const auto& [mode, way_out, opening] : kModems) {
+    has_power = true;
+    OpenIn(mode);
+    ASSERT_TRUE(modem.MaySend());
+    clock.Run(30.0);
+    has_power = false;
+    ASSERT_FALSE(modem.MaySend());
+    SwitchOffAndOn();
+    has_power = true;
+    port.Written.clear();
+    clock.Run(70.0);
+    EXPECT_EQ(port.Written, Question() + way_out + SetUp() + opening);
+    EXPECT_TRUE(modem.MaySend());
+  }
+}
+
+TEST_F(SerialModemCallTest, SettingsConfirmedWhileItWasSilentAreToldWhenItAnswers) {
+  OpenIn(RadioMode::ScsTnc);
+  ASSERT_TRUE(modem.MaySend());
+  clock.Run(30.0);
+  has_power = false;
+  ASSERT_FALSE(modem.MaySend());
+  transmission.TxPath = "RELAY";
+  modem.Program(progress);
+  has_power = true;
+  port.Written.clear();
+  clock.Run(60.0);
+  EXPECT_EQ(port.Written, Question() + "\x18" + SetUp());
+  EXPECT_TRUE(modem.LinkIsUp());
+}
+
+TEST_F(SerialModemCallTest, AListenersModemIsAskedAfterFiveMinutesOfSilence) {
+  OpenIn(RadioMode::ScsTnc);
+  ASSERT_TRUE(modem.MaySend());
+  port.Written.clear();
+  clock.Run(200.0);
+  port.DataArrived();  // something is heard
+  clock.Run(SerialModem::kLongestSilenceSeconds - 1.0);
+  EXPECT_EQ(port.Written, "");
+  SwitchOffAndOn();
+  clock.Run(60.0);
+  EXPECT_EQ(port.Written, Question() + "\x18" + SetUp());
+  EXPECT_EQ(call, "QX7KB");
+}
+
+TEST_F(SerialModemCallTest, NothingIsAskedWhileTheOperatorTalksToIt) {
+  OpenIn(RadioMode::ScsTnc);
+  modem.MayReopen = [] { return false; };
+  clock.Run(2.0 * SerialModem::kLongestSilenceSeconds);
+  EXPECT_EQ(port.Written, "");
+}
+
+TEST_F(SerialModemCallTest, WhatIsHeardWhileItIsAskedIsNotLost) {
+  OpenIn(RadioMode::ScsTnc);
+  port.Reads = {"fm N0CALL to APRS ctl UI pid F0\r\n"};
+  clock.OnWait = [this, once = true](double, bool) mutable {
+    if (std::exchange(once, false)) port.Reads.push_back("!tst\r\n");
+  };
+  EXPECT_TRUE(modem.MaySend());
+  EXPECT_EQ(heard + port.ReadAll(), "fm N0CALL to APRS ctl UI pid F0\r\n!tst\r\n");
+}
+
+TEST_F(SerialModemCallTest, BytesThatTheLineDoesNotTakeAreNotAskedBehind) {
+  OpenIn(RadioMode::ScsTnc);
+  ASSERT_TRUE(modem.MaySend());
+  clock.Run(6.0);
+  port.Written.clear();
+  port.Waiting = 10;
   EXPECT_TRUE(modem.MaySend());
   EXPECT_EQ(port.Written, "");
+}
+
+TEST_F(SerialModemCallTest, TheEndOfTheProgramDoesNotWaitForAnAnswer) {
+  OpenIn(RadioMode::ScsTnc);
+  ASSERT_TRUE(modem.MaySend());
+  clock.Run(6.0);
+  has_power = false;
+  clock.EndIsAsked = true;
+  const double begin = clock.MonotonicSeconds();
+  EXPECT_FALSE(modem.MaySend());
+  EXPECT_LT(clock.MonotonicSeconds() - begin, 0.1);
 }
 
 // ---- Converse beyond the end of a run ---------------------------------------------------------

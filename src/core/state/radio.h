@@ -41,6 +41,10 @@ struct RadioState {
   double LastDataSeconds = -1.0;
 };
 
+inline RadioMode ModeOf(const RadioState& radio) {
+  return static_cast<RadioMode>(radio.RadioMode);
+}
+
 // Beyond this many characters a receive buffer is emptied: no line grows without bound.
 inline constexpr std::size_t kLongestReceiveBuffer = 65536;
 
