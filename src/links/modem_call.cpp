@@ -9,7 +9,6 @@ namespace {
 
 constexpr double kPollSeconds = 0.01;
 constexpr double kBreakSeconds = 0.5;
-constexpr double kConverseSeconds = 0.2;
 constexpr std::string_view kPrompt = "cmd:";
 
 struct Question {
@@ -83,7 +82,7 @@ std::string_view BaseCall(std::string_view call) {
 // What has come, until `done` or the time is over.
 template <typename Done>
 std::string Listen(SerialPort& port, Clock& clock, double seconds, Done done) {
-  std::string text;
+  std::string text = port.ReadAll();
   const double end = clock.MonotonicSeconds() + seconds;
   while (!done(text) && port.IsOpen() && clock.MonotonicSeconds() < end && !clock.EndAsked()) {
     clock.Wait(kPollSeconds);
@@ -131,10 +130,8 @@ CallHeld AskForCall(RadioMode mode, std::string_view own, SerialPort& port, Cloc
   });
   TakeCallAnswer(mode, text);
   heard += text;
-  if (!question.Return.empty()) {
-    port.Write(question.Return);
-    clock.Wait(kConverseSeconds);
-  }
+  // What follows waits in the modem's buffer until it has obeyed.
+  if (!question.Return.empty()) port.Write(question.Return);
   if (!call) return CallHeld::NotTold;
   return EqualFolded(BaseCall(*call), BaseCall(own)) ? CallHeld::Own : CallHeld::Another;
 }

@@ -24,7 +24,7 @@ class FakeSerial final : public SerialPort {
   }
   bool IsOpen() const override { return open_; }
   void Write(std::string_view bytes) override {
-    if (!open_) return;
+    if (!open_ || TellsCall(bytes)) return;
     Written += bytes;
     Count += bytes.size();
     if (OnWrite) OnWrite(bytes);
@@ -53,6 +53,9 @@ class FakeSerial final : public SerialPort {
     Absent = true;
   }
 
+  // The call that the modem tells when it is asked for it; empty: it does not answer. The questions
+  // it answers, and what leads back to converse behind them, are not among what was written.
+  std::string Call;
   bool Absent = false;
   std::string Why;  // told as the trouble while it is not open
   std::string Device;
@@ -66,6 +69,22 @@ class FakeSerial final : public SerialPort {
   std::function<void(std::string_view)> OnWrite;
 
  private:
+  bool TellsCall(std::string_view bytes) {
+    if (Call.empty()) return false;
+    if (bytes == "\x03*\r") return Answer("\r\ncmd:", true);
+    if (bytes == "K\r" && asked_) return Answer("", false);
+    if (bytes == "MYCALL\r" && asked_) return Answer("MYCALL   " + Call + "\r\ncmd:", true);
+    if (bytes == "\x1BI\r") return Answer("* I " + Call + " *\r\n", false);
+    if (bytes == "\x1BMYCALL\r\n") return Answer("*** MYCALL: " + Call + "\r\n", false);
+    return false;
+  }
+  bool Answer(const std::string& text, bool asked) {
+    asked_ = asked;
+    if (!text.empty()) Reads.push_back(text);
+    return true;
+  }
+
+  bool asked_ = false;
   bool open_ = false;
 };
 

@@ -36,6 +36,7 @@ class StationHarness : public RecordedSurfaces {
         "UUN=5817.860\r\nUUE=391.394\r\nFOO=1\r\n" +
             extra_settings);
     EngineAccepts();
+    modem.Call = "QX7KB";
     Make();
   }
 
