@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "core/main_window_controls.h"
+#include "core/controls/readout_controls.h"
 #include "core/state/followed_station.h"
 #include "core/station_store.h"
 #include "map/circles_layer.h"

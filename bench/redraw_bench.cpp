@@ -9,7 +9,7 @@
 #include <random>
 #include <string>
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "core/position_text.h"
 #include "core/runtime_state.h"
 #include "core/text_fields.h"

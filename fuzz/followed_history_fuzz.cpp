@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "core/controls/main_window_controls.h"
 #include "core/history_thinning.h"
-#include "core/main_window_controls.h"
 #include "core/state/gps.h"
 #include "reception/followed_history.h"
 #include "tests/doubles/memory_files.h"

@@ -8,7 +8,7 @@
 
 #include "core/actions/map_actions.h"
 #include "core/actions/tick_actions.h"
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "core/runtime_state.h"
 #include "core/timer.h"
 #include "platform/clock.h"

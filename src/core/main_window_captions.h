@@ -2,7 +2,7 @@
 // happened.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 
 namespace zepril {
 

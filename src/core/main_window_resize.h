@@ -2,7 +2,7 @@
 // desktop's business.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "core/state/chat.h"
 
 namespace zepril {

@@ -1,7 +1,7 @@
 // The start of the main window: one order of steps, from the fixed defaults to the first picture.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "core/runtime_state.h"
 #include "core/timer.h"
 #include "platform/clock.h"

@@ -1,7 +1,7 @@
 // The stop of the main window: the close request, then links, settings, files.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "core/runtime_state.h"
 #include "core/timer.h"
 

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "core/main_window_controls.h"
+#include "core/controls/progress_controls.h"
 #include "core/progress.h"
 #include "platform/clock.h"
 

@@ -2,7 +2,7 @@
 // path, a picture in place of the map, and the progress of long work.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "desktop/window_parts.h"
 #include "platform/files.h"
 #include "platform/qt/qt_surface.h"

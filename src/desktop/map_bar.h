@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "core/main_window_controls.h"
+#include "core/controls/map_controls.h"
 #include "desktop/window_parts.h"
 
 class QBoxLayout;

@@ -4,7 +4,7 @@
 
 #include <QStringListModel>
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "core/state/map_view.h"
 #include "desktop/window_parts.h"
 

@@ -1,7 +1,7 @@
 // The columns beside the map: read-outs, scales and files at the left, stations at the right.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "desktop/window_parts.h"
 
 class QBoxLayout;

@@ -1,7 +1,7 @@
 // The terminal of a serial modem: what it has printed, what was typed, and how to leave.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/terminal_controls.h"
 #include "desktop/window_parts.h"
 
 class QWidget;

@@ -2,7 +2,7 @@
 // map free because the map is moved meanwhile.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "desktop/tx_setup_panel.h"
 #include "desktop/window_parts.h"
 #include "platform/qt/qt_surface.h"

@@ -1,7 +1,7 @@
 // TX SETUP on the window: what the station is on the air.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "desktop/window_parts.h"
 #include "platform/qt/qt_surface.h"
 

@@ -8,7 +8,8 @@
 
 #include "core/actions/map_actions.h"
 #include "core/actions/settings_actions.h"
-#include "core/main_window_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/track_controls.h"
 #include "core/progress.h"
 #include "core/state/identity.h"
 #include "core/state/map_view.h"

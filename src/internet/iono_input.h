@@ -4,7 +4,8 @@
 
 #include "core/actions/map_actions.h"
 #include "core/actions/settings_actions.h"
-#include "core/main_window_controls.h"
+#include "core/controls/iono_controls.h"
+#include "core/controls/map_controls.h"
 #include "core/state/internet.h"
 #include "core/state/map_view.h"
 #include "platform/dialogs.h"

@@ -4,7 +4,8 @@
 
 #include <string>
 
-#include "core/main_window_controls.h"
+#include "core/controls/raw_list_controls.h"
+#include "core/controls/terminal_controls.h"
 #include "core/state/radio.h"
 #include "platform/serial_port.h"
 

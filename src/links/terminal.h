@@ -8,7 +8,7 @@
 #include <string>
 
 #include "core/actions/map_actions.h"
-#include "core/main_window_controls.h"
+#include "core/controls/terminal_controls.h"
 #include "core/state/radio.h"
 #include "core/timer.h"
 #include "platform/dialogs.h"

@@ -4,7 +4,14 @@
 #pragma once
 
 #include "core/actions/map_actions.h"
-#include "core/main_window_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/moni1_controls.h"
+#include "core/controls/moni_all_controls.h"
+#include "core/controls/palette_controls.h"
+#include "core/controls/readout_controls.h"
+#include "core/controls/record_panel_controls.h"
+#include "core/controls/scale_controls.h"
+#include "core/controls/window_controls.h"
 #include "core/state/followed_station.h"
 #include "core/state/map_view.h"
 #include "core/state/stores.h"

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "core/main_window_controls.h"
+#include "core/controls/scale_controls.h"
 #include "core/state/identity.h"
 #include "core/state/map_view.h"
 #include "platform/files.h"

@@ -2,10 +2,10 @@
 // the sun where nothing is.
 #pragma once
 
+#include "core/controls/map_controls.h"
 #include "core/state/map_view.h"
 #include "core/state/places.h"
 #include "core/timer.h"
-#include "core/main_window_controls.h"
 #include "map/map_interaction.h"
 #include "map/map_panels.h"
 #include "platform/drawing_surface.h"

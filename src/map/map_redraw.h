@@ -7,7 +7,14 @@
 
 #include <string>
 
-#include "core/main_window_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/moni1_controls.h"
+#include "core/controls/moni_all_controls.h"
+#include "core/controls/palette_controls.h"
+#include "core/controls/record_panel_controls.h"
+#include "core/controls/scale_controls.h"
+#include "core/controls/transmit_controls.h"
+#include "core/controls/window_controls.h"
 #include "core/state/followed_station.h"
 #include "core/state/gps.h"
 #include "core/state/identity.h"

@@ -2,7 +2,7 @@
 // read-outs and the redraw. Whoever shows a map owns one.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "core/symbol_table.h"
 #include "core/timer.h"
 #include "map/map_library.h"

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "core/main_window_controls.h"
+#include "core/controls/moni1_controls.h"
 #include "core/state/followed_station.h"
 #include "core/state/map_view.h"
 #include "core/station_store.h"

@@ -10,7 +10,8 @@
 #include "core/actions/map_actions.h"
 #include "core/actions/settings_actions.h"
 #include "core/controls.h"
-#include "core/main_window_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/qth_setup_controls.h"
 #include "core/state/map_view.h"
 #include "core/timer.h"
 

@@ -11,7 +11,7 @@
 
 #include <string>
 
-#include "core/main_window_controls.h"
+#include "core/controls/readout_controls.h"
 #include "core/state/followed_station.h"
 #include "core/state/map_view.h"
 #include "core/station_store.h"

@@ -1,7 +1,8 @@
 // Which scales have a tile under the map centre: marks in the scale panel.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/record_panel_controls.h"
+#include "core/controls/scale_controls.h"
 #include "core/state/map_view.h"
 #include "map/map_library.h"
 

@@ -1,7 +1,7 @@
 // Shows where tiles exist: boundaries of the tile grid and frames of the tiles of each ticked scale.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/scale_controls.h"
 #include "core/state/map_view.h"
 #include "map/map_library.h"
 #include "platform/drawing_surface.h"

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "core/main_window_controls.h"
+#include "core/controls/palette_controls.h"
 #include "core/state/map_view.h"
 #include "map/tile_cache.h"
 #include "platform/drawing_surface.h"

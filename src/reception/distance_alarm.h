@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/main_window_controls.h"
+#include "core/controls/status_controls.h"
+#include "core/controls/window_controls.h"
 #include "core/state/alarms.h"
 #include "core/state/followed_station.h"
 #include "core/state/identity.h"

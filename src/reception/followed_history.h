@@ -6,7 +6,8 @@
 #include <vector>
 
 #include "core/actions/settings_actions.h"
-#include "core/main_window_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/moni1_controls.h"
 #include "core/state/followed_station.h"
 #include "core/state/gps.h"
 #include "core/state/identity.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "core/main_window_controls.h"
+#include "core/controls/moni_all_controls.h"
 #include "core/state/map_view.h"
 #include "core/station_store.h"
 #include "platform/clock.h"

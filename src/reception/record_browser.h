@@ -8,7 +8,8 @@
 #include <string_view>
 
 #include "core/actions/map_actions.h"
-#include "core/main_window_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/record_panel_controls.h"
 #include "core/state/map_view.h"
 #include "core/state/stores.h"
 #include "platform/dialogs.h"

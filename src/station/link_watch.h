@@ -5,8 +5,8 @@
 #include <functional>
 #include <string>
 
+#include "core/controls/status_controls.h"
 #include "core/link_lamp.h"
-#include "core/main_window_controls.h"
 #include "core/state/radio.h"
 #include "links/agw_link.h"
 #include "links/agw_local.h"

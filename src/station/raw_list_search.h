@@ -1,7 +1,7 @@
 // The list of raw packets: opened and closed, and searched upwards for a text.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/raw_list_controls.h"
 #include "core/state/settings.h"
 #include "core/timer.h"
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "config/start_panel_settings.h"
-#include "core/start_panel_controls.h"
+#include "core/controls/start_panel_controls.h"
 #include "core/state/radio.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"

@@ -8,8 +8,8 @@
 #include <memory>
 #include <string>
 
+#include "core/controls/main_window_controls.h"
 #include "core/link_lamp.h"
-#include "core/main_window_controls.h"
 #include "core/runtime_state.h"
 #include "core/timer.h"
 #include "platform/clock.h"

@@ -7,7 +7,7 @@
 
 #include "core/actions/map_actions.h"
 #include "core/actions/settings_actions.h"
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "core/progress.h"
 #include "core/runtime_state.h"
 #include "core/symbol_table.h"

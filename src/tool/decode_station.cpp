@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "core/state/gps.h"
 #include "core/text_fields.h"
 #include "geodesy/conversions.h"

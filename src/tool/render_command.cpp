@@ -13,7 +13,7 @@
 
 #include "config/config_file.h"
 #include "config/main_window_settings.h"
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "core/runtime_state.h"
 #include "core/text_fields.h"
 #include "map/grid_layer.h"

@@ -3,7 +3,9 @@
 
 #include "core/actions/map_actions.h"
 #include "core/actions/settings_actions.h"
-#include "core/main_window_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/object_setup_controls.h"
+#include "core/controls/transmit_controls.h"
 #include "core/state/map_view.h"
 #include "core/state/transmission.h"
 #include "core/symbol_table.h"

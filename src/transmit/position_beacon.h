@@ -3,7 +3,8 @@
 
 #include <string>
 
-#include "core/main_window_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/window_controls.h"
 #include "core/state/gps.h"
 #include "core/state/identity.h"
 #include "core/state/map_view.h"

@@ -1,7 +1,7 @@
 // A heard station's position sent once more, after a question.
 #pragma once
 
-#include "core/main_window_controls.h"
+#include "core/controls/record_panel_controls.h"
 #include "core/state/identity.h"
 #include "core/state/map_view.h"
 #include "core/state/radio.h"

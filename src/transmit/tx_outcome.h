@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "core/main_window_controls.h"
+#include "core/controls/transmit_controls.h"
 #include "platform/clock.h"
 #include "transmit/frame_sender.h"
 

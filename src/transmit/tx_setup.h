@@ -5,7 +5,8 @@
 #include <optional>
 
 #include "core/actions/settings_actions.h"
-#include "core/main_window_controls.h"
+#include "core/controls/transmit_controls.h"
+#include "core/controls/tx_setup_controls.h"
 #include "core/progress.h"
 #include "core/state/identity.h"
 #include "core/state/internet.h"

@@ -5,7 +5,8 @@
 #pragma once
 
 #include "core/actions/map_actions.h"
-#include "core/main_window_controls.h"
+#include "core/controls/record_panel_controls.h"
+#include "core/controls/transmit_controls.h"
 #include "core/state/chat.h"
 #include "core/state/gps.h"
 #include "core/state/transmission.h"

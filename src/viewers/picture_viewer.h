@@ -11,7 +11,8 @@
 #include <string>
 
 #include "core/actions/map_actions.h"
-#include "core/main_window_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/picture_panel_controls.h"
 #include "core/state/identity.h"
 #include "core/state/map_view.h"
 #include "core/timer.h"

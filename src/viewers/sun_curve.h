@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "core/main_window_controls.h"
+#include "core/controls/sun_controls.h"
 #include "core/state/map_view.h"
 #include "core/state/settings.h"
 #include "platform/clock.h"

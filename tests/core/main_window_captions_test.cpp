@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 
 namespace zepril {
 namespace {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "core/position_text.h"
 #include "core/runtime_state.h"
 #include "core/text_fields.h"

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/main_window_controls.h"
+#include "core/controls/main_window_controls.h"
 #include "core/state/gps.h"
 #include "platform/monitor_engine.h"
 #include "reception/receive_pass.h"
