@@ -174,7 +174,7 @@ void MainCycle::LimitInternetTime() {
   controls_.MoniAll.Check23.Value = 0;
   controls_.Moni1.Check22.Value = 0;
   if (state_.Radio.RadioMode == static_cast<int>(RadioMode::None)) {
-    controls_.Transmit.Check7.Value = 0;
+    controls_.Chat.Check7.Value = 0;
   }
 }
 
@@ -234,7 +234,7 @@ void MainCycle::ShowCollecting(const char* text, std::uint32_t colour) {
 }
 
 void MainCycle::RedrawWhenStale() {
-  controls_.Transmit.Frame7.Visible = false;
+  controls_.Chat.Frame7.Visible = false;
   if (!state_.Map.MapDrawn) map_.MapRedraw();
   KeepPanelWidths();
 }
@@ -249,7 +249,7 @@ void MainCycle::DecideWhatIsDue() {
 }
 
 void MainCycle::DecideChat() {
-  if (controls_.Transmit.Check7.Value != 1) return;
+  if (controls_.Chat.Check7.Value != 1) return;
   int& countdown = state_.Chat.ChatPollCountdown;
   if (!state_.Chat.ChatTxText.empty()) countdown = 0;
   if (countdown <= 0) {

@@ -163,7 +163,7 @@ void SetTxSetupToolTips(MainWindowControls& c, TipPick pick) {
       {t.CrossUp, "Step the second mode"},
       {t.TxOk, "Program the radio, save, the first report follows"},
       {t.TxAbort, "Close, nothing is changed"},
-      {c.Transmit.Check15, "Hand received packets to the internet"},
+      {c.Gate.Check15, "Hand received packets to the internet"},
       {c.Transmit.Check2, "Listen on RPR 300 and FSK 300 in turn"},
   };
   SetToolTips(rows, pick);
@@ -208,8 +208,8 @@ void SetTransmitToolTips(MainWindowControls& c, TipPick pick) {
 
 void HidePanels(MainWindowControls& c) {
   for (Control* panel : std::initializer_list<Control*>{
-           &c.Record.Frame1,      &c.Picture.Frame8,      &c.Transmit.Frame3,
-           &c.Transmit.Frame7,    &c.Status.Text10,       &c.Status.Frame12,
+           &c.Record.Frame1,      &c.Picture.Frame8,      &c.Chat.Frame3,
+           &c.Chat.Frame7,        &c.Status.Text10,       &c.Status.Frame12,
            &c.Status.Frame14,     &c.Qth.Frame2,          &c.Palette.PalettePanel,
            &c.MoniAll.HeardPanel, &c.Map.PictureBase,     &c.Raw.RawList,
            &c.Status.FileNotice,  &c.Status.LinkNotice,   &c.Places.PoiPanel,
@@ -224,8 +224,8 @@ void HidePanels(MainWindowControls& c) {
 void HideWhatIsNotThereYet(MainWindowControls& c) {
   for (Control* control : std::initializer_list<Control*>{
            &c.Moni1.Check22, &c.Moni1.Check27, &c.MoniAll.Check23, &c.Record.Command10,
-           &c.Record.Command41, &c.Record.Command40, &c.Transmit.Check7, &c.Transmit.Check8,
-           &c.Transmit.Check16, &c.Transmit.Text2, &c.Transmit.Text3, &c.Status.IonoLabel}) {
+           &c.Record.Command41, &c.Record.Command40, &c.Chat.Check7, &c.Chat.Check8,
+           &c.Chat.Check16, &c.Chat.Text2, &c.Chat.Text3, &c.Status.IonoLabel}) {
     control->Visible = false;
   }
 }
@@ -319,7 +319,7 @@ void SetInitialControls(MainWindowControls& c) {
   c.Iono.IonoClose.Caption = "CLOSE";
   c.Transmit.Check6.Caption = "TX";
   c.Transmit.Check18.Caption = "OBJECT";
-  c.Transmit.Check15.Caption = "IGATE";
+  c.Gate.Check15.Caption = "IGATE";
   c.Transmit.Check2.Caption = "HF-DUAL";
   c.ObjectSetup.ObjectOk.Caption = "OK";
   c.Terminal.Command65.Caption = "TERMINAL";

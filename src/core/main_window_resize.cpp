@@ -13,16 +13,16 @@ constexpr int kAddresseePx = 96;  // beside the message field
 
 }  // namespace
 
-void ShowAutoAnswerCaption(TransmitControls& transmit, const ChatState& chat) {
-  const bool holds_answer = chat.AutoAnswerOn == 1 && Trim(transmit.Text2.Text).empty();
-  transmit.Check16.Caption = holds_answer ? "AUTO ANSWER TEXT:" : "AUTO-A";
-  transmit.Check16.WidthPx = holds_answer ? kLongCaptionPx : kShortCaptionPx;
+void ShowAutoAnswerCaption(ChatControls& controls, const ChatState& chat) {
+  const bool holds_answer = chat.AutoAnswerOn == 1 && Trim(controls.Text2.Text).empty();
+  controls.Check16.Caption = holds_answer ? "AUTO ANSWER TEXT:" : "AUTO-A";
+  controls.Check16.WidthPx = holds_answer ? kLongCaptionPx : kShortCaptionPx;
 }
 
-void MainWindowResize(MainWindowControls& controls, const ChatState& chat) {
-  ShowAutoAnswerCaption(controls.Transmit, chat);
-  const int room = controls.Window.WidthPx - controls.Transmit.Check16.WidthPx - kAddresseePx;
-  controls.Transmit.Text3.WidthPx = std::clamp(room, kNarrowestMessageField, kWidestMessageField);
+void MainWindowResize(const WindowControls& window, ChatControls& controls, const ChatState& chat) {
+  ShowAutoAnswerCaption(controls, chat);
+  const int room = window.WidthPx - controls.Check16.WidthPx - kAddresseePx;
+  controls.Text3.WidthPx = std::clamp(room, kNarrowestMessageField, kWidestMessageField);
 }
 
 }  // namespace zepril

@@ -2,7 +2,8 @@
 // desktop's business.
 #pragma once
 
-#include "core/controls/main_window_controls.h"
+#include "core/controls/chat_controls.h"
+#include "core/controls/window_controls.h"
 #include "core/state/chat.h"
 
 namespace zepril {
@@ -13,9 +14,9 @@ inline constexpr int kNarrowestMessageField = 10;
 
 // The auto-answer switch: wide, with "AUTO ANSWER TEXT:", while the message field holds the answer
 // (automatic answers on, no addressee); else narrow, with "AUTO-A".
-void ShowAutoAnswerCaption(TransmitControls& transmit, const ChatState& chat);
+void ShowAutoAnswerCaption(ChatControls& controls, const ChatState& chat);
 
 // The whole: width of the message field by the window's, caption of the auto-answer switch.
-void MainWindowResize(MainWindowControls& controls, const ChatState& chat);
+void MainWindowResize(const WindowControls& window, ChatControls& controls, const ChatState& chat);
 
 }  // namespace zepril

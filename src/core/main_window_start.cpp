@@ -45,7 +45,7 @@ bool MainWindowStart::Run(const std::string& program_folder, int colour_depth_bi
   // GPS, tracks, places, chat.
   actions_.OpenGpsPort();
   actions_.RestoreTracksPlacesAndChat();
-  controls_.Transmit.Check16.Value = state_.Chat.AutoAnswerOn;
+  controls_.Chat.Check16.Value = state_.Chat.AutoAnswerOn;
   // Gateway.
   SetIGateSwitch();
   actions_.ShowTitleMarkers();
@@ -111,7 +111,7 @@ bool MainWindowStart::OpenLink() {
     case RadioMode::AgwRemote:
       return actions_.ConnectAgw();
     case RadioMode::None:
-      for (CheckBox* box : {&controls_.Transmit.Check6, &controls_.Transmit.Check16}) {
+      for (CheckBox* box : {&controls_.Transmit.Check6, &controls_.Chat.Check16}) {
         box->Enabled = false;
         box->Visible = false;
       }
@@ -123,19 +123,19 @@ bool MainWindowStart::OpenLink() {
 void MainWindowStart::ApplyTxAllowed() {
   state_.Identity.TxAllowed = TxAllowedOf(state_.Identity.MyCall);
   if (state_.Identity.TxAllowed == 1) return;
-  TransmitControls& transmit = controls_.Transmit;
-  transmit.Check8.Value = 1;
-  transmit.Check8.Enabled = false;
-  transmit.Check16.Enabled = false;
-  transmit.Check16.Visible = false;
-  transmit.Text2.Visible = false;
-  transmit.Text3.Visible = false;
-  transmit.Check15.Value = 0;
-  transmit.Check15.Enabled = false;
+  ChatControls& chat = controls_.Chat;
+  chat.Check8.Value = 1;
+  chat.Check8.Enabled = false;
+  chat.Check16.Enabled = false;
+  chat.Check16.Visible = false;
+  chat.Text2.Visible = false;
+  chat.Text3.Visible = false;
+  controls_.Gate.Check15.Value = 0;
+  controls_.Gate.Check15.Enabled = false;
 }
 
 void MainWindowStart::SetIGateSwitch() {
-  CheckBox& box = controls_.Transmit.Check15;
+  CheckBox& box = controls_.Gate.Check15;
   if (state_.Internet.AprsIsPasscode == "0") {
     state_.Internet.IGateOn = 0;
     box.Enabled = false;

@@ -38,6 +38,7 @@ TxSetupPanel::TxSetupPanel(WindowParts& parts, MainWindowControls& controls, QWi
                            const QtSurface& symbol)
     : parts_(parts),
       transmit_(controls.Transmit),
+      gate_(controls.Gate),
       controls_(controls.TxSetup),
       map_(map),
       panel_(new ScrollingPanel(parts, "Frame4", controls_.Frame4, map.parentWidget(), map)) {
@@ -175,7 +176,7 @@ void TxSetupPanel::MakeRadio(QBoxLayout* box) {
   }
   speeds->addStretch(1);
   speeds->addWidget(parts_.BoundButton("DigiBox", controls_.DigiBox));
-  speeds->addWidget(parts_.BoundButton("Check15", transmit_.Check15));
+  speeds->addWidget(parts_.BoundButton("Check15", gate_.Check15));
 
   auto* second = TightBox(QBoxLayout::LeftToRight);
   box->addLayout(second);

@@ -32,6 +32,7 @@ class TxSetupPanel {
 
   WindowParts& parts_;
   TransmitControls& transmit_;
+  GateControls& gate_;
   TxSetupControls& controls_;
   QWidget& map_;
   ScrollingPanel* panel_;

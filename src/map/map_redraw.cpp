@@ -124,7 +124,7 @@ void MapRedrawer::FollowCentre() {
 }
 
 void MapRedrawer::TakeFocus() {
-  const bool typing = controls_.Transmit.Text2.HasFocus || controls_.Transmit.Text3.HasFocus;
+  const bool typing = controls_.Chat.Text2.HasFocus || controls_.Chat.Text3.HasFocus;
   if (!typing) controls_.Map.Picture1.FocusWanted = true;
 }
 

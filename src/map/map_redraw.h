@@ -7,13 +7,13 @@
 
 #include <string>
 
+#include "core/controls/chat_controls.h"
 #include "core/controls/map_controls.h"
 #include "core/controls/moni1_controls.h"
 #include "core/controls/moni_all_controls.h"
 #include "core/controls/palette_controls.h"
 #include "core/controls/record_panel_controls.h"
 #include "core/controls/scale_controls.h"
-#include "core/controls/transmit_controls.h"
 #include "core/controls/window_controls.h"
 #include "core/state/followed_station.h"
 #include "core/state/gps.h"
@@ -42,7 +42,7 @@ struct MapRedrawControls {
   Moni1Controls& Moni1;
   MoniAllControls& MoniAll;
   const RecordPanelControls& Record;
-  const TransmitControls& Transmit;
+  const ChatControls& Chat;
 };
 
 // What a redraw shows.

@@ -1,5 +1,5 @@
-// The parts of a map that belong together, built in their order: library, tile cache, symbol sheets,
-// read-outs and the redraw. Whoever shows a map owns one.
+// The parts of a map that belong together, built in their order: library, tile cache, symbol
+// sheets, read-outs and the redraw. Whoever shows a map owns one.
 #pragma once
 
 #include "core/controls/main_window_controls.h"
@@ -34,8 +34,8 @@ struct MapRoom {
         ReadoutTexts(sections.View, sections.Followed, sections.Stores.Moni1Records,
                      controls.Readouts),
         Redrawer(sections,
-                 {controls.Window, controls.Map, controls.Scales, controls.Palette,
-                  controls.Moni1, controls.MoniAll, controls.Record, controls.Transmit},
+                 {controls.Window, controls.Map, controls.Scales, controls.Palette, controls.Moni1,
+                  controls.MoniAll, controls.Record, controls.Chat},
                  {platform.MapSurface, platform.BaseSurface, Tiles, Library, Sheets, Symbols,
                   ReadoutTexts, overlays, platform.LocalClock, timer1}) {}
   MapRoom(const MapRoom&) = delete;

@@ -35,7 +35,7 @@ StationRooms::StationRooms(StationPlatform machine)
       redrawer_(
           {State.Map, State.Stores, State.Followed, State.Gps, State.Transmission, State.Identity},
           {Controls.Window, Controls.Map, Controls.Scales, Controls.Palette, Controls.Moni1,
-           Controls.MoniAll, Controls.Record, Controls.Transmit},
+           Controls.MoniAll, Controls.Record, Controls.Chat},
           {machine.MapSurface, machine.BaseSurface, tiles_, library_, sheets_, symbols_, readouts_,
            overlays_, machine.LocalClock, Timer1}),
       lookups_(State.Map, State.Places, Controls.Map, {machine.MapSurface, *this, Timer1}),
@@ -105,7 +105,7 @@ void StationRooms::Stop(bool by_operator) {
 void StationRooms::MapResized(int width, int height) {
   State.Map.ViewWidthPx = width;
   State.Map.ViewHeightPx = height;
-  MainWindowResize(Controls, State.Chat);
+  MainWindowResize(Controls.Window, Controls.Chat, State.Chat);
   MapRedraw();
 }
 

@@ -22,8 +22,8 @@ std::string PathOf(std::string_view typed) {
 }  // namespace
 
 TxSetup::TxSetup(TxSetupSections sections, TxSetupControls& controls, TransmitControls& transmit,
-                 TxSetupTools tools)
-    : sections_(sections), controls_(controls), transmit_(transmit), tools_(tools) {
+                 GateControls& gate, TxSetupTools tools)
+    : sections_(sections), controls_(controls), transmit_(transmit), gate_(gate), tools_(tools) {
   controls_.Frame4.Visible = false;
   transmit_.Check6.RightClick = [this] { Open(); };
   controls_.TxOk.Caption = "OK";
@@ -167,7 +167,7 @@ void TxSetup::FillStation() {
   controls_.TxOverlayField.Text = own.TxOverlay;
   ShowSymbol();
   controls_.TxTimestampBox.Value = own.TxTimestamp;
-  transmit_.Check15.Value = sections_.Internet.IGateOn;
+  gate_.Check15.Value = sections_.Internet.IGateOn;
 }
 
 void TxSetup::FillLines() {
@@ -211,7 +211,7 @@ void TxSetup::Abort() {
   controls_.Frame4.Visible = false;
   // These boxes are read by others too: they show again what holds.
   transmit_.Check2.Value = sections_.Radio.HfDualOn;
-  transmit_.Check15.Value = sections_.Internet.IGateOn;
+  gate_.Check15.Value = sections_.Internet.IGateOn;
   tools_.Timer1.Enable();
 }
 
@@ -277,7 +277,7 @@ void TxSetup::TakeStation() {
   own.TxSymbolIndex = controls_.SymbolIndex;
   own.TxOverlay = OverlayOf(controls_.TxOverlayField.Text);
   own.TxTimestamp = controls_.TxTimestampBox.Value;
-  sections_.Internet.IGateOn = transmit_.Check15.Value;
+  sections_.Internet.IGateOn = gate_.Check15.Value;
 }
 
 void TxSetup::TakeLines() {

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "core/actions/settings_actions.h"
+#include "core/controls/gate_controls.h"
 #include "core/controls/transmit_controls.h"
 #include "core/controls/tx_setup_controls.h"
 #include "core/progress.h"
@@ -58,7 +59,7 @@ class TxSetup {
  public:
   // Sets the right click of `Check6` and the events of the panel.
   TxSetup(TxSetupSections sections, TxSetupControls& controls, TransmitControls& transmit,
-          TxSetupTools tools);
+          GateControls& gate, TxSetupTools tools);
   TxSetup(const TxSetup&) = delete;
   TxSetup& operator=(const TxSetup&) = delete;
 
@@ -93,6 +94,7 @@ class TxSetup {
   TxSetupSections sections_;
   TxSetupControls& controls_;
   TransmitControls& transmit_;
+  GateControls& gate_;
   TxSetupTools tools_;
   std::optional<std::size_t> focused_line_;  // the last one, from visit to visit
 };

@@ -28,8 +28,8 @@ void TxSwitches::ShowInterval() {
   const bool was_on = tx.Value == 1;
   if (interval == 0 || !beacon_.PositionKnown()) tx.Value = 0;
   // Without a position neither reports nor messages make sense.
-  controls_.Transmit.Check7.Enabled = beacon_.PositionKnown();
-  if (!beacon_.PositionKnown()) controls_.Transmit.Check7.Value = 0;
+  controls_.Chat.Check7.Enabled = beacon_.PositionKnown();
+  if (!beacon_.PositionKnown()) controls_.Chat.Check7.Value = 0;
   if (was_on && tx.Value == 0) SwitchedOff();
 }
 
@@ -55,7 +55,7 @@ void TxSwitches::SwitchedOn() {
   const bool moving = sections_.Gps.GpsFixValid == 1 || sections_.Gps.GpsFixValidBefore == 1;
   if (moving && sections_.Chat.AutoAnswerOn == 0) {
     sections_.Chat.AutoAnswerOn = 1;
-    controls_.Transmit.Check16.Value = 1;
+    controls_.Chat.Check16.Value = 1;
   }
 }
 
@@ -63,8 +63,8 @@ void TxSwitches::SwitchedOff() {
   if (TurnedOff) TurnedOff();
   ObjectOff();
   controls_.Transmit.Check18.BackColour = kObjectDimmed;
-  controls_.Transmit.Frame3.Visible = false;
-  controls_.Transmit.Check7.Value = 0;
+  controls_.Chat.Frame3.Visible = false;
+  controls_.Chat.Check7.Value = 0;
   EnableChatButtons(false);
   map_.MapRedraw();
 }

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "core/actions/map_actions.h"
+#include "core/controls/chat_controls.h"
 #include "core/controls/record_panel_controls.h"
 #include "core/controls/transmit_controls.h"
 #include "core/state/chat.h"
@@ -22,6 +23,7 @@ struct TxSwitchesSections {
 
 struct TxSwitchesControls {
   TransmitControls& Transmit;
+  ChatControls& Chat;
   RecordPanelControls& Record;
 };
 

@@ -97,7 +97,7 @@ TEST_F(MainCycleTest, EveryStepComesInItsOrder) {
   state.Alarms.AlarmClosedAt = -100;
   state.Map.MapDrawn = false;
   state.Gps.NmeaSource = "3";
-  controls.Transmit.Check7.Value = 1;
+  controls.Chat.Check7.Value = 1;
   EXPECT_EQ(Tick(),
             (Names{"aprs-is", "second mode", "emergency", "redraw", "gps", "receive", "chat"}));
   EXPECT_EQ(timer1.IntervalMs(), 12000);
@@ -263,7 +263,7 @@ TEST_F(MainCycleTest, EmergencyComesBackAfterThirtySeconds) {
 TEST_F(MainCycleTest, InternetSupportEndsAfterAQuarterOfAnHourAndAtMidnight) {
   controls.Moni1.Check22.Value = 1;
   controls.MoniAll.Check23.Value = 1;
-  controls.Transmit.Check7.Value = 1;
+  controls.Chat.Check7.Value = 1;
   state.Internet.LastMoni1InternetMinute = 1234;
   state.Internet.LastMoniAllInternetMinute = 1234;
   state.Internet.InetSwitchTime = clock.SecondsSinceMidnight() - 899.0;
@@ -273,10 +273,10 @@ TEST_F(MainCycleTest, InternetSupportEndsAfterAQuarterOfAnHourAndAtMidnight) {
   Tick();
   EXPECT_EQ(controls.Moni1.Check22.Value, 0);
   EXPECT_EQ(controls.MoniAll.Check23.Value, 0);
-  EXPECT_EQ(controls.Transmit.Check7.Value, 1);
+  EXPECT_EQ(controls.Chat.Check7.Value, 1);
   state.Radio.RadioMode = static_cast<int>(RadioMode::None);
   Tick();
-  EXPECT_EQ(controls.Transmit.Check7.Value, 0);
+  EXPECT_EQ(controls.Chat.Check7.Value, 0);
   // Switched on just before midnight it goes off just after.
   state.Internet.InetSwitchTime = 86390.0;
   controls.MoniAll.Check23.Value = 1;
@@ -375,7 +375,7 @@ TEST_F(MainCycleTest, MoniAllIsCollectedByQuartersOfTheClockNumber) {
 }
 
 TEST_F(MainCycleTest, ChatPassComesEveryFifthTickOrAtOnce) {
-  controls.Transmit.Check7.Value = 1;
+  controls.Chat.Check7.Value = 1;
   std::vector<int> due;
   for (int tick = 0; tick < 11; ++tick) {
     if (Tick() == Names{"receive", "chat"}) due.push_back(tick);
@@ -388,7 +388,7 @@ TEST_F(MainCycleTest, ChatPassComesEveryFifthTickOrAtOnce) {
 TEST_F(MainCycleTest, ChatPassKeepsBeaconAndObjectBack) {
   TransmitEveryTenMinutes();
   state.Transmission.LastBeaconTime = 0;
-  controls.Transmit.Check7.Value = 1;
+  controls.Chat.Check7.Value = 1;
   EXPECT_EQ(Tick(), (Names{"receive", "chat"}));
   EXPECT_EQ(timer1.IntervalMs(), 12000);
   EXPECT_EQ(Tick(), (Names{"receive", "beacon"}));
@@ -454,9 +454,9 @@ TEST_F(MainCycleTest, TheSecondTimerBringsTheFirstBackAndWatchesTheBanner) {
 }
 
 TEST_F(MainCycleTest, ChatLogPanelClosesWithATick) {
-  controls.Transmit.Frame7.Visible = true;
+  controls.Chat.Frame7.Visible = true;
   Tick();
-  EXPECT_FALSE(controls.Transmit.Frame7.Visible);
+  EXPECT_FALSE(controls.Chat.Frame7.Visible);
 }
 
 }  // namespace

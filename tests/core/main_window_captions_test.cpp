@@ -39,7 +39,7 @@ TEST(MainWindowCaptions, TxSetupNamesItsButtonsAndSpeeds) {
   EXPECT_EQ(t.InfoMemory[5].Caption, "M6");
   EXPECT_EQ(t.TxTimestampBox.Caption, "TX TIMESTAMP (GPS)");
   EXPECT_EQ(t.DigiBox.Caption, "DIGI");
-  EXPECT_EQ(c.Transmit.Check15.Caption, "IGATE");
+  EXPECT_EQ(c.Gate.Check15.Caption, "IGATE");
   EXPECT_EQ(c.Transmit.Check2.Caption, "HF-DUAL");
   EXPECT_EQ(c.ObjectSetup.ObjectOk.Caption, "OK");
   for (const Button* down :
@@ -73,10 +73,10 @@ TEST(MainWindowCaptions, TheTransmittersPanelsWaitUntilTheyAreAskedFor) {
     EXPECT_FALSE(panel->Visible);
   }
   for (const CheckBox* box :
-       {&c.Transmit.Check6, &c.Transmit.Check18, &c.Transmit.Check2, &c.Transmit.Check15}) {
+       {&c.Transmit.Check6, &c.Transmit.Check18, &c.Transmit.Check2, &c.Gate.Check15}) {
     EXPECT_TRUE(box->Visible);
   }
-  EXPECT_FALSE(c.Transmit.Check7.Visible);
+  EXPECT_FALSE(c.Chat.Check7.Visible);
 }
 
 TEST(MainWindowCaptions, TheMemoriesToolTipsAreLeftToTheirTexts) {
@@ -104,7 +104,7 @@ TEST(MainWindowCaptions, EveryControlOfTheSetUpPanelsExplainsItself) {
                                      &t.DigiBox,          &t.TxLevel,
                                      &t.CrossField,       &t.CrossDown,
                                      &t.CrossUp,          &t.TxOk,
-                                     &t.TxAbort,          &c.Transmit.Check15,
+                                     &t.TxAbort,          &c.Gate.Check15,
                                      &c.Transmit.Check2,  &o.ObjectNameField,
                                      &o.ObjectTextField,  &o.ObjectOverlayField,
                                      &o.ObjectSymbolDown, &o.ObjectSymbolUp,

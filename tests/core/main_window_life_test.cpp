@@ -92,7 +92,7 @@ TEST_F(StartTest, EachModeOpensItsLink) {
   EXPECT_EQ(opened(6), "serial");
   EXPECT_EQ(opened(4), "gps");
   EXPECT_FALSE(controls.Transmit.Check6.Visible);
-  EXPECT_FALSE(controls.Transmit.Check16.Enabled);
+  EXPECT_FALSE(controls.Chat.Check16.Enabled);
 }
 
 TEST_F(StartTest, AFailedLinkEndsTheStart) {
@@ -121,13 +121,13 @@ TEST_F(StartTest, ADigitInTheThirdPlaceAllowsMessages) {
   state.Internet.AprsIsPasscode = "123";
   state.Internet.IGateOn = 1;
   Start();
-  EXPECT_EQ(controls.Transmit.Check8.Value, 1);
-  EXPECT_FALSE(controls.Transmit.Check8.Enabled);
-  EXPECT_FALSE(controls.Transmit.Check16.Visible);
-  EXPECT_FALSE(controls.Transmit.Text2.Visible);
-  EXPECT_FALSE(controls.Transmit.Text3.Visible);
-  EXPECT_EQ(controls.Transmit.Check15.Value, 0);
-  EXPECT_FALSE(controls.Transmit.Check15.Enabled);
+  EXPECT_EQ(controls.Chat.Check8.Value, 1);
+  EXPECT_FALSE(controls.Chat.Check8.Enabled);
+  EXPECT_FALSE(controls.Chat.Check16.Visible);
+  EXPECT_FALSE(controls.Chat.Text2.Visible);
+  EXPECT_FALSE(controls.Chat.Text3.Visible);
+  EXPECT_EQ(controls.Gate.Check15.Value, 0);
+  EXPECT_FALSE(controls.Gate.Check15.Enabled);
   EXPECT_TRUE(controls.Transmit.Check6.Visible);
 }
 
@@ -138,7 +138,7 @@ TEST_F(StartTest, SwitchesShowWhatIsHeldAndHfDualFollowsItsBox) {
   Start();
   EXPECT_FALSE(controls.Map.Option1.Value);
   EXPECT_EQ(state.Radio.HfDualOn, 1);
-  EXPECT_EQ(controls.Transmit.Check16.Value, 1);
+  EXPECT_EQ(controls.Chat.Check16.Value, 1);
 }
 
 TEST_F(StartTest, WithoutAPasscodeThereIsNoGateSwitch) {
@@ -146,7 +146,7 @@ TEST_F(StartTest, WithoutAPasscodeThereIsNoGateSwitch) {
   state.Internet.AprsIsPasscode = "0";
   Start();
   EXPECT_EQ(state.Internet.IGateOn, 0);
-  EXPECT_FALSE(controls.Transmit.Check15.Visible);
+  EXPECT_FALSE(controls.Gate.Check15.Visible);
 }
 
 TEST_F(StartTest, APicturePlaceInBothCoordinatesOpensTheMapThere) {

@@ -6,34 +6,36 @@ namespace zepril {
 namespace {
 
 TEST(MainWindowResize, TheAutoAnswerSwitchNamesTheFieldThatHoldsTheAnswer) {
-  MainWindowControls controls;
+  WindowControls window;
+  ChatControls controls;
   ChatState chat;
   chat.AutoAnswerOn = 1;
-  MainWindowResize(controls, chat);
-  EXPECT_EQ(controls.Transmit.Check16.Caption, "AUTO ANSWER TEXT:");
-  EXPECT_EQ(controls.Transmit.Check16.WidthPx, 159);
-  controls.Transmit.Text2.Text = "QX2CD";
-  MainWindowResize(controls, chat);
-  EXPECT_EQ(controls.Transmit.Check16.Caption, "AUTO-A");
-  EXPECT_EQ(controls.Transmit.Check16.WidthPx, 73);
-  controls.Transmit.Text2.Text = "  ";
+  MainWindowResize(window, controls, chat);
+  EXPECT_EQ(controls.Check16.Caption, "AUTO ANSWER TEXT:");
+  EXPECT_EQ(controls.Check16.WidthPx, 159);
+  controls.Text2.Text = "QX2CD";
+  MainWindowResize(window, controls, chat);
+  EXPECT_EQ(controls.Check16.Caption, "AUTO-A");
+  EXPECT_EQ(controls.Check16.WidthPx, 73);
+  controls.Text2.Text = "  ";
   chat.AutoAnswerOn = 0;
-  MainWindowResize(controls, chat);
-  EXPECT_EQ(controls.Transmit.Check16.Caption, "AUTO-A");
+  MainWindowResize(window, controls, chat);
+  EXPECT_EQ(controls.Check16.Caption, "AUTO-A");
 }
 
 TEST(MainWindowResize, TheMessageFieldStaysWithinItsWidths) {
-  MainWindowControls controls;
+  WindowControls window;
+  ChatControls controls;
   const ChatState chat;
-  controls.Window.WidthPx = 1280;
-  MainWindowResize(controls, chat);
-  EXPECT_EQ(controls.Transmit.Text3.WidthPx, 488);
-  controls.Window.WidthPx = 500;
-  MainWindowResize(controls, chat);
-  EXPECT_EQ(controls.Transmit.Text3.WidthPx, 500 - 73 - 96);
-  controls.Window.WidthPx = 100;
-  MainWindowResize(controls, chat);
-  EXPECT_EQ(controls.Transmit.Text3.WidthPx, 10);
+  window.WidthPx = 1280;
+  MainWindowResize(window, controls, chat);
+  EXPECT_EQ(controls.Text3.WidthPx, 488);
+  window.WidthPx = 500;
+  MainWindowResize(window, controls, chat);
+  EXPECT_EQ(controls.Text3.WidthPx, 500 - 73 - 96);
+  window.WidthPx = 100;
+  MainWindowResize(window, controls, chat);
+  EXPECT_EQ(controls.Text3.WidthPx, 10);
 }
 
 }  // namespace

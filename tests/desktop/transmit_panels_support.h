@@ -30,7 +30,7 @@ class TransmitPanelsTest : public MainWindowTest {
       for (Control* control : std::initializer_list<Control*>{
                &Tx().TxLevel, &Tx().TxLevelLabel, &Tx().CrossField, &Tx().CrossUp, &Tx().CrossDown,
                &Tx().DigiBox, &Tx().CrossDown, &Tx().DigiBox, &Controls().Transmit.Check2,
-               &Controls().Transmit.Check15}) {
+               &Controls().Gate.Check15}) {
         control->Visible = true;
         control->Enabled = true;
       }

@@ -99,9 +99,9 @@ TEST_F(TransmitPanelsTest, EveryFieldTakesTypingAndTellsOfIt) {
 TEST_F(TransmitPanelsTest, EverySwitchAndSpeedReachesItsEvent) {
   OpenTxSetup();
   std::map<std::string, CheckBox*> switches = {
-      {"TxTimestampBox", &Tx().TxTimestampBox},  {"DigiBox", &Tx().DigiBox},
-      {"Check15", &Controls().Transmit.Check15}, {"Check2", &Controls().Transmit.Check2},
-      {"Check6", &Controls().Transmit.Check6},   {"Check18", &Controls().Transmit.Check18}};
+      {"TxTimestampBox", &Tx().TxTimestampBox}, {"DigiBox", &Tx().DigiBox},
+      {"Check15", &Controls().Gate.Check15},    {"Check2", &Controls().Transmit.Check2},
+      {"Check6", &Controls().Transmit.Check6},  {"Check18", &Controls().Transmit.Check18}};
   for (std::size_t line = 0; line < TxSetupControls::kLines; ++line)
     switches[std::string("fr4ta") + static_cast<char>('1' + line)] = &Tx().fr4ta[line];
   for (const auto& [name, control] : switches) {

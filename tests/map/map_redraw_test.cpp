@@ -221,10 +221,10 @@ TEST(MapRedraw, OneJumpToTheTypedPositionEndsAllFollowing) {
 
 TEST(MapRedraw, TakesTheFocusUnlessAMessageIsBeingTyped) {
   MapWorld world;
-  world.Controls.Transmit.Text3.HasFocus = true;
+  world.Controls.Chat.Text3.HasFocus = true;
   world.Redraw();
   EXPECT_FALSE(world.Controls.Map.Picture1.FocusWanted);
-  world.Controls.Transmit.Text3.HasFocus = false;
+  world.Controls.Chat.Text3.HasFocus = false;
   world.Redraw();
   EXPECT_TRUE(world.Controls.Map.Picture1.FocusWanted);
 }

@@ -204,13 +204,13 @@ TEST(TransmitRooms, WithoutAPositionTheSwitchOpensUserQthSetup) {
   QthSetupControls& qth = station.Controls().Qth;
   TransmitControls& transmit = station.Controls().Transmit;
   qth.Frame2.Visible = false;
-  EXPECT_FALSE(transmit.Check7.Enabled);
+  EXPECT_FALSE(station.Controls().Chat.Check7.Enabled);
   Press(transmit.Check6, 1);
   EXPECT_TRUE(qth.Frame2.Visible);
   EXPECT_EQ(transmit.Check6.Value, 0);
   // The map's centre is taken; then the switch holds.
   qth.QthOk.Click();
-  EXPECT_TRUE(transmit.Check7.Enabled);
+  EXPECT_TRUE(station.Controls().Chat.Check7.Enabled);
   Press(transmit.Check6, 1);
   EXPECT_FALSE(qth.Frame2.Visible);
   EXPECT_EQ(transmit.Check6.Value, 1);

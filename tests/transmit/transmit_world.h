@@ -91,7 +91,7 @@ struct TransmitWorld {
   PositionBeacon Beacon{{State.Identity, State.Transmission, State.Map, State.Gps, State.Settings},
                         {Sender, Symbols, Disk, Clock, Controls.Window, Controls.Map}};
   TxSwitches Switches{{State.Transmission, State.Chat, State.Gps},
-                      {Controls.Transmit, Controls.Record},
+                      {Controls.Transmit, Controls.Chat, Controls.Record},
                       Beacon,
                       Actions};
 };

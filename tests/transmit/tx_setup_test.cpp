@@ -25,6 +25,7 @@ class TxSetupTest : public ::testing::Test {
   }
   TxSetupControls& Panel() { return world.Controls.TxSetup; }
   TransmitControls& Transmit() { return world.Controls.Transmit; }
+  GateControls& Gate() { return world.Controls.Gate; }
   void Use(RadioMode mode) { world.State.Radio.RadioMode = static_cast<int>(mode); }
   void Open() { Transmit().Check6.RightClick(); }
   void Ok() { Panel().TxOk.Click(); }
@@ -44,6 +45,7 @@ class TxSetupTest : public ::testing::Test {
                  world.State.Internet, world.State.Reception},
                 world.Controls.TxSetup,
                 world.Controls.Transmit,
+                world.Controls.Gate,
                 {actions, world.Actions, world.Switches, world.Modem, world.LongWork, world.Symbols,
                  preview, world.Timer1, world.Timer2}};
 };
@@ -97,7 +99,7 @@ TEST_F(TxSetupTest, EveryFieldShowsWhatHolds) {
   EXPECT_EQ(Transmit().Check2.Value, 1);
   EXPECT_EQ(Panel().DigiBox.Value, 1);
   EXPECT_EQ(Panel().TxLevel.Text, "450");
-  EXPECT_EQ(Transmit().Check15.Value, 1);
+  EXPECT_EQ(Gate().Check15.Value, 1);
   EXPECT_EQ(Panel().TxTimestampBox.Value, 1);
   EXPECT_EQ(Panel().SymbolName.Caption, world.Symbols.Name(103));
   EXPECT_EQ(Panel().TxOverlayField.Text, "S");
@@ -194,7 +196,7 @@ TEST_F(TxSetupTest, AbortChangesNothing) {
   Panel().PathMemory[0].RightClick();
   Transmit().Check2.Value = 1;
   Transmit().Check2.Click();
-  Transmit().Check15.Value = 1;
+  Gate().Check15.Value = 1;
   Panel().TxAbort.Click();
   EXPECT_FALSE(Panel().Frame4.Visible);
   EXPECT_EQ(world.State.Identity.MySsid, "10");
@@ -205,7 +207,7 @@ TEST_F(TxSetupTest, AbortChangesNothing) {
   EXPECT_TRUE(actions.Calls.empty());
   // Boxes that others read too show again what holds.
   EXPECT_EQ(Transmit().Check2.Value, 0);
-  EXPECT_EQ(Transmit().Check15.Value, 0);
+  EXPECT_EQ(Gate().Check15.Value, 0);
   // And so does the panel when it is opened anew.
   Open();
   EXPECT_EQ(Panel().TxSsid.Text, "10");
@@ -229,7 +231,7 @@ TEST_F(TxSetupTest, OkTakesEverythingInItsOrder) {
   Panel().SymbolUp.Click();
   Choose(2);  // 1200
   Panel().DigiBox.Value = 1;
-  Transmit().Check15.Value = 1;
+  Gate().Check15.Value = 1;
   world.State.Identity.MyCall = " QX7KB ";
   world.State.Transmission.LastBeaconTime = 99;
   Ok();

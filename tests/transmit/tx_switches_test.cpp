@@ -8,6 +8,7 @@ namespace {
 class TxSwitchesTest : public ::testing::Test {
  protected:
   TransmitControls& Transmit() { return world.Controls.Transmit; }
+  ChatControls& Chat() { return world.Controls.Chat; }
   void ClickTx(int value) {
     Transmit().Check6.Value = value;
     Transmit().Check6.Click();
@@ -74,7 +75,7 @@ TEST_F(TxSwitchesTest, AMovingStationAnswersByItself) {
   world.State.Gps.GpsFixValidBefore = 1;
   ClickTx(1);
   EXPECT_EQ(world.State.Chat.AutoAnswerOn, 1);
-  EXPECT_EQ(Transmit().Check16.Value, 1);
+  EXPECT_EQ(Chat().Check16.Value, 1);
 }
 
 TEST_F(TxSwitchesTest, AFixIsEnoughForItAndAnAnswerThatIsOnStaysSo) {
@@ -82,23 +83,23 @@ TEST_F(TxSwitchesTest, AFixIsEnoughForItAndAnAnswerThatIsOnStaysSo) {
   ClickTx(1);
   EXPECT_EQ(world.State.Chat.AutoAnswerOn, 1);
   ClickTx(0);
-  Transmit().Check16.Value = 0;
+  Chat().Check16.Value = 0;
   ClickTx(1);
-  EXPECT_EQ(Transmit().Check16.Value, 0);
+  EXPECT_EQ(Chat().Check16.Value, 0);
 }
 
 TEST_F(TxSwitchesTest, SwitchedOffEverythingGoesOffWithIt) {
   ClickTx(1);
   world.State.Transmission.ObjectName = "ABC      ";
   ClickObject(1);
-  Transmit().Check7.Value = 1;
-  Transmit().Frame3.Visible = true;
+  Chat().Check7.Value = 1;
+  Chat().Frame3.Visible = true;
   const int redraws = world.Actions.Redraws;
   ClickTx(0);
   EXPECT_EQ(Transmit().Check18.Value, 0);
   EXPECT_EQ(world.State.Transmission.ObjectTxOn, 0);
-  EXPECT_EQ(Transmit().Check7.Value, 0);
-  EXPECT_FALSE(Transmit().Frame3.Visible);
+  EXPECT_EQ(Chat().Check7.Value, 0);
+  EXPECT_FALSE(Chat().Frame3.Visible);
   EXPECT_FALSE(world.Controls.Record.Command10.Enabled);
   EXPECT_EQ(Transmit().Check18.BackColour, TxSwitches::kObjectDimmed);
   EXPECT_EQ(world.Actions.Redraws, redraws + 1);
@@ -126,10 +127,10 @@ TEST_F(TxSwitchesTest, WithoutAPositionTheSwitchesAreHeldOff) {
   world.State.Map.OwnEastKm = 0.0;
   ClickTx(1);
   EXPECT_EQ(Transmit().Check6.Value, 0);
-  Transmit().Check7.Value = 1;
+  Chat().Check7.Value = 1;
   world.Switches.ShowInterval();
-  EXPECT_EQ(Transmit().Check7.Value, 0);
-  EXPECT_FALSE(Transmit().Check7.Enabled);
+  EXPECT_EQ(Chat().Check7.Value, 0);
+  EXPECT_FALSE(Chat().Check7.Enabled);
 }
 
 TEST_F(TxSwitchesTest, WithoutAPositionAPressAsksForIt) {

@@ -3,6 +3,8 @@
 // widgets are the same.
 #pragma once
 
+#include "core/controls/chat_controls.h"
+#include "core/controls/gate_controls.h"
 #include "core/controls/iono_controls.h"
 #include "core/controls/map_controls.h"
 #include "core/controls/moni1_controls.h"
@@ -43,6 +45,8 @@ struct MainWindowControls {
   SunControls Sun;
   ProgressControls Progress;
   TransmitControls Transmit;
+  ChatControls Chat;
+  GateControls Gate;
   TxSetupControls TxSetup;
   ObjectSetupControls ObjectSetup;
   TerminalControls Terminal;

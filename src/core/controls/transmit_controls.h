@@ -1,4 +1,4 @@
-// The transmission switches.
+// The switches of what the station sends by itself, and what tells how that goes.
 #pragma once
 
 #include "core/controls.h"
@@ -10,15 +10,7 @@ struct TransmitControls {
   Label TxOutcome;     // what became of the last frame, for some seconds
   FillBar NextBeacon;  // fills towards the next report of the own position
   CheckBox Check18;    // OBJECT TX
-  CheckBox Check7;     // CHAT
-  CheckBox Check8;     // messages from and to me only
-  CheckBox Check16;    // auto answer
-  CheckBox Check15;    // IGATE
   CheckBox Check2;     // HF-DUAL
-  TextBox Text2;       // addressee
-  TextBox Text3;       // message
-  Frame Frame3;        // chat panel
-  Frame Frame7;        // chat log
 };
 
 }  // namespace zepril

@@ -1,0 +1,12 @@
+// The controls of the gate between radio and internet.
+#pragma once
+
+#include "core/controls.h"
+
+namespace zepril {
+
+struct GateControls {
+  CheckBox Check15;  // IGATE
+};
+
+}  // namespace zepril
