@@ -35,7 +35,6 @@ struct LastValues {
 // order. A file of more than 100 lines, or one that would grow beyond that, stays as it is: false.
 bool MergeConfigAtExit(Files& files, const std::string& program_folder, const LastValues& values);
 
-
 // The name on the air: the call, with "-" and the SSID when its number is 1 to 15.
 std::string FullCall(std::string_view call, std::string_view ssid);
 

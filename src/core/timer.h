@@ -55,9 +55,7 @@ class Timer {
     Restarted();
   }
   // Held, and the moment at which it was due is past.
-  bool IsOverdue() const {
-    return held_due_ && *held_due_ < clock_->MonotonicSeconds();
-  }
+  bool IsOverdue() const { return held_due_ && *held_due_ < clock_->MonotonicSeconds(); }
   // A new interval restarts the count of a running timer and leaves a stopped one stopped.
   void SetInterval(int interval_ms) {
     interval_ms_ = interval_ms < 1 ? 1 : interval_ms;

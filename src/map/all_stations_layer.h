@@ -30,12 +30,12 @@ std::vector<StationTrail> TrailsOfStore(const StationStore& store);
 
 // Draws every station but the followed one. Level 1: track and mark; 2 and 4 with the call; 3 and 5
 // with the long label; 4 and 5 with the bitmap symbol instead of the mark. At level 1 the core of a
-// track greys with age. Classes that are switched off are left out, as are, where asked, records not
-// heard directly and moving stations that did not move. A station with a record that can't be read
-// is left as far as it was drawn; the others follow.
+// track greys with age. Classes that are switched off are left out, as are, where asked, records
+// not heard directly and moving stations that did not move. A station with a record that can't be
+// read is left as far as it was drawn; the others follow.
 void AllStationsDraw(DrawingSurface& surface, const MapViewState& view, const StationStore& store,
-                     std::string_view followed_call, const SymbolTable& table,
-                     SymbolSheets& sheets, const LocalTime& now);
+                     std::string_view followed_call, const SymbolTable& table, SymbolSheets& sheets,
+                     const LocalTime& now);
 
 // True when the class switches show the class.
 bool ClassIsShown(int station_class_mask, int class_digit);

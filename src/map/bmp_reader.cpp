@@ -75,8 +75,8 @@ std::optional<Layout> ReadHeaders(std::string_view bytes) {
       height = -height;
     }
   }
-  const bool plain = compression == 0 ||
-                     (compression == kBitFields && layout.Bits == 32 && PlainBitFields(bytes));
+  const bool plain =
+      compression == 0 || (compression == kBitFields && layout.Bits == 32 && PlainBitFields(bytes));
   if (!plain || !SizesAreSensible(width, height)) return {};
   layout.Width = static_cast<int>(width);
   layout.Height = static_cast<int>(height);
@@ -101,8 +101,7 @@ std::vector<std::uint32_t> ReadPalette(const Layout& layout, std::string_view by
   for (std::size_t i = 0; i < layout.PaletteEntries; ++i) {
     const std::size_t at = layout.PaletteAt + i * layout.PaletteEntryBytes;
     if (at + 3 > bytes.size()) break;
-    palette[i] =
-        kOpaque | Byte(bytes, at + 2) << 16 | Byte(bytes, at + 1) << 8 | Byte(bytes, at);
+    palette[i] = kOpaque | Byte(bytes, at + 2) << 16 | Byte(bytes, at + 1) << 8 | Byte(bytes, at);
   }
   return palette;
 }
@@ -186,17 +185,21 @@ std::vector<std::uint32_t> StretchedPixels(const Bitmap& bitmap,
   const auto to_width = static_cast<std::size_t>(width);
   const auto from_width = static_cast<std::size_t>(bitmap.Width);
   std::vector<std::size_t> column(to_width);
-  for (std::size_t x = 0; x < to_width; ++x) column[x] = x * from_width / to_width;
+  for (std::size_t x = 0; x < to_width; ++x)
+    column[x] = x * from_width / to_width;
   std::vector<std::uint32_t> out(to_width * static_cast<std::size_t>(height));
   for (int y = 0; y < height; ++y) {
-    const auto from = static_cast<std::size_t>(static_cast<std::int64_t>(y) * bitmap.Height / height);
+    const auto from =
+        static_cast<std::size_t>(static_cast<std::int64_t>(y) * bitmap.Height / height);
     std::uint32_t* row = out.data() + static_cast<std::size_t>(y) * to_width;
     if (bitmap.HasPalette()) {
       const std::uint8_t* source = bitmap.Indexed.data() + from * from_width;
-      for (std::size_t x = 0; x < to_width; ++x) row[x] = colours[source[column[x]]];
+      for (std::size_t x = 0; x < to_width; ++x)
+        row[x] = colours[source[column[x]]];
     } else {
       const std::uint32_t* source = bitmap.Pixels.data() + from * from_width;
-      for (std::size_t x = 0; x < to_width; ++x) row[x] = source[column[x]];
+      for (std::size_t x = 0; x < to_width; ++x)
+        row[x] = source[column[x]];
     }
   }
   return out;

@@ -16,7 +16,9 @@ int BarPixels(int count, int limit) {
 
 }  // namespace
 
-void ShowMoniAllBar(FillBar& bar, int count, int limit) { bar.FilledPx = BarPixels(count, limit); }
+void ShowMoniAllBar(FillBar& bar, int count, int limit) {
+  bar.FilledPx = BarPixels(count, limit);
+}
 
 void ShowMoni1Bar(FillBar& bar, int count, int limit) {
   bar.FilledPx = std::min(BarPixels(count, limit), static_cast<int>(kFullBarPx));

@@ -1,5 +1,6 @@
 // Collects lines and hands those of one colour to the surface together, in the order in which they
-// were drawn: a line of another colour first sends what waits, so that what lies on top stays there.
+// were drawn: a line of another colour first sends what waits, so that what lies on top stays
+// there.
 #pragma once
 
 #include <vector>

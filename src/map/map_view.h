@@ -1,8 +1,8 @@
 // Geometry of the map window: what part of the zone is seen, and where a position lies in it.
 //
-// Kilometres are in the UTM zone of the map library; pixels count from the window's top left, rising
-// to the right and down. The centre of a window of W x H pixels is pixel (W/2, H/2 - 1): the view is
-// asymmetric by one pixel.
+// Kilometres are in the UTM zone of the map library; pixels count from the window's top left,
+// rising to the right and down. The centre of a window of W x H pixels is pixel (W/2, H/2 - 1): the
+// view is asymmetric by one pixel.
 #pragma once
 
 #include "core/state/map_view.h"

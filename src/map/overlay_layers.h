@@ -13,8 +13,8 @@ class OverlayLayers {
  public:
   virtual ~OverlayLayers() = default;
 
-  // The grid of one display system. `last_tile`: pixel corner of the last tile place, where the grid
-  // of the map's own zone starts.
+  // The grid of one display system. `last_tile`: pixel corner of the last tile place, where the
+  // grid of the map's own zone starts.
   virtual void GridLayer(DrawingSurface&, const MapViewState&, DisplayMode, PixelPoint) {}
   virtual void CirclesLayer(DrawingSurface&, const MapViewState&) {}
   virtual void PictureMarksLayer(DrawingSurface&, const MapViewState&) {}

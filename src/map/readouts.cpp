@@ -20,19 +20,22 @@ std::string Suffix(Readout readout) {
   return readout == Readout::Centre ? "cen" : readout == Readout::Cursor ? "crs" : "mon";
 }
 
-std::string Caption(const std::string& text) { return std::string(Left(text, kCaptionWidth)); }
+std::string Caption(const std::string& text) {
+  return std::string(Left(text, kCaptionWidth));
+}
 
 // Minutes of a record's date and time; dates roll over and never fail.
 std::int64_t RecordMinutes(const StationRecord& record) {
   const auto number = [&](std::size_t first, std::size_t last) {
     return static_cast<int>(WholeVal(record.Columns(first, last), 0, 99).value_or(0));
   };
-  return MinutesOf({2000 + number(1, 2), number(3, 4), number(5, 6), number(8, 9), number(10, 11), 0});
+  return MinutesOf(
+      {2000 + number(1, 2), number(3, 4), number(5, 6), number(8, 9), number(10, 11), 0});
 }
 
 void PutField(std::string& line, std::size_t column, std::size_t width, const std::string& value) {
-  line.replace(column - 1, width, std::string(Right(PadLeft(value, width),
-                                                    static_cast<std::ptrdiff_t>(width))));
+  line.replace(column - 1, width,
+               std::string(Right(PadLeft(value, width), static_cast<std::ptrdiff_t>(width))));
 }
 
 }  // namespace
@@ -53,17 +56,17 @@ Readouts::Captions Readouts::CaptionsOf(Readout readout, int mode, const std::st
       return {"GK " + suffix + v.GkNorthText, readout == Readout::Monitor ? lower : Caption(lower)};
     }
     case DisplayMode::UtmByPosition:
-      return {"UTM" + suffix + v.UtmNorthText,
-              Caption(v.UtmZoneText + "|" + std::string(Right(v.UtmMeridianText, 3)) +
-                      v.UtmEastText)};
+      return {
+          "UTM" + suffix + v.UtmNorthText,
+          Caption(v.UtmZoneText + "|" + std::string(Right(v.UtmMeridianText, 3)) + v.UtmEastText)};
     case DisplayMode::Rt90:
       return {"RNN" + suffix + v.RtNorthText, Caption("RNE" + suffix + v.RtEastText)};
     case DisplayMode::MapUtm:
       break;
   }
-  return {"UTM" + suffix + north_text,
-          Caption(v.MapZoneNumberText + "!" + std::string(Right(v.MapMeridianText, 3)) +
-                  east_text)};
+  return {
+      "UTM" + suffix + north_text,
+      Caption(v.MapZoneNumberText + "!" + std::string(Right(v.MapMeridianText, 3)) + east_text)};
 }
 
 void Readouts::CentreReadout() {
@@ -100,8 +103,8 @@ void Readouts::CursorReadout(double x, double y) {
   view_.CursorX = x;
   view_.CursorY = y;
   const double p = view_.MetresPerPixel;
-  view_.CursorNorthKm = RoundedToMetre(view_.CentreNorthKm -
-                                       (y - (view_.ViewHeightPx / 2.0 - 1.0)) * p / 1000.0);
+  view_.CursorNorthKm =
+      RoundedToMetre(view_.CentreNorthKm - (y - (view_.ViewHeightPx / 2.0 - 1.0)) * p / 1000.0);
   view_.CursorEastKm =
       RoundedToMetre((x - view_.ViewWidthPx / 2.0) * p / 1000.0 + view_.CentreEastKm);
   ShowPoint(Readout::Cursor, view_.CursorNorthKm, view_.CursorEastKm, controls_.Label3,
@@ -144,7 +147,8 @@ void Readouts::StepDisplayMode(Readout readout) {
 std::string StationSpeedText(const StationStore& history) {
   // Blank slots hold no position.
   int newest = history.Count();
-  while (newest >= 1 && history.At(newest).IsBlank()) --newest;
+  while (newest >= 1 && history.At(newest).IsBlank())
+    --newest;
   if (newest < 2) return {};
   const StationRecord& last = history.At(newest);
   const StationRecord* reached = nullptr;

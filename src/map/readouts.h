@@ -19,7 +19,13 @@
 
 namespace zepril {
 
-enum class DisplayMode { MapUtm = 0, Geographic = 1, GaussKrueger = 2, UtmByPosition = 3, Rt90 = 4 };
+enum class DisplayMode {
+  MapUtm = 0,
+  Geographic = 1,
+  GaussKrueger = 2,
+  UtmByPosition = 3,
+  Rt90 = 4
+};
 inline constexpr int kDisplayModes = 5;
 
 enum class Readout { Centre, Cursor, Monitor };
@@ -66,7 +72,8 @@ class Readouts {
 };
 
 // Speed of a station in km/h as text, from its stored positions: from the newest record back to the
-// first that is at least 3 minutes older, or the oldest. Empty when less than a minute lies between.
+// first that is at least 3 minutes older, or the oldest. Empty when less than a minute lies
+// between.
 std::string StationSpeedText(const StationStore& history);
 
 // "DIST:       km   DIR:     °   SPEED:     km/h   VIA:" with the values in their places.

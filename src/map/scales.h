@@ -1,7 +1,8 @@
 // The six fixed scales of the map library, coarse to fine.
 //
 // A scale is known by the side of one tile in kilometres, which is also its native resolution in
-// metres per pixel. A folder is named by the five-character prefix; text behind it names a map type.
+// metres per pixel. A folder is named by the five-character prefix; text behind it names a map
+// type.
 #pragma once
 
 #include <array>

@@ -26,7 +26,8 @@ int SymbolIndexOf(std::string_view symbol) {
 }
 
 SymbolCell CellOfSymbol(int index) {
-  // Kept: column and row are counted in two ways that part at the hundreds, and the clamps hold them.
+  // Kept: column and row are counted in two ways that part at the hundreds, and the clamps hold
+  // them.
   const int x = (index % 100 - 1) % kColumns * kCellPitch;
   const int y = (index - 1) % 100 / kColumns * kCellPitch;
   return {index / 100, std::clamp(x, 0, kLastColumnX), std::clamp(y, 0, kLastRowY)};
@@ -36,7 +37,8 @@ SymbolSheets::SymbolSheets(const Files& files, const std::string& program_folder
     : files_(files), program_folder_(program_folder) {}
 
 void SymbolSheets::BeginRedraw() {
-  for (Sheet& sheet : sheets_) sheet.Checked = false;
+  for (Sheet& sheet : sheets_)
+    sheet.Checked = false;
 }
 
 const SymbolSheets::Sheet& SymbolSheets::Loaded(int number) {

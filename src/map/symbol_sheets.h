@@ -15,8 +15,8 @@ namespace zepril {
 
 inline constexpr int kSymbolCellPixels = 22;
 
-// Index of a symbol's row in the symbol table, 1 to 194. Any pair of characters gives one: what lies
-// outside the table is 194.
+// Index of a symbol's row in the symbol table, 1 to 194. Any pair of characters gives one: what
+// lies outside the table is 194.
 int SymbolIndex(char table, char code);
 // The same for the symbol field of a record; one that is shorter than two characters is 194.
 int SymbolIndexOf(std::string_view symbol);
@@ -37,7 +37,8 @@ class SymbolSheets {
 
   // To be called at the start of every redraw.
   void BeginRedraw();
-  // Copies the cell with its top left at (x, y). A sheet that is missing or too small draws nothing.
+  // Copies the cell with its top left at (x, y). A sheet that is missing or too small draws
+  // nothing.
   void DrawSymbol(DrawingSurface& surface, int index, int x, int y);
 
  private:

@@ -11,7 +11,8 @@ void TileCoverageMarks(const MapViewState& view, MapLibrary& library, ScaleContr
   if (record.Frame1.Visible) return;
   // The panel with the active scale marked.
   scales.ScalePanel.Visible = true;
-  for (ComboBox& field : scales.Folder) field.BackColour = kScaleFieldColour;
+  for (ComboBox& field : scales.Folder)
+    field.BackColour = kScaleFieldColour;
   if (const auto active = ScaleRow(view.MapTileKm)) {
     scales.Folder[static_cast<std::size_t>(*active)].BackColour = kActiveScaleColour;
   }
@@ -24,8 +25,8 @@ void TileCoverageMarks(const MapViewState& view, MapLibrary& library, ScaleContr
     const std::string folder = scales.Folder[row].Selected();
     if (folder.empty()) continue;
     const double side = kMapScaleTable[row].TileKm;
-    const std::string tile = TileFileName(TileCorner(view.CentreNorthKm, side),
-                                          TileCorner(view.CentreEastKm, side));
+    const std::string tile =
+        TileFileName(TileCorner(view.CentreNorthKm, side), TileCorner(view.CentreEastKm, side));
     const auto index = library.ReadIndex(folder);
     if (!index) {
       // A temp folder that takes no files must not cost a scan at every redraw.

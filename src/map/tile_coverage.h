@@ -15,8 +15,9 @@ inline constexpr std::uint32_t kNotCoveredColour = 0x808080;
 inline constexpr std::uint32_t kCoveredColour = 0xC0C0A0;
 
 // Shows the panel, marks the active scale, and marks each scale whose selected folder has a tile at
-// the centre, by its index file. Left alone while the record panel is open. An index file that can't
-// be read ends the marking and has the library scanned anew; a scale without a folder is passed over.
+// the centre, by its index file. Left alone while the record panel is open. An index file that
+// can't be read ends the marking and has the library scanned anew; a scale without a folder is
+// passed over.
 void TileCoverageMarks(const MapViewState& view, MapLibrary& library, ScaleControls& scales,
                        const RecordPanelControls& record);
 

@@ -13,11 +13,9 @@ PixelRect TileTarget(const MapViewState& view, double south_km, double west_km) 
   const double p = view.MetresPerPixel;
   const double north_edge = south_km + tile - tile / 1000.0;
   const double x =
-      Int(view.ViewWidthPx / 2.0 -
-          Int((view.CentreEastKm + kPixelGraceKm - west_km) / p * 1000.0));
-  const double y =
-      Int((view.ViewHeightPx / 2.0 - 1.0) +
-          Int((view.CentreNorthKm + kPixelGraceKm - north_edge) / p * 1000.0));
+      Int(view.ViewWidthPx / 2.0 - Int((view.CentreEastKm + kPixelGraceKm - west_km) / p * 1000.0));
+  const double y = Int((view.ViewHeightPx / 2.0 - 1.0) +
+                       Int((view.CentreNorthKm + kPixelGraceKm - north_edge) / p * 1000.0));
   const auto side = static_cast<int>(ToWhole(kTilePixels / view.ZoomFactor));
   return {static_cast<int>(ToWhole(x)), static_cast<int>(ToWhole(y)), side, side};
 }
@@ -25,7 +23,8 @@ PixelRect TileTarget(const MapViewState& view, double south_km, double west_km) 
 void ForgetInk(MapViewState& view, PaletteControls& palette) {
   palette.PalettePanel.Visible = false;
   view.SelectedInk.clear();
-  for (OptionButton& ink : palette.Optionink) ink.Value = false;
+  for (OptionButton& ink : palette.Optionink)
+    ink.Value = false;
 }
 
 void ShowInks(MapViewState& view, PaletteControls& palette) {
@@ -71,8 +70,7 @@ bool DrawActiveTile(DrawingSurface& surface, TileCache& cache, MapViewState& vie
   if (found->Stamp.Size == kSixteenInkTile) view.InkStateOn = true;
   if (!view.InkStateOn) ForgetInk(view, palette);
   // Brightness and ink, then the tile into its rectangle.
-  const PaletteWork work =
-      WorkForTile(found->Stamp.Size, view.BrightnessStep, view.SelectedInk);
+  const PaletteWork work = WorkForTile(found->Stamp.Size, view.BrightnessStep, view.SelectedInk);
   const auto drawn = cache.Drawn(*found, place.Target.Width, work);
   if (!drawn) return false;
   DrawTile(surface, place.Target, *drawn);

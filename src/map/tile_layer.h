@@ -22,7 +22,8 @@ struct TilePlace {
 };
 
 // Calls `visit` for every tile in view, south to north, west to east in each row.
-void ForEachTileInView(const MapViewState& view, const std::function<void(const TilePlace&)>& visit);
+void ForEachTileInView(const MapViewState& view,
+                       const std::function<void(const TilePlace&)>& visit);
 
 // Draws the tiles of the active folder and keeps the ink state: a tile of 16 inks turns it on, a
 // tile of more than 600000 bytes off, and while it is off the palette panel is hidden and no ink

@@ -8,7 +8,7 @@ namespace zepril {
 namespace {
 
 constexpr std::ptrdiff_t kFieldWidth = 4;
-constexpr int kLetterBase = 64;   // "@" stands for no thousands
+constexpr int kLetterBase = 64;     // "@" stands for no thousands
 constexpr int kLastPlainCode = 63;  // "?"
 
 }  // namespace
@@ -32,6 +32,8 @@ std::string TileFileName(double south_km, double west_km) {
   return TileNameField(south_km) + TileNameField(west_km) + ".BMP";
 }
 
-double TileCorner(double km, double tile_km) { return Int(km / tile_km) * tile_km; }
+double TileCorner(double km, double tile_km) {
+  return Int(km / tile_km) * tile_km;
+}
 
 }  // namespace zepril

@@ -12,8 +12,8 @@ namespace zepril {
 // that can't exist.
 std::string TileNameField(double km);
 
-// The value back: a first character above "?" tells a negative one by its code. The other characters
-// are read as a number; "XXXX" reads -24000.
+// The value back: a first character above "?" tells a negative one by its code. The other
+// characters are read as a number; "XXXX" reads -24000.
 double TileFieldValue(std::string_view field);
 
 // North field, east field and ".BMP".

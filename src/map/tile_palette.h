@@ -10,15 +10,15 @@
 namespace zepril {
 
 // File lengths in bytes that carry a meaning.
-inline constexpr std::int64_t kSixteenInkTile = 500118;   // 16 colours: the inks can be chosen
-inline constexpr std::int64_t kPaletteTile = 1001078;     // 256 colours
-inline constexpr std::int64_t kLongestInkTile = 600000;   // beyond it no ink palette is available
+inline constexpr std::int64_t kSixteenInkTile = 500118;  // 16 colours: the inks can be chosen
+inline constexpr std::int64_t kPaletteTile = 1001078;    // 256 colours
+inline constexpr std::int64_t kLongestInkTile = 600000;  // beyond it no ink palette is available
 
 inline constexpr int kInks = 16;
 
 struct PaletteWork {
-  int BrightnessStep = 0;   // 0 as it is, 1 dark (60 %), 2 bright (160 %)
-  std::optional<int> Ink;   // entry shown in bright yellow
+  int BrightnessStep = 0;  // 0 as it is, 1 dark (60 %), 2 bright (160 %)
+  std::optional<int> Ink;  // entry shown in bright yellow
   friend bool operator==(const PaletteWork&, const PaletteWork&) = default;
 };
 

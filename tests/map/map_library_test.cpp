@@ -147,7 +147,8 @@ TEST(MapLibraryScan, PictureNamesAreSortedAndThumbnailsLeftOut) {
 void FillPictureFolder(MapWorld& world, const std::vector<std::string>& names) {
   world.Disk.MakeFolder(R"(C:\Z\U33\UTMPICS)");
   const std::filesystem::path folder = world.Disk.NativePath(R"(C:\Z\U33\UTMPICS)");
-  for (const std::string& name : names) std::ofstream(folder / name);
+  for (const std::string& name : names)
+    std::ofstream(folder / name);
 }
 
 TEST(MapLibraryScan, HoldsTheFirstFiveThousandPictures) {
@@ -162,7 +163,8 @@ TEST(MapLibraryScan, HoldsTheFirstFiveThousandPictures) {
   EXPECT_EQ(held.front(), "00000400.BMP");
   EXPECT_EQ(held.back(), "49990400.BMP");
   EXPECT_TRUE(std::is_sorted(held.begin(), held.end()));
-  for (const std::string& name : held) EXPECT_EQ(name.size(), 12u);
+  for (const std::string& name : held)
+    EXPECT_EQ(name.size(), 12u);
 }
 
 TEST(MapLibraryScan, PictureNamesHoldTwelveCharacters) {
@@ -171,8 +173,8 @@ TEST(MapLibraryScan, PictureNamesHoldTwelveCharacters) {
                             std::string(200, '7') + ".BMP"});
   world.Disk.MakeFolder(R"(C:\Z\U33\UTMPICS\64000400.BMP)");
   world.Scan();
-  EXPECT_THAT(world.View().PictureNames, ElementsAre("62.JPG", "62000400 the", "63000400.jpe",
-                                                     "777777777777", "NONE"));
+  EXPECT_THAT(world.View().PictureNames,
+              ElementsAre("62.JPG", "62000400 the", "63000400.jpe", "777777777777", "NONE"));
 }
 
 TEST(DeleteIndexFiles, TakesOnlyWhatThisRunMade) {

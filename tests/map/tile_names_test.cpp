@@ -37,7 +37,9 @@ TEST(TileFieldValue, ReadsEveryCornerOfTheGridBack) {
 TEST(TileFieldValue, BytesThatAreNoFieldReadAsSomeNumber) {
   EXPECT_EQ(TileFieldValue(""), 0);
   EXPECT_EQ(TileFieldValue("12"), 12);
-  EXPECT_EQ(TileFieldValue("\xFE" "x"), -190000);
+  EXPECT_EQ(TileFieldValue("\xFE"
+                           "x"),
+            -190000);
 }
 
 TEST(TileFileName, GivesTheSouthWestCorner) {

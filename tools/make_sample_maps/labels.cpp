@@ -29,13 +29,13 @@ class Placer {
     // The ink of a letter's cell begins three rows down and ends three rows above its foot.
     const int gap = r + 3, up = -r - 15, down = r - 1;
     const std::optional<MapLabel> placed = Try(label, {{x + gap, y - 7},
-                                                    {x - gap - w, y - 7},
-                                                    {x + r, y + up},
-                                                    {x + r, y + down},
-                                                    {x - w / 2, y + up},
-                                                    {x - w / 2, y + down},
-                                                    {x - r - w, y + up},
-                                                    {x - r - w, y + down}});
+                                                       {x - gap - w, y - 7},
+                                                       {x + r, y + up},
+                                                       {x + r, y + down},
+                                                       {x - w / 2, y + up},
+                                                       {x - w / 2, y + down},
+                                                       {x - r - w, y + up},
+                                                       {x - r - w, y + down}});
     if (!placed && town.rank > 2) return;
     taken_.push_back(dot);
     result_.dots.push_back({x, y, town.rank});
@@ -65,7 +65,8 @@ class Placer {
     return std::none_of(taken_.begin(), taken_.end(), [&](const Box& b) { return Meet(b, box); });
   }
 
-  std::optional<MapLabel> Try(MapLabel label, const std::vector<std::pair<int, int>>& places) const {
+  std::optional<MapLabel> Try(MapLabel label,
+                              const std::vector<std::pair<int, int>>& places) const {
     for (const auto& [x, y] : places) {
       label.x = x;
       label.y = y;
