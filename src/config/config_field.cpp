@@ -1,3 +1,4 @@
+// The forms of a setting: whole and real numbers, texts, folders, each read with its bounds.
 #include "config/config_field.h"
 
 #include <algorithm>

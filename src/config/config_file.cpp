@@ -1,3 +1,4 @@
+// Reads `ZEPRIL.INI` as lines, exchanges single ones, and scans it at the first run of a folder.
 #include "config/config_file.h"
 
 #include "core/text_fields.h"

@@ -1,3 +1,4 @@
+// The keys of `ZEPRIL.INI` in the main window's order, their fallbacks, and the merge at exit.
 #include "config/main_window_settings.h"
 
 #include <algorithm>

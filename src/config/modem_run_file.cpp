@@ -1,3 +1,4 @@
+// Reads and rewrites the lines of `MODEM.RUN`; it goes with the last modem that was led back.
 #include "config/modem_run_file.h"
 
 #include <algorithm>

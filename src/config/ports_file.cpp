@@ -1,3 +1,4 @@
+// Finds, replaces and adds the line of a port number, every other byte left as it is.
 #include "config/ports_file.h"
 
 #include <algorithm>

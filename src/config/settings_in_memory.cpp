@@ -1,3 +1,4 @@
+// Hands every file on to the disk but `ZEPRIL.INI`, whose lines it keeps itself.
 #include "config/settings_in_memory.h"
 
 #include <algorithm>

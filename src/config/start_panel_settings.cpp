@@ -1,3 +1,4 @@
+// The keys of `ZEPRIL.INI` in the start panel's order, and what is put right behind a read.
 #include "config/start_panel_settings.h"
 
 #include <algorithm>

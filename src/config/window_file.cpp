@@ -1,3 +1,4 @@
+// Reads lines KEY=value within their bounds, and writes those that can stand in one line.
 #include "config/window_file.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Labels of the speeds, and which radio interfaces are serial modems.
 #include "core/baud_mode.h"
 
 namespace zepril {

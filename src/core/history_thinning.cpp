@@ -1,3 +1,4 @@
+// The walks that drop neighbours, in one pass each, and the cut at a gap in time.
 #include "core/history_thinning.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Chooses the lamp and its word from the state of the link and the age of its last data.
 #include "core/link_lamp.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The steps of a tick, one after the other, and what decides whether each is due.
 #include "core/main_cycle.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// The tables of texts, and their way into the controls.
 #include "core/main_window_captions.h"
 
 #include <array>

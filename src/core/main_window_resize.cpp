@@ -1,3 +1,4 @@
+// Widths of the message fields and the caption that depends on them.
 #include "core/main_window_resize.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The steps of the end in their order: sound, link, settings, files.
 #include "core/main_window_stop.h"
 
 namespace zepril {

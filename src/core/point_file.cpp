@@ -1,3 +1,4 @@
+// Lists, checks and shows names of point files, and reads one line by line with its progress told.
 #include "core/point_file.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Keeps lines in blocks that grow, and reads the position and the name out of one.
 #include "core/point_list.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Tells a number, with or without letters in front, from a device's name.
 #include "core/port_number.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Writes kilometres with three decimals as nine columns, and reads them back.
 #include "core/position_text.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// When the panel appears and is renewed, and how the time that is left is told.
 #include "core/progress_panel.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Blanks in place of control characters, and paths without their empty elements.
 #include "core/sent_text.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The columns of a record: where each group stands and how it is read.
 #include "core/station_record.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Sets, appends, erases and counts records, and what the computer's speed allows of them.
 #include "core/station_store.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The symbols in use with their classes, and the row of any pair of characters.
 #include "core/symbol_table.h"
 
 #include "core/text_fields.h"

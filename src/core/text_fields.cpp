@@ -1,3 +1,4 @@
+// Reads and prints numbers digit by digit; rounding, columns, search, case and padding of texts.
 #include "core/text_fields.h"
 
 #include "platform/folded_name.h"

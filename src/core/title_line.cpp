@@ -1,3 +1,4 @@
+// The base text of the title and the columns of its markers.
 #include "core/title_line.h"
 
 #include "core/baud_mode.h"

@@ -1,3 +1,4 @@
+// Each kind of control with its widget: signals to events, changed properties to the widget.
 #include "desktop/binder.h"
 
 #include <QAbstractButton>

@@ -1,3 +1,4 @@
+// Paints the switch with its frame, notch and dimmed form.
 #include "desktop/class_button.h"
 
 #include <QPainter>

@@ -1,3 +1,4 @@
+// The names, roles and states that are handed to assistive programs.
 #include "desktop/control_access.h"
 
 #include <QAbstractButton>

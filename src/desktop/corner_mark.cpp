@@ -1,3 +1,4 @@
+// Paints both kinds of mark, and keeps each at its place when the control changes its size.
 #include "desktop/corner_mark.h"
 
 #include <QEvent>

@@ -1,3 +1,4 @@
+// The course of a run: fonts, folder, start window, maps of a first run, main window, end.
 #include "desktop/desktop_program.h"
 
 #include <QCoreApplication>

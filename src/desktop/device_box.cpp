@@ -1,3 +1,4 @@
+// Tells when the list opens or the field is entered, and gives the list its width.
 #include "desktop/device_box.h"
 
 #include <QAbstractItemView>

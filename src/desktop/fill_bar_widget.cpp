@@ -1,3 +1,4 @@
+// Paints the bar as far as it is filled.
 #include "desktop/fill_bar_widget.h"
 
 #include <QPainter>

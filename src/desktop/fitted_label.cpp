@@ -1,3 +1,4 @@
+// Cuts the text into lines by its measured width, and paints them.
 #include "desktop/fitted_label.h"
 
 #include <QFontMetrics>

@@ -1,3 +1,4 @@
+// Notes how the focus came to a widget, and tells whether it stays.
 #include "desktop/focus_watch.h"
 
 #include <QAbstractItemView>

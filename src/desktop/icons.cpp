@@ -1,3 +1,4 @@
+// The lines of every icon on a field of 16 units, drawn in the ink that is asked for.
 #include "desktop/icons.h"
 
 #include <QPainter>

@@ -1,3 +1,4 @@
+// Takes repeated key presses off buttons before they act.
 #include "desktop/key_repeats.h"
 
 #include <QAbstractButton>

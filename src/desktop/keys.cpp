@@ -1,3 +1,4 @@
+// Turns the toolkit's key events into codes and characters, and names the kinds of keys.
 #include "desktop/keys.h"
 
 #include <QComboBox>

@@ -1,3 +1,4 @@
+// Paints the four forms of the lamp.
 #include "desktop/lamp_widget.h"
 
 #include <QPainter>

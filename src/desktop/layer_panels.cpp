@@ -1,3 +1,4 @@
+// Makes the panels of the layers, gives them their places, and closes the topmost one.
 #include "desktop/layer_panels.h"
 
 #include <QFrame>

@@ -1,3 +1,4 @@
+// The colours of day and night, the style sheet, and the shades and inks of state colours.
 #include "desktop/look.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Builds the window's parts, arranges them, brings controls out, and takes the window's keys.
 #include "desktop/main_window.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// Makes the bar's groups and fits them to the width there is.
 #include "desktop/map_bar.h"
 
 #include <QLabel>

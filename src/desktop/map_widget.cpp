@@ -1,3 +1,4 @@
+// Paints the map's image and its pointer; mouse, wheel and keys become the control's events.
 #include "desktop/map_widget.h"
 
 #include <QContextMenuEvent>

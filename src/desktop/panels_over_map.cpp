@@ -1,3 +1,4 @@
+// Makes each panel over the map, gives it its place, and closes the topmost one.
 #include "desktop/panels_over_map.h"
 
 #include <QFrame>

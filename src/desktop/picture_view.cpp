@@ -1,3 +1,4 @@
+// Decides how large a foreign picture may be read, reads it once, and paints it.
 #include "desktop/picture_view.h"
 
 #include <QFile>

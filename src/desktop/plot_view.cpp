@@ -1,3 +1,4 @@
+// Paints the plot unfiltered whenever it has changed.
 #include "desktop/plot_view.h"
 
 #include <QPainter>

@@ -1,3 +1,4 @@
+// Opens addresses and files, and moves the pointer, as far as the system allows.
 #include "desktop/qt_desktop_actions.h"
 
 #include <QApplication>

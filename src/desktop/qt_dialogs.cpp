@@ -1,3 +1,4 @@
+// Shows a box, and answers without harm when it is closed or the program must end.
 #include "desktop/qt_dialogs.h"
 
 #include <QMessageBox>

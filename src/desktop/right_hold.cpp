@@ -1,3 +1,4 @@
+// Follows mouse, keys and focus, so that what has begun ends once.
 #include "desktop/right_hold.h"
 
 #include <QAbstractScrollArea>

@@ -1,3 +1,4 @@
+// Runs the drawing in a thread, tells its progress in the window's one, and can end it early.
 #include "desktop/sample_map_worker.h"
 
 #include <QMetaObject>

@@ -1,3 +1,4 @@
+// Paints the bar and the frame box of a row, and the legend that says what they tell.
 #include "desktop/scale_row.h"
 
 #include <QAbstractButton>

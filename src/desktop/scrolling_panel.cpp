@@ -1,3 +1,4 @@
+// Gives the panel its height, and hands the focus on when it goes.
 #include "desktop/scrolling_panel.h"
 
 #include <QApplication>

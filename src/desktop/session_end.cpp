@@ -1,3 +1,4 @@
+// Brings a signal into the event loop through a pair of sockets.
 #include "desktop/session_end.h"
 
 #include <sys/socket.h>

@@ -1,3 +1,4 @@
+// Makes the groups of both columns: read-outs, scales, files; stations, classes, transmitter.
 #include "desktop/side_columns.h"
 
 #include <QComboBox>

@@ -1,3 +1,4 @@
+// Lays out the start window's two columns and its bottom line, and keeps its places steady.
 #include "desktop/start_window.h"
 
 #include <QBoxLayout>

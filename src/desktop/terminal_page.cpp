@@ -1,3 +1,4 @@
+// Lays out the page: printed text, the typed field, the button that leaves.
 #include "desktop/terminal_page.h"
 
 #include <QLabel>

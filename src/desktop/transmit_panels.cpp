@@ -1,3 +1,4 @@
+// Makes OBJECT SETUP and finds both set-up panels their places.
 #include "desktop/transmit_panels.h"
 
 #include <QGridLayout>

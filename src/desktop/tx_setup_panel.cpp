@@ -1,3 +1,4 @@
+// Lays out the groups of TX SETUP: station, path, lines, timer, radio.
 #include "desktop/tx_setup_panel.h"
 
 #include <QGridLayout>

@@ -1,3 +1,4 @@
+// Catches keys before the window does, and gives each to the control as a byte.
 #include "desktop/typed_keys.h"
 
 #include <QInputMethodEvent>

@@ -1,3 +1,4 @@
+// Makes captions, boxes, labels, tools and field rows, and binds them.
 #include "desktop/window_parts.h"
 
 #include <QFontMetrics>

@@ -1,3 +1,4 @@
+// Chooses the screen, and brings a window's rectangle into it.
 #include "desktop/window_place.h"
 
 #include <QGuiApplication>

@@ -1,3 +1,4 @@
+// The series of the meridian projections, the datum shift, strips and zones, distance and bearing.
 #include "geodesy/conversions.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Prints kilometres, degrees and locators with the columns of their signs.
 #include "geodesy/coordinate_texts.h"
 
 #include <algorithm>

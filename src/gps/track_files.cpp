@@ -1,3 +1,4 @@
+// Handles the track field and its buttons: list, load, step, make, go to the end.
 #include "gps/track_files.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Opens the panel, checks the typed numbers, and redraws the circles.
 #include "internet/iono_input.h"
 
 #include <optional>

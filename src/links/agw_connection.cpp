@@ -1,3 +1,4 @@
+// Opens, watches and closes the socket, and takes its bytes to frames.
 #include "links/agw_connection.h"
 
 #include "links/agw_frame.h"

@@ -1,3 +1,4 @@
+// Lays out and reads the 36 bytes of a frame's header.
 #include "links/agw_frame.h"
 
 #include <algorithm>

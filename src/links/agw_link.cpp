@@ -1,3 +1,4 @@
+// Registers with the remote engine, receives its monitor text, sends unproto frames.
 #include "links/agw_link.h"
 
 #include "core/text_fields.h"

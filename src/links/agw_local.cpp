@@ -1,3 +1,4 @@
+// The four operations: start, fetch a text, hand over a text, close.
 #include "links/agw_local.h"
 
 #include "core/text_fields.h"

@@ -1,3 +1,4 @@
+// Counts silent looks and decides when to ask and when to call the engine lost.
 #include "links/agw_pulse.h"
 
 #include "links/agw_frame.h"

@@ -1,3 +1,4 @@
+// Finds the next plausible header, and brings monitor text to its usual ending.
 #include "links/agw_stream.h"
 
 #include <utility>

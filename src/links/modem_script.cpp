@@ -1,3 +1,4 @@
+// Carries the steps of a conversation out: send, drain, await a prompt, wait.
 #include "links/modem_script.h"
 
 #include <utility>

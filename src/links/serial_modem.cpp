@@ -1,3 +1,4 @@
+// Opens the line, sets the modem up again after a loss, and leads it out of converse.
 #include "links/serial_modem.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Decides how much of the text is whole, and bounds what waits.
 #include "links/serial_text.h"
 
 #include <algorithm>

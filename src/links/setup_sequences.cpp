@@ -1,3 +1,4 @@
+// The lines of each modem for each occasion, by interface, speed and path.
 #include "links/setup_sequences.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Sends the change of mode and the change back, once each.
 #include "links/temporary_mode.h"
 
 namespace zepril {

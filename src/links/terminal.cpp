@@ -1,3 +1,4 @@
+// Shows what is printed and typed, and settles half a line when the terminal closes.
 #include "links/terminal.h"
 
 #include <string_view>

@@ -1,3 +1,4 @@
+// Walks the store call by call: track, then mark or symbol, then label.
 #include "map/all_stations_layer.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Checks the headers against the bytes that are there, unpacks rows, and stretches pixels.
 #include "map/bmp_reader.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Draws circles and their texts, and leaves out what can't touch the window.
 #include "map/circles_layer.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Fills the values of all systems from a grid or geographic position.
 #include "map/coordinate_values.h"
 
 #include "core/text_fields.h"

@@ -1,3 +1,4 @@
+// How many pixels of a bar are filled, and its colour beyond the limit.
 #include "map/fill_bars.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The lines, steps and labels of each of the five grids.
 #include "map/grid_layer.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Finds where pieces of a line cross the window's edges, and where its label stands.
 #include "map/grid_lines.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Sets the events of the map's controls and carries out what each means.
 #include "map/map_interaction.h"
 
 #include "core/position_text.h"

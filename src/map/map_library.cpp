@@ -1,3 +1,4 @@
+// Scans the folders of the scales, and writes, reads and deletes their index files.
 #include "map/map_library.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Finds the picture, track point or place at a press.
 #include "map/map_lookups.h"
 
 #include "map/map_view.h"

@@ -1,3 +1,4 @@
+// Takes each layer's values from the state and hands them to its drawing.
 #include "map/map_overlays.h"
 
 #include "map/circles_layer.h"

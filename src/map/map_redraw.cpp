@@ -1,3 +1,4 @@
+// The redraw's order of steps: zone, centre, tiles, overlays, stations, marks, texts.
 #include "map/map_redraw.h"
 
 #include "core/position_text.h"

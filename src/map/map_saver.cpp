@@ -1,3 +1,4 @@
+// Finds the first free number, asks, paints once more and saves.
 #include "map/map_saver.h"
 
 #include <set>

@@ -1,3 +1,4 @@
+// Clamps the centre, computes the edges, and goes from kilometres to pixels and back.
 #include "map/map_view.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The formulas: where the sun stands on the path, how far ionisation has built up, what passes.
 #include "map/minimuf.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Draws the track by age and style, then the mark, label and gauge, and fills the captions.
 #include "map/moni1_layer.h"
 
 #include <algorithm>

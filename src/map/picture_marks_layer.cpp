@@ -1,3 +1,4 @@
+// Reads the place out of a picture's name, draws the frames, finds the first one at a place.
 #include "map/picture_marks_layer.h"
 
 #include <algorithm>

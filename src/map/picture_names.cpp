@@ -1,3 +1,4 @@
+// The south-west corner and the middle of the kilometre that a name tells.
 #include "map/picture_names.h"
 
 #include <string>

@@ -1,3 +1,4 @@
+// Draws the mark and the name of each place that reaches the window.
 #include "map/poi_layer.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// Draws the crosses, boxes, ticks and letters of the marks.
 #include "map/position_marks.h"
 
 #include <initializer_list>

@@ -1,3 +1,4 @@
+// The great circle, the hops over it, and the frequency that each of them carries.
 #include "map/propagation_estimate.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Follows the map with the fields, reads what is typed, takes or cancels.
 #include "map/qth_setup.h"
 
 #include <utility>

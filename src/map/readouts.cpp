@@ -1,3 +1,4 @@
+// The captions of each display system, and the lines of the monitored station.
 #include "map/readouts.h"
 
 #include <algorithm>

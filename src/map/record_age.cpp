@@ -1,3 +1,4 @@
+// Minutes from a record's date and time to the clock; nothing for what is no time.
 #include "map/record_age.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Prints the kilometres of the bar between its dashes.
 #include "map/scale_text.h"
 
 #include "core/text_fields.h"

@@ -1,3 +1,4 @@
+// Searches the stores for the record nearest to the press.
 #include "map/station_lookup.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// The rings of each mark as pixels, and the forms of a label.
 #include "map/station_marks.h"
 
 #include <algorithm>

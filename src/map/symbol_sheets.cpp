@@ -1,3 +1,4 @@
+// Loads a sheet when its file has changed, and copies cells out of it.
 #include "map/symbol_sheets.h"
 
 #include <algorithm>

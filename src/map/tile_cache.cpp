@@ -1,3 +1,4 @@
+// Finds, decodes, works and drops tiles within the budget of memory.
 #include "map/tile_cache.h"
 
 #include <algorithm>

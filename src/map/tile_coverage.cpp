@@ -1,3 +1,4 @@
+// Looks the centre's tile up in the index of each scale.
 #include "map/tile_coverage.h"
 
 #include "core/text_fields.h"

@@ -1,3 +1,4 @@
+// Draws the boundaries, and the frames of the tiles that the index files name.
 #include "map/tile_frames.h"
 
 #include <cmath>

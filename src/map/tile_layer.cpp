@@ -1,3 +1,4 @@
+// Finds the file of each tile in view, draws it, and fills the place of a missing one.
 #include "map/tile_layer.h"
 
 #include "core/text_fields.h"

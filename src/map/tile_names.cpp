@@ -1,3 +1,4 @@
+// Four characters for a kilometre, a letter first where it is negative.
 #include "map/tile_names.h"
 
 #include <cmath>

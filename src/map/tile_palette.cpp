@@ -1,3 +1,4 @@
+// Brightens or dims a palette, and paints the chosen ink yellow.
 #include "map/tile_palette.h"
 
 #include <algorithm>

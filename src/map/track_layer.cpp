@@ -1,3 +1,4 @@
+// Joins the track's pixels into lines, draws a point's text, finds a point at a place.
 #include "map/track_layer.h"
 
 #include <algorithm>

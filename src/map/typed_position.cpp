@@ -1,3 +1,4 @@
+// Reads kilometres, degrees in their forms and locators; what can't be is refused with its reason.
 #include "map/typed_position.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Reads wind, temperature and rain out of a weather text, and draws them.
 #include "map/wx_gauge.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Calendar arithmetic: days, minutes and seconds of a date, and back.
 #include "platform/clock.h"
 
 namespace zepril {

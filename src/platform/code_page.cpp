@@ -1,3 +1,4 @@
+// The table of the bytes 0x80 to 0x9F, and the way through UTF-8.
 #include "platform/code_page.h"
 
 #include <algorithm>

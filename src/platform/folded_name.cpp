@@ -1,3 +1,4 @@
+// Folds characters of the code page, and compares and orders names by them.
 #include "platform/folded_name.h"
 
 #include <algorithm>

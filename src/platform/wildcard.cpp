@@ -1,3 +1,4 @@
+// Wildcard match of file names by the Windows rules.
 #include <cstddef>
 
 #include "platform/files.h"

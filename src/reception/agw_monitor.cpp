@@ -1,3 +1,4 @@
+// Takes sender, path and information out of a monitor line and writes the normal header.
 #include "reception/agw_monitor.h"
 
 #include <algorithm>

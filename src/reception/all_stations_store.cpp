@@ -1,3 +1,4 @@
+// Repeats by an index beside the list, and the same by a plain scan; the list cut at its limit.
 #include "reception/all_stations_store.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// What each radio interface has to hand over in a pass, with the bounds of each.
 #include "reception/collector.h"
 
 #include "reception/agw_monitor.h"

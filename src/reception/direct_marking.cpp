@@ -1,3 +1,4 @@
+// Puts an asterisk behind the sender of each header that has none.
 #include "reception/direct_marking.h"
 
 #include <string_view>

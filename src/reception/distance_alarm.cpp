@@ -1,3 +1,4 @@
+// Tests the stations heard against the limit and fills the alarm's panel.
 #include "reception/distance_alarm.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// Fills the emergency values of the state from a station's record.
 #include "reception/emergency_report.h"
 
 #include "geodesy/conversions.h"

@@ -1,3 +1,4 @@
+// Enters positions, thins, writes and reloads the history, and changes the station.
 #include "reception/followed_history.h"
 
 #include <utility>

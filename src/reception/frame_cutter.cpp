@@ -1,3 +1,4 @@
+// Finds the first complete header, and gives up on text that never becomes a frame.
 #include "reception/frame_cutter.h"
 
 namespace zepril {

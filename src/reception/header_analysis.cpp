@@ -1,3 +1,4 @@
+// Reads sender, digipeater and alias by columns and delimiters; the own echo and third parties.
 #include "reception/header_analysis.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Builds, orders and renews the rows, and opens the record of the one that is pressed.
 #include "reception/heard_stations.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Reads records off the file's end, appends, rewrites, and keeps a copy of what would be lost.
 #include "reception/history_file.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The digits in a destination's characters, and the offsets of the longitude.
 #include "reception/mic_e.h"
 
 #include <array>

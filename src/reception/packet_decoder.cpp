@@ -1,3 +1,4 @@
+// The steps of decoding: time stamp, object, position, grid, comment, symbol, and what is refused.
 #include "reception/packet_decoder.h"
 
 #include <algorithm>

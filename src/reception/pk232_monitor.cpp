@@ -1,3 +1,4 @@
+// Leaves the modem's echo and a first line without a marker out.
 #include "reception/pk232_monitor.h"
 
 #include "core/text_fields.h"

@@ -1,3 +1,4 @@
+// Reads each form by its columns: plain, NMEA sentences, base 91.
 #include "reception/position_forms.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Splits text into lines, drops what is not kept, and shows the lines.
 #include "reception/raw_list.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The pass in its order, and what each frame leads to: stored, dropped, given up.
 #include "reception/receive_pass.h"
 
 #include <algorithm>

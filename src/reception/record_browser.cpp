@@ -1,3 +1,4 @@
+// Shows the selected record, steps near the picked place, deletes after a question.
 #include "reception/record_browser.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// Writes each value into its columns, with the marks between.
 #include "reception/record_builder.h"
 
 #include <algorithm>

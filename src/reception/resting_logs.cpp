@@ -1,3 +1,4 @@
+// Tries a log again after its rest, and tells when it can't be written.
 #include "reception/resting_logs.h"
 
 namespace zepril {

@@ -1,3 +1,4 @@
+// Finds where frames begin in the modem's text, and rewrites their headers.
 #include "reception/scs_monitor.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Paths and line forms of the logs, and names that can't leave the folder.
 #include "reception/station_logs.h"
 
 #include "core/text_fields.h"

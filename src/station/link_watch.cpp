@@ -1,3 +1,4 @@
+// Follows the link from pass to pass, and words a loss once.
 #include "station/link_watch.h"
 
 namespace zepril {

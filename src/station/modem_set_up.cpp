@@ -1,3 +1,4 @@
+// Takes the modem's settings from the start panel and runs its set-up sequence.
 #include "station/modem_set_up.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Opens the list with a slowed cycle, and searches from the selected line upwards.
 #include "station/raw_list_search.h"
 
 #include "core/text_fields.h"

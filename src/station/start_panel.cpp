@@ -1,3 +1,4 @@
+// Fields of the panel: shown, enabled and taken by the radio interface; START and its troubles.
 #include "station/start_panel.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Hands every call on to the rooms.
 #include "station/station_program.h"
 
 #include "station/station_rooms.h"

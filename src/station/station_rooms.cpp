@@ -1,3 +1,4 @@
+// The steps of tick, start and stop as calls to the rooms that do them.
 #include "station/station_rooms.h"
 
 #include "config/config_file.h"

@@ -1,3 +1,4 @@
+// Opens, watches and leaves the modem, and runs what the tick asks of the transmitter.
 #include "station/transmit_rooms.h"
 
 #include <algorithm>

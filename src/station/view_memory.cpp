@@ -1,3 +1,4 @@
+// The keys and bounds of the look, out of the state and into it.
 #include "station/view_memory.h"
 
 #include "core/text_fields.h"

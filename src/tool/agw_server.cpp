@@ -1,3 +1,4 @@
+// Accepts clients, reads their frames, and drops those that are slow or make no sense.
 #include "tool/agw_server.h"
 
 #include <arpa/inet.h>

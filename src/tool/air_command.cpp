@@ -1,3 +1,4 @@
+// Reads the play, opens its devices, and serves them until it ends or a signal comes.
 #include "tool/air_command.h"
 
 #include <signal.h>

@@ -1,3 +1,4 @@
+// The two kinds of device, and the line that tells what was sent to one.
 #include "tool/air_devices.h"
 
 #include <utility>

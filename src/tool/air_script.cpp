@@ -1,3 +1,4 @@
+// Reads times and packets line by line, in both of their forms.
 #include "tool/air_script.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Takes names and values apart, and reports the first mistake.
 #include "tool/arguments.h"
 
 #include <algorithm>

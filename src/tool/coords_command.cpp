@@ -1,3 +1,4 @@
+// Reads two numbers a line and prints every grid of that place.
 #include "tool/coords_command.h"
 
 #include <algorithm>

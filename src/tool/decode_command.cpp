@@ -1,3 +1,4 @@
+// Reads the options and standard input, and prints records or what was decoded in all.
 #include "tool/decode_command.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// Joins the receive pass to played links and collects what it stores.
 #include "tool/decode_station.h"
 
 #include <algorithm>

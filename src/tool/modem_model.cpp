@@ -1,3 +1,4 @@
+// What all models share: bytes to lines, settings, power, packets for the air.
 #include "tool/modem_model.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// The commands of a PK-232 and what each changes or answers.
 #include "tool/pk232_model.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Opens the pseudo-terminal and its link, and moves bytes between it and the model.
 #include "tool/pty_modem.h"
 
 #include <fcntl.h>

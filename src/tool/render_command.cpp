@@ -1,3 +1,4 @@
+// Reads what is to be shown, and paints one map.
 #include "tool/render_command.h"
 
 #include <QGuiApplication>

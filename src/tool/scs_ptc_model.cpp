@@ -1,3 +1,4 @@
+// The menus and commands of an SCS PTC and what each changes or answers.
 #include "tool/scs_ptc_model.h"
 
 #include <array>

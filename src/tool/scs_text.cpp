@@ -1,3 +1,4 @@
+// Prints monitor text, and finds a command by its beginning.
 #include "tool/scs_text.h"
 
 #include <algorithm>

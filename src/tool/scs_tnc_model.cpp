@@ -1,3 +1,4 @@
+// The ESC commands of an SCS TNC and what each changes or answers.
 #include "tool/scs_tnc_model.h"
 
 #include <array>

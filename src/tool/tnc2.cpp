@@ -1,3 +1,4 @@
+// Rewrites a header of the common form, with its asterisks.
 #include "tool/tnc2.h"
 
 namespace zepril {

@@ -1,3 +1,4 @@
+// The way of a text by radio interface: either engine, or the line of a modem.
 #include "transmit/frame_sender.h"
 
 #include <string>

@@ -1,3 +1,4 @@
+// Puts the words for digipeater, gateway and relay together.
 #include "transmit/identification.h"
 
 #include "core/baud_mode.h"

@@ -1,3 +1,4 @@
+// Opens with the object's values, and takes, deletes or leaves them.
 #include "transmit/object_setup.h"
 
 #include <string>

@@ -1,3 +1,4 @@
+// Whether a report can be made, what it holds, and what is told of it.
 #include "transmit/position_beacon.h"
 
 #include "core/sent_text.h"

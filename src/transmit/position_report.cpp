@@ -1,3 +1,4 @@
+// Columns of positions, time stamps and comments, and the lines that stand for files.
 #include "transmit/position_report.h"
 
 #include <algorithm>

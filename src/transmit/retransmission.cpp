@@ -1,3 +1,4 @@
+// Asks, then sends the record that is shown.
 #include "transmit/retransmission.h"
 
 #include <string>

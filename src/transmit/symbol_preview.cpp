@@ -1,3 +1,4 @@
+// Paints the symbol's cell and the overlay over it.
 #include "transmit/symbol_preview.h"
 
 #include "transmit/position_report.h"

@@ -1,3 +1,4 @@
+// Words each outcome, and takes it away after its time.
 #include "transmit/tx_outcome.h"
 
 #include "core/text_fields.h"

@@ -1,3 +1,4 @@
+// Binds the panel's fields, fills them, and takes them in their order on OK.
 #include "transmit/tx_setup.h"
 
 #include <array>

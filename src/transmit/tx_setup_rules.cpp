@@ -1,3 +1,4 @@
+// Intervals, symbols, speeds, paths and memories: a new text from the old ones.
 #include "transmit/tx_setup_rules.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// What switching TX or the object on and off does, and when neither can be.
 #include "transmit/tx_switches.h"
 
 #include "core/text_fields.h"

@@ -1,3 +1,4 @@
+// Takes folder, name and kilometres out of the path.
 #include "viewers/picture_place.h"
 
 #include "map/picture_names.h"

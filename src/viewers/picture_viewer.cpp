@@ -1,3 +1,4 @@
+// Opens, steps and closes pictures, and writes the page with its escaped address.
 #include "viewers/picture_viewer.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// Loads, makes and edits place files, line by line, and handles their panel.
 #include "viewers/place_files.h"
 
 #include <algorithm>

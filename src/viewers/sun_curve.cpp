@@ -1,3 +1,4 @@
+// Words the six results and paints the curve, today's and the reference days'.
 #include "viewers/sun_curve.h"
 
 #include <array>

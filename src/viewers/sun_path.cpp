@@ -1,3 +1,4 @@
+// Day angle, declination and elevation, and the sum over the steps of a day.
 #include "viewers/sun_path.h"
 
 #include <algorithm>

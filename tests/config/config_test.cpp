@@ -1,3 +1,4 @@
+// Both readers and writers of `ZEPRIL.INI`: keys, order, fallbacks, bounds, the merge at exit.
 #include <gtest/gtest.h>
 
 #include <algorithm>

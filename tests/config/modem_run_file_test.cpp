@@ -1,3 +1,4 @@
+// Lines of `MODEM.RUN`: written, replaced, led back, passed over.
 #include "config/modem_run_file.h"
 
 #include <gtest/gtest.h>

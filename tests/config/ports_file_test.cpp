@@ -1,3 +1,4 @@
+// Lines of `PORTS.TXT`: read, chosen, replaced, left alone.
 #include "config/ports_file.h"
 
 #include <gtest/gtest.h>

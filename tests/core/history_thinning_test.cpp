@@ -1,3 +1,4 @@
+// What thinning drops of a history, and that the fast walk agrees with its definition.
 #include "core/history_thinning.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The steps of a tick: their order, and when each is due.
 #include "core/main_cycle.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The orders of start and stop, and what each step does to state and controls.
 #include <gtest/gtest.h>
 
 #include <algorithm>

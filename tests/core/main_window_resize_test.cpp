@@ -1,3 +1,4 @@
+// Message fields and their caption in windows of any width.
 #include "core/main_window_resize.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Names of point files, and files of any length, line form and end.
 #include "core/point_file.h"
 
 #include <gmock/gmock.h>

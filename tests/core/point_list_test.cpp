@@ -1,3 +1,4 @@
+// Lines kept over many blocks, and positions read as the general reader reads them.
 #include "core/point_list.h"
 
 #include <gtest/gtest.h>

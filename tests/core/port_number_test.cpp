@@ -1,3 +1,4 @@
+// Numbers, names and numbers beyond all ports in a port field.
 #include "core/port_number.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Nine columns of kilometres: written, cut, rounded, read back.
 #include "core/position_text.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// When the progress is shown, renewed and hidden.
 #include "core/progress_panel.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Control characters and empty path elements on their way out.
 #include "core/sent_text.h"
 
 #include <gtest/gtest.h>

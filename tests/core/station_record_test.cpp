@@ -1,3 +1,4 @@
+// Each column group of a record, also of a torn one.
 #include "core/station_record.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Counting, capacity and order of a store, and its limits by the computer's speed.
 #include "core/station_store.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Rows, names and classes of symbols, and characters outside the table.
 #include "core/symbol_table.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Numbers and texts by the program's rules, at their edges.
 #include "core/text_fields.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Markers of the title in their columns.
 #include "core/title_line.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Waits on the event loop, and the main of the window tests, which run with no screen.
 #include "tests/desktop/desktop_support.h"
 
 #include <QApplication>

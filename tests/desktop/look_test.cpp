@@ -1,3 +1,4 @@
+// Texts and state colours are readable by day and by night.
 #include "desktop/look.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Pictures of any kind and size: turned, shrunk, captioned, refused; and plots pixel by pixel.
 #include "desktop/picture_view.h"
 
 #include <QImage>

@@ -1,3 +1,4 @@
+// Known places in every projection, there and back, and places outside of them.
 #include "geodesy/conversions.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Columns, signs and cuts of kilometres, degrees and locators.
 #include "geodesy/coordinate_texts.h"
 
 #include <gtest/gtest.h>

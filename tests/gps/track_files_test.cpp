@@ -1,3 +1,4 @@
+// The track field and its buttons: listed, loaded, stepped, made, shown.
 #include "gps/track_files.h"
 
 #include <gmock/gmock.h>

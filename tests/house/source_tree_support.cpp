@@ -1,3 +1,4 @@
+// Reads files below a folder, and a line of code without comment and literals.
 #include "tests/house/source_tree_support.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Starts, signals and ends a program, and finds a port for it.
 #include "tests/integration/child_process_support.h"
 
 #include <arpa/inet.h>

@@ -1,3 +1,4 @@
+// Sound files of packets, and the engine that hears and writes them.
 #include "tests/integration/engine_support.h"
 
 #include <fcntl.h>

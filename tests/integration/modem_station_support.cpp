@@ -1,3 +1,4 @@
+// Builds the station and its modem models, and runs them side by side.
 #include "tests/integration/modem_station_support.h"
 
 #include <cstdlib>

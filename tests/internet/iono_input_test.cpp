@@ -1,3 +1,4 @@
+// The panel of sunspot number and K index: opened, taken, refused, closed.
 #include "internet/iono_input.h"
 
 #include <gtest/gtest.h>

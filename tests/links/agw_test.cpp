@@ -1,3 +1,4 @@
+// Frames, streams and both links of a packet engine, and the lamp that tells of them.
 #include <gtest/gtest.h>
 
 #include <string>

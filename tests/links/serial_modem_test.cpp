@@ -1,3 +1,4 @@
+// The life of a serial modem: opened, lost, found again, set up anew, led back.
 #include "links/serial_modem.h"
 
 #include <gtest/gtest.h>

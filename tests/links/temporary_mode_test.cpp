@@ -1,3 +1,4 @@
+// The other mode while the button is held, and when it is not sent.
 #include "links/temporary_mode.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The terminal's keys, its printed text, and half a line at its end.
 #include "links/terminal.h"
 
 #include <gtest/gtest.h>

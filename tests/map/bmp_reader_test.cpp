@@ -1,3 +1,4 @@
+// Bitmaps of every depth and order of rows, cut and damaged ones, stretched pixels.
 #include "map/bmp_reader.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Circles, their texts and frequencies, and what is left out beyond the window.
 #include "map/circles_layer.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Lines and labels of the five grids at any scale, also at their ends.
 #include "map/grid_layer.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// What each button, press, key and box of the map does.
 #include "map/map_interaction.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// The scan of the map folders, its index files, and what coverage and frames read there.
 #include "map/map_library.h"
 
 #include <gmock/gmock.h>

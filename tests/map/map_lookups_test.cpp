@@ -1,3 +1,4 @@
+// What a right press finds of tracks and places, and in which order.
 #include "map/map_lookups.h"
 
 #include <gmock/gmock.h>

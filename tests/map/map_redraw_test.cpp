@@ -1,3 +1,4 @@
+// The view's geometry, the order of the layers, following, position marks, scale and bars.
 #include "map/map_redraw.h"
 
 #include <gmock/gmock.h>

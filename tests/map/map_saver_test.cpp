@@ -1,3 +1,4 @@
+// Saving the map: its number, its question, its picture.
 #include "map/map_saver.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// Marks of pictures by their names, and the picture at a press.
 #include "map/picture_marks_layer.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Marks and names of places, damaged lines included.
 #include "map/poi_layer.h"
 
 #include <gmock/gmock.h>

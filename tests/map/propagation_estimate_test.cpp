@@ -1,3 +1,4 @@
+// Both models of the ionosphere: hours, seasons, latitudes, hops.
 #include "map/propagation_estimate.h"
 
 #include <gtest/gtest.h>

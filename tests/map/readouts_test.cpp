@@ -1,3 +1,4 @@
+// One place in every system of the three read-outs, and the lines of a station.
 #include "map/readouts.h"
 
 #include <gtest/gtest.h>

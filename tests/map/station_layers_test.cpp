@@ -1,3 +1,4 @@
+// Tracks, marks, symbols and labels of all stations, and the sheets they come from.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// Tiles in their places, their palettes and inks, and the cache that keeps them.
 #include "map/tile_layer.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Names of tiles and the corners they tell, over the whole grid.
 #include "map/tile_names.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The track's line, its texts and its breaks, and the point at a press.
 #include "map/track_layer.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// Weather texts read, and the gauge drawn from them.
 #include "map/wx_gauge.h"
 
 #include <gtest/gtest.h>

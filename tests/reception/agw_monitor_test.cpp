@@ -1,3 +1,4 @@
+// Monitor lines of a packet engine in the normal form, and lines that are no frames.
 #include "reception/agw_monitor.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// What is a repeat, what the list loses at its limit, and that index and scan agree.
 #include "reception/all_stations_store.h"
 
 #include <random>

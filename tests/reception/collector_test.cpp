@@ -1,3 +1,4 @@
+// What each radio interface brings into a pass, in pieces, too long, too late.
 #include "reception/collector.h"
 
 #include <algorithm>

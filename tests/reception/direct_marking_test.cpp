@@ -1,3 +1,4 @@
+// Headers with and without the mark of a direct sender.
 #include "reception/direct_marking.h"
 
 #include <gtest/gtest.h>

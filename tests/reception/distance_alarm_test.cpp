@@ -1,3 +1,4 @@
+// When the distance alarm is raised, for whom, and what it shows.
 #include "reception/distance_alarm.h"
 
 #include "tests/reception/reception_support.h"

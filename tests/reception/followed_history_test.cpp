@@ -1,3 +1,4 @@
+// The followed station's history in list and file: entered, thinned, reloaded, never lost.
 #include "reception/followed_history.h"
 
 #include "core/text_fields.h"

@@ -1,3 +1,4 @@
+// Frames cut out of text that comes in any pieces, and text that is given up.
 #include "reception/frame_cutter.h"
 
 #include <gtest/gtest.h>

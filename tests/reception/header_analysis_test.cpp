@@ -1,3 +1,4 @@
+// Senders, digipeaters and aliases of headers, the own echo, third-party packets.
 #include "reception/header_analysis.h"
 
 #include <gtest/gtest.h>

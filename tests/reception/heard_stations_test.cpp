@@ -1,3 +1,4 @@
+// Rows, ages and orders of the station list, and what a press on a row opens.
 #include "reception/heard_stations.h"
 
 #include "core/text_fields.h"

@@ -1,3 +1,4 @@
+// Positions of every form, objects, times, comments and symbols of packets.
 #include "reception/packet_decoder.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// What is kept of a read of the PK-232.
 #include "reception/pk232_monitor.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Lines of the raw list: split, held, dropped.
 #include "reception/raw_list.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The receive pass over whole reads: stored, dropped, redrawn, gone on, given up.
 #include "reception/receive_pass.h"
 
 #include "core/text_fields.h"

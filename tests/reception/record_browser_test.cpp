@@ -1,3 +1,4 @@
+// The record panel: what it shows, steps to and deletes.
 #include "reception/record_browser.h"
 
 #include "core/text_fields.h"

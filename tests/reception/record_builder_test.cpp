@@ -1,3 +1,4 @@
+// Records of decoded packets, column by column.
 #include "reception/record_builder.h"
 
 #include "tests/reception/reception_support.h"

@@ -1,3 +1,4 @@
+// Monitor text of both SCS modems in the normal form, with other text between.
 #include "reception/scs_monitor.h"
 
 #include <gtest/gtest.h>

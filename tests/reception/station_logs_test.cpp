@@ -1,3 +1,4 @@
+// Lines and places of the reception's logs.
 #include "reception/station_logs.h"
 
 #include "tests/reception/reception_support.h"

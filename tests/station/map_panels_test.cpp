@@ -1,3 +1,4 @@
+// Pictures and the sun in a running station, and saving its map.
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// A whole station in virtual time: from a frame to the map, lost engines, restarts.
 #include "station/station_program.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Plays in their time, and a played engine's clients over loopback.
 #include "tool/air_command.h"
 
 #include <gtest/gtest.h>

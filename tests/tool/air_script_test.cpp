@@ -1,3 +1,4 @@
+// Lines of a play file and the frames made of them.
 #include "tool/air_script.h"
 
 #include <gtest/gtest.h>

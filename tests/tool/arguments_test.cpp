@@ -1,3 +1,4 @@
+// Names, values, mistakes and zones of a command's arguments.
 #include "tool/arguments.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Lines of positions through every grid, and back.
 #include "tool/coords_command.h"
 
 #include <gtest/gtest.h>

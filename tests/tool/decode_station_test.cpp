@@ -1,3 +1,4 @@
+// Batch decoding gives the same records in every dialect and in passes of any size.
 #include "tool/decode_station.h"
 
 #include <gtest/gtest.h>

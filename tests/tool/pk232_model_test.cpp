@@ -1,3 +1,4 @@
+// Transcripts of the PK-232 model.
 #include "tool/pk232_model.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Models behind a link: programs that come, leave, do not read.
 #include "tool/pty_modem.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Transcripts of the SCS PTC model.
 #include "tool/scs_ptc_model.h"
 
 #include <gtest/gtest.h>

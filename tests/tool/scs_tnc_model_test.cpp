@@ -1,3 +1,4 @@
+// Transcripts of the SCS TNC model.
 #include "tool/scs_tnc_model.h"
 
 #include <gtest/gtest.h>

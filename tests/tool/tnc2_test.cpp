@@ -1,3 +1,4 @@
+// Packets of the common form brought to the normal one.
 #include "tool/tnc2.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Status texts of digipeaters, gateways and relays.
 #include "transmit/identification.h"
 
 #include <gtest/gtest.h>

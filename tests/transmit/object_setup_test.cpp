@@ -1,3 +1,4 @@
+// OBJECT SETUP: fields, the centre, symbols, delete, cancel.
 #include "transmit/object_setup.h"
 
 #include "tests/transmit/transmit_world.h"

@@ -1,3 +1,4 @@
+// Reports and objects in every radio mode, to the byte and the pause.
 #include "transmit/position_beacon.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Positions, times and comments in the texts of reports, objects and heard records.
 #include "transmit/position_report.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// A heard record sent again: the question, the frame, and when none goes out.
 #include "transmit/retransmission.h"
 
 #include "core/text_fields.h"

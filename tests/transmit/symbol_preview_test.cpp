@@ -1,3 +1,4 @@
+// What is painted of a table row, with and without an overlay.
 #include "transmit/symbol_preview.h"
 
 #include <gtest/gtest.h>

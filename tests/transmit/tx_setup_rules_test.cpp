@@ -1,3 +1,4 @@
+// What the fields of TX SETUP make of each other: intervals, symbols, speeds, paths, memories.
 #include "transmit/tx_setup_rules.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// TX SETUP: what it shows, what OK takes, and what each modem is then sent.
 #include "transmit/tx_setup.h"
 
 #include "tests/transmit/transmit_world.h"

@@ -1,3 +1,4 @@
+// The TX and OBJECT TX switches and what goes with them.
 #include "transmit/tx_switches.h"
 
 #include "tests/transmit/transmit_world.h"

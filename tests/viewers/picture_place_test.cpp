@@ -1,3 +1,4 @@
+// The place that a picture's path tells.
 #include "viewers/picture_place.h"
 
 #include <gtest/gtest.h>

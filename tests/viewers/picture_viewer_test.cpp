@@ -1,3 +1,4 @@
+// The picture panel, its page for browsers, and stepping through pictures.
 #include "viewers/picture_viewer.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// Place files: listed, loaded, made, edited, damaged; their panel and its links.
 #include "viewers/place_files.h"
 
 #include <gmock/gmock.h>

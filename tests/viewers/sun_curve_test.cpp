@@ -1,3 +1,4 @@
+// The sun's panel: its six results, its title, its plot.
 #include "viewers/sun_curve.h"
 
 #include <gmock/gmock.h>

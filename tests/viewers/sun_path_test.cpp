@@ -1,3 +1,4 @@
+// The sun's angles and energies at worked places and at the ends of the year.
 #include "viewers/sun_path.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Prints plain, compressed and Mic-E positions and weather reports.
 #include "make_demo_traffic/aprs_text.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The invented stations: movers, digipeaters, fixed and weather stations, objects, messages.
 #include "make_demo_traffic/cast.h"
 
 namespace zepril {

@@ -1,4 +1,4 @@
-// make_demo_traffic <target file>
+// Half an hour of invented traffic as a file: make_demo_traffic <target file>
 //
 // Writes half an hour of invented traffic, a line a frame, sorted by time:
 //   @12.3 QX7KB-9>APRS,QX0DIG*,WIDE2-1:!5405.12N/01208.40E>182/063 comment

@@ -1,4 +1,4 @@
-// make_fonts <glyph pictures> <target dir> [<letters file>]
+// The fonts as files: make_fonts <glyph pictures> <target dir> [<letters file>]
 //
 // Writes the fixed-width face QX7_F6.ttf and the map marks ZEPRIL_Marks.ttf, and, where asked for,
 // the same letter pictures as a table for drawing without a font: a line a byte of code page 1252,

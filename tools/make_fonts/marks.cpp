@@ -1,3 +1,4 @@
+// The outlines of both marks, of arcs and bars.
 #include "make_fonts/marks.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// Reads glyphs row by row, and composes letters with their accents.
 #include "make_fonts/pixel_glyphs.h"
 
 #include <charconv>

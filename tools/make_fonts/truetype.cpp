@@ -1,3 +1,4 @@
+// The tables of the font file, one function each, and their checksums.
 #include "make_fonts/truetype.h"
 
 #include <algorithm>

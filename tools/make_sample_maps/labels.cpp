@@ -1,3 +1,4 @@
+// Places names in their order, each where it meets none before it.
 #include "make_sample_maps/labels.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// make_sample_maps <source data dir> <target dir>
+// The sample maps as files: make_sample_maps <source data dir> <target dir>
 //
 // Draws the sample map library; the target is the folder that the program takes as its map path.
 

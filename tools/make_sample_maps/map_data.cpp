@@ -1,3 +1,4 @@
+// Reads coasts, borders, towns and lakes, and cuts them to the grid's reach.
 #include "make_sample_maps/map_data.h"
 
 #include "geodesy/conversions.h"

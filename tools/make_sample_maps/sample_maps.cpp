@@ -1,3 +1,4 @@
+// The scales that are drawn, and the tiles of each in their order.
 #include "make_sample_maps/sample_maps.h"
 
 #include "make_sample_maps/labels.h"

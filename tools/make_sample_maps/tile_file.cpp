@@ -1,3 +1,4 @@
+// Both palettes, and a tile as a bitmap, written under another name until it is whole.
 #include "make_sample_maps/tile_file.h"
 
 #include <cmath>

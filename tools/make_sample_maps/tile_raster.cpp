@@ -1,3 +1,4 @@
+// Fills land and water, shapes the relief, and draws borders, dots and names.
 #include "make_sample_maps/tile_raster.h"
 
 #include "make_sample_maps/tile_file.h"

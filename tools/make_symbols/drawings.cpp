@@ -1,3 +1,4 @@
+// Reads the shapes of each symbol, and paints them cell by cell.
 #include "make_symbols/drawings.h"
 
 #include <cctype>

@@ -1,4 +1,4 @@
-// make_symbols <drawings> <small letters> <glyph pictures> <target dir>
+// The symbol sheets as files: make_symbols <drawings> <small letters> <glyph pictures> <target dir>
 //
 // Writes ZEPRSYM0.BMP (table "/") and ZEPRSYM1.BMP (table "\"): 16 x 6 cells of 21 pixels and the
 // closing edge, 337 x 127 pixels of 24 bits. Codes without a drawing are listed on standard output.

@@ -1,3 +1,4 @@
+// Shapes as a test of points, and the average of the points in a pixel.
 #include "make_symbols/painter.h"
 
 #include <algorithm>

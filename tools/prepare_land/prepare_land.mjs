@@ -1,4 +1,4 @@
-// prepare_land.mjs <countries-10m.json> <target file>
+// The extract of coasts and borders: prepare_land.mjs <countries-10m.json> <target file>
 //
 // Takes the coast lines and country borders of the hemisphere around 15 degrees east out of the
 // TopoJSON form of Natural Earth (public domain) and writes them thinned and as small numbers.

@@ -1,3 +1,4 @@
+// Spells paths by what is there, reads within bounds, and replaces files by fresh ones.
 #include "platform/native/native_files.h"
 
 #include <dirent.h>

@@ -1,3 +1,4 @@
+// Chooses the folder, and copies into it the shipped files that it lacks.
 #include "platform/native/program_folder.h"
 
 #include <unistd.h>

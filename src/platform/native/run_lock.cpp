@@ -1,3 +1,4 @@
+// Locks the file, and passes a second start's wish to come to the front.
 #include "platform/native/run_lock.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// Reads the system's clocks, sleeps, and counts loops for 5 ms.
 #include "platform/native/system_clock.h"
 
 #include <ctime>

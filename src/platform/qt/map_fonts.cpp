@@ -1,3 +1,4 @@
+// Loads the font files and takes each glyph's pixels once.
 #include "platform/qt/map_fonts.h"
 
 #include <QDir>

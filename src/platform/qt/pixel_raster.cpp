@@ -1,3 +1,4 @@
+// Steps along lines, octants of circles and rows of images, cut at the edges beforehand.
 #include "platform/qt/pixel_raster.h"
 
 #include <algorithm>

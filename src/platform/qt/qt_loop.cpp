@@ -1,3 +1,4 @@
+// Which timer and which press may act when: in a step, in each kind of wait, behind a step.
 #include "platform/qt/qt_loop.h"
 
 #include <QAbstractEventDispatcher>

@@ -1,3 +1,4 @@
+// Opens, reads, writes and loses the port, and tells of arrival.
 #include "platform/qt/qt_serial_port.h"
 
 #include <fcntl.h>

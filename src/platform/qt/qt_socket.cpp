@@ -1,3 +1,4 @@
+// Connects, sends, probes a silent peer, and ends the connection in both ways.
 #include "platform/qt/qt_socket.h"
 
 #include <linux/sockios.h>

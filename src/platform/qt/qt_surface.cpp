@@ -1,3 +1,4 @@
+// Hands each drawing operation to the raster or to the fonts, and saves bitmaps.
 #include "platform/qt/qt_surface.h"
 
 #include <QBuffer>

@@ -1,3 +1,4 @@
+// Finds devices by number, name and link, ranks them, and words their trouble.
 #include "platform/qt/serial_devices.h"
 
 #include <grp.h>

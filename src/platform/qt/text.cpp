@@ -1,3 +1,4 @@
+// Each byte to its code point, and each code point to its byte.
 #include "platform/qt/text.h"
 
 #include <QList>

@@ -1,3 +1,4 @@
+// Paths, reading and replacing files on a real disk; wildcards, code page, dates, the clock.
 #include "platform/native/native_files.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The one application of the test program, and waits on its event loop.
 #include "tests/platform/qt/application_support.h"
 
 #include <QElapsedTimer>

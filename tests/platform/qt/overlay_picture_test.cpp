@@ -1,3 +1,4 @@
+// Pictures of the render command with each layer over the map.
 #include <QImage>
 #include <QString>
 #include <gtest/gtest.h>

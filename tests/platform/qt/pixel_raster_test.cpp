@@ -1,3 +1,4 @@
+// Lines, boxes, circles and images to the pixel, at every edge.
 #include "platform/qt/pixel_raster.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Which timers and presses act in a step, in each kind of wait, and behind it.
 #include "platform/qt/qt_loop.h"
 
 #include <QCoreApplication>

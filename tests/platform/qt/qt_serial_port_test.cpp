@@ -1,3 +1,4 @@
+// Bytes over pseudo-terminals, vanished devices, and the names by which devices are found.
 #include "platform/qt/qt_serial_port.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Connections over loopback: made, refused, silent, broken off, ended.
 #include "platform/qt/qt_socket.h"
 
 #include <QCoreApplication>

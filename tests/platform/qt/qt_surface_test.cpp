@@ -1,3 +1,4 @@
+// What is drawn stands on its pixels in the program's colours, texts too.
 #include "platform/qt/qt_surface.h"
 
 #include <QByteArray>

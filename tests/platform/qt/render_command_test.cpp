@@ -1,3 +1,4 @@
+// Pictures of a program folder by the render command, and what it refuses.
 #include "tool/render_command.h"
 
 #include <QImage>
