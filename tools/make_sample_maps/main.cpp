@@ -4,6 +4,8 @@
 
 #include "make_sample_maps/sample_maps.h"
 
+#include "core/text_fields.h"
+
 #include <cstdio>
 
 int main(int argc, char** argv) {
@@ -13,7 +15,8 @@ int main(int argc, char** argv) {
   }
   const zepril::SampleMapsResult result =
       zepril::DrawSampleMaps(argv[1], argv[2], [](int done, int total) {
-        std::fputs((std::to_string(done) + "/" + std::to_string(total) + "\n").c_str(), stdout);
+        std::fputs((zepril::WholeNumber(done) + "/" + zepril::WholeNumber(total) + "\n").c_str(),
+                   stdout);
         std::fflush(stdout);
         return true;
       });

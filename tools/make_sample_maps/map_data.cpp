@@ -1,13 +1,14 @@
 // Reads coasts, borders, towns and lakes, and cuts them to the grid's reach.
 #include "make_sample_maps/map_data.h"
 
+#include "core/text_fields.h"
 #include "geodesy/conversions.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <fstream>
 #include <iterator>
+#include <limits>
 #include <string_view>
 
 namespace zepril {
@@ -45,13 +46,14 @@ class WordReader {
     rest_.remove_prefix(end);
     return word;
   }
-  template <typename Number>
-  std::optional<Number> Next() {
+  std::optional<int> Whole() {
     const std::string_view word = Word();
-    Number value = 0;
-    const auto result = std::from_chars(word.data(), word.data() + word.size(), value);
-    if (result.ec != std::errc() || result.ptr != word.data() + word.size()) return std::nullopt;
-    return value;
+    if (!IsNumber(word) || word.find('.') != std::string_view::npos) return std::nullopt;
+    return WholeVal(word, std::numeric_limits<int>::lowest(), std::numeric_limits<int>::max());
+  }
+  std::optional<double> Number() {
+    const std::string_view word = Word();
+    return IsNumber(word) ? std::optional<double>(Val(word)) : std::nullopt;
   }
   std::string_view Rest() {
     AtEnd();
@@ -59,6 +61,11 @@ class WordReader {
   }
 
  private:
+  static bool IsNumber(std::string_view word) {
+    if (!word.empty() && word.front() == '-') word.remove_prefix(1);
+    return IsNumericField(word) && std::any_of(word.begin(), word.end(), IsDigit);
+  }
+
   std::string_view rest_;
 };
 
@@ -152,7 +159,7 @@ class LandReader {
     Arc arc;
     int lon = 0, lat = 0;
     while (!words.AtEnd()) {
-      const auto east = words.Next<int>(), north = words.Next<int>();
+      const auto east = words.Whole(), north = words.Whole();
       if (!east || !north || std::abs(*east) > 400000 || std::abs(*north) > 400000) return false;
       lon += *east;
       lat += *north;
@@ -171,7 +178,7 @@ class LandReader {
   bool TakeRing(WordReader& words) {
     Arc ring;
     while (!words.AtEnd()) {
-      const auto number = words.Next<int>();
+      const auto number = words.Whole();
       const Arc* arc = number ? Find(*number) : nullptr;
       if (arc == nullptr) return false;
       if (*number > 0) {
@@ -205,7 +212,7 @@ class LandReader {
 
   bool TakeBorders(WordReader& words) {
     while (!words.AtEnd()) {
-      const auto number = words.Next<int>();
+      const auto number = words.Whole();
       const Arc* arc = number ? Find(*number) : nullptr;
       if (arc == nullptr) return false;
       AddBorder(*arc);
@@ -237,8 +244,8 @@ bool OnMap(double lat, double lon) {
 // 54.09 12.14 2 Rostock
 bool TakePlace(std::string_view line, std::vector<MapPlace>& places) {
   WordReader words(line);
-  const auto lat = words.Next<double>(), lon = words.Next<double>();
-  const auto rank = words.Next<int>();
+  const auto lat = words.Number(), lon = words.Number();
+  const auto rank = words.Whole();
   const std::string_view name = words.Rest();
   if (!lat || !lon || !rank || name.empty() || !OnMap(*lat, *lon)) return false;
   places.push_back({ToGrid({*lon, *lat}), *rank, std::string(name)});
@@ -263,7 +270,7 @@ bool TakeLake(std::string_view line, std::vector<Outline>& land) {
   words.Word();
   Arc ring;
   while (!words.AtEnd()) {
-    const auto lat = words.Next<double>(), lon = words.Next<double>();
+    const auto lat = words.Number(), lon = words.Number();
     if (!lat || !lon || !OnMap(*lat, *lon)) return false;
     ring.push_back({*lon, *lat});
   }
@@ -275,11 +282,12 @@ bool TakeLake(std::string_view line, std::vector<Outline>& land) {
 }
 
 std::optional<int> HexByte(std::string_view text, std::size_t at) {
-  int value = 0;
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
   if (at + 2 > text.size()) return std::nullopt;
-  const auto result = std::from_chars(text.data() + at, text.data() + at + 2, value, 16);
-  if (result.ec != std::errc() || result.ptr != text.data() + at + 2) return std::nullopt;
-  return value;
+  const std::size_t high = kDigits.find(UpperChar(text[at]));
+  const std::size_t low = kDigits.find(UpperChar(text[at + 1]));
+  if (high == std::string_view::npos || low == std::string_view::npos) return std::nullopt;
+  return static_cast<int>(high * 16 + low);
 }
 
 // 41 0000001824244242427E4242420000

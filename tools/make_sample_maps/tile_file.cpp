@@ -1,6 +1,8 @@
 // Both palettes, and a tile as a bitmap, written under another name until it is whole.
 #include "make_sample_maps/tile_file.h"
 
+#include "core/text_fields.h"
+
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
@@ -11,7 +13,7 @@ namespace {
 
 std::string NameField(int km) {
   const int size = std::abs(km);
-  std::string digits = std::to_string(size % 10000 + 10000).substr(1);
+  std::string digits = ZeroPadded(size % 10000, 4);
   if (km < 0) digits[0] = static_cast<char>(size / 1000 + 64);
   return digits;
 }
