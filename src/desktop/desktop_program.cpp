@@ -9,10 +9,10 @@
 #include "config/ports_file.h"
 #include "config/window_file.h"
 #include "desktop/window_place.h"
-#include "make_sample_maps/sample_maps.h"
 #include "map/symbol_sheets.h"
 #include "platform/qt/serial_devices.h"
 #include "platform/qt/text.h"
+#include "sample_maps/sample_maps.h"
 #include "viewers/sun_curve.h"
 
 namespace zepril {

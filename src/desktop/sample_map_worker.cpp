@@ -5,7 +5,7 @@
 
 #include <utility>
 
-#include "make_sample_maps/sample_maps.h"
+#include "sample_maps/sample_maps.h"
 
 namespace zepril {
 

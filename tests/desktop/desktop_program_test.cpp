@@ -17,7 +17,7 @@
 #include <filesystem>
 #include <set>
 
-#include "make_sample_maps/sample_maps.h"
+#include "sample_maps/sample_maps.h"
 #include "tests/desktop/desktop_support.h"
 #include "tests/desktop/loopback_engine.h"
 #include "tests/doubles/temp_folder.h"

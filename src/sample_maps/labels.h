@@ -2,9 +2,9 @@
 // on across tile edges.
 #pragma once
 
-#include "make_sample_maps/map_data.h"
-
 #include <vector>
+
+#include "sample_maps/map_data.h"
 
 namespace zepril {
 

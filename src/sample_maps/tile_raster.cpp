@@ -1,10 +1,10 @@
 // Fills land and water, shapes the relief, and draws borders, dots and names.
-#include "make_sample_maps/tile_raster.h"
-
-#include "make_sample_maps/tile_file.h"
+#include "sample_maps/tile_raster.h"
 
 #include <algorithm>
 #include <cmath>
+
+#include "sample_maps/tile_file.h"
 
 namespace zepril {
 namespace {

@@ -2,11 +2,10 @@
 //
 // Draws the sample map library; the target is the folder that the program takes as its map path.
 
-#include "make_sample_maps/sample_maps.h"
+#include <cstdio>
 
 #include "core/text_fields.h"
-
-#include <cstdio>
+#include "sample_maps/sample_maps.h"
 
 int main(int argc, char** argv) {
   if (argc != 3) {

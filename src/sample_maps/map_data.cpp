@@ -1,8 +1,5 @@
 // Reads coasts, borders, towns and lakes, and cuts them to the grid's reach.
-#include "make_sample_maps/map_data.h"
-
-#include "core/text_fields.h"
-#include "geodesy/conversions.h"
+#include "sample_maps/map_data.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,6 +7,9 @@
 #include <iterator>
 #include <limits>
 #include <string_view>
+
+#include "core/text_fields.h"
+#include "geodesy/conversions.h"
 
 namespace zepril {
 namespace {

@@ -1,11 +1,11 @@
 // Paints one tile.
 #pragma once
 
-#include "make_sample_maps/labels.h"
-#include "make_sample_maps/map_data.h"
-
 #include <cstdint>
 #include <vector>
+
+#include "sample_maps/labels.h"
+#include "sample_maps/map_data.h"
 
 namespace zepril {
 

@@ -1,5 +1,5 @@
 // Places names in their order, each where it meets none before it.
-#include "make_sample_maps/labels.h"
+#include "sample_maps/labels.h"
 
 #include <algorithm>
 #include <cmath>

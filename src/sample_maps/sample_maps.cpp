@@ -1,12 +1,12 @@
 // The scales that are drawn, and the tiles of each in their order.
-#include "make_sample_maps/sample_maps.h"
-
-#include "make_sample_maps/labels.h"
-#include "make_sample_maps/map_data.h"
-#include "make_sample_maps/tile_file.h"
-#include "make_sample_maps/tile_raster.h"
+#include "sample_maps/sample_maps.h"
 
 #include <system_error>
+
+#include "sample_maps/labels.h"
+#include "sample_maps/map_data.h"
+#include "sample_maps/tile_file.h"
+#include "sample_maps/tile_raster.h"
 
 namespace zepril {
 namespace {

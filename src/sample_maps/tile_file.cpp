@@ -1,12 +1,12 @@
 // Both palettes, and a tile as a bitmap, written under another name until it is whole.
-#include "make_sample_maps/tile_file.h"
-
-#include "core/text_fields.h"
+#include "sample_maps/tile_file.h"
 
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <system_error>
+
+#include "core/text_fields.h"
 
 namespace zepril {
 namespace {
