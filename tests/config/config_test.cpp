@@ -288,6 +288,27 @@ TEST_F(ConfigTest, BothReadersTakeEverySettingThatTheirWriterGives) {
   EXPECT_EQ(state.Transmission.ObjectOverlay, "7");
 }
 
+TEST_F(ConfigTest, WhatIsHeldInAnotherFormIsFoldedOnWritingWhereTheFileWantsItSo) {
+  StartPanelSettings s = DefaultStartPanelSettings("C:", "");
+  s.MyCall = " qx7kb ";
+  s.MapZoneName = "u33 ";
+  s.NmeaSource = " 3 ";
+  s.NmeaBaud = " 9600";
+  s.CrossMode = " r300";
+  s.TxDestination = " zepr ";
+  s.ObjectName = "LONGNAMEXYZ";
+  s.TxOverlay = "xy";
+  s.MapsPath = "C:\\MAPS\\";
+  ASSERT_TRUE(WriteConfigFromStartPanel(files, "C:", s));
+  for (const char* line : {"USER=QX7KB", "MSYS=U33", "NMEA=3", "NBAUD=9600", "XBAUD=R300"}) {
+    EXPECT_NE(Ini().find(std::string(line) + "\r\n"), std::string::npos) << line;
+  }
+  // All other text goes out as it is.
+  for (const char* line : {"TXTO= zepr ", "ONAM=LONGNAMEXYZ", "TXSS=xy", "UMAPS=C:\\MAPS\\"}) {
+    EXPECT_NE(Ini().find(std::string(line) + "\r\n"), std::string::npos) << line;
+  }
+}
+
 TEST_F(ConfigTest, ReplacingOneLineKeepsAllOthers) {
   WriteIni("FOO=1\r\ncall=OLD\r\nM0050=TOPO\r\n");
   ASSERT_TRUE(ReplaceConfigLine(files, "C:\\ZEPRIL.INI", "CALL", "QX1AB"));
