@@ -72,6 +72,11 @@ void DeriveNames(RuntimeState& state) {
   state.Radio.BaudModeLabel = BaudModeLabelOf(state.Radio.BaudMode);
 }
 
+// As every writer of the file has it: a number that overflowed is none.
+std::string RealText(double number) {
+  return RealField("", number).Give();
+}
+
 // Replaces each line that begins with one of the keys; appends what was not found, in key order.
 template <std::size_t N>
 void MergeKeys(std::vector<std::string>& lines, const std::array<std::string_view, N>& keys,
@@ -199,9 +204,8 @@ bool MergeConfigAtExit(Files& files, const std::string& program_folder, const La
   MergeKeys(*lines, kScaleKeys, maps);
   // The centre, then the own position.
   MergeKeys<2>(*lines, {"UTN=", "UTE="},
-               {ShortNumber(values.CentreNorthKm), ShortNumber(values.CentreEastKm)});
-  MergeKeys<2>(*lines, {"UUN=", "UUE="},
-               {ShortNumber(values.OwnNorthKm), ShortNumber(values.OwnEastKm)});
+               {RealText(values.CentreNorthKm), RealText(values.CentreEastKm)});
+  MergeKeys<2>(*lines, {"UUN=", "UUE="}, {RealText(values.OwnNorthKm), RealText(values.OwnEastKm)});
   // Back as it stands.
   if (lines->size() > kMostMergedLines) return false;
   return files.Replace(path, JoinLines(*lines));

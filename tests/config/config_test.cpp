@@ -161,6 +161,16 @@ TEST_F(ConfigTest, MergeKeepsUnknownLinesAndTheirOrder) {
       "M0002=\r\nUTE=400\r\nUUN=5378.123\r\nUUE=412.345\r\n");
 }
 
+TEST_F(ConfigTest, MergeNeverWritesANumberThatOverflowed) {
+  WriteIni("UTN=1\r\n");
+  LastValues last;
+  last.CentreNorthKm = std::numeric_limits<double>::infinity();
+  last.OwnEastKm = std::numeric_limits<double>::quiet_NaN();
+  ASSERT_TRUE(MergeConfigAtExit(files, "C:", last));
+  EXPECT_TRUE(HasLine("UTN=0"));
+  EXPECT_TRUE(HasLine("UUE=0"));
+}
+
 TEST_F(ConfigTest, MergeLeavesAFileOfMoreThanAHundredLinesAlone) {
   std::string text;
   for (int line = 0; line < 101; ++line)
