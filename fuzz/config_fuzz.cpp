@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <string>
 
-#include "config/config_field.h"
 #include "config/config_file.h"
 #include "config/main_window_settings.h"
+#include "config/settings_table.h"
 #include "config/start_panel_settings.h"
 #include "core/runtime_state.h"
 #include "tests/doubles/memory_files.h"
@@ -34,10 +34,10 @@ RuntimeState ReadMain(MemoryFiles& files) {
 }
 
 std::string LinesOf(StartPanelSettings& settings) {
-  return zepril::GiveConfigLines(zepril::StartPanelFields(settings));
+  return zepril::GiveSettingLines(zepril::SettingsWindow::StartPanel, zepril::SectionsOf(settings));
 }
 std::string LinesOf(RuntimeState& state) {
-  return zepril::GiveConfigLines(zepril::MainWindowFields(state));
+  return zepril::GiveSettingLines(zepril::SettingsWindow::MainWindow, zepril::SectionsOf(state));
 }
 
 void StartPanelKeepsItsSettings(const std::string& text) {

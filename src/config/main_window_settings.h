@@ -4,15 +4,10 @@
 #include <array>
 #include <string>
 
-#include "config/config_field.h"
 #include "core/runtime_state.h"
 #include "platform/files.h"
 
 namespace zepril {
-
-// The keys that the main window knows, in the order of the file: all but NOAT. Those of the six map
-// scales are read and not written; the other 73 are both.
-ConfigFields MainWindowFields(RuntimeState& state);
 
 // Sets the fallback values of the keys, then reads the file; derives the on-air call, the label of
 // the radio mode and the folders. A file that can't be read leaves the fallback values.
@@ -34,8 +29,5 @@ struct LastValues {
 // Puts the last maps, centre and own position into the file and keeps every other line and their
 // order. A file of more than 100 lines, or one that would grow beyond that, stays as it is: false.
 bool MergeConfigAtExit(Files& files, const std::string& program_folder, const LastValues& values);
-
-// The name on the air: the call, with "-" and the SSID when its number is 1 to 15.
-std::string FullCall(std::string_view call, std::string_view ssid);
 
 }  // namespace zepril

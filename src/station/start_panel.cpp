@@ -89,8 +89,8 @@ void StartPanel::Load() {
   files_.MakeFolder(program_folder_);
   const bool configured = ReadConfigForStartPanel(files_, program_folder_, settings_);
   // A first run in another folder than the usual one finds the maps that come with it there.
-  if (!configured && !files_.Exists(settings_.MapsPath)) {
-    settings_.MapsPath = program_folder_ + "\\" + settings_.MapZoneName;
+  if (!configured && !files_.Exists(settings_.Identity.MapsPath)) {
+    settings_.Identity.MapsPath = program_folder_ + "\\" + settings_.Identity.MapZoneName;
   }
   DeleteRunLogs();
   ShowSettings();
@@ -98,7 +98,7 @@ void StartPanel::Load() {
 
 // These three logs last for one run.
 void StartPanel::DeleteRunLogs() {
-  const std::string folder = settings_.MapSystemFolder + "\\LOG";
+  const std::string folder = settings_.Identity.MapSystemFolder + "\\LOG";
   files_.MakeFolder(folder);
   for (const char* name : {"\\_LOG_.TXT", "\\_LOGL_.TXT", "\\_LOGRAW_.TXT"}) {
     files_.Remove(folder + name);
@@ -107,21 +107,23 @@ void StartPanel::DeleteRunLogs() {
 
 void StartPanel::ShowSettings() {
   // The speed on the air: any text of the number 300 is that one, but for Robust Packet Radio.
-  const auto mode = static_cast<RadioMode>(settings_.RadioMode);
-  const bool robust = settings_.BaudMode == "300R" && HasFastSpeeds(mode);
-  if (!robust && Val(settings_.BaudMode) == 300.0) settings_.BaudMode = "300";
-  Controls.Text8.Text = settings_.MyCall;
-  if (settings_.MapZoneName.starts_with("U")) Controls.Text1.Text = settings_.MapsPath;
-  const std::string pk232 = PortText(settings_.TncPort);
-  const std::string scs = PortText(settings_.ScsPort);
-  pk232_fields_ = {pk232, settings_.TncBaud, pk232};
-  scs_fields_ = {scs, settings_.ScsBaud, scs};
-  host_fields_ = {settings_.AgwHost, settings_.AgwTcpPort, {}};
+  const auto mode = static_cast<RadioMode>(settings_.Radio.RadioMode);
+  const bool robust = settings_.Radio.BaudMode == "300R" && HasFastSpeeds(mode);
+  if (!robust && Val(settings_.Radio.BaudMode) == 300.0) settings_.Radio.BaudMode = "300";
+  Controls.Text8.Text = settings_.Identity.MyCall;
+  if (settings_.Identity.MapZoneName.starts_with("U"))
+    Controls.Text1.Text = settings_.Identity.MapsPath;
+  const std::string pk232 = PortText(settings_.Radio.TncPort);
+  const std::string scs = PortText(settings_.Radio.ScsPort);
+  pk232_fields_ = {pk232, settings_.Radio.TncBaud, pk232};
+  scs_fields_ = {scs, settings_.Radio.ScsBaud, scs};
+  host_fields_ = {settings_.Radio.AgwHost, settings_.Radio.AgwTcpPort, {}};
   const auto held = std::find_if(interfaces_.begin(), interfaces_.end(),
                                  [mode](const Interface& one) { return one.Mode == mode; });
   ChooseInterface(held != interfaces_.end() ? *held : Chosen());
-  Controls.Text5.Text = settings_.Moni1Call;
-  (settings_.MyCall.empty() ? Controls.Text8.FocusWanted : Controls.Command1.FocusWanted) = true;
+  Controls.Text5.Text = settings_.Followed.Moni1Call;
+  (settings_.Identity.MyCall.empty() ? Controls.Text8.FocusWanted : Controls.Command1.FocusWanted) =
+      true;
 }
 
 // The device that was chosen for a port, or its number.
@@ -154,7 +156,7 @@ void StartPanel::ChooseInterface(const Interface& chosen) {
 void StartPanel::FallBackToSlowSpeed() {
   if (HasFastSpeeds(Chosen().Mode)) return;
   for (const char* fast : {"300R", "9600", "19200"}) {
-    if (settings_.BaudMode == fast) settings_.BaudMode = "300";
+    if (settings_.Radio.BaudMode == fast) settings_.Radio.BaudMode = "300";
   }
 }
 
@@ -277,19 +279,19 @@ bool StartPanel::CantWrite(const char* name) {
 
 // An empty field leaves the held value.
 void StartPanel::TakeFields() {
-  settings_.MyCall = Upper(Trim(Controls.Text8.Text));
+  settings_.Identity.MyCall = Upper(Trim(Controls.Text8.Text));
   TakeMapsPath();
-  if (!Trim(Controls.Text5.Text).empty()) settings_.Moni1Call = Trim(Controls.Text5.Text);
+  if (!Trim(Controls.Text5.Text).empty()) settings_.Followed.Moni1Call = Trim(Controls.Text5.Text);
 }
 
 void StartPanel::TakeMapsPath() {
   std::string maps = Upper(Trim(Controls.Text1.Text));
   if (!maps.empty() && maps.back() == '\\') maps.pop_back();
-  if (!maps.empty() && settings_.MapZoneName.starts_with("U")) {
-    settings_.MapsPath = maps;
-    settings_.MapZoneName = Right(maps, 3);
+  if (!maps.empty() && settings_.Identity.MapZoneName.starts_with("U")) {
+    settings_.Identity.MapsPath = maps;
+    settings_.Identity.MapZoneName = Right(maps, 3);
   }
-  settings_.MapSystemFolder = program_folder_ + "\\" + settings_.MapZoneName;
+  settings_.Identity.MapSystemFolder = program_folder_ + "\\" + settings_.Identity.MapZoneName;
 }
 
 // Takes the interface and its two fields; those of the others stay as they were held. False when
@@ -297,27 +299,28 @@ void StartPanel::TakeMapsPath() {
 bool StartPanel::TakeModem() {
   KeepPortFields();
   const Interface& chosen = Chosen();
-  settings_.RadioMode = static_cast<int>(chosen.Mode);
+  settings_.Radio.RadioMode = static_cast<int>(chosen.Mode);
   if (chosen.Fields == nullptr) return true;
   const std::string speed(Trim(chosen.Fields->Speed));
   if (chosen.Mode == RadioMode::AgwRemote) {
-    if (!Trim(chosen.Fields->Port).empty()) settings_.AgwHost = Trim(chosen.Fields->Port);
-    if (!speed.empty()) settings_.AgwTcpPort = speed;
+    if (!Trim(chosen.Fields->Port).empty()) settings_.Radio.AgwHost = Trim(chosen.Fields->Port);
+    if (!speed.empty()) settings_.Radio.AgwTcpPort = speed;
     return true;
   }
   const bool pk232 = chosen.Mode == RadioMode::Pk232;
-  if (!speed.empty()) (pk232 ? settings_.TncBaud : settings_.ScsBaud) = speed;
-  const PortChoice choice = pk232 ? ChosenPort(*chosen.Fields, settings_.TncPort, kUsualPk232Port)
-                                  : ChosenPort(*chosen.Fields, settings_.ScsPort, kUsualScsPort);
+  if (!speed.empty()) (pk232 ? settings_.Radio.TncBaud : settings_.Radio.ScsBaud) = speed;
+  const PortChoice choice =
+      pk232 ? ChosenPort(*chosen.Fields, settings_.Radio.TncPort, kUsualPk232Port)
+            : ChosenPort(*chosen.Fields, settings_.Radio.ScsPort, kUsualScsPort);
   if (!choice.Device.empty() &&
       !ChooseDeviceOfPort(files_, program_folder_, static_cast<int>(choice.Number),
                           choice.Device)) {
     return false;
   }
   if (pk232) {
-    settings_.TncPort = static_cast<int>(choice.Number);
+    settings_.Radio.TncPort = static_cast<int>(choice.Number);
   } else {
-    settings_.ScsPort = choice.Number;
+    settings_.Radio.ScsPort = choice.Number;
   }
   chosen.Fields->Held = Trim(chosen.Fields->Port);
   return true;
@@ -350,7 +353,7 @@ std::string StartPanel::ShownPort() const {
 
 // After a crash the modem is still in converse: the set-up would go on the air.
 void StartPanel::LeaveConverseOfLastRun() {
-  const ModemRun run{settings_.RadioMode, 0, modem_.LastingName(ModemDevice(settings_))};
+  const ModemRun run{settings_.Radio.RadioMode, 0, modem_.LastingName(ModemDevice(settings_))};
   const auto speed = SpeedOfModemRun(files_, program_folder_, run);
   if (speed && LeaveConverse(settings_, *speed, modem_, clock_)) {
     EndModemRun(files_, program_folder_, run);

@@ -1,4 +1,5 @@
 // Both readers and writers of `ZEPRIL.INI`: keys, order, fallbacks, bounds, the merge at exit.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -8,6 +9,7 @@
 
 #include "config/config_file.h"
 #include "config/main_window_settings.h"
+#include "config/settings_table.h"
 #include "config/start_panel_settings.h"
 #include "core/baud_mode.h"
 #include "core/text_fields.h"
@@ -16,6 +18,8 @@
 
 namespace zepril {
 namespace {
+
+using ::testing::HasSubstr;
 
 class ConfigTest : public ::testing::Test {
  protected:
@@ -69,17 +73,17 @@ TEST_F(ConfigTest, StartPanelWritesEightyKeysInTheOrderOfTheFile) {
 
 TEST_F(ConfigTest, DefaultsOfAFirstRun) {
   const StartPanelSettings s = DefaultStartPanelSettings("C:\\ZEPRIL", "c:\\Temp");
-  EXPECT_EQ(s.TempFolder, "C:\\TEMP");
-  EXPECT_EQ(DefaultStartPanelSettings("C:\\ZEPRIL", "").TempFolder, "C:\\ZEPRIL");
-  EXPECT_EQ(s.MapsPath, "C:\\ZEPRIL\\U33");
-  EXPECT_EQ(s.TncPort, 2);
-  EXPECT_EQ(s.TxSymbolIndex, 14);
-  EXPECT_EQ(s.ObjectSymbol, 0);
-  EXPECT_EQ(s.InfoLine[1], "using ZEPRIL");
-  EXPECT_EQ(s.InfoLine[2], std::string("ZEPRIL DOWNLOAD: ") + kProductAddress);
-  EXPECT_EQ(s.InfoLine[4], s.InfoLine[2]);
-  EXPECT_EQ(s.SunspotNumber, 40);
-  EXPECT_EQ(s.KpIndex, 2);
+  EXPECT_EQ(s.Identity.TempFolder, "C:\\TEMP");
+  EXPECT_EQ(DefaultStartPanelSettings("C:\\ZEPRIL", "").Identity.TempFolder, "C:\\ZEPRIL");
+  EXPECT_EQ(s.Identity.MapsPath, "C:\\ZEPRIL\\U33");
+  EXPECT_EQ(s.Radio.TncPort, 2);
+  EXPECT_EQ(s.Transmission.TxSymbolIndex, 14);
+  EXPECT_EQ(s.Transmission.ObjectSymbol, 0);
+  EXPECT_EQ(s.Transmission.InfoLine[1], "using ZEPRIL");
+  EXPECT_EQ(s.Transmission.InfoLine[2], "ZEPRIL DOWNLOAD: https://zepril.example");
+  EXPECT_EQ(s.Transmission.InfoLine[4], s.Transmission.InfoLine[2]);
+  EXPECT_EQ(s.Internet.SunspotNumber, 40);
+  EXPECT_EQ(s.Internet.KpIndex, 2);
 }
 
 TEST_F(ConfigTest, MainWindowWritesSeventyThreeKeysAndKeepsTheBlankOfTheInterval) {
@@ -97,15 +101,15 @@ TEST_F(ConfigTest, KeysMatchWithoutCaseAndTheLaterLineWins) {
   ReadMain("  usEr=qx7kb \r\nTXON=5\r\nTXON=7\r\n");
   EXPECT_EQ(state.Identity.MyCall, "QX7KB");
   EXPECT_EQ(state.Transmission.TxIntervalMinutes, 7);
-  EXPECT_EQ(ReadPanel("  usEr=qx7kb \r\n").MyCall, "QX7KB");
+  EXPECT_EQ(ReadPanel("  usEr=qx7kb \r\n").Identity.MyCall, "QX7KB");
 }
 
 TEST_F(ConfigTest, EmptyNmeaValuesLeaveTheHeldOnes) {
   ReadMain("NMEA=3\r\nNMEA=\r\nNBAUD=0\r\n");
   EXPECT_EQ(state.Gps.NmeaSource, "3");
   EXPECT_EQ(state.Gps.NmeaBaud, "4800");
-  EXPECT_EQ(ReadPanel("NBAUD=\r\n").NmeaBaud, "4800");
-  EXPECT_EQ(ReadPanel("NBAUD=9600x\r\n").NmeaBaud, "9600x");
+  EXPECT_EQ(ReadPanel("NBAUD=\r\n").Gps.NmeaBaud, "4800");
+  EXPECT_EQ(ReadPanel("NBAUD=9600x\r\n").Gps.NmeaBaud, "9600x");
 }
 
 TEST_F(ConfigTest, MapSystemIsBroughtToTwoDigits) {
@@ -118,26 +122,26 @@ TEST_F(ConfigTest, MapSystemIsBroughtToTwoDigits) {
   EXPECT_EQ(NormalisedMapZone("UX"), "U00");
   EXPECT_EQ(NormalisedMapZone("U33N"), "U33");
   const StartPanelSettings s = ReadPanel("MSYS=u5\r\n");
-  EXPECT_EQ(s.MapZoneName, "U05");
-  EXPECT_EQ(s.MapSystemFolder, "C:\\U05");
+  EXPECT_EQ(s.Identity.MapZoneName, "U05");
+  EXPECT_EQ(s.Identity.MapSystemFolder, "C:\\U05");
 }
 
 TEST_F(ConfigTest, FoldersLoseOneBackslashOnly) {
-  EXPECT_EQ(ReadPanel("UMAPS=D:\\MAPS\\\r\n").MapsPath, "D:\\MAPS");
-  EXPECT_EQ(ReadPanel("UMAPS=D:\\MAPS\\\\\r\n").MapsPath, "D:\\MAPS\\");
+  EXPECT_EQ(ReadPanel("UMAPS=D:\\MAPS\\\r\n").Identity.MapsPath, "D:\\MAPS");
+  EXPECT_EQ(ReadPanel("UMAPS=D:\\MAPS\\\\\r\n").Identity.MapsPath, "D:\\MAPS\\");
   ReadMain("TEMP=C:\\T\\\r\n");
   EXPECT_EQ(state.Identity.TempFolder, "C:\\T");
 }
 
 TEST_F(ConfigTest, ObjectNameIsFilledToNineOrStaysEmpty) {
-  EXPECT_EQ(ReadPanel("ONAM=AB\r\n").ObjectName, "AB       ");
-  EXPECT_EQ(ReadPanel("ONAM=\r\n").ObjectName, "");
+  EXPECT_EQ(ReadPanel("ONAM=AB\r\n").Transmission.ObjectName, "AB       ");
+  EXPECT_EQ(ReadPanel("ONAM=\r\n").Transmission.ObjectName, "");
   ReadMain("ONAM=LONGNAMEXYZ\r\n");
   EXPECT_EQ(state.Transmission.ObjectName, "LONGNAMEX");
 }
 
 TEST_F(ConfigTest, ClockOffsetKeepsItsFractionInTheStartPanelOnly) {
-  EXPECT_EQ(ReadPanel("UTCD=2.5\r\n").UtcOffsetHours, 2.5);
+  EXPECT_EQ(ReadPanel("UTCD=2.5\r\n").StartPanel.UtcOffsetHours, 2.5);
   ReadMain("UTCD=2.5\r\n");
   EXPECT_EQ(state.Settings.UtcOffsetHours, 2);
   ReadMain("UTCD=1.5\r\n");
@@ -211,7 +215,7 @@ TEST_F(ConfigTest, RealsAreWrittenShortAndOverlayKeepsItsFirstCharacter) {
   ASSERT_TRUE(WriteConfigFromMainWindow(files, state));
   EXPECT_TRUE(HasLine("UTN=.5"));
   EXPECT_TRUE(HasLine("UUE=-10.517"));
-  EXPECT_EQ(ReadPanel("TXSS=\r\n").TxOverlay, "A");
+  EXPECT_EQ(ReadPanel("TXSS=\r\n").Transmission.TxOverlay, "A");
 }
 
 TEST_F(ConfigTest, NameOnTheAirTakesAnSsidOfOneToFifteen) {
@@ -246,12 +250,12 @@ TEST_F(ConfigTest, ValuesBeyondTheirFieldLeaveTheHeldValue) {
 TEST_F(ConfigTest, AnIntervalBelowZeroIsZero) {
   ReadMain("TXON=-7\r\n");
   EXPECT_EQ(state.Transmission.TxIntervalMinutes, 0);
-  EXPECT_EQ(ReadPanel("TXON=-7\r\n").TxIntervalMinutes, 0);
+  EXPECT_EQ(ReadPanel("TXON=-7\r\n").Transmission.TxIntervalMinutes, 0);
 }
 
 TEST_F(ConfigTest, AlarmDistanceIsHeldToTheStartPanelsRange) {
-  EXPECT_EQ(ReadPanel("DIST=0\r\n").AlarmDistanceKm, 1);
-  EXPECT_EQ(ReadPanel("DIST=250\r\n").AlarmDistanceKm, 100);
+  EXPECT_EQ(ReadPanel("DIST=0\r\n").Alarms.AlarmDistanceKm, 1);
+  EXPECT_EQ(ReadPanel("DIST=250\r\n").Alarms.AlarmDistanceKm, 100);
 }
 
 TEST_F(ConfigTest, MainWindowReaderHasFallbackValuesOfItsOwn) {
@@ -267,20 +271,20 @@ TEST_F(ConfigTest, MainWindowReaderHasFallbackValuesOfItsOwn) {
 TEST_F(ConfigTest, MainWindowUpperCasesTheStoredMapVariants) {
   ReadMain("M0050=topo\r\n");
   EXPECT_EQ(state.Map.StoredVariants[3], "TOPO");
-  EXPECT_EQ(ReadPanel("M0050=topo\r\n").StoredVariants[3], "topo");
+  EXPECT_EQ(ReadPanel("M0050=topo\r\n").Map.StoredVariants[3], "topo");
 }
 
 TEST_F(ConfigTest, BothReadersTakeEverySettingThatTheirWriterGives) {
   StartPanelSettings s = DefaultStartPanelSettings("C:", "");
-  s.MyCall = "QX7KB";
-  s.AgwHost = "radio.local";
-  s.BaudMode = "1200";
-  s.TxPathMemory[2] = "WIDE2-2";
-  s.InfoLineActive[4] = 0;
-  s.InfoLineMemory[5] = "145.500MHZ";
-  s.CentreNorthKm = 6200.499;
-  s.ObjectOverlay = "7";
-  s.KeepReadOnlyMarks = 1;
+  s.Identity.MyCall = "QX7KB";
+  s.Radio.AgwHost = "radio.local";
+  s.Radio.BaudMode = "1200";
+  s.Transmission.TxPathMemory[2] = "WIDE2-2";
+  s.Transmission.InfoLineActive[4] = 0;
+  s.Transmission.InfoLineMemory[5] = "145.500MHZ";
+  s.Map.CentreNorthKm = 6200.499;
+  s.Transmission.ObjectOverlay = "7";
+  s.StartPanel.KeepReadOnlyMarks = 1;
   ASSERT_TRUE(WriteConfigFromStartPanel(files, "C:", s));
   const std::string first = Ini();
   StartPanelSettings again = DefaultStartPanelSettings("C:", "");
@@ -300,15 +304,15 @@ TEST_F(ConfigTest, BothReadersTakeEverySettingThatTheirWriterGives) {
 
 TEST_F(ConfigTest, WhatIsHeldInAnotherFormIsFoldedOnWritingWhereTheFileWantsItSo) {
   StartPanelSettings s = DefaultStartPanelSettings("C:", "");
-  s.MyCall = " qx7kb ";
-  s.MapZoneName = "u33 ";
-  s.NmeaSource = " 3 ";
-  s.NmeaBaud = " 9600";
-  s.CrossMode = " r300";
-  s.TxDestination = " zepr ";
-  s.ObjectName = "LONGNAMEXYZ";
-  s.TxOverlay = "xy";
-  s.MapsPath = "C:\\MAPS\\";
+  s.Identity.MyCall = " qx7kb ";
+  s.Identity.MapZoneName = "u33 ";
+  s.Gps.NmeaSource = " 3 ";
+  s.Gps.NmeaBaud = " 9600";
+  s.Radio.CrossMode = " r300";
+  s.Transmission.TxDestination = " zepr ";
+  s.Transmission.ObjectName = "LONGNAMEXYZ";
+  s.Transmission.TxOverlay = "xy";
+  s.Identity.MapsPath = "C:\\MAPS\\";
   ASSERT_TRUE(WriteConfigFromStartPanel(files, "C:", s));
   for (const char* line : {"USER=QX7KB", "MSYS=U33", "NMEA=3", "NBAUD=9600", "XBAUD=R300"}) {
     EXPECT_NE(Ini().find(std::string(line) + "\r\n"), std::string::npos) << line;
@@ -344,17 +348,49 @@ TEST_F(ConfigTest, AFailedWriteLeavesTheOldFileWhole) {
   EXPECT_EQ(Ini(), "USER=QX7KB\r\n");
 }
 
-TEST(ConfigFields, ARealThatOverflowsIsPassedOverAndNeverWritten) {
-  double held = 5800.5;
-  const ConfigFields fields{RealField("UTN", held)};
+TEST(SettingsTable, ARealThatOverflowsIsPassedOverAndNeverWritten) {
+  RuntimeState state;
+  const SettingSections sections = SectionsOf(state);
+  double& held = state.Map.CentreNorthKm;
+  held = 5800.5;
   for (const char* line : {"UTN=1e400", "UTN=-1e400", "utn= 9e99999"}) {
-    EXPECT_TRUE(TakeConfigLine(fields, line));
+    EXPECT_TRUE(TakeSettingLine(SettingsWindow::MainWindow, sections, line));
     EXPECT_EQ(held, 5800.5) << line;
   }
   held = std::numeric_limits<double>::infinity();
-  EXPECT_EQ(GiveConfigLines(fields), "UTN=0\r\n");
+  EXPECT_THAT(GiveSettingLines(SettingsWindow::MainWindow, sections), HasSubstr("\r\nUTN=0\r\n"));
   held = std::numeric_limits<double>::quiet_NaN();
-  EXPECT_EQ(GiveConfigLines(fields), "UTN=0\r\n");
+  EXPECT_THAT(GiveSettingLines(SettingsWindow::MainWindow, sections), HasSubstr("\r\nUTN=0\r\n"));
+}
+
+TEST(SettingsTable, LinesOfOtherKeysAreNotTaken) {
+  RuntimeState state;
+  const SettingSections sections = SectionsOf(state);
+  for (const char* line : {"", "=", "FOO=1", "USER", "USER =X", "TXI=1", "TXI1B=1"}) {
+    EXPECT_FALSE(TakeSettingLine(SettingsWindow::MainWindow, sections, line)) << line;
+  }
+}
+
+// Told once: what the main window falls back to is what its state begins with, but for texts and
+// folders that are the program's own.
+TEST(SettingsTable, FallbacksOfTheMainWindowAreWhatTheStateBeginsWith) {
+  RuntimeState state;
+  const std::string begins = GiveSettingLines(SettingsWindow::MainWindow, SectionsOf(state));
+  SetFallbacks(SettingsWindow::MainWindow, SectionsOf(state));
+  state.Transmission.InfoLine = {};
+  state.Internet.AprsIsServer.clear();
+  EXPECT_EQ(GiveSettingLines(SettingsWindow::MainWindow, SectionsOf(state)), begins);
+}
+
+TEST(SettingsTable, NoKeyStandsTwiceAndTheMergeTakesTen) {
+  std::set<std::string_view> keys;
+  std::set<int> turns;
+  for (const Setting& setting : AllSettings()) {
+    EXPECT_TRUE(keys.insert(setting.Key).second) << setting.Key;
+    if (setting.AtExit == 0) continue;
+    EXPECT_TRUE(turns.insert(setting.AtExit).second) << setting.Key;
+  }
+  EXPECT_EQ(turns, (std::set<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
 }
 
 TEST(BaudModeLabel, NamesTheMode) {

@@ -33,8 +33,8 @@ TEST(SettingsInMemory, WhatIsSetIsReadBackAndTheFileStaysAsItIs) {
   SettingsInMemory files(disk, kFolder);
   StartPanelSettings settings;
   EXPECT_FALSE(ReadConfigForStartPanel(files, kFolder, settings));
-  EXPECT_EQ(settings.MyCall, "");  // the defaults
-  settings.MyCall = "QX2CD";
+  EXPECT_EQ(settings.Identity.MyCall, "");  // the defaults
+  settings.Identity.MyCall = "QX2CD";
   EXPECT_TRUE(WriteConfigFromStartPanel(files, kFolder, settings));
   RuntimeState state;
   state.Identity.ProgramFolder = kFolder;

@@ -256,7 +256,7 @@ TEST_F(StartWindowTest, KeysAndPressesDuringTheSetUpChangeNothing) {
   });
   Press("Command1");
   EXPECT_EQ(starts, 1);
-  EXPECT_EQ(panel->Settings().RadioMode, 5);
+  EXPECT_EQ(panel->Settings().Radio.RadioMode, 5);
   EXPECT_EQ(panel->Controls.Text3.Text, "3");
 }
 

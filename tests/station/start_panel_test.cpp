@@ -276,15 +276,15 @@ TEST_F(StartPanelTest, AnOddPortOfTheFileStaysUntouched) {
 TEST_F(StartPanelTest, SlowInterfacesFallBackToASlowSpeed) {
   for (const char* fast : {"300R", "9600", "19200"}) {
     const auto panel = PanelOf(std::string("MODEM=5\r\nHBAUD=") + fast + "\r\n");
-    EXPECT_EQ(panel->Settings().BaudMode, fast);
+    EXPECT_EQ(panel->Settings().Radio.BaudMode, fast);
     panel->Controls.Option13.Click();
-    EXPECT_EQ(panel->Settings().BaudMode, fast);
+    EXPECT_EQ(panel->Settings().Radio.BaudMode, fast);
     panel->Controls.Option1.Click();
-    EXPECT_EQ(panel->Settings().BaudMode, "300") << fast;
+    EXPECT_EQ(panel->Settings().Radio.BaudMode, "300") << fast;
   }
   const auto panel = PanelOf("MODEM=5\r\nHBAUD=1200\r\n");
   panel->Controls.Option10.Click();
-  EXPECT_EQ(panel->Settings().BaudMode, "1200");
+  EXPECT_EQ(panel->Settings().Radio.BaudMode, "1200");
 }
 
 TEST_F(StartPanelTest, AFastSpeedOfTheFileFallsBackWithASlowInterface) {
