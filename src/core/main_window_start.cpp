@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/centre_follow.h"
 #include "core/text_fields.h"
 #include "core/title_line.h"
 
@@ -87,12 +88,11 @@ void MainWindowStart::SetView() {
   MapViewState& map = state_.Map;
   if (IsPicturePlace(map.StoredNorthText) && IsPicturePlace(map.StoredEastText)) {
     // The last centre was a picture's place: the map opens there.
-    map.CentreFollow = 0;
+    FollowNobody(map, controls_.Map);
   } else {
-    map.CentreFollow = state_.Stores.Moni1Records.Count() > 0 ? 1 : 0;
+    FollowWith(map, controls_.Map,
+               state_.Stores.Moni1Records.Count() > 0 ? kFollowStation : kFollowNobody);
   }
-  controls_.Map.Option1.Value = false;
-  controls_.Map.Option2.Value = map.CentreFollow == 1;
   if (map.CentreNorthKm == 0.0 && map.CentreEastKm == 0.0) {
     map.CentreNorthKm = 6600.0;
     map.CentreEastKm = 400.0;

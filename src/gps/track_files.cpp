@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/centre_follow.h"
 #include "core/point_file.h"
 #include "core/text_fields.h"
 
@@ -145,12 +146,10 @@ void TrackFiles::CentreOnEnd() {
   if (last == 0) return;
   view_.CentreNorthKm = track.NorthKm(last);
   view_.CentreEastKm = track.EastKm(last);
-  view_.CentreFollow = 0;
+  FollowNobody(view_, map_);
   view_.MapLockedOnRecord = 0;
   view_.PictureMode = 0;
   view_.ManualMapMove = true;
-  map_.Option1.Value = false;
-  map_.Option2.Value = false;
   tools_.Map.MapRedraw();
 }
 

@@ -1,6 +1,7 @@
 // Sets the events of the map's controls and carries out what each means.
 #include "map/map_interaction.h"
 
+#include "core/centre_follow.h"
 #include "core/position_text.h"
 #include "core/text_fields.h"
 #include "map/map_view.h"
@@ -10,9 +11,6 @@
 
 namespace zepril {
 namespace {
-
-constexpr int kFollowStation = 1;
-constexpr int kFollowOwn = 2;
 
 constexpr int kKeyEnter = 13;
 constexpr int kKeyLeft = 37;
@@ -199,7 +197,7 @@ void MapInteraction::ChooseFolder(int row) {
 void MapInteraction::CentreOnRecord() {
   view_.PictureMode = 0;
   tools_.Lookups.ClosePicture();
-  EndFollowing();
+  FollowNobody(view_, controls_.Map);
   const std::string& record = controls_.Record.Label20.Caption;
   // Without a record in the panel there is nowhere to go.
   if (!Trim(Mid(record, 14, 18)).empty()) {
@@ -211,9 +209,7 @@ void MapInteraction::CentreOnRecord() {
 }
 
 void MapInteraction::Follow(int centre_follow) {
-  view_.CentreFollow = centre_follow;
-  controls_.Map.Option1.Value = centre_follow == kFollowOwn;
-  controls_.Map.Option2.Value = centre_follow == kFollowStation;
+  FollowWith(view_, controls_.Map, centre_follow);
   view_.PictureMode = 0;
   tools_.Lookups.ClosePicture();
   UnlockFromRecord();
@@ -241,7 +237,7 @@ void MapInteraction::LeftPress(double x, double y) {
     view_.CentreEastKm = pressed.EastKm;
     view_.ManualMapMove = true;
   }
-  EndFollowing();
+  FollowNobody(view_, controls_.Map);
   Redraw();
 }
 
@@ -414,18 +410,11 @@ void MapInteraction::ShowState() {
   all.Check24.Value = view_.HideObjects ? 1 : 0;
   const auto step = static_cast<std::size_t>(view_.BrightnessStep) % kBrightnessButton.size();
   controls_.Map.Command72.BackColour = kBrightnessButton[step];
-  controls_.Map.Option1.Value = view_.CentreFollow == kFollowOwn;
-  controls_.Map.Option2.Value = view_.CentreFollow == kFollowStation;
+  ShowCentreFollow(view_, controls_.Map);
   controls_.Map.Check4.Value = view_.GridOn ? 1 : 0;
   controls_.Map.Check9.Value = view_.CirclesOn ? 1 : 0;
   controls_.Map.Check12.Value = view_.PicturesOn ? 1 : 0;
   controls_.Map.Check14.Value = view_.TracksOn ? 1 : 0;
-}
-
-void MapInteraction::EndFollowing() {
-  view_.CentreFollow = 0;
-  controls_.Map.Option1.Value = false;
-  controls_.Map.Option2.Value = false;
 }
 
 void MapInteraction::UnlockFromRecord() {

@@ -117,7 +117,6 @@ class MapInteraction {
   void StepReadout(Readout readout);
   void OpenMonitorRecords();
 
-  void EndFollowing();
   void UnlockFromRecord();
   void FocusMap();
   void Redraw();

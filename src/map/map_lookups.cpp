@@ -1,6 +1,7 @@
 // Finds the picture, track point or place at a press.
 #include "map/map_lookups.h"
 
+#include "core/centre_follow.h"
 #include "map/map_view.h"
 #include "map/picture_marks_layer.h"
 #include "map/track_layer.h"
@@ -17,9 +18,7 @@ bool PressLookups::LookupPicture() {
   if (!found) return false;
   view_.SelectedPicture = *found;
   view_.PictureMode = 1;
-  view_.CentreFollow = 0;
-  controls_.Option1.Value = false;
-  controls_.Option2.Value = false;
+  FollowNobody(view_, controls_);
   tools_.MapSurface.Clear(kBlack);
   ++controls_.Picture1.Revision;
   tools_.Panels.ShowPicture();

@@ -1,6 +1,7 @@
 // The redraw's order of steps: zone, centre, tiles, overlays, stations, marks, texts.
 #include "map/map_redraw.h"
 
+#include "core/centre_follow.h"
 #include "core/position_text.h"
 #include "core/text_fields.h"
 #include "map/all_stations_layer.h"
@@ -15,14 +16,6 @@
 #include "map/tile_layer.h"
 
 namespace zepril {
-namespace {
-
-constexpr int kFollowStation = 1;
-constexpr int kFollowOwn = 2;
-constexpr int kJumpToTyped = 3;
-
-}  // namespace
-
 MapRedrawer::MapRedrawer(MapRedrawSections sections, MapRedrawControls controls,
                          MapRedrawTools tools)
     : sections_(sections), controls_(controls), tools_(tools) {}
@@ -115,12 +108,10 @@ void MapRedrawer::FollowCentre() {
   }
   // One jump to the typed position, which ends all following.
   if (view.CentreFollow == kJumpToTyped) {
-    controls_.Map.Option1.Value = false;
-    controls_.Map.Option2.Value = false;
     view.PictureMode = 0;
     view.CentreNorthKm = PositionTextKm(Trim(view.QthNorthText));
     view.CentreEastKm = PositionTextKm(Trim(view.QthEastText));
-    view.CentreFollow = 0;
+    FollowNobody(view, controls_.Map);
   }
 }
 
@@ -177,7 +168,7 @@ void MapRedrawer::DrawPositionMarks() {
   DrawingSurface& surface = tools_.MapSurface;
   const TransmissionState& own = sections_.Transmission;
   // The centre, when nothing is followed.
-  if (view.CentreFollow == 0) DrawCentreMark(surface, view);
+  if (view.CentreFollow == kFollowNobody) DrawCentreMark(surface, view);
   // The monitored station with its track.
   SetStationAnchor();
   Moni1Draw(surface, view, sections_.Followed, sections_.Stores.Moni1Records, tools_.Symbols,

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "core/centre_follow.h"
 #include "core/position_text.h"
 #include "core/text_fields.h"
 #include "map/typed_position.h"
@@ -11,7 +12,6 @@ namespace zepril {
 namespace {
 
 constexpr int kEnterKey = 13;
-constexpr int kJumpToTyped = 3;
 
 // A blank inside would part it into two values.
 std::string WithoutBlanks(const std::string& text) {
@@ -53,9 +53,7 @@ void QthSetup::Open() {
   begun_ = false;
   Begin();
   Tell({});
-  view_.CentreFollow = 0;
-  map_.Option1.Value = false;
-  map_.Option2.Value = false;
+  FollowNobody(view_, map_);
   tools_.Map.MapRedraw();
 }
 
@@ -93,7 +91,7 @@ bool QthSetup::JumpToTyped() {
   if (!typed.Place) return false;
   view_.QthNorthText = NorthText(typed.Place->NorthKm);
   view_.QthEastText = EastText(typed.Place->EastKm);
-  view_.CentreFollow = kJumpToTyped;
+  JumpOnceToTyped(view_);
   // Entered: the fields show where the map is now, also when it was there before.
   shown_north_ = controls_.TextQthNorth.Text;
   shown_east_ = controls_.TextQthEast.Text;

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "core/centre_follow.h"
 #include "core/history_thinning.h"
 #include "core/text_fields.h"
 #include "reception/record_builder.h"
@@ -78,9 +79,7 @@ void FollowedHistory::Thin() {
 // Without a GPS fix the map follows the station again, also after the operator has moved it.
 void FollowedHistory::FollowOnMap() {
   if (gps_.GpsFixValid != 1 && gps_.GpsFixValidBefore != 1) {
-    map_.CentreFollow = 1;
-    map_controls_.Option1.Value = false;
-    map_controls_.Option2.Value = true;
+    FollowWith(map_, map_controls_, kFollowStation);
   }
   map_.MapDrawn = false;
 }

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/centre_follow.h"
 #include "core/text_fields.h"
 #include "transmit/tx_setup_rules.h"
 
@@ -48,9 +49,7 @@ void ObjectSetup::Open() {
   if (transmission_.ObjectName.empty()) return;
   // The map goes to the object and follows nobody.
   view_.ObjectCenterPending = true;
-  view_.CentreFollow = 0;
-  map_.Option1.Value = false;
-  map_.Option2.Value = false;
+  FollowNobody(view_, map_);
   tools_.Map.MapRedraw();
 }
 

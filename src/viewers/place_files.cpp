@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/centre_follow.h"
 #include "core/point_file.h"
 #include "core/text_fields.h"
 #include "geodesy/coordinate_texts.h"
@@ -235,7 +236,7 @@ bool PlaceFiles::RoomForOneMore() {
 
 // A centre that follows somebody moves by itself: that is no move of the operator's.
 bool PlaceFiles::CentreMoved() const {
-  if (view_.CentreFollow != 0) return false;
+  if (view_.CentreFollow != kFollowNobody) return false;
   return view_.CentreNorthKm != picked_north_km_ || view_.CentreEastKm != picked_east_km_;
 }
 

@@ -1,0 +1,26 @@
+// Sets what the centre of the map follows, and shows it.
+#include "core/centre_follow.h"
+
+#include "core/main_window_controls.h"
+
+namespace zepril {
+
+void FollowWith(MapViewState& view, MapControls& controls, int what) {
+  view.CentreFollow = what;
+  ShowCentreFollow(view, controls);
+}
+
+void FollowNobody(MapViewState& view, MapControls& controls) {
+  FollowWith(view, controls, kFollowNobody);
+}
+
+void JumpOnceToTyped(MapViewState& view) {
+  view.CentreFollow = kJumpToTyped;
+}
+
+void ShowCentreFollow(const MapViewState& view, MapControls& controls) {
+  controls.Option1.Value = view.CentreFollow == kFollowOwn;
+  controls.Option2.Value = view.CentreFollow == kFollowStation;
+}
+
+}  // namespace zepril

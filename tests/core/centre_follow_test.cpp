@@ -1,0 +1,40 @@
+// What the centre follows and what the two buttons show of it.
+#include "core/centre_follow.h"
+
+#include <gtest/gtest.h>
+
+#include "core/main_window_controls.h"
+
+namespace zepril {
+namespace {
+
+TEST(CentreFollow, TheButtonsShowWhoIsFollowed) {
+  MapViewState view;
+  MapControls controls;
+  FollowWith(view, controls, kFollowStation);
+  EXPECT_EQ(view.CentreFollow, kFollowStation);
+  EXPECT_FALSE(controls.Option1.Value);
+  EXPECT_TRUE(controls.Option2.Value);
+  FollowWith(view, controls, kFollowOwn);
+  EXPECT_EQ(view.CentreFollow, kFollowOwn);
+  EXPECT_TRUE(controls.Option1.Value);
+  EXPECT_FALSE(controls.Option2.Value);
+  FollowNobody(view, controls);
+  EXPECT_EQ(view.CentreFollow, kFollowNobody);
+  EXPECT_FALSE(controls.Option1.Value);
+  EXPECT_FALSE(controls.Option2.Value);
+}
+
+TEST(CentreFollow, AJumpLeavesTheButtonsUntilItIsDone) {
+  MapViewState view;
+  MapControls controls;
+  FollowWith(view, controls, kFollowStation);
+  JumpOnceToTyped(view);
+  EXPECT_EQ(view.CentreFollow, kJumpToTyped);
+  EXPECT_TRUE(controls.Option2.Value);
+  ShowCentreFollow(view, controls);
+  EXPECT_FALSE(controls.Option2.Value);
+}
+
+}  // namespace
+}  // namespace zepril
