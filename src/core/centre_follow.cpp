@@ -5,22 +5,22 @@
 
 namespace zepril {
 
-void FollowWith(MapViewState& view, MapControls& controls, int what) {
+void FollowWith(MapViewState& view, MapControls& controls, Following what) {
   view.CentreFollow = what;
   ShowCentreFollow(view, controls);
 }
 
 void FollowNobody(MapViewState& view, MapControls& controls) {
-  FollowWith(view, controls, kFollowNobody);
+  FollowWith(view, controls, Following::Nobody);
 }
 
 void JumpOnceToTyped(MapViewState& view) {
-  view.CentreFollow = kJumpToTyped;
+  view.CentreFollow = Following::TypedPosition;
 }
 
 void ShowCentreFollow(const MapViewState& view, MapControls& controls) {
-  controls.Option1.Value = view.CentreFollow == kFollowOwn;
-  controls.Option2.Value = view.CentreFollow == kFollowStation;
+  controls.Option1.Value = view.CentreFollow == Following::OwnPosition;
+  controls.Option2.Value = view.CentreFollow == Following::Station;
 }
 
 }  // namespace zepril

@@ -8,13 +8,8 @@ namespace zepril {
 
 struct MapControls;
 
-inline constexpr int kFollowNobody = 0;
-inline constexpr int kFollowStation = 1;
-inline constexpr int kFollowOwn = 2;
-inline constexpr int kJumpToTyped = 3;
-
 // From now on the centre follows `what`: state and buttons.
-void FollowWith(MapViewState& view, MapControls& controls, int what);
+void FollowWith(MapViewState& view, MapControls& controls, Following what);
 void FollowNobody(MapViewState& view, MapControls& controls);
 
 // The next redraw goes to the typed position once and follows nobody from then on. The buttons stay

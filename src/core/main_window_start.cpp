@@ -91,7 +91,7 @@ void MainWindowStart::SetView() {
     FollowNobody(map, controls_.Map);
   } else {
     FollowWith(map, controls_.Map,
-               state_.Stores.Moni1Records.Count() > 0 ? kFollowStation : kFollowNobody);
+               state_.Stores.Moni1Records.Count() > 0 ? Following::Station : Following::Nobody);
   }
   if (map.CentreNorthKm == 0.0 && map.CentreEastKm == 0.0) {
     map.CentreNorthKm = 6600.0;

@@ -51,8 +51,8 @@ void MapInteraction::BindScaleAndZoom() {
   map.Command9.Click = [this] { SetZoom(1.0); };
   map.Command12.Click = [this] { CentreOnRecord(); };
   map.Command12.RightClick = [this] { StepScaleRound(); };
-  map.Option1.Click = [this] { Follow(kFollowOwn); };
-  map.Option2.Click = [this] { Follow(kFollowStation); };
+  map.Option1.Click = [this] { Follow(Following::OwnPosition); };
+  map.Option2.Click = [this] { Follow(Following::Station); };
 }
 
 void MapInteraction::BindLayers() {
@@ -208,8 +208,8 @@ void MapInteraction::CentreOnRecord() {
   Redraw();
 }
 
-void MapInteraction::Follow(int centre_follow) {
-  FollowWith(view_, controls_.Map, centre_follow);
+void MapInteraction::Follow(Following what) {
+  FollowWith(view_, controls_.Map, what);
   view_.PictureMode = 0;
   tools_.Lookups.ClosePicture();
   UnlockFromRecord();

@@ -93,11 +93,11 @@ void MapRedrawer::FollowCentre() {
   MapViewState& view = sections_.View;
   const FollowedStationState& followed = sections_.Followed;
   const bool station_known = followed.MonitorNorthKm != 0.0 || followed.MonitorEastKm != 0.0;
-  if (view.CentreFollow == kFollowStation && station_known) {
+  if (view.CentreFollow == Following::Station && station_known) {
     view.CentreNorthKm = followed.MonitorNorthKm;
     view.CentreEastKm = followed.MonitorEastKm;
   }
-  if (view.CentreFollow == kFollowOwn) {
+  if (view.CentreFollow == Following::OwnPosition) {
     view.CentreNorthKm = view.OwnNorthKm;
     view.CentreEastKm = view.OwnEastKm;
   }
@@ -107,7 +107,7 @@ void MapRedrawer::FollowCentre() {
     view.CentreEastKm = sections_.Transmission.ObjectEast;
   }
   // One jump to the typed position, which ends all following.
-  if (view.CentreFollow == kJumpToTyped) {
+  if (view.CentreFollow == Following::TypedPosition) {
     view.PictureMode = 0;
     view.CentreNorthKm = PositionTextKm(Trim(view.QthNorthText));
     view.CentreEastKm = PositionTextKm(Trim(view.QthEastText));
@@ -168,7 +168,7 @@ void MapRedrawer::DrawPositionMarks() {
   DrawingSurface& surface = tools_.MapSurface;
   const TransmissionState& own = sections_.Transmission;
   // The centre, when nothing is followed.
-  if (view.CentreFollow == kFollowNobody) DrawCentreMark(surface, view);
+  if (view.CentreFollow == Following::Nobody) DrawCentreMark(surface, view);
   // The monitored station with its track.
   SetStationAnchor();
   Moni1Draw(surface, view, sections_.Followed, sections_.Stores.Moni1Records, tools_.Symbols,
@@ -182,7 +182,7 @@ void MapRedrawer::DrawPositionMarks() {
 void MapRedrawer::SetStationAnchor() {
   MapViewState& view = sections_.View;
   const FollowedStationState& followed = sections_.Followed;
-  const PixelPoint at = view.CentreFollow == kFollowStation
+  const PixelPoint at = view.CentreFollow == Following::Station
                             ? CentrePixel(view)
                             : MarkPixel(view, followed.MonitorNorthKm, followed.MonitorEastKm);
   view.StationAnchorX = at.X;

@@ -79,7 +79,7 @@ void FollowedHistory::Thin() {
 // Without a GPS fix the map follows the station again, also after the operator has moved it.
 void FollowedHistory::FollowOnMap() {
   if (gps_.GpsFixValid != 1 && gps_.GpsFixValidBefore != 1) {
-    FollowWith(map_, map_controls_, kFollowStation);
+    FollowWith(map_, map_controls_, Following::Station);
   }
   map_.MapDrawn = false;
 }

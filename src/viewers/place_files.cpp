@@ -236,7 +236,7 @@ bool PlaceFiles::RoomForOneMore() {
 
 // A centre that follows somebody moves by itself: that is no move of the operator's.
 bool PlaceFiles::CentreMoved() const {
-  if (view_.CentreFollow != kFollowNobody) return false;
+  if (view_.CentreFollow != Following::Nobody) return false;
   return view_.CentreNorthKm != picked_north_km_ || view_.CentreEastKm != picked_east_km_;
 }
 

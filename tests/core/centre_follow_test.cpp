@@ -11,16 +11,16 @@ namespace {
 TEST(CentreFollow, TheButtonsShowWhoIsFollowed) {
   MapViewState view;
   MapControls controls;
-  FollowWith(view, controls, kFollowStation);
-  EXPECT_EQ(view.CentreFollow, kFollowStation);
+  FollowWith(view, controls, Following::Station);
+  EXPECT_EQ(view.CentreFollow, Following::Station);
   EXPECT_FALSE(controls.Option1.Value);
   EXPECT_TRUE(controls.Option2.Value);
-  FollowWith(view, controls, kFollowOwn);
-  EXPECT_EQ(view.CentreFollow, kFollowOwn);
+  FollowWith(view, controls, Following::OwnPosition);
+  EXPECT_EQ(view.CentreFollow, Following::OwnPosition);
   EXPECT_TRUE(controls.Option1.Value);
   EXPECT_FALSE(controls.Option2.Value);
   FollowNobody(view, controls);
-  EXPECT_EQ(view.CentreFollow, kFollowNobody);
+  EXPECT_EQ(view.CentreFollow, Following::Nobody);
   EXPECT_FALSE(controls.Option1.Value);
   EXPECT_FALSE(controls.Option2.Value);
 }
@@ -28,9 +28,9 @@ TEST(CentreFollow, TheButtonsShowWhoIsFollowed) {
 TEST(CentreFollow, AJumpLeavesTheButtonsUntilItIsDone) {
   MapViewState view;
   MapControls controls;
-  FollowWith(view, controls, kFollowStation);
+  FollowWith(view, controls, Following::Station);
   JumpOnceToTyped(view);
-  EXPECT_EQ(view.CentreFollow, kJumpToTyped);
+  EXPECT_EQ(view.CentreFollow, Following::TypedPosition);
   EXPECT_TRUE(controls.Option2.Value);
   ShowCentreFollow(view, controls);
   EXPECT_FALSE(controls.Option2.Value);

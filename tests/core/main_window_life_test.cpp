@@ -161,7 +161,7 @@ TEST_F(StartTest, APicturePlaceInBothCoordinatesOpensTheMapThere) {
     state.Stores.Moni1Records.Append(StationRecord("240115 1234"));
   };
   Start();
-  EXPECT_EQ(state.Map.CentreFollow, 0);
+  EXPECT_EQ(state.Map.CentreFollow, Following::Nobody);
   EXPECT_FALSE(controls.Map.Option2.Value);
   EXPECT_EQ(state.Map.CentreNorthKm, 6200.499);
   WithConfig = [this] {
@@ -169,7 +169,7 @@ TEST_F(StartTest, APicturePlaceInBothCoordinatesOpensTheMapThere) {
     state.Map.StoredEastText = "400.5";
   };
   Start();
-  EXPECT_EQ(state.Map.CentreFollow, 1);
+  EXPECT_EQ(state.Map.CentreFollow, Following::Station);
   EXPECT_TRUE(controls.Map.Option2.Value);
   // The text decides, not the number.
   WithConfig = [this] {
@@ -177,12 +177,12 @@ TEST_F(StartTest, APicturePlaceInBothCoordinatesOpensTheMapThere) {
     state.Map.StoredEastText = "400.499";
   };
   Start();
-  EXPECT_EQ(state.Map.CentreFollow, 1);
+  EXPECT_EQ(state.Map.CentreFollow, Following::Station);
 }
 
 TEST_F(StartTest, WithoutAHistoryTheMapIsFreeAndHasADefaultCentre) {
   Start();
-  EXPECT_EQ(state.Map.CentreFollow, 0);
+  EXPECT_EQ(state.Map.CentreFollow, Following::Nobody);
   EXPECT_EQ(state.Map.CentreNorthKm, 6600.0);
   EXPECT_EQ(state.Map.CentreEastKm, 400.0);
 }

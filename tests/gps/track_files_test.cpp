@@ -329,7 +329,7 @@ TEST(TrackEnd, CentresOnTheLastPointThatHasAPosition) {
   world.Put("A.TRK", Lines({kFirst, kSecond, "\xFE    0.000    0.000 20240514 1232", "", "x"}));
   world.Settings.TrackFile = "A";
   world.Room.RestoreAtStart();
-  world.View.CentreFollow = 2;
+  world.View.CentreFollow = Following::OwnPosition;
   world.View.MapLockedOnRecord = 1;
   world.View.PictureMode = 1;
   world.Map.Option1.Value = true;
@@ -337,7 +337,7 @@ TEST(TrackEnd, CentresOnTheLastPointThatHasAPosition) {
   world.Controls.Frame10.Click();
   EXPECT_DOUBLE_EQ(world.View.CentreNorthKm, 5379.123);
   EXPECT_DOUBLE_EQ(world.View.CentreEastKm, 413.345);
-  EXPECT_EQ(world.View.CentreFollow, 0);
+  EXPECT_EQ(world.View.CentreFollow, Following::Nobody);
   EXPECT_EQ(world.View.MapLockedOnRecord, 0);
   EXPECT_EQ(world.View.PictureMode, 0);
   EXPECT_TRUE(world.View.ManualMapMove);
@@ -349,10 +349,10 @@ TEST(TrackEnd, CentresOnTheLastPointThatHasAPosition) {
 TEST(TrackEnd, OfATrackWithoutPointsLeavesTheMap) {
   TrackWorld world;
   world.View.CentreNorthKm = 5825.0;
-  world.View.CentreFollow = 2;
+  world.View.CentreFollow = Following::OwnPosition;
   world.Controls.Frame10.Click();
   EXPECT_DOUBLE_EQ(world.View.CentreNorthKm, 5825.0);
-  EXPECT_EQ(world.View.CentreFollow, 2);
+  EXPECT_EQ(world.View.CentreFollow, Following::OwnPosition);
   EXPECT_THAT(world.Up.Calls, IsEmpty());
 }
 

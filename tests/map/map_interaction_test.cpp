@@ -196,13 +196,13 @@ TEST(ScalePanel, AllBoxesOnAndOffAndANewScan) {
 
 TEST(LeftPress, CentresTheMapAndEndsFollowing) {
   InteractionWorld world;
-  world.View().CentreFollow = 1;
+  world.View().CentreFollow = Following::Station;
   world.Controls.Map.Option2.Value = true;
   world.View().MapLockedOnRecord = 1;
   world.Press(1, 100, 50);
   EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, 5837.45);
   EXPECT_DOUBLE_EQ(world.View().CentreEastKm, 410.0);
-  EXPECT_EQ(world.View().CentreFollow, 0);
+  EXPECT_EQ(world.View().CentreFollow, Following::Nobody);
   EXPECT_FALSE(world.Controls.Map.Option1.Value);
   EXPECT_FALSE(world.Controls.Map.Option2.Value);
   EXPECT_TRUE(world.View().ManualMapMove);
@@ -226,11 +226,11 @@ TEST(LeftPress, OnAPictureThatHasLeftTheListOnlyClosesIt) {
   InteractionWorld world;
   world.View().SelectedPicture = 2;
   world.View().PictureMode = 1;
-  world.View().CentreFollow = 2;
+  world.View().CentreFollow = Following::OwnPosition;
   world.Press(1, 100, 50);
   EXPECT_EQ(world.View().CentreNorthKm, 5825.0);
   EXPECT_EQ(world.View().PictureMode, 0);
-  EXPECT_EQ(world.View().CentreFollow, 0);
+  EXPECT_EQ(world.View().CentreFollow, Following::Nobody);
 }
 
 TEST(LeftPress, AShortPictureNameReadsWhatIsThere) {
@@ -459,23 +459,23 @@ TEST(CentreButton, GoesToTheRecordInThePanelAndLocks) {
   maker.NorthKm = 5900.5;
   maker.EastKm = -12.5;
   world.Controls.Record.Label20.Caption = std::string(maker.Make().Text());
-  world.View().CentreFollow = 1;
+  world.View().CentreFollow = Following::Station;
   world.Controls.Map.Command12.Click();
   EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, 5900.5);
   EXPECT_DOUBLE_EQ(world.View().CentreEastKm, -12.5);
-  EXPECT_EQ(world.View().CentreFollow, 0);
+  EXPECT_EQ(world.View().CentreFollow, Following::Nobody);
   EXPECT_EQ(world.Controls.Map.Command12.Caption, "MAP L");
 }
 
 TEST(CentreButton, WithoutARecordTheMapStaysWhereItIsAndFollowsNothing) {
   InteractionWorld world;
-  world.View().CentreFollow = 2;
+  world.View().CentreFollow = Following::OwnPosition;
   world.View().PictureMode = 1;
   world.Hands.ShowState();
   world.Controls.Map.Command12.Click();
   EXPECT_EQ(world.View().CentreNorthKm, 5825.0);
   EXPECT_EQ(world.View().CentreEastKm, 425.0);
-  EXPECT_EQ(world.View().CentreFollow, 0);
+  EXPECT_EQ(world.View().CentreFollow, Following::Nobody);
   EXPECT_EQ(world.View().PictureMode, 0);
   EXPECT_FALSE(world.Controls.Map.Option1.Value);
   EXPECT_THAT(world.Join.Calls, ElementsAre("close picture", "redraw"));
@@ -505,12 +505,12 @@ TEST(FollowOptions, ChooseWhatTheCentreFollowsAndCloseThePicture) {
   world.View().OwnNorthKm = 5800.0;
   world.View().OwnEastKm = 400.0;
   world.Controls.Map.Option1.Click();
-  EXPECT_EQ(world.View().CentreFollow, 2);
+  EXPECT_EQ(world.View().CentreFollow, Following::OwnPosition);
   EXPECT_EQ(world.View().PictureMode, 0);
   EXPECT_EQ(world.View().CentreNorthKm, 5800.0);
   EXPECT_EQ(world.Controls.Map.Command12.Caption, "MAP");
   world.Controls.Map.Option2.Click();
-  EXPECT_EQ(world.View().CentreFollow, 1);
+  EXPECT_EQ(world.View().CentreFollow, Following::Station);
   EXPECT_TRUE(world.Controls.Map.Option2.Value);
   EXPECT_FALSE(world.Controls.Map.Option1.Value);
 }

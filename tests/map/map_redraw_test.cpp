@@ -177,7 +177,7 @@ TEST(MapRedraw, AJumpToTheOwnObjectLeavesTheTimerOffOnce) {
 
 TEST(MapRedraw, FollowsTheStationUnlessItIsNowhere) {
   MapWorld world;
-  world.View().CentreFollow = 1;
+  world.View().CentreFollow = Following::Station;
   world.Redraw();
   EXPECT_EQ(world.View().CentreNorthKm, 5825.0);
   RecordMaker maker;
@@ -192,7 +192,7 @@ TEST(MapRedraw, FollowsTheStationUnlessItIsNowhere) {
 
 TEST(MapRedraw, FollowsTheOwnPositionAndTakesItFromGps) {
   MapWorld world;
-  world.View().CentreFollow = 2;
+  world.View().CentreFollow = Following::OwnPosition;
   world.State.Gps.GpsNorthKm = 5950.0;
   world.State.Gps.GpsEastKm = 510.0;
   world.View().OwnNorthKm = 5800.0;
@@ -211,11 +211,11 @@ TEST(MapRedraw, OneJumpToTheTypedPositionEndsAllFollowing) {
   world.Controls.Map.Option2.Value = true;
   world.View().QthNorthText = " 5837.450";
   world.View().QthEastText = "-  10.517";
-  world.View().CentreFollow = 3;
+  world.View().CentreFollow = Following::TypedPosition;
   world.Redraw();
   EXPECT_EQ(world.View().CentreNorthKm, 5837.45);
   EXPECT_EQ(world.View().CentreEastKm, -10.517);
-  EXPECT_EQ(world.View().CentreFollow, 0);
+  EXPECT_EQ(world.View().CentreFollow, Following::Nobody);
   EXPECT_FALSE(world.Controls.Map.Option1.Value);
   EXPECT_FALSE(world.Controls.Map.Option2.Value);
 }
@@ -286,7 +286,7 @@ TEST(CentreMark, IsAYellowXAroundTheCentrePixel) {
 
 TEST(CentreMark, IsNotDrawnWhileSomethingIsFollowed) {
   MapWorld world;
-  world.View().CentreFollow = 2;
+  world.View().CentreFollow = Following::OwnPosition;
   world.Redraw();
   for (const Operation& line : world.Surface.Of("line"))
     EXPECT_NE(line.X1, 391);

@@ -90,21 +90,21 @@ TEST(FollowedHistory, WithoutThinningTheHistoryGrows) {
 
 TEST(FollowedHistory, WithoutGpsTheMapFollowsTheStationAgain) {
   Reception station;
-  station.Map.CentreFollow = 0;
+  station.Map.CentreFollow = Following::Nobody;
   station.Controls.Map.Option1.Value = true;
   station.History.Enter(Position(1));
-  EXPECT_EQ(station.Map.CentreFollow, 1);
+  EXPECT_EQ(station.Map.CentreFollow, Following::Station);
   EXPECT_FALSE(station.Controls.Map.Option1.Value);
   EXPECT_TRUE(station.Controls.Map.Option2.Value);
   EXPECT_FALSE(station.Map.MapDrawn);
   station.Gps.GpsFixValid = 1;
-  station.Map.CentreFollow = 0;
+  station.Map.CentreFollow = Following::Nobody;
   station.History.Enter(Position(2));
-  EXPECT_EQ(station.Map.CentreFollow, 0);
+  EXPECT_EQ(station.Map.CentreFollow, Following::Nobody);
   station.Gps.GpsFixValid = 0;
   station.Gps.GpsFixValidBefore = 1;
   station.History.Enter(Position(3));
-  EXPECT_EQ(station.Map.CentreFollow, 0);
+  EXPECT_EQ(station.Map.CentreFollow, Following::Nobody);
 }
 
 TEST(FollowedHistory, FileThatCannotBeWrittenIsAFailure) {

@@ -242,7 +242,7 @@ TEST(ReceivePass, BehindAPositionOfTheFollowedStationThePassGoesOn) {
   EXPECT_EQ(station.Stores.Moni1Records.Count(), 1);
   EXPECT_EQ(station.Heard(), 2);
   EXPECT_EQ(station.Actions.Redraws, 1);
-  EXPECT_EQ(station.Map.CentreFollow, 1);
+  EXPECT_EQ(station.Map.CentreFollow, Following::Station);
 }
 
 TEST(ReceivePass, PositionOfTheFollowedStationEndsThePassWithARedrawWhenLittleWaits) {

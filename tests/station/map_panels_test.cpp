@@ -41,7 +41,7 @@ struct PictureStation : StationHarness {
 
 TEST(PicturePanel, ARightPressOnAMarkShowsThePicture) {
   PictureStation station;
-  station.State().Map.CentreFollow = 2;
+  station.State().Map.CentreFollow = Following::OwnPosition;
   station.Controls().Map.Option1.Value = true;
   station.OpenPicture();
   const PicturePanelControls& panel = station.Controls().Picture;
@@ -49,7 +49,7 @@ TEST(PicturePanel, ARightPressOnAMarkShowsThePicture) {
   EXPECT_TRUE(panel.Frame8.Visible);
   EXPECT_EQ(panel.PictureName.Caption, "2 / 3  58000400.BMP");
   EXPECT_EQ(panel.Picture.Path, "C:\\ZEPRIL\\U33\\UTMPICS\\58000400.BMP");
-  EXPECT_EQ(station.State().Map.CentreFollow, 0);
+  EXPECT_EQ(station.State().Map.CentreFollow, Following::Nobody);
   EXPECT_FALSE(station.Controls().Map.Option1.Value);
   EXPECT_EQ(station.map_surface.Operations.back().Kind, "clear");
   EXPECT_TRUE(station.program->Timer1().Enabled());
@@ -80,7 +80,7 @@ TEST(PicturePanel, AClickOnThePictureCentresTheMapWhereItWasTaken) {
   EXPECT_DOUBLE_EQ(station.State().Map.CentreNorthKm, 5800.499);
   EXPECT_DOUBLE_EQ(station.State().Map.CentreEastKm, 400.499);
   EXPECT_EQ(station.State().Map.PictureMode, 0);
-  EXPECT_EQ(station.State().Map.CentreFollow, 0);
+  EXPECT_EQ(station.State().Map.CentreFollow, Following::Nobody);
   EXPECT_FALSE(station.Controls().Picture.Frame8.Visible);
   EXPECT_TRUE(station.Painted("line", 0x00FFFF));  // the mark of a centre that follows nothing
 }
@@ -96,7 +96,7 @@ TEST(PicturePanel, TheNextStartOpensWhereThePictureWasTaken) {
   station.Restart();
   EXPECT_DOUBLE_EQ(station.State().Map.CentreNorthKm, 5800.499);
   EXPECT_DOUBLE_EQ(station.State().Map.CentreEastKm, 400.499);
-  EXPECT_EQ(station.State().Map.CentreFollow, 0);
+  EXPECT_EQ(station.State().Map.CentreFollow, Following::Nobody);
   EXPECT_FALSE(station.Controls().Map.Option2.Value);
 }
 
@@ -122,7 +122,7 @@ TEST(PicturePanel, CentreButtonAndFollowOptionsCloseIt) {
   for (const Event& closes : {map.Command12.Click, map.Option1.Click, map.Option2.Click}) {
     station.State().Map.CentreNorthKm = 5800.0;
     station.State().Map.CentreEastKm = 400.0;
-    station.State().Map.CentreFollow = 0;
+    station.State().Map.CentreFollow = Following::Nobody;
     station.State().Map.PictureMode = 0;
     station.Controls().Map.Command9.Click();
     station.OpenPicture();

@@ -58,17 +58,17 @@ TEST(StationProgram, OneFrameATickWhenLittleIsLeft) {
 TEST(StationProgram, TheFollowedStationsHistorySurvivesARestart) {
   StationHarness station;
   station.Start();
-  EXPECT_EQ(station.State().Map.CentreFollow, 0);
+  EXPECT_EQ(station.State().Map.CentreFollow, Following::Nobody);
   for (int minute = 0; minute < 3; ++minute) {
     station.Hear("QX1AB-9", "=523" + std::to_string(minute) + ".00N/01324.00E>drive");
     station.Ticks(10);
   }
   EXPECT_EQ(station.State().Stores.Moni1Records.Count(), 3);
-  EXPECT_EQ(station.State().Map.CentreFollow, 1);
+  EXPECT_EQ(station.State().Map.CentreFollow, Following::Station);
   station.Restart();
   EXPECT_EQ(station.State().Stores.Moni1Records.Count(), 3);
   EXPECT_EQ(station.State().Stores.MoniAllRecords.Count(), 0);
-  EXPECT_EQ(station.State().Map.CentreFollow, 1);
+  EXPECT_EQ(station.State().Map.CentreFollow, Following::Station);
   EXPECT_TRUE(station.Controls().Map.Option2.Value);
   EXPECT_EQ(station.State().Followed.MonitorInfo, "drive");
   EXPECT_EQ(station.Controls().Moni1.Label6.Caption, "3");
@@ -197,7 +197,7 @@ TEST(StationProgram, ATypedPositionCentresTheMapThere) {
   station.Controls().Qth.TextQthEast.KeyDown({13, 0});
   EXPECT_EQ(station.State().Map.CentreNorthKm, 5900.5);
   EXPECT_EQ(station.State().Map.CentreEastKm, 410.0);
-  EXPECT_EQ(station.State().Map.CentreFollow, 0);
+  EXPECT_EQ(station.State().Map.CentreFollow, Following::Nobody);
   station.Controls().Qth.Command22.Click();
   EXPECT_FALSE(station.Controls().Qth.Frame2.Visible);
 }

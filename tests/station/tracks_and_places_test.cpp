@@ -25,7 +25,7 @@ struct PlacesStation : StationHarness {
     State().Map.MapTileKm = 50.0;
     State().Map.CentreNorthKm = 5800.0;
     State().Map.CentreEastKm = 400.0;
-    State().Map.CentreFollow = 0;
+    State().Map.CentreFollow = Following::Nobody;
     State().Map.StationLabelLevel = 0;
     map_surface.Operations.clear();
     Controls().Map.Command9.Click();
@@ -82,10 +82,10 @@ TEST(TracksAndPlaces, FilesThatAreChosenComeBackAfterARestart) {
 TEST(TracksAndPlaces, TheEndOfATrackIsCentredAndNoLongerFollowed) {
   PlacesStation station;
   station.Controls().Map.Option1.Click();
-  ASSERT_EQ(station.State().Map.CentreFollow, 2);
+  ASSERT_EQ(station.State().Map.CentreFollow, Following::OwnPosition);
   station.Controls().Tracks.Frame10.Click();
   EXPECT_DOUBLE_EQ(station.State().Map.CentreNorthKm, 5801.0);
-  EXPECT_EQ(station.State().Map.CentreFollow, 0);
+  EXPECT_EQ(station.State().Map.CentreFollow, Following::Nobody);
   EXPECT_FALSE(station.Controls().Map.Option1.Value);
 }
 

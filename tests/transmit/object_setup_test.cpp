@@ -53,12 +53,12 @@ TEST_F(ObjectSetupTest, ASecondRightClickLeavesWhatWasTyped) {
 
 TEST_F(ObjectSetupTest, TheMapGoesToAnObjectThatIsThere) {
   Own().ObjectName = "ABC      ";
-  world.State.Map.CentreFollow = 2;
+  world.State.Map.CentreFollow = Following::OwnPosition;
   world.Controls.Map.Option1.Value = true;
   world.Controls.Map.Option2.Value = true;
   Open();
   EXPECT_TRUE(world.State.Map.ObjectCenterPending);
-  EXPECT_EQ(world.State.Map.CentreFollow, 0);
+  EXPECT_EQ(world.State.Map.CentreFollow, Following::Nobody);
   EXPECT_FALSE(world.Controls.Map.Option1.Value);
   EXPECT_FALSE(world.Controls.Map.Option2.Value);
   EXPECT_EQ(world.Actions.Redraws, 1);

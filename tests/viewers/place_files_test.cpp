@@ -404,7 +404,7 @@ TEST(PlaceEdit, ARenamedPlaceMovesWithTheMapCentre) {
 
 TEST(PlaceEdit, AMapThatFollowsAStationMovesNoPlace) {
   PlaceWorld world({kHut, kLake});
-  world.View.CentreFollow = 1;
+  world.View.CentreFollow = Following::Station;
   world.Room.EditPlace(1);
   world.View.CentreNorthKm = 5400.5;
   world.Name("CABIN");

@@ -8,6 +8,14 @@
 
 namespace zepril {
 
+// What the centre of the map follows.
+enum class Following {
+  Nobody = 0,
+  Station = 1,  // `MONI 1`
+  OwnPosition = 2,
+  TypedPosition = 3,  // one jump there, then nobody
+};
+
 struct MapViewState {
   double MapCentralMeridian = 15.0;  // degrees
   double MapFalseEasting = 500000.0;
@@ -31,8 +39,7 @@ struct MapViewState {
   std::string ActiveFolderPath;
   std::string BaseFolderPath;
 
-  int CentreFollow =
-      0;  // 0 free, 1 monitored station, 2 own position, 3 one jump to typed position
+  Following CentreFollow = Following::Nobody;
   int PictureMode = 0;
   bool GridOn = false;
   bool CirclesOn = false;
@@ -56,7 +63,7 @@ struct MapViewState {
   double OwnNorthKm = 0.0;
   double OwnEastKm = 0.0;
   bool ObjectCenterPending = false;  // the next redraw jumps to the own object
-  std::string QthNorthText;          // the typed position of CentreFollow 3
+  std::string QthNorthText;          // of Following::TypedPosition
   std::string QthEastText;
 
   double StationAnchorX = 0.0;
