@@ -148,7 +148,7 @@ void TrackFiles::CentreOnEnd() {
   view_.CentreEastKm = track.EastKm(last);
   FollowNobody(view_, map_);
   view_.MapLockedOnRecord = 0;
-  view_.PictureMode = 0;
+  view_.PictureMode = MapShows::Map;
   view_.ManualMapMove = true;
   tools_.Map.MapRedraw();
 }

@@ -195,7 +195,7 @@ void MapInteraction::ChooseFolder(int row) {
 }
 
 void MapInteraction::CentreOnRecord() {
-  view_.PictureMode = 0;
+  view_.PictureMode = MapShows::Map;
   tools_.Lookups.ClosePicture();
   FollowNobody(view_, controls_.Map);
   const std::string& record = controls_.Record.Label20.Caption;
@@ -210,7 +210,7 @@ void MapInteraction::CentreOnRecord() {
 
 void MapInteraction::Follow(Following what) {
   FollowWith(view_, controls_.Map, what);
-  view_.PictureMode = 0;
+  view_.PictureMode = MapShows::Map;
   tools_.Lookups.ClosePicture();
   UnlockFromRecord();
   Redraw();
@@ -229,7 +229,7 @@ void MapInteraction::PressMap(const MousePress& press) {
 
 void MapInteraction::LeftPress(double x, double y) {
   UnlockFromRecord();
-  if (view_.PictureMode == 1) {
+  if (view_.PictureMode == MapShows::Picture) {
     CentreOnPicture();
   } else {
     const MapPosition pressed = PositionOfPixel(view_, x, y);
@@ -249,7 +249,7 @@ void MapInteraction::CentreOnPicture() {
     view_.CentreNorthKm = place.NorthKm;
     view_.CentreEastKm = place.EastKm;
   }
-  view_.PictureMode = 0;
+  view_.PictureMode = MapShows::Map;
   tools_.Lookups.ClosePicture();
 }
 
@@ -375,7 +375,7 @@ void MapInteraction::ReadClassBoxes() {
 void MapInteraction::StepBrightness() {
   view_.BrightnessStep = (view_.BrightnessStep + 1) % 3;
   ShowState();
-  if (view_.PictureMode != 1) Redraw();
+  if (view_.PictureMode != MapShows::Picture) Redraw();
 }
 
 void MapInteraction::ChooseInk(int number) {

@@ -17,7 +17,7 @@ bool PressLookups::LookupPicture() {
   const auto found = FindPictureNear(view_, view_.ClickNorthKm, view_.ClickEastKm);
   if (!found) return false;
   view_.SelectedPicture = *found;
-  view_.PictureMode = 1;
+  view_.PictureMode = MapShows::Picture;
   FollowNobody(view_, controls_);
   tools_.MapSurface.Clear(kBlack);
   ++controls_.Picture1.Revision;

@@ -28,7 +28,7 @@ void MapRedrawer::MapRedraw() {
   controls_.Map.Command12.Caption = view.MapLockedOnRecord == 1 ? "MAP L" : "MAP";
 
   // A picture in place of the map: nothing else is drawn.
-  if (view.PictureMode == 1) {
+  if (view.PictureMode == MapShows::Picture) {
     surface.Clear(kBlack);
     tools_.Overlays.ShowPicture(surface, view);
     ++controls_.Map.Picture1.Revision;
@@ -108,7 +108,7 @@ void MapRedrawer::FollowCentre() {
   }
   // One jump to the typed position, which ends all following.
   if (view.CentreFollow == Following::TypedPosition) {
-    view.PictureMode = 0;
+    view.PictureMode = MapShows::Map;
     view.CentreNorthKm = PositionTextKm(Trim(view.QthNorthText));
     view.CentreEastKm = PositionTextKm(Trim(view.QthEastText));
     FollowNobody(view, controls_.Map);

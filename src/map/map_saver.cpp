@@ -27,7 +27,7 @@ void MapSaver::SaveMapWindow() {
   // Kept: missing tiles are white from now on, to the end of the run, on the screen too.
   view_.MapSavedThisRun = true;
   // The map is what is saved, not a picture in front of it.
-  view_.PictureMode = 0;
+  view_.PictureMode = MapShows::Map;
   tools_.MapSurface.Clear(kBlack);
   tools_.Map.MapRedraw();
   tools_.Disk.Write(path, tools_.MapSurface.BmpFile());

@@ -259,7 +259,8 @@ void StationRooms::DeleteRunFiles() {
 void StationRooms::MapRedraw() {
   redrawer_.MapRedraw();
   // Whatever ended the picture, its panel goes with it.
-  if (State.Map.PictureMode != 1 && Controls.Picture.Frame8.Visible) pictures_.ClosePicture();
+  if (State.Map.PictureMode != MapShows::Picture && Controls.Picture.Frame8.Visible)
+    pictures_.ClosePicture();
   qth_.ShowFields();
   Controls.Moni1.Command17.Caption = "TRACK " + WholeNumber(State.Followed.TrackStyle);
   ShowPlaceLevel();

@@ -111,7 +111,7 @@ PictureViewer::PictureViewer(const IdentityState& identity, MapViewState& view,
   controls_.Command70.Click = [this] { OpenOutside(); };
   controls_.Command71.Click = [this] { CloseByOperator(); };
   controls_.Picture.Click = [this] {
-    if (view_.PictureMode != 1 || !map_.Picture1.MouseDown) return;
+    if (view_.PictureMode != MapShows::Picture || !map_.Picture1.MouseDown) return;
     map_.Picture1.MouseDown({kLeftButton, 0, view_.CursorX, view_.CursorY});
   };
 }
@@ -216,7 +216,7 @@ void PictureViewer::OpenOutside() {
 }
 
 void PictureViewer::CloseByOperator() {
-  view_.PictureMode = 0;
+  view_.PictureMode = MapShows::Map;
   ClosePicture();
   // The cycle stands still while the map is painted; the redraw starts it again.
   tools_.Timer1.Stop();

@@ -145,14 +145,14 @@ TEST_F(LayerPanelsTest, APictureFillsTheMapAndAClickOnItCentresThere) {
   Click("Check12");
   const PixelPoint at = MarkPixel(State().Map, 5817.5, 391.5);
   QTest::mouseClick(Map(), Qt::RightButton, {}, QPoint(at.X, at.Y));
-  EXPECT_EQ(State().Map.PictureMode, 1);
+  EXPECT_EQ(State().Map.PictureMode, MapShows::Picture);
   EXPECT_TRUE(Find<>(*window, "Frame8")->isVisible());
   EXPECT_EQ(Find<>(*window, "Frame8")->geometry(), Map()->rect());
   // The picture itself is seen.
   EXPECT_TRUE(
       PumpUntil([&] { return CountOf(MapPicture(), Map()->rect(), TileColour()) > 10000; }));
   QTest::mouseClick(Find<>(*window, "Picture"), Qt::LeftButton);
-  EXPECT_EQ(State().Map.PictureMode, 0);
+  EXPECT_EQ(State().Map.PictureMode, MapShows::Map);
   EXPECT_FALSE(Find<>(*window, "Frame8")->isVisible());
   EXPECT_NEAR(State().Map.CentreNorthKm, 5817.499, 1e-9);
   EXPECT_NEAR(State().Map.CentreEastKm, 391.499, 1e-9);

@@ -331,7 +331,7 @@ TEST(TrackEnd, CentresOnTheLastPointThatHasAPosition) {
   world.Room.RestoreAtStart();
   world.View.CentreFollow = Following::OwnPosition;
   world.View.MapLockedOnRecord = 1;
-  world.View.PictureMode = 1;
+  world.View.PictureMode = MapShows::Picture;
   world.Map.Option1.Value = true;
   world.Map.Option2.Value = true;
   world.Controls.Frame10.Click();
@@ -339,7 +339,7 @@ TEST(TrackEnd, CentresOnTheLastPointThatHasAPosition) {
   EXPECT_DOUBLE_EQ(world.View.CentreEastKm, 413.345);
   EXPECT_EQ(world.View.CentreFollow, Following::Nobody);
   EXPECT_EQ(world.View.MapLockedOnRecord, 0);
-  EXPECT_EQ(world.View.PictureMode, 0);
+  EXPECT_EQ(world.View.PictureMode, MapShows::Map);
   EXPECT_TRUE(world.View.ManualMapMove);
   EXPECT_FALSE(world.Map.Option1.Value);
   EXPECT_FALSE(world.Map.Option2.Value);

@@ -213,11 +213,11 @@ TEST(LeftPress, OnAPictureGoesToWhereItWasTaken) {
   InteractionWorld world;
   world.View().PictureNames = {"57000400.JPG", "A123@050.JPG"};
   world.View().SelectedPicture = 2;
-  world.View().PictureMode = 1;
+  world.View().PictureMode = MapShows::Picture;
   world.Press(1, 100, 50);
   EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, -1122.501);
   EXPECT_DOUBLE_EQ(world.View().CentreEastKm, -49.501);
-  EXPECT_EQ(world.View().PictureMode, 0);
+  EXPECT_EQ(world.View().PictureMode, MapShows::Map);
   EXPECT_FALSE(world.View().ManualMapMove);
   EXPECT_THAT(world.Join.Calls, ElementsAre("close picture", "redraw"));
 }
@@ -225,11 +225,11 @@ TEST(LeftPress, OnAPictureGoesToWhereItWasTaken) {
 TEST(LeftPress, OnAPictureThatHasLeftTheListOnlyClosesIt) {
   InteractionWorld world;
   world.View().SelectedPicture = 2;
-  world.View().PictureMode = 1;
+  world.View().PictureMode = MapShows::Picture;
   world.View().CentreFollow = Following::OwnPosition;
   world.Press(1, 100, 50);
   EXPECT_EQ(world.View().CentreNorthKm, 5825.0);
-  EXPECT_EQ(world.View().PictureMode, 0);
+  EXPECT_EQ(world.View().PictureMode, MapShows::Map);
   EXPECT_EQ(world.View().CentreFollow, Following::Nobody);
 }
 
@@ -237,7 +237,7 @@ TEST(LeftPress, AShortPictureNameReadsWhatIsThere) {
   InteractionWorld world;
   world.View().PictureNames = {"62.JPG"};
   world.View().SelectedPicture = 1;
-  world.View().PictureMode = 1;
+  world.View().PictureMode = MapShows::Picture;
   world.Press(1, 100, 50);
   EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, 62.499);
   EXPECT_DOUBLE_EQ(world.View().CentreEastKm, 0.499);
@@ -470,13 +470,13 @@ TEST(CentreButton, GoesToTheRecordInThePanelAndLocks) {
 TEST(CentreButton, WithoutARecordTheMapStaysWhereItIsAndFollowsNothing) {
   InteractionWorld world;
   world.View().CentreFollow = Following::OwnPosition;
-  world.View().PictureMode = 1;
+  world.View().PictureMode = MapShows::Picture;
   world.Hands.ShowState();
   world.Controls.Map.Command12.Click();
   EXPECT_EQ(world.View().CentreNorthKm, 5825.0);
   EXPECT_EQ(world.View().CentreEastKm, 425.0);
   EXPECT_EQ(world.View().CentreFollow, Following::Nobody);
-  EXPECT_EQ(world.View().PictureMode, 0);
+  EXPECT_EQ(world.View().PictureMode, MapShows::Map);
   EXPECT_FALSE(world.Controls.Map.Option1.Value);
   EXPECT_THAT(world.Join.Calls, ElementsAre("close picture", "redraw"));
   EXPECT_EQ(world.Controls.Map.Command12.Caption, "MAP");
@@ -489,24 +489,24 @@ TEST(CentreButton, ReadsAPositionWithItsBlanks) {
   maker.EastKm = -10.517;
   world.Controls.Record.Label20.Caption = std::string(maker.Make().Text());
   world.Controls.Map.Option2.Value = true;
-  world.View().PictureMode = 1;
+  world.View().PictureMode = MapShows::Picture;
   world.Controls.Map.Command12.Click();
   EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, 0.042);
   EXPECT_DOUBLE_EQ(world.View().CentreEastKm, -10.517);
-  EXPECT_EQ(world.View().PictureMode, 0);
+  EXPECT_EQ(world.View().PictureMode, MapShows::Map);
   EXPECT_FALSE(world.Controls.Map.Option2.Value);
   EXPECT_EQ(world.View().MapLockedOnRecord, 1);
 }
 
 TEST(FollowOptions, ChooseWhatTheCentreFollowsAndCloseThePicture) {
   InteractionWorld world;
-  world.View().PictureMode = 1;
+  world.View().PictureMode = MapShows::Picture;
   world.View().MapLockedOnRecord = 1;
   world.View().OwnNorthKm = 5800.0;
   world.View().OwnEastKm = 400.0;
   world.Controls.Map.Option1.Click();
   EXPECT_EQ(world.View().CentreFollow, Following::OwnPosition);
-  EXPECT_EQ(world.View().PictureMode, 0);
+  EXPECT_EQ(world.View().PictureMode, MapShows::Map);
   EXPECT_EQ(world.View().CentreNorthKm, 5800.0);
   EXPECT_EQ(world.Controls.Map.Command12.Caption, "MAP");
   world.Controls.Map.Option2.Click();
@@ -626,7 +626,7 @@ TEST(Brightness, StepsThroughThreeWithTheButtonInTheirColours) {
   EXPECT_EQ(world.Controls.Map.Command72.BackColour, 0x606046u);
   world.Controls.Map.Command72.Click();
   EXPECT_EQ(world.Controls.Map.Command72.BackColour, 0xFFFFD6u);
-  world.View().PictureMode = 1;
+  world.View().PictureMode = MapShows::Picture;
   world.Join.Calls.clear();
   world.Controls.Map.Command72.Click();
   EXPECT_EQ(world.View().BrightnessStep, 0);

@@ -142,7 +142,7 @@ TEST(MapRedraw, TheGridStartsAtTheLastTilePlace) {
 TEST(MapRedraw, APictureTakesThePlaceOfTheMapAndKeepsTheCycleGoing) {
   MarkedOverlays overlays;
   MapWorld world(overlays);
-  world.View().PictureMode = 1;
+  world.View().PictureMode = MapShows::Picture;
   world.View().MapLockedOnRecord = 1;
   world.Redraw();
   EXPECT_THAT(Story(world.Surface), ElementsAre("clear", "picture"));

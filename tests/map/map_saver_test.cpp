@@ -81,11 +81,11 @@ TEST(FirstFreeMapName, FillsGapsAndGoesOnBehindFourFigures) {
 
 TEST(SaveMapWindow, CancelLeavesEverythingAsItIs) {
   SaverWorld world;
-  world.View().PictureMode = 1;
+  world.View().PictureMode = MapShows::Picture;
   world.Ask("MAP_0001.BMP", DialogAnswer::Cancel);
   world.Saver.SaveMapWindow();
   EXPECT_FALSE(world.View().MapSavedThisRun);
-  EXPECT_EQ(world.View().PictureMode, 1);
+  EXPECT_EQ(world.View().PictureMode, MapShows::Picture);
   EXPECT_THAT(world.Happened, IsEmpty());
   EXPECT_FALSE(world.SavedNow());
 }
@@ -108,10 +108,10 @@ TEST(SaveMapWindow, MissingTilesAreWhiteFromThenOn) {
 
 TEST(SaveMapWindow, APictureInFrontOfTheMapIsClosed) {
   SaverWorld world;
-  world.View().PictureMode = 1;
+  world.View().PictureMode = MapShows::Picture;
   world.Ask("MAP_0001.BMP");
   world.Saver.SaveMapWindow();
-  EXPECT_EQ(world.View().PictureMode, 0);
+  EXPECT_EQ(world.View().PictureMode, MapShows::Map);
 }
 
 TEST(SaveMapWindow, WhatCannotBeSavedIsPassedOverInSilence) {

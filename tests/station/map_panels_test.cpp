@@ -45,7 +45,7 @@ TEST(PicturePanel, ARightPressOnAMarkShowsThePicture) {
   station.Controls().Map.Option1.Value = true;
   station.OpenPicture();
   const PicturePanelControls& panel = station.Controls().Picture;
-  EXPECT_EQ(station.State().Map.PictureMode, 1);
+  EXPECT_EQ(station.State().Map.PictureMode, MapShows::Picture);
   EXPECT_TRUE(panel.Frame8.Visible);
   EXPECT_EQ(panel.PictureName.Caption, "2 / 3  58000400.BMP");
   EXPECT_EQ(panel.Picture.Path, "C:\\ZEPRIL\\U33\\UTMPICS\\58000400.BMP");
@@ -67,7 +67,7 @@ TEST(PicturePanel, StaysWhileStationsAreHeard) {
   station.clock.Run(10.0);
   EXPECT_EQ(station.State().Stores.MoniAllRecords.Count(), 1);
   EXPECT_EQ(station.program->Timer1().IntervalMs(), 6000);
-  EXPECT_EQ(station.State().Map.PictureMode, 1);
+  EXPECT_EQ(station.State().Map.PictureMode, MapShows::Picture);
   EXPECT_TRUE(station.Controls().Picture.Frame8.Visible);
   EXPECT_EQ(station.Controls().Picture.Picture.Revision, 1u);
 }
@@ -79,7 +79,7 @@ TEST(PicturePanel, AClickOnThePictureCentresTheMapWhereItWasTaken) {
   station.Controls().Picture.Picture.Click();
   EXPECT_DOUBLE_EQ(station.State().Map.CentreNorthKm, 5800.499);
   EXPECT_DOUBLE_EQ(station.State().Map.CentreEastKm, 400.499);
-  EXPECT_EQ(station.State().Map.PictureMode, 0);
+  EXPECT_EQ(station.State().Map.PictureMode, MapShows::Map);
   EXPECT_EQ(station.State().Map.CentreFollow, Following::Nobody);
   EXPECT_FALSE(station.Controls().Picture.Frame8.Visible);
   EXPECT_TRUE(station.Painted("line", 0x00FFFF));  // the mark of a centre that follows nothing
@@ -110,7 +110,7 @@ TEST(PicturePanel, StepsThroughThePicturesAndCloses) {
   EXPECT_EQ(station.Controls().Picture.PictureName.Caption, "1 / 3  57000400.BMP");
   station.map_surface.Operations.clear();
   station.Controls().Picture.Command71.Click();
-  EXPECT_EQ(station.State().Map.PictureMode, 0);
+  EXPECT_EQ(station.State().Map.PictureMode, MapShows::Map);
   EXPECT_FALSE(station.Controls().Picture.Frame8.Visible);
   EXPECT_TRUE(station.Painted("line", 0x00FFFF));
   EXPECT_TRUE(station.program->Timer1().Enabled());
@@ -123,12 +123,12 @@ TEST(PicturePanel, CentreButtonAndFollowOptionsCloseIt) {
     station.State().Map.CentreNorthKm = 5800.0;
     station.State().Map.CentreEastKm = 400.0;
     station.State().Map.CentreFollow = Following::Nobody;
-    station.State().Map.PictureMode = 0;
+    station.State().Map.PictureMode = MapShows::Map;
     station.Controls().Map.Command9.Click();
     station.OpenPicture();
     ASSERT_TRUE(station.Controls().Picture.Frame8.Visible);
     closes();
-    EXPECT_EQ(station.State().Map.PictureMode, 0);
+    EXPECT_EQ(station.State().Map.PictureMode, MapShows::Map);
     EXPECT_FALSE(station.Controls().Picture.Frame8.Visible);
   }
 }
@@ -138,7 +138,7 @@ TEST(PicturePanel, ZoomAndDimLeaveThePictureShown) {
   station.OpenPicture();
   station.Controls().Map.Command7.Click();
   station.Controls().Map.Command72.Click();
-  EXPECT_EQ(station.State().Map.PictureMode, 1);
+  EXPECT_EQ(station.State().Map.PictureMode, MapShows::Picture);
   EXPECT_TRUE(station.Controls().Picture.Frame8.Visible);
   EXPECT_EQ(station.Controls().Picture.Picture.Revision, 1u);
   EXPECT_EQ(station.State().Map.ZoomFactor, 2.0);
@@ -147,7 +147,7 @@ TEST(PicturePanel, ZoomAndDimLeaveThePictureShown) {
 TEST(PicturePanel, GoesWithWhateverEndsThePicture) {
   PictureStation station;
   station.OpenPicture();
-  station.State().Map.PictureMode = 0;
+  station.State().Map.PictureMode = MapShows::Map;
   station.Controls().Map.Command9.Click();
   EXPECT_FALSE(station.Controls().Picture.Frame8.Visible);
 }
@@ -165,7 +165,7 @@ TEST(PicturePanel, ThePicturesAreNotLookedUpWhenTheyAreNotShown) {
   station.Controls().Map.Check12.Value = 0;
   station.Controls().Map.Check12.Click();
   station.OpenPicture();
-  EXPECT_EQ(station.State().Map.PictureMode, 0);
+  EXPECT_EQ(station.State().Map.PictureMode, MapShows::Map);
   EXPECT_FALSE(station.Controls().Picture.Frame8.Visible);
 }
 
@@ -194,7 +194,7 @@ TEST(SunPanel, OpensInANarrowWindowWithoutAnyLookup) {
   station.Controls().Window.WidthPx = 629;
   station.Press(2, station.X(400.0), station.Y(5800.0));
   EXPECT_TRUE(station.Controls().Sun.SunPanel.Visible);
-  EXPECT_EQ(station.State().Map.PictureMode, 0);
+  EXPECT_EQ(station.State().Map.PictureMode, MapShows::Map);
   EXPECT_TRUE(station.program->Timer1().Enabled());
 }
 
@@ -233,7 +233,7 @@ TEST(SaveMapWindow, ClosesThePictureInFrontOfTheMap) {
                          "SAVE MAP WINDOW TO FILE...  C:\\ZEPRIL\\MY_MAPS\\MAP_0001.BMP");
   station.Controls().Map.Command59.Click();
   EXPECT_FALSE(station.Controls().Picture.Frame8.Visible);
-  EXPECT_EQ(station.State().Map.PictureMode, 0);
+  EXPECT_EQ(station.State().Map.PictureMode, MapShows::Map);
 }
 
 }  // namespace

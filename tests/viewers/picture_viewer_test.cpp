@@ -20,7 +20,7 @@ struct ViewerWorld : DesktopActions, MapActions {
     Identity.ProgramFolder = R"(C:\Z)";
     Identity.MapsPath = R"(C:\Z\U33)";
     Disk.MakeFolder(R"(C:\Z\U33\UTMPICS)");
-    View.PictureMode = 1;
+    View.PictureMode = MapShows::Picture;
     Controls.Frame8.Visible = false;
     Timer1.Enable();
   }
@@ -243,7 +243,7 @@ TEST(PictureButtons, CloseBringsTheMapBack) {
   world.AddPicture("62000400.BMP");
   world.Show(1);
   world.Controls.Command71.Click();
-  EXPECT_EQ(world.View.PictureMode, 0);
+  EXPECT_EQ(world.View.PictureMode, MapShows::Map);
   EXPECT_FALSE(world.Controls.Frame8.Visible);
   EXPECT_EQ(world.Controls.Picture.Path, "");
   EXPECT_EQ(world.Redraws, 1);
@@ -266,7 +266,7 @@ TEST(Picture, AClickOnItIsALeftPressOnTheMap) {
   EXPECT_EQ(presses[0].X, 12);
   EXPECT_EQ(presses[0].Y, 34);
   // Not when the picture has just been closed.
-  world.View.PictureMode = 0;
+  world.View.PictureMode = MapShows::Map;
   world.Controls.Picture.Click();
   EXPECT_EQ(presses.size(), 1u);
 }

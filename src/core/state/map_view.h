@@ -16,6 +16,9 @@ enum class Following {
   TypedPosition = 3,  // one jump there, then nobody
 };
 
+// What stands in the map's place.
+enum class MapShows { Map = 0, Picture = 1 };
+
 struct MapViewState {
   double MapCentralMeridian = 15.0;  // degrees
   double MapFalseEasting = 500000.0;
@@ -40,7 +43,7 @@ struct MapViewState {
   std::string BaseFolderPath;
 
   Following CentreFollow = Following::Nobody;
-  int PictureMode = 0;
+  MapShows PictureMode = MapShows::Map;
   bool GridOn = false;
   bool CirclesOn = false;
   bool FoptDetailed = false;  // circles with three values in place of "Fopt="
