@@ -58,7 +58,7 @@ class World {
     view.CentreNorthKm = 5825.0;
     view.CentreEastKm = 425.0;
     view.MapTileKm = 50.0;
-    view.StationLabelLevel = 3;
+    view.StationLabelLevel = LabelLevel::MarksAndLines;
     controls_.Record.Frame1.Visible = false;
     NewRoom();
     room_->Library.MapLibraryScan();
@@ -135,7 +135,7 @@ BENCHMARK(WarmRedraw)->Arg(1)->Arg(2)->Arg(4)->Arg(8)->Unit(benchmark::kMillisec
 
 void WarmRedrawOfLevel(benchmark::State& state) {
   World world;
-  world.View().StationLabelLevel = static_cast<int>(state.range(0));
+  world.View().StationLabelLevel = static_cast<LabelLevel>(state.range(0));
   world.Redraw();
   for (auto _ : state)
     world.Redraw();

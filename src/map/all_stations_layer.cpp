@@ -52,10 +52,10 @@ class StationPainter {
       return;
     }
     if (view_.MovedOnly && station->Class == 0 && !station->Moved) return;
-    if (view_.StationLabelLevel <= 3) {
-      DrawMark(*station);
-    } else {
+    if (ShowsSymbols(view_.StationLabelLevel)) {
       DrawSymbol(*station);
+    } else {
+      DrawMark(*station);
     }
     DrawLabels(*station, trail.Call);
   }
@@ -92,9 +92,9 @@ class StationPainter {
     return station;
   }
 
-  // White, or at level 1 a grey that darkens with age; nothing for an impossible time.
+  // White, or for marks alone a grey that darkens with age; nothing for an impossible time.
   std::optional<Colour> CoreColour(const StationRecord& record) const {
-    if (view_.StationLabelLevel != 1) return kWhite;
+    if (view_.StationLabelLevel != LabelLevel::Marks) return kWhite;
     const auto age = RecordAgeMinutes(record, now_);
     if (!age) return std::nullopt;
     return kWhite - static_cast<Colour>(std::min(*age, kFullGreyMinutes)) * 0x010101u;
@@ -154,10 +154,11 @@ class StationPainter {
     const LabelForm form = LabelFormOf(view_.StationLabelLevel);
     if (form == LabelForm::None) return;
     // Clear of the mark, or of the bigger bitmap.
-    const int left = station.At.X + 8 + 6 * (view_.StationLabelLevel / 4);
+    const bool symbol = ShowsSymbols(view_.StationLabelLevel);
+    const int left = station.At.X + (symbol ? 14 : 8);
     const std::string text = form == LabelForm::Long ? LongLabel(*station.Last) : call;
     DrawLabel(surface_, left, station.At.Y, text, station.Outline, station.Core);
-    if (view_.StationLabelLevel <= 3 && station.Last->MessageMark() == '\'') {
+    if (!symbol && station.Last->MessageMark() == '\'') {
       surface_.Box(station.At.X - 1, station.At.Y - 1, station.At.X + 1, station.At.Y + 1,
                    kMessageDotColour);
     }

@@ -19,8 +19,6 @@ constexpr int kKeyRight = 39;
 constexpr int kKeyDown = 40;
 constexpr int kRightButton = 2;
 
-constexpr int kHighestLabelLevel = 5;
-constexpr int kLevelSteps = 7;  // 0 to 5 and "WX"
 constexpr int kTrackStyles = 7;
 
 constexpr std::array<std::uint32_t, 3> kBrightnessButton{0xC0C0A0, 0x606046, 0xFFFFD6};
@@ -277,7 +275,7 @@ bool MapInteraction::LookUpEverything() {
     tools_.Timer2.Arm(kLookupTimer2Ms);
   };
   // Station, picture, track point, place: each only if the ones before found nothing.
-  if (view_.StationLabelLevel > 0) {
+  if (ShowsStations(view_.StationLabelLevel)) {
     stop_cycle();
     if (LookUpStation()) return true;
   }
@@ -350,11 +348,7 @@ void MapInteraction::MovePointer(double dx, double dy) {
 // ---- What is shown --------------------------------------------------------------------------
 
 void MapInteraction::StepLabelLevel(int direction) {
-  // "WX" is the step behind 5: level 1 with gauges.
-  const int step = view_.WxCaption ? kLevelSteps - 1 : view_.StationLabelLevel;
-  const int next = (step + direction + kLevelSteps) % kLevelSteps;
-  view_.WxCaption = next > kHighestLabelLevel;
-  view_.StationLabelLevel = view_.WxCaption ? 1 : next;
+  SetLabelStep(view_, (LabelStep(view_) + direction + kLabelSteps) % kLabelSteps);
   ShowState();
   Redraw();
 }
@@ -400,7 +394,7 @@ void MapInteraction::OpenMonitorRecords() {
 
 void MapInteraction::ShowState() {
   MoniAllControls& all = controls_.MoniAll;
-  all.Label16.Caption = view_.WxCaption ? "WX" : WholeNumber(view_.StationLabelLevel);
+  all.Label16.Caption = view_.WxCaption ? "WX" : WholeNumber(LabelStep(view_));
   int bit = 1;
   for (CheckBox* box : {&all.Check10, &all.Check11, &all.Check13, &all.Check19, &all.Check25}) {
     box->Value = (view_.StationClassMask & bit) != 0 ? 1 : 0;

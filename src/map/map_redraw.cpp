@@ -153,7 +153,7 @@ void MapRedrawer::DrawOverlays(PixelPoint last_tile) {
   // Frames of the tiles that exist.
   TileFrames(surface, view, tools_.Library, controls_.Scales);
   // All stations.
-  if (view.StationLabelLevel > 0) {
+  if (ShowsStations(view.StationLabelLevel)) {
     AllStationsDraw(surface, view, sections_.Stores.MoniAllRecords, sections_.Followed.Moni1Call,
                     tools_.Symbols, tools_.Sheets, tools_.LocalClock.Now());
   }

@@ -106,7 +106,7 @@ void DrawStation(DrawingSurface& surface, const MapViewState& view, const Statio
     WxGaugeDraw(surface, x, y, last);
   }
   // Levels with bitmap symbols: the symbol lies inside the ring.
-  if (view.StationLabelLevel >= 4) {
+  if (ShowsSymbols(view.StationLabelLevel)) {
     sheets.DrawSymbol(surface, index, x - 11, y - 10);
     if (last.Symbol().size() > 2) {
       surface.Text(x - 4, y - 7, last.Symbol().substr(2, 1), FontFace::Text, kBlack);
@@ -118,7 +118,7 @@ void DrawStation(DrawingSurface& surface, const MapViewState& view, const Statio
   const int left = x + (gauge ? kGaugeRingReach : kOwnMarkReach) + 2;
   const std::string text = form == LabelForm::Long ? LongLabel(last) : std::string(call);
   DrawLabel(surface, left, y, text, colour, kBlack);
-  if (view.StationLabelLevel <= 3 && last.MessageMark() == '\'') {
+  if (!ShowsSymbols(view.StationLabelLevel) && last.MessageMark() == '\'') {
     surface.Box(x - 1, y - 1, x + 1, y + 1, kMessageDotColour);
   }
   // The station that was looked for.

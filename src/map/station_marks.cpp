@@ -84,9 +84,17 @@ void DrawCircleRing(DrawingSurface& surface, int x, int y, int inside, const Mar
   }
 }
 
-LabelForm LabelFormOf(int level) {
-  if (level == 2 || level == 4) return LabelForm::Short;
-  return level == 3 || level == 5 ? LabelForm::Long : LabelForm::None;
+LabelForm LabelFormOf(LabelLevel level) {
+  switch (level) {
+    case LabelLevel::MarksAndCalls:
+    case LabelLevel::SymbolsAndCalls:
+      return LabelForm::Short;
+    case LabelLevel::MarksAndLines:
+    case LabelLevel::SymbolsAndLines:
+      return LabelForm::Long;
+    default:
+      return LabelForm::None;
+  }
 }
 
 std::string LongLabel(const StationRecord& record) {

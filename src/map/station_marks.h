@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/state/label_level.h"
 #include "core/station_record.h"
 #include "platform/drawing_surface.h"
 
@@ -32,7 +33,7 @@ void DrawCircleRing(DrawingSurface& surface, int x, int y, int inside, const Mar
 
 // How much a label tells, by the label level.
 enum class LabelForm { None, Short, Long };
-LabelForm LabelFormOf(int level);
+LabelForm LabelFormOf(LabelLevel level);
 
 // "HHMM comment symbol name" and the call behind a blank, or behind "_" for a record with that
 // mark.

@@ -61,7 +61,7 @@ std::array<Control*, 2> DistanceAlarm::Panel() {
 }
 
 void DistanceAlarm::TestAllStations(const StationRecord& record) {
-  if (alarm_.MoniAllAlarmOn != 1 || map_.StationLabelLevel == 0) return;
+  if (alarm_.MoniAllAlarmOn != 1 || !ShowsStations(map_.StationLabelLevel)) return;
   if (!ClassIsOn(record.ClassDigit(), map_.StationClassMask)) return;
   const std::string_view call = record.Call();
   if (EqualFolded(call, Trim(followed_.Moni1Call)) || IsOwnCall(call)) return;

@@ -14,7 +14,8 @@ namespace zepril {
 namespace {
 
 constexpr int kEnterKey = 13;
-constexpr int kFirstLabelLevel = 2;  // marks and calls: what a new operator wants to see
+// What a new operator wants to see.
+constexpr LabelLevel kFirstLabelLevel = LabelLevel::MarksAndCalls;
 constexpr double kEngineSeconds = 2.0;
 constexpr double kUnseenSeconds = 0.05;             // too short to press something meanwhile
 constexpr std::uint32_t kLayerOnColour = 0xD08030;  // as a switch that is on

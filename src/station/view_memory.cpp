@@ -7,7 +7,6 @@
 namespace zepril {
 namespace {
 
-constexpr int kWxLabels = 6;  // behind 0 to 5: level 1 with gauges
 constexpr int kHighestPlaceLevel = 2;
 constexpr int kHighestBrightness = 2;
 constexpr int kHighestTrackStyle = 6;
@@ -19,7 +18,7 @@ WindowValues ViewValues(const RuntimeState& state) {
   const MapViewState& view = state.Map;
   const auto text = [](int value) { return WholeNumber(value); };
   WindowValues values;
-  values["LABELS"] = text(view.WxCaption ? kWxLabels : view.StationLabelLevel);
+  values["LABELS"] = text(LabelStep(view));
   values["GRID"] = text(view.GridOn ? 1 : 0);
   values["CIRCLES"] = text(view.CirclesOn ? 1 : 0);
   values["PICTURES"] = text(view.PicturesOn ? 1 : 0);
@@ -38,10 +37,7 @@ void ApplyViewValues(const WindowValues& values, RuntimeState& state) {
   const auto take = [&values](const char* key, int highest, auto set) {
     if (const auto value = WindowNumber(values, key, 0, highest)) set(*value);
   };
-  take("LABELS", kWxLabels, [&](int level) {
-    view.WxCaption = level == kWxLabels;
-    view.StationLabelLevel = view.WxCaption ? 1 : level;
-  });
+  take("LABELS", kWxLabelStep, [&](int step) { SetLabelStep(view, step); });
   take("GRID", 1, [&](int on) { view.GridOn = on == 1; });
   take("CIRCLES", 1, [&](int on) { view.CirclesOn = on == 1; });
   take("PICTURES", 1, [&](int on) { view.PicturesOn = on == 1; });

@@ -178,8 +178,8 @@ void SetView(Arguments& arguments, RuntimeState& state) {
   if (!(view.ZoomFactor >= kSmallestZoom && view.ZoomFactor <= kLargestZoom)) {
     arguments.Fail("--zoom must be a number from 0.25 to 8");
   }
-  view.WxCaption = TextOf(arguments, "--level", "") == "WX";
-  view.StationLabelLevel = view.WxCaption ? 1 : arguments.Whole("--level", 0, 5, 3);
+  const bool gauges = TextOf(arguments, "--level", "") == "WX";
+  SetLabelStep(view, gauges ? kWxLabelStep : arguments.Whole("--level", 0, 5, 3));
   view.BrightnessStep = arguments.Whole("--brightness", 0, 2, 0);
   if (arguments.Has("--ink")) view.SelectedInk = WholeNumber(arguments.Whole("--ink", 0, 15, 0));
   // The inks of the first tile decide whether one stays chosen.

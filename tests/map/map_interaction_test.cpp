@@ -245,7 +245,7 @@ TEST(LeftPress, AShortPictureNameReadsWhatIsThere) {
 
 TEST(RightPress, LookupsStopAtTheFirstHit) {
   InteractionWorld world;
-  world.View().StationLabelLevel = 3;
+  world.View().StationLabelLevel = LabelLevel::MarksAndLines;
   world.View().PicturesOn = world.View().TracksOn = true;
   world.View().PoiLevel = 1;
   world.Join.Finds = "TRK";
@@ -270,7 +270,7 @@ TEST(RightPress, EachLookupStopsTheCycleForThreeSeconds) {
 
 TEST(RightPress, ALookupForStationsAloneStopsTheCycleToo) {
   InteractionWorld world;
-  world.View().StationLabelLevel = 1;
+  world.View().StationLabelLevel = LabelLevel::Marks;
   world.Press(2, 400, 299);
   EXPECT_THAT(world.Join.Calls, ElementsAre("SUN"));
   EXPECT_FALSE(world.Timer1.Enabled());
@@ -307,7 +307,7 @@ TEST(RightPress, AHitUnderAMapTypeLeavesTheMapShown) {
 
 TEST(RightPress, AStationComesFirst) {
   InteractionWorld world;
-  world.View().StationLabelLevel = 3;
+  world.View().StationLabelLevel = LabelLevel::MarksAndLines;
   world.View().PicturesOn = true;
   world.Hear({});
   world.Press(2, 400, 299);
@@ -319,7 +319,7 @@ TEST(RightPress, AStationComesFirst) {
 TEST(RightPress, InANarrowWindowNothingIsLookedUp) {
   InteractionWorld world;
   world.Controls.Window.WidthPx = 629;
-  world.View().StationLabelLevel = 3;
+  world.View().StationLabelLevel = LabelLevel::MarksAndLines;
   world.Hear({});
   world.Press(2, 400, 299);
   EXPECT_THAT(world.Join.Calls, ElementsAre("SUN"));
@@ -561,7 +561,7 @@ TEST(LabelLevel, TheSixthPressShowsWxAndTheSeventhNothing) {
     world.Controls.MoniAll.Command13.Click();
     captions.push_back(world.Controls.MoniAll.Label16.Caption);
     if (captions.back() == "WX") {
-      EXPECT_EQ(world.View().StationLabelLevel, 1);
+      EXPECT_EQ(world.View().StationLabelLevel, LabelLevel::Marks);
       EXPECT_TRUE(world.View().WxCaption);
     }
   }

@@ -107,7 +107,7 @@ TEST(PlaceLookup, ComesAfterTheTrackAndOnlyWhenPlacesAreShown) {
 
 TEST(PlaceLookup, AStationUnderTheCursorComesFirst) {
   LookupWorld world;
-  world.View().StationLabelLevel = 1;
+  world.View().StationLabelLevel = LabelLevel::Marks;
   world.Hear({});
   world.AddTrackPoint(" 5825.000  425.000");
   world.AddPlace(" 5825.000  425.000");

@@ -97,7 +97,7 @@ TEST(MapRedraw, LayersStandInTheirOrder) {
   MapViewState& view = world.View();
   view.GridOn = view.CirclesOn = view.PicturesOn = view.TracksOn = true;
   view.PoiLevel = 1;
-  view.StationLabelLevel = 2;
+  view.StationLabelLevel = LabelLevel::MarksAndCalls;
   RecordMaker heard;
   heard.Symbol = "/-";
   world.Hear(heard);

@@ -201,13 +201,13 @@ TEST(Moni1Draw, AnEmptyHistoryDrawsNothing) {
 TEST(Moni1Draw, TheLabelFollowsTheLevel) {
   FollowedWorld world;
   world.Add(300, 200);
-  world.View().StationLabelLevel = 2;
+  world.View().StationLabelLevel = LabelLevel::MarksAndCalls;
   world.DrawFollowed();
   EXPECT_THAT(world.Surface.Of("text"), ElementsAre(Words(317, 191, "QX7KB", kBlack)));
-  world.View().StationLabelLevel = 3;
+  world.View().StationLabelLevel = LabelLevel::MarksAndLines;
   world.DrawFollowed();
   EXPECT_EQ(world.Surface.Of("text")[0].Words, "1234 Test />  QX7KB");
-  world.View().StationLabelLevel = 1;
+  world.View().StationLabelLevel = LabelLevel::Marks;
   world.DrawFollowed();
   EXPECT_TRUE(world.Surface.Of("text").empty());
 }
@@ -216,12 +216,12 @@ TEST(Moni1Draw, FindRepeatsTheLabelInItsOwnColour) {
   FollowedWorld world;
   world.Add(300, 200);
   world.View().FindCall = "QX7KB";
-  world.View().StationLabelLevel = 2;
+  world.View().StationLabelLevel = LabelLevel::MarksAndCalls;
   world.DrawFollowed();
   EXPECT_THAT(world.Surface.Of("text"),
               ElementsAre(Words(317, 191, "QX7KB", kBlack), Words(317, 191, "! QX7KB !", kBlack)));
   EXPECT_EQ(world.Surface.Of("filled").back(), Filled(317, 193, 317 + 9 * 8, 205, 0x0080FF));
-  world.View().StationLabelLevel = 3;
+  world.View().StationLabelLevel = LabelLevel::MarksAndLines;
   world.DrawFollowed();
   EXPECT_EQ(world.Surface.Of("text")[1].Words, "1234 Test />  QX7KB");
   world.View().FindCall = "QX1AB";
@@ -233,7 +233,7 @@ TEST(Moni1Draw, AMessageCapableStationHasTheGreenPoint) {
   FollowedWorld world;
   world.Add(300, 200);
   const auto has_point = [&world](int level) {
-    world.View().StationLabelLevel = level;
+    world.View().StationLabelLevel = static_cast<LabelLevel>(level);
     world.DrawFollowed();
     for (const Operation& box : world.Surface.Of("box")) {
       if (box.X1 == 299 && box.Y1 == 199 && box.X2 == 301 && box.Ink == kMessageDotColour) {
@@ -252,7 +252,7 @@ TEST(Moni1Draw, AMessageCapableStationHasTheGreenPoint) {
 TEST(Moni1Draw, AroundTheGaugeTheStationKeepsARing) {
   FollowedWorld world;
   world.AddWeather(300, 200);
-  world.View().StationLabelLevel = 1;
+  world.View().StationLabelLevel = LabelLevel::Marks;
   world.View().WxCaption = true;
   world.DrawFollowed();
   const auto circles = world.Surface.Of("circle");

@@ -45,7 +45,7 @@ struct StationWorld : MapWorld {
     return maker;
   }
   const std::vector<RecorderSurface::Operation>& Draw(int level) {
-    View().StationLabelLevel = level;
+    View().StationLabelLevel = static_cast<LabelLevel>(level);
     Surface.Operations.clear();
     Room.Sheets.BeginRedraw();
     AllStationsDraw(Surface, View(), State.Stores.MoniAllRecords, State.Followed.Moni1Call,

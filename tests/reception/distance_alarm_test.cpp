@@ -11,7 +11,7 @@ class DistanceAlarmTest : public ::testing::Test {
   DistanceAlarmTest() {
     station.Map.OwnNorthKm = 5817.860;
     station.Map.OwnEastKm = 391.394;
-    station.Map.StationLabelLevel = 1;
+    station.Map.StationLabelLevel = LabelLevel::Marks;
     station.Alarms.MoniAllAlarmOn = 1;
     station.Alarms.AlarmDistanceKm = 10;
   }
@@ -41,9 +41,9 @@ TEST_F(DistanceAlarmTest, DistanceEqualToTheLimitDoesNotAlarm) {
 }
 
 TEST_F(DistanceAlarmTest, NeedsItsSwitchAndTheStationLabels) {
-  station.Map.StationLabelLevel = 0;
+  station.Map.StationLabelLevel = LabelLevel::NoStations;
   EXPECT_FALSE(Alarms(North(" 5821.060")));
-  station.Map.StationLabelLevel = 1;
+  station.Map.StationLabelLevel = LabelLevel::Marks;
   station.Map.WxCaption = true;
   EXPECT_TRUE(Alarms(North(" 5821.060")));
   station.Alarms.MoniAllAlarmOn = 0;

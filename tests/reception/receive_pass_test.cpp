@@ -333,7 +333,7 @@ TEST(ReceivePass, MessageGoesToTheChatWithItsHeader) {
 TEST(ReceivePass, DistanceAlarmIsTestedForNewRecordsOnly) {
   Reception station;
   station.Alarms.MoniAllAlarmOn = 1;
-  station.Map.StationLabelLevel = 1;
+  station.Map.StationLabelLevel = LabelLevel::Marks;
   station.Map.OwnNorthKm = 5817.860;
   station.Map.OwnEastKm = 391.394;
   station.HearPacket(kPosition);

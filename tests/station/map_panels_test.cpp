@@ -90,7 +90,7 @@ TEST(PicturePanel, TheNextStartOpensWhereThePictureWasTaken) {
   station.Hear("QX1AB-9", "=5231.00N/01324.00E>drive");
   station.Ticks(1);
   ASSERT_EQ(station.State().Stores.Moni1Records.Count(), 1);
-  station.State().Map.StationLabelLevel = 0;
+  station.State().Map.StationLabelLevel = LabelLevel::NoStations;
   station.OpenPicture();
   station.Controls().Picture.Picture.Click();
   station.Restart();

@@ -269,7 +269,7 @@ TEST(StationProgram, AfterATickThatWaitedTheListIsRenewedByTheNextOne) {
 TEST(StationProgram, ANewWindowShowsMarksAndCallsOfAllClasses) {
   StationHarness station;
   station.Start();
-  EXPECT_EQ(station.State().Map.StationLabelLevel, 2);
+  EXPECT_EQ(station.State().Map.StationLabelLevel, LabelLevel::MarksAndCalls);
   EXPECT_EQ(station.Controls().MoniAll.Label16.Caption, "2");
   EXPECT_EQ(station.State().Map.StationClassMask, 31);
   EXPECT_EQ(station.Controls().MoniAll.Check13.Value, 1);

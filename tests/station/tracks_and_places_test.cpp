@@ -26,7 +26,7 @@ struct PlacesStation : StationHarness {
     State().Map.CentreNorthKm = 5800.0;
     State().Map.CentreEastKm = 400.0;
     State().Map.CentreFollow = Following::Nobody;
-    State().Map.StationLabelLevel = 0;
+    State().Map.StationLabelLevel = LabelLevel::NoStations;
     map_surface.Operations.clear();
     Controls().Map.Command9.Click();
   }

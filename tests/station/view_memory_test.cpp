@@ -40,7 +40,7 @@ TEST(ViewMemory, EveryLevelComesBackTheWeatherToo) {
   for (int level = 0; level <= 6; ++level) {
     RuntimeState state;
     state.Map.WxCaption = level == 6;
-    state.Map.StationLabelLevel = level == 6 ? 1 : level;
+    state.Map.StationLabelLevel = level == 6 ? LabelLevel::Marks : static_cast<LabelLevel>(level);
     RuntimeState next;
     ApplyViewValues(ViewValues(state), next);
     EXPECT_EQ(next.Map.WxCaption, state.Map.WxCaption) << level;
@@ -55,7 +55,7 @@ TEST(ViewMemory, MissingOrBrokenItIsAFirstStart) {
       "LABELS=99\r\nGRID=x\r\nSCALE=-1\r\nDIM=7\r\nREADOUTS=9,-1,a\r\nPLACES=3\r\n\x01\x02");
   ASSERT_TRUE(station.Start());
   const MapViewState& view = station.State().Map;
-  EXPECT_EQ(view.StationLabelLevel, 2);
+  EXPECT_EQ(view.StationLabelLevel, LabelLevel::MarksAndCalls);
   EXPECT_FALSE(view.GridOn);
   EXPECT_EQ(view.MapTileKm, 5000.0);
   EXPECT_EQ(view.BrightnessStep, 0);

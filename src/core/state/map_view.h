@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "core/state/label_level.h"
+
 namespace zepril {
 
 // What the centre of the map follows.
@@ -55,8 +57,8 @@ struct MapViewState {
   std::string SelectedInk;                // number of the chosen ink, or empty
   std::array<unsigned, 16> InkColours{};  // 0xBBGGRR, as the palette was last worked on
 
-  int StationLabelLevel = 0;  // 0 to 5
-  bool WxCaption = false;     // level 1 with the caption "WX"
+  LabelLevel StationLabelLevel = LabelLevel::NoStations;
+  bool WxCaption = false;     // LabelLevel::Marks with gauges at weather stations
   int StationClassMask = 31;  // bits 0 to 4: classes 2, 1, 0, 3, 4
   bool PlainMapHeld = false;  // the plain form of a map type is shown while the button is held
   bool HideObjects = false;
@@ -96,5 +98,19 @@ struct MapViewState {
   int ColourDepthBits = 32;
   static constexpr int kScreenTwipsPerPixel = 15;
 };
+
+// The label levels as the operator steps through them: by number, then "WX".
+inline constexpr int kWxLabelStep = 6;
+inline constexpr int kLabelSteps = 7;
+
+inline int LabelStep(const MapViewState& view) {
+  return view.WxCaption ? kWxLabelStep : static_cast<int>(view.StationLabelLevel);
+}
+
+// `step`: 0 to 6.
+inline void SetLabelStep(MapViewState& view, int step) {
+  view.WxCaption = step == kWxLabelStep;
+  view.StationLabelLevel = view.WxCaption ? LabelLevel::Marks : static_cast<LabelLevel>(step);
+}
 
 }  // namespace zepril
