@@ -65,7 +65,7 @@ bool MainWindowStart::Run(const std::string& program_folder, int colour_depth_bi
 }
 
 void MainWindowStart::SetDefaults() {
-  state_.Map.StationClassMask = 31;
+  state_.Map.StationClassMask = kAllClasses;
   state_.Followed.Moni1AlarmOn = 1;
   state_.Radio.RadioMode = 0;
   const StoreLimits limits = LimitsOfSpeed(clock_.LoopsPerSecond());

@@ -178,13 +178,6 @@ class StationPainter {
 
 }  // namespace
 
-bool ClassIsShown(int station_class_mask, int class_digit) {
-  // Bit of each class, by class digit.
-  constexpr int kBitOfClass[] = {2, 1, 0, 3, 4};
-  if (class_digit < 0 || class_digit > 4) return true;
-  return (station_class_mask >> kBitOfClass[class_digit] & 1) != 0;
-}
-
 std::vector<StationTrail> TrailsOfStore(const StationStore& store) {
   std::vector<StationTrail> trails;
   std::unordered_map<std::string_view, std::size_t> by_call;

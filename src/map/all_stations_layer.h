@@ -37,7 +37,4 @@ void AllStationsDraw(DrawingSurface& surface, const MapViewState& view, const St
                      std::string_view followed_call, const SymbolTable& table, SymbolSheets& sheets,
                      const LocalTime& now);
 
-// True when the class switches show the class.
-bool ClassIsShown(int station_class_mask, int class_digit);
-
 }  // namespace zepril

@@ -19,12 +19,6 @@ double PlaneDistanceKm(const StationRecord& record, const MapViewState& map) {
   return std::hypot(record.NorthKm() - map.OwnNorthKm, record.EastKm() - map.OwnEastKm);
 }
 
-bool ClassIsOn(int station_class, int station_class_mask) {
-  constexpr std::array<int, 5> kBitOfClass{2, 1, 0, 3, 4};
-  if (station_class < 0 || station_class >= static_cast<int>(kBitOfClass.size())) return true;
-  return (station_class_mask >> kBitOfClass[static_cast<std::size_t>(station_class)] & 1) != 0;
-}
-
 std::string RecordTimeText(const StationRecord& record) {
   std::string text = "20";
   text += record.Columns(1, 2);
@@ -62,7 +56,7 @@ std::array<Control*, 2> DistanceAlarm::Panel() {
 
 void DistanceAlarm::TestAllStations(const StationRecord& record) {
   if (alarm_.MoniAllAlarmOn != 1 || !ShowsStations(map_.StationLabelLevel)) return;
-  if (!ClassIsOn(record.ClassDigit(), map_.StationClassMask)) return;
+  if (!ClassIsShown(map_.StationClassMask, record.ClassDigit())) return;
   const std::string_view call = record.Call();
   if (EqualFolded(call, Trim(followed_.Moni1Call)) || IsOwnCall(call)) return;
   const double distance_km = PlaneDistanceKm(record, map_);

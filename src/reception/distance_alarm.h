@@ -18,10 +18,6 @@ namespace zepril {
 // Distance in km from the operator's position, in the plane of the map grid.
 double PlaneDistanceKm(const StationRecord& record, const MapViewState& map);
 
-// True when the class of `record` (0 to 4) is switched on in the mask: bits 0 to 4 stand for the
-// classes 2, 1, 0, 3, 4. Any other class counts as on.
-bool ClassIsOn(int station_class, int station_class_mask);
-
 class DistanceAlarm {
  public:
   DistanceAlarm(const AlarmState& alarm, const IdentityState& identity,

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/state/label_level.h"
+#include "core/state/shown_classes.h"
 
 namespace zepril {
 
@@ -58,8 +59,8 @@ struct MapViewState {
   std::array<unsigned, 16> InkColours{};  // 0xBBGGRR, as the palette was last worked on
 
   LabelLevel StationLabelLevel = LabelLevel::NoStations;
-  bool WxCaption = false;     // LabelLevel::Marks with gauges at weather stations
-  int StationClassMask = 31;  // bits 0 to 4: classes 2, 1, 0, 3, 4
+  bool WxCaption = false;  // LabelLevel::Marks with gauges at weather stations
+  int StationClassMask = kAllClasses;
   bool PlainMapHeld = false;  // the plain form of a map type is shown while the button is held
   bool HideObjects = false;
   bool MovedOnly = false;  // class 0 only if moved
