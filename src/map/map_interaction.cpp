@@ -23,6 +23,13 @@ constexpr int kTrackStyles = 7;
 
 constexpr std::array<std::uint32_t, 3> kBrightnessButton{0xC0C0A0, 0x606046, 0xFFFFD6};
 
+ClassBox StateOf(const CheckBox& box) {
+  return static_cast<ClassBox>(box.Value);
+}
+void SetState(CheckBox& box, ClassBox state) {
+  box.Value = static_cast<int>(state);
+}
+
 }  // namespace
 
 MapInteraction::MapInteraction(MapViewState& view, StoresState& stores,
@@ -359,11 +366,11 @@ void MapInteraction::ReadClassBoxes() {
   int bit = 1;
   for (const CheckBox* box :
        {&all.Check10, &all.Check11, &all.Check13, &all.Check19, &all.Check25}) {
-    if (box->Value != 0) mask |= bit;
+    if (StateOf(*box) != ClassBox::Hidden) mask |= bit;
     bit *= 2;
   }
   view_.StationClassMask = mask;
-  view_.MovedOnly = all.Check13.Value == 2;
+  view_.MovedOnly = StateOf(all.Check13) == ClassBox::ShownIfMoved;
 }
 
 void MapInteraction::StepBrightness() {
@@ -397,10 +404,12 @@ void MapInteraction::ShowState() {
   all.Label16.Caption = view_.WxCaption ? "WX" : WholeNumber(LabelStep(view_));
   int bit = 1;
   for (CheckBox* box : {&all.Check10, &all.Check11, &all.Check13, &all.Check19, &all.Check25}) {
-    box->Value = (view_.StationClassMask & bit) != 0 ? 1 : 0;
+    SetState(*box, (view_.StationClassMask & bit) != 0 ? ClassBox::Shown : ClassBox::Hidden);
     bit *= 2;
   }
-  if (view_.MovedOnly && all.Check13.Value == 1) all.Check13.Value = 2;
+  if (view_.MovedOnly && StateOf(all.Check13) == ClassBox::Shown) {
+    SetState(all.Check13, ClassBox::ShownIfMoved);
+  }
   all.Check24.Value = view_.HideObjects ? 1 : 0;
   const auto step = static_cast<std::size_t>(view_.BrightnessStep) % kBrightnessButton.size();
   controls_.Map.Command72.BackColour = kBrightnessButton[step];

@@ -6,6 +6,9 @@
 
 namespace zepril {
 
+// What the box of a class says, by its value. Only that of the moving stations has the third state.
+enum class ClassBox { Hidden = 0, Shown = 1, ShownIfMoved = 2 };
+
 inline constexpr int kAllClasses = 31;
 
 // `class_digit` of the symbol, 0 to 4; any other is always shown.
