@@ -115,7 +115,7 @@ void MainCycle::RenewTitle() {
 void MainCycle::LookForCompanion() {
   if (state_.Radio.RadioMode == static_cast<int>(RadioMode::AgwLocal)) {
     const bool found = desktop_.WindowExists("AGWuidigi");
-    state_.Radio.DigiOn = found ? 1 : 0;
+    state_.Radio.DigiOn = found ? Digipeater::On : Digipeater::Off;
     if (found) {
       PutInTitle(state_.Settings.TitleText, 61, "Digi: AGWUI");
     } else {
@@ -180,7 +180,8 @@ void MainCycle::LimitInternetTime() {
 }
 
 MainCycle::Outcome MainCycle::Identify() {
-  if (state_.Radio.DigiOn != 1 && state_.Internet.IGateConnected != 1) return Outcome::GoOn;
+  if (state_.Radio.DigiOn != Digipeater::On && state_.Internet.IGateConnected != 1)
+    return Outcome::GoOn;
   if (!GateMode()) return Outcome::GoOn;
   // The third character spreads the stations over the hour; a letter reads as 0.
   const int offset = static_cast<int>(Val(Mid(state_.Identity.MyCall, 3, 1)));

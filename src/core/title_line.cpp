@@ -22,7 +22,7 @@ void BlankInTitle(std::string& title, std::size_t first, std::size_t last) {
 std::string DigiMarker(const RadioState& radio) {
   constexpr std::size_t kWidth = 11;
   const bool modem = IsSerialModem(static_cast<RadioMode>(radio.RadioMode));
-  if (!modem || radio.DigiOn != 1) return std::string(kWidth, ' ');
+  if (!modem || radio.DigiOn != Digipeater::On) return std::string(kWidth, ' ');
   return RelaysToAnotherMode(radio) ? "Digi X-mode" : "Digi active";
 }
 

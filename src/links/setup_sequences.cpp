@@ -63,12 +63,12 @@ std::string Pk232Unproto(const TransmissionState& transmission) {
   return line;
 }
 
-std::initializer_list<const char*> Pk232DigiLines(int digi) {
+std::initializer_list<const char*> Pk232DigiLines(Digipeater digi) {
   static const std::initializer_list<const char*> on = {"DIGIPEAT ON", "DFROM ALL",
                                                         "MYALIAS WIDE1-1"};
   static const std::initializer_list<const char*> off = {"DIGIPEAT OFF", "DFROM NONE",
                                                          "MYALIAS NONE"};
-  return digi == 1 ? on : off;
+  return digi == Digipeater::On ? on : off;
 }
 
 // The modem is looked for at every speed that it may have been left at.
@@ -175,8 +175,8 @@ ModemScript ScsTncSetup(const ModemSections& s) {
       "%F 2000",
       "%T" + Str(s.Radio.TxAfc),
       SecondModeCommand(s.Radio),
-      s.Radio.DigiOn == 1 ? "R1" : "R0",
-      s.Radio.DigiOn == 1 ? "%AD3" : "%AD0",
+      s.Radio.DigiOn == Digipeater::On ? "R1" : "R0",
+      s.Radio.DigiOn == Digipeater::On ? "%AD3" : "%AD0",
       s.Radio.HfDualOn == 1 ? "%AU1" : "%AU0"};
   for (const std::string& line : lines)
     AddEsc(script, line, 0.1);
@@ -195,8 +195,8 @@ ModemScript ScsTncTxSetup(const ModemSections& s) {
       "C" + s.Transmission.TxDestination + " " + WithoutEmptyElements(s.Transmission.TxPath),
       "%X" + Str(s.Radio.TxAudioLevel),
       SecondModeCommand(s.Radio),
-      s.Radio.DigiOn == 1 ? "R1" : "R0",
-      s.Radio.DigiOn == 1 ? "%AD3" : "%AD0",
+      s.Radio.DigiOn == Digipeater::On ? "R1" : "R0",
+      s.Radio.DigiOn == Digipeater::On ? "%AD3" : "%AD0",
       s.Radio.HfDualOn == 1 ? "%AU1" : "%AU0",
       "%F 2000"};
   for (const std::string& line : lines)
@@ -223,7 +223,7 @@ ModemScript ScsPtcSetup(const ModemSections& s) {
       "MYCALL ECHO", "SETCHN 1",
       "UNPROTO " + s.Transmission.TxDestination + " " + SpacedPath(s.Transmission.TxPath),
       "MONITOR 1", SpeedCommand("B ", s.Radio.BaudMode), "TXL A" + level, "TXL F" + level,
-      "TXDELAY 1:300", s.Radio.DigiOn == 1 ? "DIGI ON" : "DIGI OFF", "MFI 128"};
+      "TXDELAY 1:300", s.Radio.DigiOn == Digipeater::On ? "DIGI ON" : "DIGI OFF", "MFI 128"};
   for (const std::string& line : lines)
     AddEsc(script, line, kPause, kCrLf);
   script.Wait(0.5).Drain().Close();
@@ -237,7 +237,7 @@ ModemScript ScsPtcTxSetup(const ModemSections& s) {
   AddEsc(script, SpeedCommand("B ", s.Radio.BaudMode), 0.1);
   AddEsc(script, "TXL A" + level, 0.5);
   AddEsc(script, "TXL F" + level, 0.1);
-  AddEsc(script, s.Radio.DigiOn == 1 ? "DIGI ON" : "DIGI OFF", 0.1);
+  AddEsc(script, s.Radio.DigiOn == Digipeater::On ? "DIGI ON" : "DIGI OFF", 0.1);
   AddEsc(script,
          "UNPROTO " + s.Transmission.TxDestination + " " + SpacedPath(s.Transmission.TxPath), 0.2);
   script.Wait(1.0).Drain();

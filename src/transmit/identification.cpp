@@ -15,7 +15,8 @@ std::string RelayText(const std::string& cross_mode) {
 
 std::string IdentificationText(const RadioState& radio, bool gate_connected) {
   const std::string name = "ZEPRIL  ";
-  if (radio.DigiOn != 1) return gate_connected ? name + "IGate R->I active" : std::string();
+  if (radio.DigiOn != Digipeater::On)
+    return gate_connected ? name + "IGate R->I active" : std::string();
   const std::string what = RelaysToAnotherMode(radio) ? RelayText(radio.CrossMode) : "Digi";
   return name + what + (gate_connected ? " & IGate R->I active" : " active");
 }

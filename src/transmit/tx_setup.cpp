@@ -182,7 +182,8 @@ void TxSetup::FillLines() {
 
 void TxSetup::FillRadio() {
   const RadioState& radio = sections_.Radio;
-  ShowSpeeds({radio.BaudMode, radio.CrossMode, radio.HfDualOn == 1, radio.DigiOn == 1});
+  ShowSpeeds(
+      {radio.BaudMode, radio.CrossMode, radio.HfDualOn == 1, radio.DigiOn == Digipeater::On});
   controls_.TxLevel.Text = WholeNumber(radio.TxAudioLevel);
 }
 
@@ -257,7 +258,7 @@ void TxSetup::TakeRadio() {
   tools_.Actions.RefreshStatusLine();
   radio.CrossMode = choice.CrossMode;
   radio.HfDualOn = choice.HfDual ? 1 : 0;
-  radio.DigiOn = choice.Digi ? 1 : 0;
+  radio.DigiOn = choice.Digi ? Digipeater::On : Digipeater::Off;
   radio.TxAudioLevel =
       WholeVal(controls_.TxLevel.Text, 0, kHighestLevel).value_or(radio.TxAudioLevel);
   IdentityState& own = sections_.Identity;

@@ -183,14 +183,14 @@ TEST_F(MainCycleTest, GatedLinesAgeWhileTheGateIsConnected) {
 TEST_F(MainCycleTest, CompanionIsLookedForInTheLocalEngineModeOnly) {
   recorder.Window = "AGWuidigi";
   Tick();
-  EXPECT_EQ(state.Radio.DigiOn, 0);
+  EXPECT_EQ(state.Radio.DigiOn, Digipeater::Off);
   state.Radio.RadioMode = static_cast<int>(RadioMode::AgwLocal);
   Tick();
-  EXPECT_EQ(state.Radio.DigiOn, 1);
+  EXPECT_EQ(state.Radio.DigiOn, Digipeater::On);
   EXPECT_EQ(state.Settings.TitleText.substr(60, 11), "Digi: AGWUI");
   recorder.Window.clear();
   Tick();
-  EXPECT_EQ(state.Radio.DigiOn, 0);
+  EXPECT_EQ(state.Radio.DigiOn, Digipeater::Off);
   EXPECT_EQ(state.Settings.TitleText.substr(60, 11), std::string(11, ' '));
 }
 
@@ -288,7 +288,7 @@ TEST_F(MainCycleTest, InternetSupportEndsAfterAQuarterOfAnHourAndAtMidnight) {
 
 TEST_F(MainCycleTest, IdentificationFallsOnTheMinutesOfTheCall) {
   state.Radio.RadioMode = static_cast<int>(RadioMode::Pk232);
-  state.Radio.DigiOn = 1;
+  state.Radio.DigiOn = Digipeater::On;
   const auto minutes_of = [&](const std::string& call) {
     state.Identity.MyCall = call;
     std::vector<int> minutes;
@@ -307,7 +307,7 @@ TEST_F(MainCycleTest, IdentificationFallsOnTheMinutesOfTheCall) {
 
 TEST_F(MainCycleTest, IdentificationIsSentOnceAMinuteAndNeverOverTheRemoteEngine) {
   clock.SetNow({2024, 1, 15, 9, 7, 10});
-  state.Radio.DigiOn = 1;
+  state.Radio.DigiOn = Digipeater::On;
   EXPECT_EQ(Tick(), (Names{"receive"}));
   state.Radio.RadioMode = static_cast<int>(RadioMode::ScsPtc);
   EXPECT_EQ(Tick(), (Names{"identify"}));

@@ -8,18 +8,18 @@ namespace {
 
 TEST(TitleLine, TheDigipeatersMarkerIsElevenColumnsWide) {
   RadioState radio;
-  radio.DigiOn = 1;
+  radio.DigiOn = Digipeater::On;
   for (const RadioMode mode : {RadioMode::Pk232, RadioMode::ScsTnc, RadioMode::ScsPtc}) {
     radio.RadioMode = static_cast<int>(mode);
     EXPECT_EQ(DigiMarker(radio), "Digi active");
   }
-  radio.DigiOn = 0;
+  radio.DigiOn = Digipeater::Off;
   EXPECT_EQ(DigiMarker(radio), "           ");
 }
 
 TEST(TitleLine, OtherInterfacesHaveNone) {
   RadioState radio;
-  radio.DigiOn = 1;
+  radio.DigiOn = Digipeater::On;
   for (const RadioMode mode : {RadioMode::AgwLocal, RadioMode::AgwRemote, RadioMode::None}) {
     radio.RadioMode = static_cast<int>(mode);
     EXPECT_EQ(DigiMarker(radio), "           ");
@@ -29,7 +29,7 @@ TEST(TitleLine, OtherInterfacesHaveNone) {
 TEST(TitleLine, ARelayToAnotherModeIsToldByTheScsTncAlone) {
   RadioState radio;
   radio.RadioMode = static_cast<int>(RadioMode::ScsTnc);
-  radio.DigiOn = 1;
+  radio.DigiOn = Digipeater::On;
   radio.BaudMode = "300";
   radio.CrossMode = "1200";
   EXPECT_EQ(DigiMarker(radio), "Digi X-mode");

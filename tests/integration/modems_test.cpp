@@ -68,7 +68,7 @@ class ModemsTest : public ::testing::Test {
     radio.BaudMode = "300R";
     radio.CrossMode = "300";
     radio.TxAudioLevel = 250;
-    radio.DigiOn = 1;
+    radio.DigiOn = Digipeater::On;
     transmission.TxDestination = "ZEPR";
     transmission.TxPath = "WIDE1-1,WIDE2-1";
     ::setenv("ZEPRIL_COM1", folder.Sub("modem").c_str(), 1);
@@ -210,7 +210,7 @@ TEST_F(ModelsTest, APk232IsSetUpHeardAndMadeToSend) {
   identity.MySsid = "7";
   identity.MyCallFull = "QX7KB-7";
   transmission.TxPath.clear();
-  radio.DigiOn = 0;
+  radio.DigiOn = Digipeater::Off;
   Run(ApplyTxSetupScript(Sections()));
   Settle();
   ExpectSettings({{"MYCALL", "QX7KB-7"},
@@ -258,7 +258,7 @@ TEST_F(ModelsTest, AnScsTncIsSetUpHeardAndMadeToSend) {
 
   radio.BaudMode = "1200";
   radio.CrossMode = "NONE";
-  radio.DigiOn = 0;
+  radio.DigiOn = Digipeater::Off;
   radio.HfDualOn = 0;
   transmission.TxDestination = "APRS";
   Run(ApplyTxSetupScript(Sections()));
@@ -297,7 +297,7 @@ TEST_F(ModelsTest, AnScsPtcIsSetUpHeardAndMadeToSend) {
             Lines{"SENT scs-ptc R300 QX7KB-10>ZEPR,WIDE1-1,WIDE2-1:=4830.15N/00805.20E> Test\n"});
 
   radio.BaudMode = "300";
-  radio.DigiOn = 0;
+  radio.DigiOn = Digipeater::Off;
   transmission.TxPath = "WIDE1-1";
   Run(ApplyTxSetupScript(Sections()));
   Settle();

@@ -171,7 +171,7 @@ TEST_F(SetupSequencesTest, ThePk232sSetUpHas63WritesAndLasts30Seconds) {
 TEST_F(SetupSequencesTest, ThePk232FollowsSpeedPathAndDigipeater) {
   radio.BaudMode = "1200";
   radio.TncBaud = "9600";
-  radio.DigiOn = 1;
+  radio.DigiOn = Digipeater::On;
   transmission.TxPath = "";
   const Lines sent = Sent(TncSetupScript(Sections(RadioMode::Pk232)));
   EXPECT_EQ(std::count(sent.begin(), sent.end(), "TB 9600<0D>"), 4);
@@ -219,7 +219,7 @@ TEST_F(SetupSequencesTest, TheScsTncIsSetUpStepByStep) {
 }
 
 TEST_F(SetupSequencesTest, TheScsTncFollowsItsOptions) {
-  radio.DigiOn = 1;
+  radio.DigiOn = Digipeater::On;
   radio.HfDualOn = 1;
   radio.TxAfc = 2;
   transmission.TxPath = "";
@@ -278,7 +278,7 @@ TEST_F(SetupSequencesTest, TheScsTncIsOpenedForTheRunInSilence) {
 TEST_F(SetupSequencesTest, TheScsTncTakesAConfirmedTxSetupInAnOrderOfItsOwn) {
   radio.BaudMode = "300";
   radio.CrossMode = "R300";
-  radio.DigiOn = 1;
+  radio.DigiOn = Digipeater::On;
   radio.HfDualOn = 1;
   Lines expected = EachWith({"%B300", "IQX7KB-10", "%AMQX7KB-10", "CZEPR WIDE1-1", "%X 300", "%AGH",
                              "R1", "%AD3", "%AU1", "%F 2000"},
@@ -328,7 +328,7 @@ TEST_F(SetupSequencesTest, TheScsPtcIsOpenedForTheRun) {
 }
 
 TEST_F(SetupSequencesTest, TheScsPtcTakesAConfirmedTxSetupWithPlainLineEnds) {
-  radio.DigiOn = 1;
+  radio.DigiOn = Digipeater::On;
   transmission.TxPath = "WIDE1-1,WIDE2-1";
   EXPECT_EQ(Transcript(ApplyTxSetupScript(Sections(RadioMode::ScsPtc))),
             (Lines{"send <1B>B R300<0D>", "wait 0.1", "send <1B>TXL A 300<0D>", "wait 0.5",

@@ -268,7 +268,7 @@ TEST(TransmitRooms, WhatWasConfirmedComesBackAtTheNextStart) {
   EXPECT_EQ(station.State().Radio.TxAudioLevel, 450);
   EXPECT_EQ(station.State().Radio.CrossMode, "19200");
   EXPECT_EQ(station.State().Radio.BaudMode, radio.BaudMode);
-  EXPECT_EQ(station.State().Radio.DigiOn, 1);
+  EXPECT_EQ(station.State().Radio.DigiOn, Digipeater::On);
   // Kept: an SSID that is none makes no suffix of the call, yet the modem is told it.
   EXPECT_EQ(station.State().Identity.MySsid, "16");
   EXPECT_EQ(station.State().Identity.MyCallFull, "QX7KB");

@@ -9,7 +9,7 @@ namespace {
 RadioState Station(RadioMode mode, const std::string& baud_mode, const std::string& cross_mode) {
   RadioState radio;
   radio.RadioMode = static_cast<int>(mode);
-  radio.DigiOn = 1;
+  radio.DigiOn = Digipeater::On;
   radio.BaudMode = baud_mode;
   radio.CrossMode = cross_mode;
   return radio;
@@ -23,7 +23,7 @@ TEST(Identification, ADigipeaterIsNamed) {
 
 TEST(Identification, AGatewayToTheInternetAloneIsNamed) {
   RadioState radio = Station(RadioMode::ScsTnc, "300", "1200");
-  radio.DigiOn = 0;
+  radio.DigiOn = Digipeater::Off;
   EXPECT_EQ(IdentificationText(radio, true), "ZEPRIL  IGate R->I active");
   EXPECT_EQ(IdentificationText(radio, false), "");
 }

@@ -80,7 +80,7 @@ TEST_F(TxSetupTest, EveryFieldShowsWhatHolds) {
   world.State.Radio.BaudMode = "300R";
   world.State.Radio.CrossMode = "300";
   world.State.Radio.HfDualOn = 1;
-  world.State.Radio.DigiOn = 1;
+  world.State.Radio.DigiOn = Digipeater::On;
   world.State.Radio.TxAudioLevel = 450;
   world.State.Internet.IGateOn = 1;
   own.TxTimestamp = 1;
@@ -127,7 +127,7 @@ TEST_F(TxSetupTest, EveryFieldShowsWhatHolds) {
   EXPECT_EQ(world.State.Radio.BaudModeLabel, "RPR 300");
   EXPECT_EQ(world.State.Radio.CrossMode, "300");
   EXPECT_EQ(world.State.Radio.HfDualOn, 1);
-  EXPECT_EQ(world.State.Radio.DigiOn, 1);
+  EXPECT_EQ(world.State.Radio.DigiOn, Digipeater::On);
   EXPECT_EQ(world.State.Radio.TxAudioLevel, 450);
   EXPECT_EQ(world.State.Internet.IGateOn, 1);
 }
@@ -241,7 +241,7 @@ TEST_F(TxSetupTest, OkTakesEverythingInItsOrder) {
   EXPECT_EQ(world.State.Identity.MyCall, "QX7KB");
   EXPECT_EQ(world.State.Identity.MyCallFull, "QX7KB-7");
   EXPECT_EQ(world.State.Radio.BaudMode, "1200");
-  EXPECT_EQ(world.State.Radio.DigiOn, 1);
+  EXPECT_EQ(world.State.Radio.DigiOn, Digipeater::On);
   EXPECT_EQ(world.State.Internet.IGateOn, 1);
   EXPECT_EQ(own.TxDestination, "APZZZ");
   EXPECT_EQ(own.TxPath, "WIDE2-2");

@@ -15,6 +15,9 @@ enum class RadioMode {
   ScsPtc = 6,
 };
 
+// Another number that stood in the file stays there; it is not On.
+enum class Digipeater { Off = 0, On = 1 };
+
 struct RadioState {
   int RadioMode = 0;  // values of enum RadioMode; any other value collects nothing
 
@@ -28,7 +31,7 @@ struct RadioState {
   int TxAudioLevel = 300;  // mV
   int TxAfc = 0;
   int HfDualOn = 0;
-  int DigiOn = 0;
+  Digipeater DigiOn = Digipeater::Off;
 
   std::string AgwHost = "QX7KB0";
   std::string AgwTcpPort = "8000";
