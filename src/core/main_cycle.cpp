@@ -100,10 +100,10 @@ void MainCycle::PollAprsIs() {
 void MainCycle::RenewTitle() {
   std::string& title = state_.Settings.TitleText;
   InternetState& internet = state_.Internet;
-  if (internet.IGateConnected == 0) {
-    BlankInTitle(title, internet.IGateOn == 1 ? 82 : 76, 90);
+  if (internet.IGateConnected == GateLink::Down) {
+    BlankInTitle(title, internet.IGateOn == Gate::On ? 82 : 76, 90);
   } else {
-    PutInTitle(title, 76, internet.IGateOn == 1 ? "IGate connected" : "      connected");
+    PutInTitle(title, 76, internet.IGateOn == Gate::On ? "IGate connected" : "      connected");
     // Recently gated lines age by one place.
     auto& lines = internet.RecentlyGated;
     for (std::size_t at = 0; at + 1 < lines.size(); ++at)
@@ -180,7 +180,7 @@ void MainCycle::LimitInternetTime() {
 }
 
 MainCycle::Outcome MainCycle::Identify() {
-  if (state_.Radio.DigiOn != Digipeater::On && state_.Internet.IGateConnected != 1)
+  if (state_.Radio.DigiOn != Digipeater::On && state_.Internet.IGateConnected != GateLink::Up)
     return Outcome::GoOn;
   if (!GateMode()) return Outcome::GoOn;
   // The third character spreads the stations over the hour; a letter reads as 0.

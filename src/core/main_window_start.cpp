@@ -138,14 +138,15 @@ void MainWindowStart::ApplyTxAllowed() {
 void MainWindowStart::SetIGateSwitch() {
   CheckBox& box = controls_.Gate.Check15;
   if (state_.Internet.AprsIsPasscode == "0") {
-    state_.Internet.IGateOn = 0;
+    state_.Internet.IGateOn = Gate::Off;
     box.Enabled = false;
     box.Visible = false;
   } else if (state_.Identity.TxAllowed == 1) {
     box.Enabled = true;
     box.Visible = true;
   }
-  box.Value = state_.Identity.TxAllowed == 1 ? state_.Internet.IGateOn : 0;
+  const Gate gate = state_.Identity.TxAllowed == 1 ? state_.Internet.IGateOn : Gate::Off;
+  box.Value = static_cast<int>(gate);
 }
 
 void MainWindowStart::ShowFirstPicture() {

@@ -135,7 +135,7 @@ std::size_t Collector::Waiting() const {
 
 void Collector::HandToGate(std::string_view text) {
   constexpr std::size_t kShortestForGate = 11;
-  if (internet_.IGateConnected == 1 && text.size() >= kShortestForGate) {
+  if (internet_.IGateConnected == GateLink::Up && text.size() >= kShortestForGate) {
     gate_.GateMonitorBlock(text);
   }
 }

@@ -204,7 +204,7 @@ void StationRooms::ShowTitleMarkers() {
   const std::string base = BaseTitle(State.Identity.ProgramVersion, State.Identity.MyCallFull);
   PutInTitle(title, 1, base.substr(0, kTitleBaseColumns));
   PutInTitle(title, 61, DigiMarker(State.Radio));
-  if (State.Internet.IGateOn == 1) {
+  if (State.Internet.IGateOn == Gate::On) {
     PutInTitle(title, 76, "IGate");
   } else {
     BlankInTitle(title, 76, 80);

@@ -59,9 +59,7 @@ TransmitRooms::TransmitRooms(RuntimeState& state, MainWindowControls& controls,
   };
   sender_.Leaving = [this] { outcome_.Leaving(); };
   sender_.Left = [this](Delivery delivery) { outcome_.Tell(delivery); };
-  modem_.HeardMeanwhile = [this](const std::string& heard) {
-    state_.Reception.ModemText += heard;
-  };
+  modem_.HeardMeanwhile = [this](const std::string& heard) { state_.Reception.ModemText += heard; };
   modem_.GivenUp = [this] { ShowLinkTrouble(); };
   BindModemRun();
   modem_.DataArrived = [this] { terminal_.DataArrived(); };
@@ -127,7 +125,8 @@ void TransmitRooms::KeepSecondModeMonitored() {
 }
 
 void TransmitRooms::SendIdentification() {
-  beacon_.SendIdentification(IdentificationText(state_.Radio, state_.Internet.IGateConnected == 1));
+  beacon_.SendIdentification(
+      IdentificationText(state_.Radio, state_.Internet.IGateConnected == GateLink::Up));
 }
 
 // What would speak to the modem too waits until the terminal is closed.

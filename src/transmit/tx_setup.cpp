@@ -168,7 +168,7 @@ void TxSetup::FillStation() {
   controls_.TxOverlayField.Text = own.TxOverlay;
   ShowSymbol();
   controls_.TxTimestampBox.Value = own.TxTimestamp;
-  gate_.Check15.Value = sections_.Internet.IGateOn;
+  gate_.Check15.Value = static_cast<int>(sections_.Internet.IGateOn);
 }
 
 void TxSetup::FillLines() {
@@ -213,7 +213,7 @@ void TxSetup::Abort() {
   controls_.Frame4.Visible = false;
   // These boxes are read by others too: they show again what holds.
   transmit_.Check2.Value = sections_.Radio.HfDualOn;
-  gate_.Check15.Value = sections_.Internet.IGateOn;
+  gate_.Check15.Value = static_cast<int>(sections_.Internet.IGateOn);
   tools_.Timer1.Enable();
 }
 
@@ -279,7 +279,7 @@ void TxSetup::TakeStation() {
   own.TxSymbolIndex = controls_.SymbolIndex;
   own.TxOverlay = OverlayOf(controls_.TxOverlayField.Text);
   own.TxTimestamp = controls_.TxTimestampBox.Value;
-  sections_.Internet.IGateOn = gate_.Check15.Value;
+  sections_.Internet.IGateOn = static_cast<Gate>(gate_.Check15.Value);
 }
 
 void TxSetup::TakeLines() {

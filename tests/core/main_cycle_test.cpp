@@ -92,7 +92,7 @@ TEST_F(MainCycleTest, EveryStepComesInItsOrder) {
   state.Radio.RadioMode = static_cast<int>(RadioMode::ScsTnc);
   state.Radio.HfDualOn = 1;
   state.Internet.AprsIsPasscode = "22513";
-  state.Internet.IGateConnected = 1;
+  state.Internet.IGateConnected = GateLink::Up;
   state.Transmission.LastIdBeaconTime = "12:34";
   state.Alarms.AlarmCall = "N0CALL";
   state.Alarms.AlarmClosedAt = -100;
@@ -137,7 +137,7 @@ TEST_F(MainCycleTest, WithoutRadioNothingIsReceivedNorSent) {
 
 TEST_F(MainCycleTest, PasscodeWithoutANumberLeavesTheSocketAlone) {
   state.Radio.RadioMode = static_cast<int>(RadioMode::Pk232);
-  state.Internet.IGateOn = 1;
+  state.Internet.IGateOn = Gate::On;
   for (const char* passcode : {"0", "abc", ""}) {
     state.Internet.AprsIsPasscode = passcode;
     EXPECT_EQ(Tick(), (Names{"receive"})) << passcode;
@@ -149,17 +149,17 @@ TEST_F(MainCycleTest, PasscodeWithoutANumberLeavesTheSocketAlone) {
 }
 
 TEST_F(MainCycleTest, TitleTellsOfTheGate) {
-  state.Internet.IGateConnected = 1;
-  state.Internet.IGateOn = 1;
+  state.Internet.IGateConnected = GateLink::Up;
+  state.Internet.IGateOn = Gate::On;
   Tick();
   EXPECT_EQ(state.Settings.TitleText.substr(75, 15), "IGate connected");
-  state.Internet.IGateConnected = 0;
+  state.Internet.IGateConnected = GateLink::Down;
   Tick();
   EXPECT_EQ(state.Settings.TitleText.substr(75, 15), "IGate          ");
-  state.Internet.IGateOn = 0;
+  state.Internet.IGateOn = Gate::Off;
   Tick();
   EXPECT_EQ(state.Settings.TitleText.substr(75, 15), std::string(15, ' '));
-  state.Internet.IGateConnected = 1;
+  state.Internet.IGateConnected = GateLink::Up;
   Tick();
   EXPECT_EQ(state.Settings.TitleText.substr(75, 15), "      connected");
   EXPECT_EQ(state.Settings.TitleText.size(), 90U);
@@ -173,7 +173,7 @@ TEST_F(MainCycleTest, GatedLinesAgeWhileTheGateIsConnected) {
   }
   Tick();
   EXPECT_EQ(state.Internet.RecentlyGated[0].Text, "a");
-  state.Internet.IGateConnected = 1;
+  state.Internet.IGateConnected = GateLink::Up;
   Tick();
   EXPECT_EQ(state.Internet.RecentlyGated[0].Text, "b");
   EXPECT_EQ(state.Internet.RecentlyGated[3].Text, "e");

@@ -120,7 +120,7 @@ TEST_F(StartTest, ADigitInTheThirdPlaceAllowsMessages) {
   EXPECT_EQ(TxAllowedOf(""), 0);
   call = "G4ABC";
   state.Internet.AprsIsPasscode = "123";
-  state.Internet.IGateOn = 1;
+  state.Internet.IGateOn = Gate::On;
   Start();
   EXPECT_EQ(controls.Chat.Check8.Value, 1);
   EXPECT_FALSE(controls.Chat.Check8.Enabled);
@@ -143,10 +143,10 @@ TEST_F(StartTest, SwitchesShowWhatIsHeldAndHfDualFollowsItsBox) {
 }
 
 TEST_F(StartTest, WithoutAPasscodeThereIsNoGateSwitch) {
-  state.Internet.IGateOn = 1;
+  state.Internet.IGateOn = Gate::On;
   state.Internet.AprsIsPasscode = "0";
   Start();
-  EXPECT_EQ(state.Internet.IGateOn, 0);
+  EXPECT_EQ(state.Internet.IGateOn, Gate::Off);
   EXPECT_FALSE(controls.Gate.Check15.Visible);
 }
 

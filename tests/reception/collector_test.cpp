@@ -38,7 +38,7 @@ TEST(Collector, GateGetsTheRawTextWhileLoggedIn) {
   station.Engine.Texts = {kAgw};
   CollectIn(station, 0);
   EXPECT_TRUE(station.Actions.Gated.empty());
-  station.Internet.IGateConnected = 1;
+  station.Internet.IGateConnected = GateLink::Up;
   station.Engine.Texts = {kAgw, "1234567890"};
   CollectIn(station, 0);
   EXPECT_EQ(station.Actions.Gated, std::vector<std::string>{kAgw});
@@ -46,7 +46,7 @@ TEST(Collector, GateGetsTheRawTextWhileLoggedIn) {
 
 TEST(Collector, RemoteEngineIsNeverGated) {
   Reception station;
-  station.Internet.IGateConnected = 1;
+  station.Internet.IGateConnected = GateLink::Up;
   station.Radio.AgwRxBuffer = kAgw;
   EXPECT_EQ(CollectIn(station, 3), kNormal);
   EXPECT_TRUE(station.Actions.Gated.empty());
@@ -106,7 +106,7 @@ TEST(Collector, OverlongRemoteBufferIsEmptied) {
 
 TEST(Collector, Pk232TextGoesToTheGateAsItIsKept) {
   Reception station;
-  station.Internet.IGateConnected = 1;
+  station.Internet.IGateConnected = GateLink::Up;
   station.Modem.Reads = {"torn line\r\n" + kNormal};
   EXPECT_EQ(CollectIn(station, 1), kNormal);
   EXPECT_EQ(station.Actions.Gated, std::vector<std::string>{kNormal});
@@ -256,7 +256,7 @@ TEST(Collector, ScsTextThatKeepsGrowingWaitsForTheNextPass) {
 
 TEST(Collector, UnfinishedScsFrameIsKeptForTheNextPass) {
   Reception station;
-  station.Internet.IGateConnected = 1;
+  station.Internet.IGateConnected = GateLink::Up;
   station.Modem.Reads = {kScs + kScs.substr(0, 20)};
   CollectIn(station, 6);
   EXPECT_EQ(station.Actions.Gated.size(), 1u);

@@ -82,7 +82,7 @@ TEST_F(TxSetupTest, EveryFieldShowsWhatHolds) {
   world.State.Radio.HfDualOn = 1;
   world.State.Radio.DigiOn = Digipeater::On;
   world.State.Radio.TxAudioLevel = 450;
-  world.State.Internet.IGateOn = 1;
+  world.State.Internet.IGateOn = Gate::On;
   own.TxTimestamp = 1;
   own.TxSymbolIndex = 103;  // "\\#" takes an overlay
   own.TxOverlay = "S";
@@ -129,7 +129,7 @@ TEST_F(TxSetupTest, EveryFieldShowsWhatHolds) {
   EXPECT_EQ(world.State.Radio.HfDualOn, 1);
   EXPECT_EQ(world.State.Radio.DigiOn, Digipeater::On);
   EXPECT_EQ(world.State.Radio.TxAudioLevel, 450);
-  EXPECT_EQ(world.State.Internet.IGateOn, 1);
+  EXPECT_EQ(world.State.Internet.IGateOn, Gate::On);
 }
 
 TEST_F(TxSetupTest, AnIntervalThatCanNotBeIsShownAsManual) {
@@ -242,7 +242,7 @@ TEST_F(TxSetupTest, OkTakesEverythingInItsOrder) {
   EXPECT_EQ(world.State.Identity.MyCallFull, "QX7KB-7");
   EXPECT_EQ(world.State.Radio.BaudMode, "1200");
   EXPECT_EQ(world.State.Radio.DigiOn, Digipeater::On);
-  EXPECT_EQ(world.State.Internet.IGateOn, 1);
+  EXPECT_EQ(world.State.Internet.IGateOn, Gate::On);
   EXPECT_EQ(own.TxDestination, "APZZZ");
   EXPECT_EQ(own.TxPath, "WIDE2-2");
   EXPECT_EQ(own.TxIntervalMinutes, 15);

@@ -13,11 +13,16 @@ struct GatedLine {
   std::int64_t Seconds = 0;
 };
 
+// The gateway as it is switched. Another number that stood in the file stays there; it is not On.
+enum class Gate { Off = 0, On = 1 };
+// Its link to a server.
+enum class GateLink { Down = 0, Up = 1 };
+
 struct InternetState {
   std::string AprsIsServer;
   std::string AprsIsPort = "14580";
-  int IGateOn = 0;
-  int IGateConnected = 0;
+  Gate IGateOn = Gate::Off;
+  GateLink IGateConnected = GateLink::Down;
   std::string AprsIsPasscode = "0";
   std::string AprsIsRxBuffer;
   std::array<GatedLine, 5> RecentlyGated;  // newest last
