@@ -1,7 +1,7 @@
 // Sets what the centre of the map follows, and shows it.
 #include "core/centre_follow.h"
 
-#include "core/main_window_controls.h"
+#include "core/controls/map_controls.h"
 
 namespace zepril {
 

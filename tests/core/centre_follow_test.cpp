@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/main_window_controls.h"
+#include "core/controls/map_controls.h"
 
 namespace zepril {
 namespace {
