@@ -98,7 +98,7 @@ class MapInteraction {
   void SetZoom(double factor);
   void ChooseFolder(int row);
   void CentreOnRecord();
-  void Follow(int centre_follow);
+  void Follow(Following what);
 
   void PressMap(const MousePress& press);
   void LeftPress(double x, double y);
