@@ -9,11 +9,11 @@ namespace zepril {
 namespace {
 
 struct Box {
-  int left, top, right, bottom;
+  int Left, Top, Right, Bottom;
 };
 
 bool Meet(const Box& a, const Box& b) {
-  return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+  return a.Left < b.Right && b.Left < a.Right && a.Top < b.Bottom && b.Top < a.Bottom;
 }
 
 class Placer {
@@ -21,11 +21,11 @@ class Placer {
   explicit Placer(double km_per_pixel) : km_per_pixel_(km_per_pixel) {}
 
   void Town(const MapPlace& town) {
-    const int x = Pixel(town.at.east_km), y = Pixel(-town.at.north_km);
-    const int r = DotRadius(town.rank);
+    const int x = Pixel(town.At.EastKm), y = Pixel(-town.At.NorthKm);
+    const int r = DotRadius(town.Rank);
     const Box dot{x - r - 1, y - r - 1, x + r + 2, y + r + 2};
-    if (town.rank > 2 && !Free(dot)) return;
-    MapLabel label{0, 0, 8, town.rank, false, town.name};
+    if (town.Rank > 2 && !Free(dot)) return;
+    MapLabel label{0, 0, 8, town.Rank, false, town.Name};
     const int w = LabelWidth(label);
     // The ink of a letter's cell begins three rows down and ends three rows above its foot.
     const int gap = r + 3, up = -r - 15, down = r - 1;
@@ -37,15 +37,15 @@ class Placer {
                                                        {x - w / 2, y + down},
                                                        {x - r - w, y + up},
                                                        {x - r - w, y + down}});
-    if (!placed && town.rank > 2) return;
+    if (!placed && town.Rank > 2) return;
     taken_.push_back(dot);
-    result_.dots.push_back({x, y, town.rank});
+    result_.Dots.push_back({x, y, town.Rank});
     if (placed) Keep(*placed);
   }
 
   void Water(const MapPlace& water) {
-    const int x = Pixel(water.at.east_km), y = Pixel(-water.at.north_km);
-    MapLabel label{0, 0, water.rank == 1 ? 16 : water.rank == 2 ? 14 : 11, 3, true, water.name};
+    const int x = Pixel(water.At.EastKm), y = Pixel(-water.At.NorthKm);
+    MapLabel label{0, 0, water.Rank == 1 ? 16 : water.Rank == 2 ? 14 : 11, 3, true, water.Name};
     const int w = LabelWidth(label);
     std::vector<std::pair<int, int>> tries;
     for (const int dy : {0, 20, -20, 40, -40})
@@ -59,7 +59,7 @@ class Placer {
   int Pixel(double km) const { return static_cast<int>(std::floor(km / km_per_pixel_)); }
 
   static Box BoxOf(const MapLabel& label) {
-    return {label.x - 1, label.y + 2, label.x + LabelWidth(label) + 1, label.y + kLabelHeight};
+    return {label.X - 1, label.Y + 2, label.X + LabelWidth(label) + 1, label.Y + kLabelHeight};
   }
 
   bool Free(const Box& box) const {
@@ -69,8 +69,8 @@ class Placer {
   std::optional<MapLabel> Try(MapLabel label,
                               const std::vector<std::pair<int, int>>& places) const {
     for (const auto& [x, y] : places) {
-      label.x = x;
-      label.y = y;
+      label.X = x;
+      label.Y = y;
       if (Free(BoxOf(label))) return label;
     }
     return std::nullopt;
@@ -78,7 +78,7 @@ class Placer {
 
   void Keep(const MapLabel& label) {
     taken_.push_back(BoxOf(label));
-    result_.labels.push_back(label);
+    result_.Names.push_back(label);
   }
 
   double km_per_pixel_;
@@ -91,12 +91,12 @@ class Placer {
 Labels PlaceLabels(const MapData& data, double km_per_pixel, int last_town, int last_water) {
   Placer placer(km_per_pixel);
   for (int rank = 1; rank <= last_town; ++rank) {
-    for (const MapPlace& town : data.towns) {
-      if (town.rank == rank) placer.Town(town);
+    for (const MapPlace& town : data.Towns) {
+      if (town.Rank == rank) placer.Town(town);
     }
   }
-  for (const MapPlace& water : data.waters) {
-    if (water.rank <= last_water) placer.Water(water);
+  for (const MapPlace& water : data.Waters) {
+    if (water.Rank <= last_water) placer.Water(water);
   }
   return placer.Take();
 }

@@ -10,21 +10,21 @@ namespace zepril {
 
 // Pixels of the whole scale: x eastward from easting 0, y southward from northing 0.
 struct Dot {
-  int x = 0, y = 0;
-  int rank = 3;
+  int X = 0, Y = 0;
+  int Rank = 3;
 };
 
 struct MapLabel {
-  int x = 0, y = 0;  // top left of the first letter's cell
-  int step = 8;      // from letter to letter
-  int rank = 3;      // 1: drawn bold
-  bool water = false;
-  std::string text;
+  int X = 0, Y = 0;  // top left of the first letter's cell
+  int Step = 8;      // from letter to letter
+  int Rank = 3;      // 1: drawn bold
+  bool Water = false;
+  std::string Text;
 };
 
 struct Labels {
-  std::vector<Dot> dots;
-  std::vector<MapLabel> labels;
+  std::vector<Dot> Dots;
+  std::vector<MapLabel> Names;
 };
 
 constexpr int kLabelHeight = 15;
@@ -33,7 +33,7 @@ inline int DotRadius(int rank) {
   return rank == 1 ? 4 : rank == 2 ? 3 : 2;
 }
 inline int LabelWidth(const MapLabel& label) {
-  return label.step * static_cast<int>(label.text.size());
+  return label.Step * static_cast<int>(label.Text.size());
 }
 
 // Larger towns choose first; a name that finds no free place is left out, and with it the dot of a

@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
         std::fflush(stdout);
         return true;
       });
-  if (result.complete) return 0;
-  std::fputs(("cannot go on: " + result.fault + "\n").c_str(), stderr);
+  if (result.Complete) return 0;
+  std::fputs(("cannot go on: " + result.Fault + "\n").c_str(), stderr);
   return 1;
 }

@@ -19,7 +19,7 @@ constexpr double kSouthLimit = -5;
 constexpr double kNorthLimit = 84.9;
 
 struct Degrees {
-  double lon = 0, lat = 0;
+  double Lon = 0, Lat = 0;
 };
 using Arc = std::vector<Degrees>;
 
@@ -88,9 +88,9 @@ bool EachLine(std::string_view text, Take take) {
 MapPoint ToGrid(Degrees at) {
   const double to_radians = kConversionPi / 180;
   const double aside =
-      std::cos(at.lat * to_radians) * std::sin((at.lon - kSampleMeridian) * to_radians);
-  if (std::abs(aside) > 0.999) return {std::copysign(25000.0, aside), at.lat * 100};
-  const GridMetres grid = GeodeticToUtm(at.lon, at.lat, kSampleMeridian, kUtmFalseEasting);
+      std::cos(at.Lat * to_radians) * std::sin((at.Lon - kSampleMeridian) * to_radians);
+  if (std::abs(aside) > 0.999) return {std::copysign(25000.0, aside), at.Lat * 100};
+  const GridMetres grid = GeodeticToUtm(at.Lon, at.Lat, kSampleMeridian, kUtmFalseEasting);
   return {grid.East / 1000, grid.North / 1000};
 }
 
@@ -104,17 +104,17 @@ Arc CutRing(const Arc& ring, Depth depth) {
     if (da >= 0) kept.push_back(a);
     if ((da >= 0) != (db >= 0)) {
       const double t = da / (da - db);
-      kept.push_back({a.lon + t * (b.lon - a.lon), a.lat + t * (b.lat - a.lat)});
+      kept.push_back({a.Lon + t * (b.Lon - a.Lon), a.Lat + t * (b.Lat - a.Lat)});
     }
   }
   return kept;
 }
 
 Arc CutToReach(Arc ring) {
-  ring = CutRing(ring, [](Degrees p) { return p.lon - (kSampleMeridian - kReach); });
-  ring = CutRing(ring, [](Degrees p) { return kSampleMeridian + kReach - p.lon; });
-  ring = CutRing(ring, [](Degrees p) { return p.lat - kSouthLimit; });
-  return CutRing(ring, [](Degrees p) { return kNorthLimit - p.lat; });
+  ring = CutRing(ring, [](Degrees p) { return p.Lon - (kSampleMeridian - kReach); });
+  ring = CutRing(ring, [](Degrees p) { return kSampleMeridian + kReach - p.Lon; });
+  ring = CutRing(ring, [](Degrees p) { return p.Lat - kSouthLimit; });
+  return CutRing(ring, [](Degrees p) { return kNorthLimit - p.Lat; });
 }
 
 // Long straight steps in degrees are curves in the grid: they get points between.
@@ -123,20 +123,20 @@ Outline ToOutline(const Arc& arc, bool closed) {
   const std::size_t steps = closed ? arc.size() : arc.size() - 1;
   for (std::size_t i = 0; i < steps; ++i) {
     const Degrees a = arc[i], b = arc[(i + 1) % arc.size()];
-    const double span = std::max(std::abs(b.lon - a.lon), std::abs(b.lat - a.lat));
+    const double span = std::max(std::abs(b.Lon - a.Lon), std::abs(b.Lat - a.Lat));
     const int parts = 1 + static_cast<int>(std::min(span, 360.0));
     for (int part = 0; part < parts; ++part) {
       const double t = static_cast<double>(part) / parts;
-      outline.points.push_back(ToGrid({a.lon + t * (b.lon - a.lon), a.lat + t * (b.lat - a.lat)}));
+      outline.Points.push_back(ToGrid({a.Lon + t * (b.Lon - a.Lon), a.Lat + t * (b.Lat - a.Lat)}));
     }
   }
-  if (!closed) outline.points.push_back(ToGrid(arc.back()));
-  outline.low = outline.high = outline.points.front();
-  for (const MapPoint& p : outline.points) {
-    outline.low = {std::min(outline.low.east_km, p.east_km),
-                   std::min(outline.low.north_km, p.north_km)};
-    outline.high = {std::max(outline.high.east_km, p.east_km),
-                    std::max(outline.high.north_km, p.north_km)};
+  if (!closed) outline.Points.push_back(ToGrid(arc.back()));
+  outline.Low = outline.High = outline.Points.front();
+  for (const MapPoint& p : outline.Points) {
+    outline.Low = {std::min(outline.Low.EastKm, p.EastKm),
+                   std::min(outline.Low.NorthKm, p.NorthKm)};
+    outline.High = {std::max(outline.High.EastKm, p.EastKm),
+                    std::max(outline.High.NorthKm, p.NorthKm)};
   }
   return outline;
 }
@@ -192,9 +192,9 @@ class LandReader {
     for (const double turn : {-360.0, 0.0, 360.0}) {
       Arc turned = ring;
       for (Degrees& at : turned)
-        at.lon += turn;
+        at.Lon += turn;
       turned = CutToReach(std::move(turned));
-      if (turned.size() >= 3) data_.land.push_back(ToOutline(turned, true));
+      if (turned.size() >= 3) data_.Land.push_back(ToOutline(turned, true));
     }
     return true;
   }
@@ -203,10 +203,10 @@ class LandReader {
   static void Unwind(Arc& ring) {
     double turn = 0;
     for (std::size_t i = 1; i < ring.size(); ++i) {
-      const double step = ring[i].lon + turn - ring[i - 1].lon;
+      const double step = ring[i].Lon + turn - ring[i - 1].Lon;
       if (step > 180) turn -= 360;
       if (step < -180) turn += 360;
-      ring[i].lon += turn;
+      ring[i].Lon += turn;
     }
   }
 
@@ -224,10 +224,10 @@ class LandReader {
   void AddBorder(const Arc& arc) {
     Arc piece;
     for (const Degrees& at : arc) {
-      const bool inside = std::abs(at.lon - kSampleMeridian) < kReach && at.lat > kSouthLimit;
+      const bool inside = std::abs(at.Lon - kSampleMeridian) < kReach && at.Lat > kSouthLimit;
       if (inside) piece.push_back(at);
       if (inside && &at != &arc.back()) continue;
-      if (piece.size() >= 2) data_.borders.push_back(ToOutline(piece, false));
+      if (piece.size() >= 2) data_.Borders.push_back(ToOutline(piece, false));
       piece.clear();
     }
   }
@@ -258,7 +258,7 @@ Arc RoundOff(const Arc& ring) {
   for (std::size_t i = 0; i < ring.size(); ++i) {
     const Degrees a = ring[i], b = ring[(i + 1) % ring.size()];
     for (const double t : {0.25, 0.75}) {
-      smooth.push_back({a.lon + t * (b.lon - a.lon), a.lat + t * (b.lat - a.lat)});
+      smooth.push_back({a.Lon + t * (b.Lon - a.Lon), a.Lat + t * (b.Lat - a.Lat)});
     }
   }
   return smooth;
@@ -294,7 +294,7 @@ std::optional<int> HexByte(std::string_view text, std::size_t at) {
 bool TakeLetter(std::string_view line, MapData& data) {
   const auto byte = HexByte(line, 0);
   if (!byte) return false;
-  LetterRows& rows = data.letters[static_cast<std::size_t>(*byte)];
+  LetterRows& rows = data.Letters[static_cast<std::size_t>(*byte)];
   for (std::size_t row = 0; row < rows.size(); ++row) {
     const auto bits = HexByte(line, 3 + 2 * row);
     if (!bits) return false;
@@ -322,9 +322,9 @@ std::optional<MapData> ReadMapData(const std::filesystem::path& source, std::str
   const bool good = ReadLines(source / "europe.txt", fault,
                               [&](std::string_view line) { return land.TakeLine(line); }) &&
                     ReadLines(source / "lakes.txt", fault,
-                              [&](std::string_view line) { return TakeLake(line, data.land); }) &&
-                    ReadLines(source / "towns.txt", fault, line_to(data.towns)) &&
-                    ReadLines(source / "waters.txt", fault, line_to(data.waters)) &&
+                              [&](std::string_view line) { return TakeLake(line, data.Land); }) &&
+                    ReadLines(source / "towns.txt", fault, line_to(data.Towns)) &&
+                    ReadLines(source / "waters.txt", fault, line_to(data.Waters)) &&
                     ReadLines(source / "letters.txt", fault,
                               [&](std::string_view line) { return TakeLetter(line, data); });
   if (!good) return std::nullopt;

@@ -13,29 +13,29 @@ namespace zepril {
 constexpr double kSampleMeridian = 15;  // of zone 33
 
 struct MapPoint {
-  double east_km = 0;
-  double north_km = 0;
+  double EastKm = 0;
+  double NorthKm = 0;
 };
 
 struct Outline {
-  std::vector<MapPoint> points;
-  MapPoint low, high;  // corners of the box around the points
+  std::vector<MapPoint> Points;
+  MapPoint Low, High;  // corners of the box around the points
 };
 
 struct MapPlace {
-  MapPoint at;
-  int rank = 3;  // 1 largest
-  std::string name;
+  MapPoint At;
+  int Rank = 3;  // 1 largest
+  std::string Name;
 };
 
 using LetterRows = std::array<std::uint8_t, 15>;  // a byte a row, leftmost column highest
 
 struct MapData {
-  std::vector<Outline> land;  // closed rings, lakes too; what an odd number of them holds is land
-  std::vector<Outline> borders;  // open lines
-  std::vector<MapPlace> towns;
-  std::vector<MapPlace> waters;
-  std::array<LetterRows, 256> letters{};  // by byte of code page 1252
+  std::vector<Outline> Land;  // closed rings, lakes too; what an odd number of them holds is land
+  std::vector<Outline> Borders;  // open lines
+  std::vector<MapPlace> Towns;
+  std::vector<MapPlace> Waters;
+  std::array<LetterRows, 256> Letters{};  // by byte of code page 1252
 };
 
 // Reads the five files of `source`. Nothing, with `fault` naming the file, when one is missing or

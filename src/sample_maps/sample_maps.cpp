@@ -13,13 +13,13 @@ namespace {
 
 // One scale folder and the south-west corners of its first and last tile.
 struct ScaleFolder {
-  const char* name;
-  int side_km;
-  int south, north, west, east;
-  int last_town, last_water;  // ranks shown
-  TileStyle style;
+  const char* Name;
+  int SideKm;
+  int South, North, West, East;
+  int LastTown, LastWater;  // ranks shown
+  TileStyle Style;
 
-  int Count() const { return ((north - south) / side_km + 1) * ((east - west) / side_km + 1); }
+  int Count() const { return ((North - South) / SideKm + 1) * ((East - West) / SideKm + 1); }
 };
 
 constexpr ScaleFolder kFolders[] = {
@@ -30,7 +30,7 @@ constexpr ScaleFolder kFolders[] = {
 };
 
 std::filesystem::path BeingDrawn(const std::filesystem::path& target, const ScaleFolder& folder) {
-  return target / (std::string(kFolderBeingDrawn) + folder.name);
+  return target / (std::string(kFolderBeingDrawn) + folder.Name);
 }
 
 class Drawing {
@@ -45,15 +45,15 @@ class Drawing {
     std::error_code error;
     std::filesystem::create_directories(path, error);
     if (error) {
-      result_.fault = path.string();
+      result_.Fault = path.string();
       return false;
     }
-    const Labels labels = PlaceLabels(data_, folder.side_km / static_cast<double>(kTilePixels),
-                                      folder.last_town, folder.last_water);
-    const Palette palette = folder.style.relief ? ReliefPalette() : FlatPalette();
-    for (int north = folder.south; north <= folder.north; north += folder.side_km) {
-      for (int east = folder.west; east <= folder.east; east += folder.side_km) {
-        if (!DrawTile(folder, {north, east, folder.side_km}, labels, palette, path)) return false;
+    const Labels labels = PlaceLabels(data_, folder.SideKm / static_cast<double>(kSampleTilePixels),
+                                      folder.LastTown, folder.LastWater);
+    const Palette palette = folder.Style.Relief ? ReliefPalette() : FlatPalette();
+    for (int north = folder.South; north <= folder.North; north += folder.SideKm) {
+      for (int east = folder.West; east <= folder.East; east += folder.SideKm) {
+        if (!DrawTile(folder, {north, east, folder.SideKm}, labels, palette, path)) return false;
       }
     }
     return true;
@@ -64,18 +64,18 @@ class Drawing {
  private:
   bool DrawTile(const ScaleFolder& folder, const SampleTile& place, const Labels& labels,
                 const Palette& palette, const std::filesystem::path& path) {
-    const std::filesystem::path file = path / TileName(place.north_km, place.east_km);
-    const std::uintmax_t size = folder.style.relief ? kTileBytes8 : kTileBytes4;
+    const std::filesystem::path file = path / TileName(place.NorthKm, place.EastKm);
+    const std::uintmax_t size = folder.Style.Relief ? kTileBytes8 : kTileBytes4;
     std::error_code error;
     if (std::filesystem::file_size(file, error) == size && !error) {
-      ++result_.kept;
-    } else if (WriteTile(file, PaintTile(data_, labels, place, folder.style), palette)) {
-      ++result_.drawn;
+      ++result_.Kept;
+    } else if (WriteTile(file, PaintTile(data_, labels, place, folder.Style), palette)) {
+      ++result_.Drawn;
     } else {
-      result_.fault = file.string();
+      result_.Fault = file.string();
       return false;
     }
-    return !progress_ || progress_(result_.drawn + result_.kept, total_);
+    return !progress_ || progress_(result_.Drawn + result_.Kept, total_);
   }
 
   const MapData& data_;
@@ -90,29 +90,29 @@ SampleMapsResult DrawSampleMaps(const std::filesystem::path& source,
                                 const std::filesystem::path& target,
                                 const SampleMapsProgress& progress) try {
   SampleMapsResult result;
-  const auto data = ReadMapData(source, result.fault);
+  const auto data = ReadMapData(source, result.Fault);
   if (!data) return result;
   Drawing drawing(*data, progress);
   std::error_code error;
   for (const ScaleFolder& folder : kFolders) {
-    const bool stands = std::filesystem::exists(target / folder.name, error);
-    const std::filesystem::path path = stands ? target / folder.name : BeingDrawn(target, folder);
+    const bool stands = std::filesystem::exists(target / folder.Name, error);
+    const std::filesystem::path path = stands ? target / folder.Name : BeingDrawn(target, folder);
     if (!drawing.DrawFolder(folder, path)) return drawing.Result();
   }
   result = drawing.Result();
   for (const ScaleFolder& folder : kFolders) {
     if (!std::filesystem::exists(BeingDrawn(target, folder), error)) continue;
-    std::filesystem::rename(BeingDrawn(target, folder), target / folder.name, error);
+    std::filesystem::rename(BeingDrawn(target, folder), target / folder.Name, error);
     if (error) {
-      result.fault = (target / folder.name).string();
+      result.Fault = (target / folder.Name).string();
       return result;
     }
   }
-  result.complete = true;
+  result.Complete = true;
   return result;
 } catch (const std::exception& error) {  // out of memory, or a path the system refuses
   SampleMapsResult result;
-  result.fault = error.what();
+  result.Fault = error.what();
   return result;
 }
 

@@ -11,10 +11,10 @@ namespace zepril {
 using SampleMapsProgress = std::function<bool(int done, int total)>;
 
 struct SampleMapsResult {
-  int drawn = 0;  // tiles written now
-  int kept = 0;   // tiles that stood already, with the right size
-  bool complete = false;
-  std::string fault;  // what could not be read or written; empty otherwise
+  int Drawn = 0;  // tiles written now
+  int Kept = 0;   // tiles that stood already, with the right size
+  bool Complete = false;
+  std::string Fault;  // what could not be read or written; empty otherwise
 };
 
 // What a scale folder's name begins with until the whole library is drawn.

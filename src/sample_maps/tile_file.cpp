@@ -31,8 +31,8 @@ std::string Head(const Palette& palette, std::uint32_t pixel_bytes) {
   AddLittle(text, 0, 4);
   AddLittle(text, start, 4);
   AddLittle(text, 40, 4);
-  AddLittle(text, kTilePixels, 4);
-  AddLittle(text, kTilePixels, 4);
+  AddLittle(text, kSampleTilePixels, 4);
+  AddLittle(text, kSampleTilePixels, 4);
   AddLittle(text, 1, 2);
   AddLittle(text, entries == 16 ? 4 : 8, 2);
   AddLittle(text, 0, 4);
@@ -95,12 +95,12 @@ std::string TileName(int north_km, int east_km) {
 bool WriteTile(const std::filesystem::path& path, const std::vector<std::uint8_t>& pixels,
                const Palette& palette) {
   const bool packed = palette.size() == 16;
-  const int line = packed ? kTilePixels / 2 : kTilePixels;
-  std::string text = Head(palette, static_cast<std::uint32_t>(line * kTilePixels));
-  text.reserve(text.size() + static_cast<std::size_t>(line * kTilePixels));
-  for (int y = kTilePixels - 1; y >= 0; --y) {
-    const std::uint8_t* row = pixels.data() + static_cast<std::ptrdiff_t>(y) * kTilePixels;
-    for (int x = 0; x < kTilePixels; x += packed ? 2 : 1) {
+  const int line = packed ? kSampleTilePixels / 2 : kSampleTilePixels;
+  std::string text = Head(palette, static_cast<std::uint32_t>(line * kSampleTilePixels));
+  text.reserve(text.size() + static_cast<std::size_t>(line * kSampleTilePixels));
+  for (int y = kSampleTilePixels - 1; y >= 0; --y) {
+    const std::uint8_t* row = pixels.data() + static_cast<std::ptrdiff_t>(y) * kSampleTilePixels;
+    for (int x = 0; x < kSampleTilePixels; x += packed ? 2 : 1) {
       text += static_cast<char>(packed ? row[x] << 4 | row[x + 1] : row[x]);
     }
   }

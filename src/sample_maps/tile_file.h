@@ -9,7 +9,7 @@
 
 namespace zepril {
 
-constexpr int kTilePixels = 1000;
+constexpr int kSampleTilePixels = 1000;
 constexpr std::uintmax_t kTileBytes4 = 54 + 64 + 500000;
 constexpr std::uintmax_t kTileBytes8 = 54 + 1024 + 1000000;
 

@@ -19,48 +19,51 @@ class Canvas {
   Canvas(const MapData& data, const SampleTile& place, const TileStyle& style)
       : data_(data),
         style_(style),
-        margin_(style.relief ? kReliefMargin : kFlatMargin),
-        side_(kTilePixels + 2 * margin_),
-        pixels_per_km_(static_cast<double>(kTilePixels) / place.side_km),
-        left_(static_cast<int>(std::lround(place.east_km * pixels_per_km_)) - margin_),
-        top_(-static_cast<int>(std::lround((place.north_km + place.side_km) * pixels_per_km_)) -
+        margin_(style.Relief ? kReliefMargin : kFlatMargin),
+        side_(kSampleTilePixels + 2 * margin_),
+        pixels_per_km_(static_cast<double>(kSampleTilePixels) / place.SideKm),
+        left_(static_cast<int>(std::lround(place.EastKm * pixels_per_km_)) - margin_),
+        top_(-static_cast<int>(std::lround((place.NorthKm + place.SideKm) * pixels_per_km_)) -
              margin_) {}
 
   std::vector<std::uint8_t> Paint(const Labels& labels) {
     FillLand();
     Ground();
     inks_ = ground_;
-    if (style_.border_band) Borders(true);
+    if (style_.BorderBand) Borders(true);
     Borders(false);
     Coast();
-    for (const Dot& dot : labels.dots)
+    for (const Dot& dot : labels.Dots)
       PaintDot(dot);
-    for (const MapLabel& label : labels.labels)
+    for (const MapLabel& label : labels.Names)
       PaintLabel(label);
     return Inner();
   }
 
  private:
-  std::size_t At(int x, int y) const { return static_cast<std::size_t>(y * side_ + x); }
+  std::size_t At(int x, int y) const {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(side_) +
+           static_cast<std::size_t>(x);
+  }
   bool Inside(int x, int y) const { return x >= 0 && y >= 0 && x < side_ && y < side_; }
-  double PixelX(const MapPoint& p) const { return p.east_km * pixels_per_km_ - left_; }
-  double PixelY(const MapPoint& p) const { return -p.north_km * pixels_per_km_ - top_; }
+  double PixelX(const MapPoint& p) const { return p.EastKm * pixels_per_km_ - left_; }
+  double PixelY(const MapPoint& p) const { return -p.NorthKm * pixels_per_km_ - top_; }
 
   // The palette entry of an ink: in relief tiles the inks of lines stand at its end.
   std::uint8_t Entry(Ink ink) const {
-    return static_cast<std::uint8_t>(style_.relief ? kReliefInks + ink - kInkCoast : ink);
+    return static_cast<std::uint8_t>(style_.Relief ? kReliefInks + ink - kInkCoast : ink);
   }
 
   // Rows are cut at their middle by every ring; what lies between two cuts is land.
   void FillLand() {
     std::vector<std::vector<double>> cuts(static_cast<std::size_t>(side_));
-    for (const Outline& ring : data_.land) {
-      if (PixelY(ring.high) > side_ || PixelY(ring.low) < 0 || PixelX(ring.low) > side_) continue;
-      for (std::size_t i = 0, j = ring.points.size() - 1; i < ring.points.size(); j = i++) {
-        CutRows(ring.points[j], ring.points[i], cuts);
+    for (const Outline& ring : data_.Land) {
+      if (PixelY(ring.High) > side_ || PixelY(ring.Low) < 0 || PixelX(ring.Low) > side_) continue;
+      for (std::size_t i = 0, j = ring.Points.size() - 1; i < ring.Points.size(); j = i++) {
+        CutRows(ring.Points[j], ring.Points[i], cuts);
       }
     }
-    land_.assign(static_cast<std::size_t>(side_ * side_), 0);
+    land_.assign(At(0, side_), 0);
     for (int y = 0; y < side_; ++y) {
       std::vector<double>& row = cuts[static_cast<std::size_t>(y)];
       std::sort(row.begin(), row.end());
@@ -117,15 +120,15 @@ class Canvas {
   void Ground() {
     ground_.resize(land_.size());
     const std::vector<int> from_land = Distances(0);
-    if (style_.relief) {
+    if (style_.Relief) {
       ReliefGround(from_land, Distances(1));
       return;
     }
     for (std::size_t i = 0; i < land_.size(); ++i) {
-      ground_[i] = land_[i] != 0                             ? kInkLand
-                   : from_land[i] <= 3 * style_.near_pixels  ? kInkSeaShore
-                   : from_land[i] <= 3 * style_.shore_pixels ? kInkSeaNear
-                                                             : kInkSea;
+      ground_[i] = land_[i] != 0                            ? kInkLand
+                   : from_land[i] <= 3 * style_.NearPixels  ? kInkSeaShore
+                   : from_land[i] <= 3 * style_.ShorePixels ? kInkSeaNear
+                                                            : kInkSea;
     }
   }
 
@@ -183,12 +186,12 @@ class Canvas {
   }
 
   void Borders(bool band) {
-    for (const Outline& line : data_.borders) {
-      if (PixelY(line.high) > side_ || PixelY(line.low) < 0) continue;
-      if (PixelX(line.low) > side_ || PixelX(line.high) < 0) continue;
+    for (const Outline& line : data_.Borders) {
+      if (PixelY(line.High) > side_ || PixelY(line.Low) < 0) continue;
+      if (PixelX(line.Low) > side_ || PixelX(line.High) < 0) continue;
       double walked = 0;
-      for (std::size_t i = 1; i < line.points.size(); ++i) {
-        walked = BorderStep(line.points[i - 1], line.points[i], walked, band);
+      for (std::size_t i = 1; i < line.Points.size(); ++i) {
+        walked = BorderStep(line.Points[i - 1], line.Points[i], walked, band);
       }
     }
   }
@@ -205,7 +208,7 @@ class Canvas {
         std::max(1, static_cast<int>(std::ceil(std::max(std::abs(bx - ax), std::abs(by - ay)))));
     for (int i = 0; i <= steps; ++i) {
       const double t = static_cast<double>(i) / steps;
-      const bool gap = style_.border_band && std::fmod(walked + t * length, 10) > 7;
+      const bool gap = style_.BorderBand && std::fmod(walked + t * length, 10) > 7;
       if (!band && gap) continue;
       const int x = static_cast<int>(std::floor(ax + t * (bx - ax)));
       const int y = static_cast<int>(std::floor(ay + t * (by - ay)));
@@ -239,10 +242,10 @@ class Canvas {
   }
 
   void PaintDot(const Dot& dot) {
-    const int x = dot.x - left_, y = dot.y - top_;
+    const int x = dot.X - left_, y = dot.Y - top_;
     if (!Inside(x + 8, y + 8) && !Inside(x - 8, y - 8)) return;
-    const int r = DotRadius(dot.rank);
-    const Ink fill = dot.rank == 1 ? kInkCapital : kInkTown;
+    const int r = DotRadius(dot.Rank);
+    const Ink fill = dot.Rank == 1 ? kInkCapital : kInkTown;
     for (int dy = -r; dy <= r; ++dy) {
       for (int dx = -r; dx <= r; ++dx) {
         const double distance = std::hypot(dx, dy);
@@ -254,9 +257,9 @@ class Canvas {
 
   // Lines near the letters are wiped away first, so that names stay clear.
   void PaintLabel(const MapLabel& label) {
-    const int x = label.x - left_, y = label.y - top_;
+    const int x = label.X - left_, y = label.Y - top_;
     if (x > side_ || y > side_ || x + LabelWidth(label) < 0 || y + kLabelHeight < 0) return;
-    if (!label.water) {
+    if (!label.Water) {
       EachLetterPixel(label, x, y, [&](int px, int py) {
         for (int dy = -1; dy <= 1; ++dy) {
           for (int dx = -1; dx <= 1; ++dx) {
@@ -266,7 +269,7 @@ class Canvas {
         }
       });
     }
-    const Ink ink = label.water ? kInkWaterName : label.rank > 2 ? kInkSmallName : kInkName;
+    const Ink ink = label.Water ? kInkWaterName : label.Rank > 2 ? kInkSmallName : kInkName;
     EachLetterPixel(label, x, y, [&](int px, int py) {
       if (Inside(px, py)) inks_[At(px, py)] = Entry(ink);
     });
@@ -274,25 +277,25 @@ class Canvas {
 
   template <typename Take>
   void EachLetterPixel(const MapLabel& label, int x, int y, Take take) const {
-    for (const char c : label.text) {
-      const LetterRows& rows = data_.letters[static_cast<unsigned char>(c)];
+    for (const char c : label.Text) {
+      const LetterRows& rows = data_.Letters[static_cast<unsigned char>(c)];
       for (int row = 0; row < kLabelHeight; ++row) {
         for (int column = 0; column < 8; ++column) {
           if ((rows[static_cast<std::size_t>(row)] >> (7 - column) & 1) == 0) continue;
           take(x + column, y + row);
-          if (label.rank == 1) take(x + column + 1, y + row);
+          if (label.Rank == 1) take(x + column + 1, y + row);
         }
       }
-      x += label.step;
+      x += label.Step;
     }
   }
 
   std::vector<std::uint8_t> Inner() const {
     std::vector<std::uint8_t> inner;
-    inner.reserve(static_cast<std::size_t>(kTilePixels) * kTilePixels);
-    for (int y = margin_; y < margin_ + kTilePixels; ++y) {
+    inner.reserve(static_cast<std::size_t>(kSampleTilePixels) * kSampleTilePixels);
+    for (int y = margin_; y < margin_ + kSampleTilePixels; ++y) {
       const auto from = inks_.begin() + static_cast<std::ptrdiff_t>(At(margin_, y));
-      inner.insert(inner.end(), from, from + kTilePixels);
+      inner.insert(inner.end(), from, from + kSampleTilePixels);
     }
     return inner;
   }

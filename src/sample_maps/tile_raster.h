@@ -10,15 +10,15 @@
 namespace zepril {
 
 struct TileStyle {
-  bool relief = false;
-  int near_pixels = 4;   // width of the light strip of sea along the coast
-  int shore_pixels = 9;  // and of the second one outside of it
-  bool border_band = true;
+  bool Relief = false;
+  int NearPixels = 4;   // width of the light strip of sea along the coast
+  int ShorePixels = 9;  // and of the second one outside of it
+  bool BorderBand = true;
 };
 
 struct SampleTile {
-  int north_km = 0, east_km = 0;  // south-west corner
-  int side_km = 1000;
+  int NorthKm = 0, EastKm = 0;  // south-west corner
+  int SideKm = 1000;
 };
 
 // 1000 x 1000 indices, top row first: inks, or entries of the relief palette.

@@ -217,15 +217,15 @@ TEST(SampleMaps, TheFoldersGetTheirNamesWhenAllAreWhole) {
   };
   const SampleMapsResult first =
       DrawSampleMaps(source, folder.Path(), [](int done, int) { return done < 3; });
-  EXPECT_FALSE(first.complete);
+  EXPECT_FALSE(first.Complete);
   EXPECT_EQ(names(), std::set<std::string>{"NEW~M1000"});
   const SampleMapsResult second = DrawSampleMaps(source, folder.Path(), {});
-  EXPECT_TRUE(second.complete);
-  EXPECT_EQ(second.kept, 3);
+  EXPECT_TRUE(second.Complete);
+  EXPECT_EQ(second.Kept, 3);
   EXPECT_EQ(names(), (std::set<std::string>{"M0200", "M1000", "M1000RELIEF", "M5000"}));
   // Ended between two of the names.
   std::filesystem::rename(folder.Sub("M5000"), folder.Sub("NEW~M5000"));
-  EXPECT_TRUE(DrawSampleMaps(source, folder.Path(), {}).complete);
+  EXPECT_TRUE(DrawSampleMaps(source, folder.Path(), {}).Complete);
   EXPECT_EQ(names().count("M5000"), 1u);
 }
 
