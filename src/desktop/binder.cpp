@@ -202,7 +202,9 @@ void Binder::BindCommon(QWidget* widget, Control& control, bool press_is_click) 
 
 void Binder::BindKeys(QWidget* widget, std::function<void(KeyPress)> key_down) {
   for (Watched& watched : watched_) {
-    if (watched.Widget == widget) watched.KeyDown = std::move(key_down);
+    if (watched.Widget != widget) continue;
+    watched.KeyDown = std::move(key_down);
+    return;
   }
 }
 

@@ -75,7 +75,7 @@ QSize SizeToRead(const QSize& own, const QSize& room, double enlarged) {
 }  // namespace
 
 QImage ReadPicture(const QString& native_path, const QSize& room, double enlarged) {
-  constexpr qint64 kHeadBytes = 256 * 1024;
+  constexpr qint64 kHeadBytes = qint64{256} * 1024;
   if (room.isEmpty()) return {};
   QFile file(native_path);
   if (!file.open(QIODevice::ReadOnly)) return {};

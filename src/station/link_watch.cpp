@@ -1,10 +1,12 @@
 // Follows the link from pass to pass, and words a loss once.
 #include "station/link_watch.h"
 
+#include <utility>
+
 namespace zepril {
 
 LinkWatch::LinkWatch(const RadioState& radio, StatusControls& status, LinkWatchTools tools)
-    : radio_(radio), status_(status), tools_(tools) {
+    : radio_(radio), status_(status), tools_(std::move(tools)) {
   tools_.RemoteEngine.LinkChanged = [this] { EngineChanged(tools_.RemoteEngine.LinkIsUp()); };
   tools_.LocalEngine.LinkChanged = [this] { EngineChanged(tools_.LocalEngine.LinkIsUp()); };
 }
