@@ -1,13 +1,16 @@
-// A room includes only what stands below it: never upward, never sideways, never in a circle; and
-// the toolkit is known to few.
+// A room includes what its arrows in cmake/floors.txt lead to and nothing else, each arrow runs
+// downward and is needed; and the toolkit is known to few.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <set>
+#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/house/source_tree_support.h"
@@ -16,40 +19,46 @@ namespace zepril {
 namespace {
 
 struct Room {
-  std::string Name;                // folder below src
-  std::vector<std::string> Below;  // rooms that it may include, itself aside
+  std::string Name;                 // folder below src
+  std::vector<std::string> Arrows;  // rooms that it includes, itself aside
+  int Floor = 0;                    // 0 is the topmost
 };
 
-// The floors, from the ground up.
-const std::vector<Room> kRooms = {
-    {"platform", {}},
-    {"platform/native", {"platform"}},
-    {"core", {"platform"}},
-    {"platform/qt", {"platform", "platform/native", "core"}},
-    {"geodesy", {"platform", "core"}},
-    {"gps", {"platform", "core", "geodesy"}},
-    {"links", {"platform", "core", "geodesy"}},
-    {"config", {"platform", "core", "geodesy"}},
-    {"reception", {"platform", "core", "geodesy", "gps", "links", "config"}},
-    {"map", {"platform", "core", "geodesy", "gps", "links", "config", "reception"}},
-    {"weather", {"platform", "core", "geodesy", "gps", "links", "config", "reception"}},
-    {"sample_maps", {"platform", "core", "geodesy"}},
-    {"viewers",
-     {"platform", "core", "geodesy", "gps", "links", "config", "reception", "map", "weather"}},
-    {"internet",
-     {"platform", "core", "geodesy", "gps", "links", "config", "reception", "map", "weather"}},
-    {"transmit",
-     {"platform", "core", "geodesy", "gps", "links", "config", "reception", "map", "weather"}},
-    {"station",
-     {"platform", "platform/native", "core", "geodesy", "gps", "links", "config", "reception",
-      "map", "weather", "viewers", "internet", "transmit"}},
-    {"desktop",
-     {"platform", "platform/native", "platform/qt", "core", "geodesy", "gps", "links", "config",
-      "reception", "map", "weather", "station", "viewers", "internet", "transmit", "sample_maps"}},
-    {"tool",
-     {"platform", "platform/native", "platform/qt", "core", "geodesy", "gps", "links", "config",
-      "reception", "map", "weather", "station"}},
-};
+std::vector<std::string> WordsOf(const std::string& text) {
+  std::istringstream words(text);
+  return {std::istream_iterator<std::string>(words), {}};
+}
+
+// Rows of the table: "map: geodesy core", floors parted by "----".
+std::vector<Room> RoomsOf(const std::vector<std::string>& lines) {
+  std::vector<Room> rooms;
+  int floor = 0;
+  for (const std::string& line : lines) {
+    if (line == "----") ++floor;
+    const std::size_t colon = line.find(':');
+    if (line.starts_with('#') || colon == std::string::npos) continue;
+    rooms.push_back({line.substr(0, colon), WordsOf(line.substr(colon + 1)), floor});
+  }
+  return rooms;
+}
+
+// The table by which CMake links.
+const std::vector<Room>& Rooms() {
+  static const std::vector<Room> rooms =
+      RoomsOf(LinesOf(ReadWhole(std::string(ZEPRIL_SOURCE_DIR) + "/cmake/floors.txt")));
+  return rooms;
+}
+
+const Room* RoomNamed(const std::string& name) {
+  for (const Room& room : Rooms()) {
+    if (room.Name == name) return &room;
+  }
+  return nullptr;
+}
+
+bool LeadsTo(const Room& room, const std::string& name) {
+  return std::find(room.Arrows.begin(), room.Arrows.end(), name) != room.Arrows.end();
+}
 
 // Files outside platform/qt and desktop that may include the toolkit.
 const std::set<std::string> kToolkitPartOfTool = {"src/tool/render_command.cpp"};
@@ -60,7 +69,7 @@ std::vector<SourceFile> Sources() {
 
 const Room* RoomOf(const std::string& path) {
   const Room* found = nullptr;
-  for (const Room& room : kRooms) {
+  for (const Room& room : Rooms()) {
     const bool inside = path.starts_with(room.Name + "/");
     if (inside && (found == nullptr || room.Name.size() > found->Name.size())) found = &room;
   }
@@ -86,20 +95,71 @@ TEST(Floors, EveryFileStandsInARoom) {
   }
 }
 
-TEST(Floors, NoIncludeRunsUpwardOrSideways) {
+using Edges = std::map<std::string, std::set<std::string>>;
+
+// From each file below src, without "src/", to the files that it includes.
+Edges IncludesOfFiles() {
+  Edges includes;
   for (const SourceFile& file : Sources()) {
-    const Room* room = RoomOf(file.Path.substr(4));
-    if (room == nullptr) continue;
     for (const std::string& line : file.Lines) {
-      const auto included = IncludedHere(line);
-      if (!included) continue;
-      const Room* other = RoomOf(*included);
-      const std::string name = other ? other->Name : included->substr(0, included->find('/'));
-      const bool allowed = name == room->Name || std::find(room->Below.begin(), room->Below.end(),
-                                                           name) != room->Below.end();
-      EXPECT_TRUE(allowed) << file.Path << " includes " << *included;
+      if (const auto included = IncludedHere(line)) includes[file.Path.substr(4)].insert(*included);
     }
   }
+  return includes;
+}
+
+TEST(Floors, EveryIncludeFollowsAnArrow) {
+  for (const auto& [file, includes] : IncludesOfFiles()) {
+    const Room* room = RoomOf(file);
+    if (room == nullptr) continue;
+    for (const std::string& included : includes) {
+      const Room* other = RoomOf(included);
+      const std::string name = other ? other->Name : included.substr(0, included.find('/'));
+      EXPECT_TRUE(name == room->Name || LeadsTo(*room, name))
+          << file << " includes " << included << ": cmake/floors.txt has no arrow from "
+          << room->Name << " to " << name;
+    }
+  }
+}
+
+TEST(Floors, EveryArrowIsNeededByAnInclude) {
+  std::set<std::pair<std::string, std::string>> needed;
+  for (const auto& [file, includes] : IncludesOfFiles()) {
+    for (const std::string& included : includes) {
+      if (RoomOf(file) && RoomOf(included))
+        needed.insert({RoomOf(file)->Name, RoomOf(included)->Name});
+    }
+  }
+  for (const Room& room : Rooms()) {
+    for (const std::string& arrow : room.Arrows) {
+      EXPECT_TRUE(needed.contains({room.Name, arrow}))
+          << "nothing in " << room.Name << " includes " << arrow;
+    }
+  }
+}
+
+TEST(Floors, EveryArrowRunsDownward) {
+  ASSERT_GT(Rooms().size(), 15U);
+  std::set<std::string> names;
+  for (const Room& room : Rooms()) {
+    EXPECT_TRUE(names.insert(room.Name).second) << room.Name << " stands in the table twice";
+    for (const std::string& arrow : room.Arrows) {
+      const Room* lower = RoomNamed(arrow);
+      ASSERT_NE(lower, nullptr) << arrow << " is no room";
+      EXPECT_GT(lower->Floor, room.Floor) << room.Name << " to " << arrow;
+    }
+  }
+}
+
+TEST(Floors, TheTableIsReadRowByRow) {
+  const auto rooms = RoomsOf({"# a: comment", "map: geodesy core", "----", "core:", ""});
+  ASSERT_EQ(rooms.size(), 2U);
+  EXPECT_EQ(rooms[0].Name, "map");
+  EXPECT_EQ(rooms[0].Arrows, (std::vector<std::string>{"geodesy", "core"}));
+  EXPECT_EQ(rooms[0].Floor, 0);
+  EXPECT_EQ(rooms[1].Name, "core");
+  EXPECT_TRUE(rooms[1].Arrows.empty());
+  EXPECT_EQ(rooms[1].Floor, 1);
 }
 
 TEST(Floors, OnlyAFewKnowTheToolkit) {
@@ -115,8 +175,6 @@ TEST(Floors, OnlyAFewKnowTheToolkit) {
     }
   }
 }
-
-using Edges = std::map<std::string, std::set<std::string>>;
 
 // The nodes of a circle in `edges`, empty when there is none.
 std::vector<std::string> CircleIn(const Edges& edges) {
@@ -158,16 +216,12 @@ TEST(Floors, CirclesAreFound) {
 }
 
 TEST(Floors, NoCircleBetweenFilesOrRooms) {
-  Edges files;
+  const Edges files = IncludesOfFiles();
   Edges rooms;
-  for (const SourceFile& file : Sources()) {
-    const std::string here = file.Path.substr(4);
-    for (const std::string& line : file.Lines) {
-      const auto included = IncludedHere(line);
-      if (!included) continue;
-      files[here].insert(*included);
-      const Room* from = RoomOf(here);
-      const Room* to = RoomOf(*included);
+  for (const auto& [file, includes] : files) {
+    for (const std::string& included : includes) {
+      const Room* from = RoomOf(file);
+      const Room* to = RoomOf(included);
       if (from && to && from != to) rooms[from->Name].insert(to->Name);
     }
   }
@@ -177,8 +231,8 @@ TEST(Floors, NoCircleBetweenFilesOrRooms) {
 
 TEST(Floors, TheTableItselfHasNoCircle) {
   Edges table;
-  for (const Room& room : kRooms)
-    table[room.Name].insert(room.Below.begin(), room.Below.end());
+  for (const Room& room : Rooms())
+    table[room.Name].insert(room.Arrows.begin(), room.Arrows.end());
   EXPECT_EQ(Joined(CircleIn(table)), "");
 }
 
