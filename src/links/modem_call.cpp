@@ -1,3 +1,4 @@
+// Asks for the call in each modem's words, and finds the answer among prompts and echoes.
 #include "links/modem_call.h"
 
 #include <vector>
