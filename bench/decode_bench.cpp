@@ -1,6 +1,5 @@
-// Decoding of 100,000 varied packets, in process. The limit to keep is that of the field's usual
-// decoder, decode_aprs, whole process against whole process: bench/compare_decode.sh prints the
-// ratio.
+// Decoding of 100,000 varied packets, in process. What is to be kept is the speed of the field's
+// usual decoder, decode_aprs, whole process against whole process: bench/compare measures that.
 #include <benchmark/benchmark.h>
 
 #include <string>

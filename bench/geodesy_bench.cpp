@@ -1,5 +1,5 @@
 // GeodeticToUtm against the same projection of the PROJ library (proj_trans_array, +proj=utm), the
-// same points in the same run. The limit to keep: as many points a second as PROJ.
+// same points in the same run.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 // The whole program in virtual time on a busy frequency: 20 frames a second for 5 minutes, each
 // 25th of the followed station, a click on the map every 3 s. Tells frames in, stored, repeats and
-// lost; the limit for lost is 0.
+// lost.
 #include <benchmark/benchmark.h>
 
 #include "tests/station/busy_air.h"
