@@ -69,7 +69,9 @@ class World {
     room_ = std::make_unique<MapRoom>(
         MapRedrawSections{state_.Map, state_.Stores, state_.Followed, state_.Gps,
                           state_.Transmission, state_.Identity},
-        controls_, MapPlatform{files_, clock_, map_, base_}, overlays_, timer1_);
+        MapRedrawControls{controls_.Window, controls_.Map, controls_.Scales, controls_.Palette,
+                          controls_.Moni1, controls_.MoniAll, controls_.Record, controls_.Chat},
+        controls_.Readouts, MapPlatform{files_, clock_, map_, base_}, overlays_, timer1_);
   }
   void Redraw() { room_->Redrawer.MapRedraw(); }
   MapViewState& View() { return state_.Map; }

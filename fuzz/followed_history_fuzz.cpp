@@ -7,7 +7,10 @@
 #include <utility>
 #include <vector>
 
-#include "core/controls/main_window_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/moni1_controls.h"
+#include "core/controls/status_controls.h"
+#include "core/controls/window_controls.h"
 #include "core/history_thinning.h"
 #include "core/state/gps.h"
 #include "reception/followed_history.h"
@@ -30,13 +33,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   zepril::MapViewState map;
   zepril::GpsState gps;
   zepril::AlarmState alarms;
-  zepril::MainWindowControls controls;
+  zepril::WindowControls window;
+  zepril::MapControls map_bar;
+  zepril::Moni1Controls moni1;
+  zepril::StatusControls status;
   zepril::MemoryFiles disk;
   NoSettings settings;
   identity.MapSystemFolder = "M";
-  zepril::DistanceAlarm alarm(alarms, identity, followed, map, controls.Status, controls.Window);
-  zepril::FollowedHistory history(identity, stores, followed, map, gps, controls.Moni1,
-                                  controls.Map, alarm, disk, settings, controls.Status.FileNotice);
+  zepril::DistanceAlarm alarm(alarms, identity, followed, map, status, window);
+  zepril::FollowedHistory history(identity, stores, followed, map, gps, moni1, map_bar, alarm, disk,
+                                  settings, status.FileNotice);
 
   // Loading, and a second start on what the first one left.
   const std::string path = "M\\LOG\\QX7KB.TXT";

@@ -2,7 +2,7 @@
 // sheets, read-outs and the redraw. Whoever shows a map owns one.
 #pragma once
 
-#include "core/controls/main_window_controls.h"
+#include "core/controls/readout_controls.h"
 #include "core/symbol_table.h"
 #include "core/timer.h"
 #include "map/map_library.h"
@@ -26,16 +26,13 @@ struct MapPlatform {
 };
 
 struct MapRoom {
-  MapRoom(MapRedrawSections sections, MainWindowControls& controls, MapPlatform platform,
-          OverlayLayers& overlays, Timer& timer1)
+  MapRoom(MapRedrawSections sections, MapRedrawControls controls, ReadoutControls& readouts,
+          MapPlatform platform, OverlayLayers& overlays, Timer& timer1)
       : Library(platform.Disk, sections.Identity, sections.View, controls.Scales),
         Tiles(platform.Disk, platform.LocalClock),
         Sheets(platform.Disk, sections.Identity.ProgramFolder),
-        ReadoutTexts(sections.View, sections.Followed, sections.Stores.Moni1Records,
-                     controls.Readouts),
-        Redrawer(sections,
-                 {controls.Window, controls.Map, controls.Scales, controls.Palette, controls.Moni1,
-                  controls.MoniAll, controls.Record, controls.Chat},
+        ReadoutTexts(sections.View, sections.Followed, sections.Stores.Moni1Records, readouts),
+        Redrawer(sections, controls,
                  {platform.MapSurface, platform.BaseSurface, Tiles, Library, Sheets, Symbols,
                   ReadoutTexts, overlays, platform.LocalClock, timer1}) {}
   MapRoom(const MapRoom&) = delete;

@@ -293,7 +293,9 @@ int Paint(const Arguments& arguments, Files& files, RuntimeState& state, const R
   controls.Record.Frame1.Visible = false;
   MapRoom room(
       {state.Map, state.Stores, state.Followed, state.Gps, state.Transmission, state.Identity},
-      controls, {files, clock, map, base}, overlays, timer1);
+      {controls.Window, controls.Map, controls.Scales, controls.Palette, controls.Moni1,
+       controls.MoniAll, controls.Record, controls.Chat},
+      controls.Readouts, {files, clock, map, base}, overlays, timer1);
   room.Library.MapLibraryScan();
   for (CheckBox& box : controls.Scales.FrameBox)
     box.Value = arguments.Has("--frames") ? 1 : 0;

@@ -309,11 +309,12 @@ class SendingTest : public EngineTest {
                    FrameSenderTools{local, *remote, modem, hurried});
     beacon.emplace(
         BeaconSections{state.Identity, state.Transmission, state.Map, state.Gps, state.Settings},
-        BeaconTools{*sender, symbols, files, loop, controls.Window, controls.Map});
+        BeaconTools{*sender, symbols, files, loop, window, map});
   }
 
   RuntimeState state;
-  MainWindowControls controls;
+  WindowControls window;
+  MapControls map;
   SymbolTable symbols;
   NoProgram nobody;
   AbsentSerialPort modem;

@@ -4,7 +4,15 @@
 #include <memory>
 #include <string>
 
-#include "core/controls/main_window_controls.h"
+#include "core/controls/chat_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/moni1_controls.h"
+#include "core/controls/moni_all_controls.h"
+#include "core/controls/palette_controls.h"
+#include "core/controls/readout_controls.h"
+#include "core/controls/record_panel_controls.h"
+#include "core/controls/scale_controls.h"
+#include "core/controls/window_controls.h"
 #include "core/position_text.h"
 #include "core/runtime_state.h"
 #include "core/text_fields.h"
@@ -47,6 +55,23 @@ struct RecordMaker {
   }
 };
 
+// The groups of controls that the map handles.
+struct MapWorldControls {
+  WindowControls Window;
+  MapControls Map;
+  ReadoutControls Readouts;
+  ScaleControls Scales;
+  PaletteControls Palette;
+  Moni1Controls Moni1;
+  MoniAllControls MoniAll;
+  RecordPanelControls Record;
+  ChatControls Chat;
+
+  MapRedrawControls Redraw() {
+    return {Window, Map, Scales, Palette, Moni1, MoniAll, Record, Chat};
+  }
+};
+
 struct MapWorld {
   static constexpr int kWidth = 800;
   static constexpr int kHeight = 600;
@@ -59,7 +84,7 @@ struct MapWorld {
         Base(kWidth, kHeight),
         Room({State.Map, State.Stores, State.Followed, State.Gps, State.Transmission,
               State.Identity},
-             Controls, {Disk, Clock, Surface, Base}, overlays, Timer1) {
+             Controls.Redraw(), Controls.Readouts, {Disk, Clock, Surface, Base}, overlays, Timer1) {
     State.Identity.ProgramFolder = R"(C:\Z)";
     State.Identity.TempFolder = R"(C:\Z\TEMP)";
     State.Identity.MapsPath = R"(C:\Z\U33)";
@@ -110,7 +135,7 @@ struct MapWorld {
   RecorderSurface Surface;
   RecorderSurface Base;
   RuntimeState State;
-  MainWindowControls Controls;
+  MapWorldControls Controls;
   Timer Timer1{6000};
   Timer Timer2{6000};
   MapRoom Room;

@@ -7,7 +7,13 @@
 #include <utility>
 #include <vector>
 
-#include "core/controls/main_window_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/moni1_controls.h"
+#include "core/controls/moni_all_controls.h"
+#include "core/controls/raw_list_controls.h"
+#include "core/controls/record_panel_controls.h"
+#include "core/controls/status_controls.h"
+#include "core/controls/window_controls.h"
 #include "core/state/gps.h"
 #include "platform/monitor_engine.h"
 #include "reception/receive_pass.h"
@@ -68,6 +74,17 @@ class RecordingActions final : public MapActions,
   std::vector<std::string> Gated;
   std::vector<std::pair<std::string, std::string>> ConfigLines;
   std::function<void()> OnRedraw;
+};
+
+// The groups of controls that reception handles.
+struct ReceptionControls {
+  WindowControls Window;
+  MapControls Map;
+  Moni1Controls Moni1;
+  MoniAllControls MoniAll;
+  RecordPanelControls Record;
+  RawListControls Raw;
+  StatusControls Status;
 };
 
 // A station in zone U33 that receives through a PK-232 (its text is the normal form already).
@@ -132,7 +149,7 @@ class Reception {
   InternetState Internet;
   FollowedStationState Followed;
   GpsState Gps;
-  MainWindowControls Controls;
+  ReceptionControls Controls;
   SymbolTable Symbols;
   Timer Timer1{6000};
   VirtualClock Time;

@@ -8,6 +8,14 @@
 #include <string>
 #include <vector>
 
+#include "core/controls/chat_controls.h"
+#include "core/controls/gate_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/object_setup_controls.h"
+#include "core/controls/record_panel_controls.h"
+#include "core/controls/transmit_controls.h"
+#include "core/controls/tx_setup_controls.h"
+#include "core/controls/window_controls.h"
 #include "core/actions/map_actions.h"
 #include "core/actions/program_actions.h"
 #include "core/actions/settings_actions.h"
@@ -53,6 +61,18 @@ class CountedActions final : public MapActions, public SettingsActions, public P
   std::function<void()> OnSave;
 };
 
+// The groups of controls that transmission handles.
+struct TransmitWorldControls {
+  WindowControls Window;
+  MapControls Map;
+  RecordPanelControls Record;
+  TransmitControls Transmit;
+  ChatControls Chat;
+  GateControls Gate;
+  TxSetupControls TxSetup;
+  ObjectSetupControls ObjectSetup;
+};
+
 struct TransmitWorld {
   TransmitWorld() {
     State.Identity.MyCall = "QX7KB";
@@ -67,7 +87,7 @@ struct TransmitWorld {
   }
 
   RuntimeState State;
-  MainWindowControls Controls;
+  TransmitWorldControls Controls;
   RecordingEngine Engine;
   FakeSocket Socket;
   FakeSerial Port;
