@@ -45,6 +45,12 @@ struct Control {
   bool HasFocus = false;     // set by the desktop
   Presses PressesInWaits = Presses::OneKept;
 
+  // From the control's row in core/texts, empty without one.
+  std::string Name;        // of its widget too
+  std::string Called;      // the label beside a field, and what a screen reader says
+  std::string WhileEmpty;  // what stands in an empty field; said of a control without a caption
+  std::string KeyName;     // the key that does the same, told in the tool tip
+
   Event Click;
   Event RightClick;
   Event DoubleClick;

@@ -70,10 +70,10 @@ void ShowColours(QWidget* widget, const Control& control, const Look& look) {
 }
 
 // The tool tip, with the key that does the same.
-QString TipOf(const QWidget* widget, const std::string& tip) {
-  const QString key = widget->property("key_name").toString();
-  if (tip.empty() || key.isEmpty()) return ToQt(tip);
-  return ToQt(tip) + QStringLiteral("  [%1]").arg(key);
+QString TipOf(const Control& control) {
+  const QString tip = ToQt(control.ToolTip);
+  if (tip.isEmpty() || control.KeyName.empty()) return tip;
+  return tip + QStringLiteral("  [%1]").arg(ToQt(control.KeyName));
 }
 
 // Left to itself the focus of what goes would jump to whatever comes next, and Enter press that, or
@@ -94,8 +94,7 @@ void ShowCommon(QWidget* widget, Control& control, Shown& shown, const Look& loo
     if (!control.Enabled) DropFocusIn(widget);
     widget->setEnabled(control.Enabled);
   }
-  if (!shown.Known || shown.ToolTip != control.ToolTip)
-    widget->setToolTip(TipOf(widget, control.ToolTip));
+  if (!shown.Known || shown.ToolTip != control.ToolTip) widget->setToolTip(TipOf(control));
   if (shown.BackColour != control.BackColour || shown.ForeColour != control.ForeColour) {
     ShowColours(widget, control, look);
   }
@@ -153,6 +152,11 @@ void ShowCaption(QAbstractButton* widget, const std::string& caption, const std:
   shown.ToolTip = tip;
 }
 
+void ShowWhileEmpty(QComboBox* widget, const QString& text) {
+  if (widget->isEditable()) return widget->lineEdit()->setPlaceholderText(text);
+  widget->setPlaceholderText(text);
+}
+
 // A modem's text: CR, LF or both end a line, what has no picture shows as the key that types it.
 QString LinesOf(const std::string& text) {
   QString lines;
@@ -191,6 +195,7 @@ void Binder::Press(const Control& control, const Event& act) {
 }
 
 void Binder::BindCommon(QWidget* widget, Control& control, bool press_is_click) {
+  NameAfter(widget, control);
   watched_.push_back({widget, &control, nullptr, press_is_click});
   widget->installEventFilter(this);
   if (control.RightClick) new CornerMark(widget);
@@ -280,6 +285,7 @@ void Binder::Bind(QLabel* widget, Label& control) {
 
 void Binder::Bind(QLineEdit* widget, TextBox& control) {
   BindCommon(widget, control);
+  if (!control.WhileEmpty.empty()) widget->setPlaceholderText(ToQt(control.WhileEmpty));
   connect(widget, &QLineEdit::textEdited, this, [this, widget, &control] {
     control.Text = OneLine(widget->text());
     Raise(control.Change);
@@ -319,6 +325,7 @@ void Binder::BindFocus(QWidget* widget, const TextBox& control) {
 
 void Binder::Bind(QComboBox* widget, ComboBox& control) {
   BindCommon(widget, control);
+  if (!control.WhileEmpty.empty()) ShowWhileEmpty(widget, ToQt(control.WhileEmpty));
   new CornerMark(widget, MarkKind::DropDown);
   connect(widget, &QComboBox::activated, this, [this, widget, &control](int index) {
     // A field that is left with the name of an entry in it was typed, or just passed by the Tab

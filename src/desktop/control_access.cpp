@@ -4,6 +4,8 @@
 #include <QAbstractButton>
 #include <QAccessibleWidget>
 
+#include "platform/qt/text.h"
+
 namespace zepril {
 namespace {
 
@@ -54,6 +56,12 @@ QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
 
 }  // namespace
 
+void NameAfter(QWidget* widget, const Control& control) {
+  if (!control.Name.empty()) widget->setObjectName(ToQt(control.Name));
+  if (!control.Called.empty()) widget->setAccessibleName(ToQt(control.Called));
+  if (!control.WhileEmpty.empty()) SpeakOfEmpty(widget, ToQt(control.WhileEmpty));
+}
+
 void SetAccessibleRole(QWidget* widget, QAccessible::Role role) {
   static const bool installed = [] {
     QAccessible::installFactory(MakeAccess);
@@ -67,8 +75,8 @@ void SetAccessibleRole(QWidget* widget, QAccessible::Role role) {
   }
 }
 
-void SpeakOfEmpty(QWidget* widget, const char* name) {
-  widget->setProperty(kSpokenName, QString::fromLatin1(name));
+void SpeakOfEmpty(QWidget* widget, const QString& name) {
+  widget->setProperty(kSpokenName, name);
 }
 
 QString SpokenOfEmpty(const QWidget* widget) {

@@ -3,6 +3,7 @@
 
 #include <QPainter>
 
+#include "core/texts/window_texts.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
@@ -14,12 +15,12 @@ LampWidget::LampWidget(QWidget* parent) : QWidget(parent) {
 
 void LampWidget::Show(const LinkLamp& lamp) {
   setToolTip(ToQt(lamp.ToolTip));
-  const char* name = "radio link: none";
-  if (lamp.State == LampState::Data) name = "radio link: data";
-  if (lamp.State == LampState::Silent) name = "radio link: silent";
-  if (lamp.State == LampState::Lost) name = "radio link: lost";
-  if (lamp.State == LampState::Paused) name = "radio link: paused";
-  setAccessibleName(QString::fromLatin1(name));
+  Text name = window_texts::kLampNone;
+  if (lamp.State == LampState::Data) name = window_texts::kLampData;
+  if (lamp.State == LampState::Silent) name = window_texts::kLampSilent;
+  if (lamp.State == LampState::Lost) name = window_texts::kLampLost;
+  if (lamp.State == LampState::Paused) name = window_texts::kLampPaused;
+  setAccessibleName(ToQt(name));
   if (state_ == lamp.State) return;
   state_ = lamp.State;
   update();

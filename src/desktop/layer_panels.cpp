@@ -36,20 +36,19 @@ LayerPanels::LayerPanels(WindowParts& parts, MainWindowControls& controls, QWidg
 
 void LayerPanels::MakePicturePanel(const Files& files) {
   PicturePanelControls& p = controls_.Picture;
-  picture_ = parts_.Panel("Frame8", &map_);
+  picture_ = parts_.Panel(&map_);
   auto* box = TightBox(QBoxLayout::TopToBottom, picture_);
   auto* view = new PictureView(parts_.Loop, p.Picture);
-  view->setObjectName(QStringLiteral("Picture"));
   box->addWidget(view, 1);
   auto* row = TightBox(QBoxLayout::LeftToRight);
   row->setContentsMargins(kMargin, 0, kMargin, kGap);
-  row->addWidget(parts_.BoundButton("Command29", p.Command29));
-  row->addWidget(parts_.BoundButton("Command30", p.Command30));
-  QLabel* name = parts_.FixedLabel("PictureName");
+  row->addWidget(parts_.BoundButton(p.Command29));
+  row->addWidget(parts_.BoundButton(p.Command30));
+  QLabel* name = parts_.FixedLabel();
   row->addWidget(name, 1);
   parts_.Binding.Bind(name, p.PictureName);
-  row->addWidget(parts_.BoundButton("Command70", p.Command70));
-  row->addWidget(parts_.BoundButton("Command71", p.Command71));
+  row->addWidget(parts_.BoundButton(p.Command70));
+  row->addWidget(parts_.BoundButton(p.Command71));
   box->addLayout(row);
   parts_.Binding.Bind(picture_, p.Frame8);
   parts_.Binding.OnControlsOut([view, &p, &files] {
@@ -59,57 +58,53 @@ void LayerPanels::MakePicturePanel(const Files& files) {
 
 void LayerPanels::MakePlacePanel() {
   PlaceControls& p = controls_.Places;
-  place_ = parts_.Panel("PoiPanel", &map_);
+  place_ = parts_.Panel(&map_);
   QGridLayout* grid = parts_.SetUpGrid(place_, p.PoiPanel, 4);
   auto* name = new QLineEdit;
-  name->setObjectName(QStringLiteral("Text4"));
-  name->setAccessibleName(QStringLiteral("name of the POI"));
   name->setFont(parts_.FixedFont);
   grid->addWidget(name, 1, 0, 1, 4);
   parts_.Binding.Bind(name, p.Text4);
   auto* rule = new QLabel;
-  rule->setObjectName(QStringLiteral("Label14"));
   rule->setProperty("dim", true);
   rule->setWordWrap(true);
   grid->addWidget(rule, 2, 0, 1, 4);
   parts_.Binding.Bind(rule, p.Label14);
-  grid->addWidget(parts_.BoundButton("PoiOk", p.PoiOk), 3, 0);
-  grid->addWidget(parts_.BoundButton("Command64", p.Command64), 3, 1);
-  grid->addWidget(parts_.BoundButton("Command67", p.Command67), 3, 2);
-  grid->addWidget(parts_.BoundButton("PoiClose", p.PoiClose), 3, 3);
+  grid->addWidget(parts_.BoundButton(p.PoiOk), 3, 0);
+  grid->addWidget(parts_.BoundButton(p.Command64), 3, 1);
+  grid->addWidget(parts_.BoundButton(p.Command67), 3, 2);
+  grid->addWidget(parts_.BoundButton(p.PoiClose), 3, 3);
   parts_.Binding.Bind(place_, p.PoiPanel);
 }
 
 void LayerPanels::MakeIonoPanel() {
   IonoControls& i = controls_.Iono;
-  iono_ = parts_.Panel("Frame18", &map_);
+  iono_ = parts_.Panel(&map_);
   QGridLayout* grid = parts_.SetUpGrid(iono_, i.Frame18, 2);
-  parts_.FieldRow(grid, 1, "Text11", "SUNSPOT(R)", i.Text11);
-  parts_.FieldRow(grid, 2, "Text12", "K", i.Text12);
-  QPushButton* detailed = NamedButton("FoptDetailed");
+  parts_.FieldRow(grid, 1, i.Text11);
+  parts_.FieldRow(grid, 2, i.Text12);
+  QPushButton* detailed = SmallButton();
   grid->addWidget(detailed, 3, 0, 1, 2);
   parts_.Binding.Bind(detailed, i.FoptDetailed);
-  grid->addWidget(parts_.BoundButton("IonoOk", i.IonoOk), 4, 0);
-  grid->addWidget(parts_.BoundButton("IonoClose", i.IonoClose), 4, 1);
+  grid->addWidget(parts_.BoundButton(i.IonoOk), 4, 0);
+  grid->addWidget(parts_.BoundButton(i.IonoClose), 4, 1);
   parts_.Binding.Bind(iono_, i.Frame18);
 }
 
 void LayerPanels::MakeSunPanel(const QtSurface& sun) {
   SunControls& s = controls_.Sun;
-  sun_ = parts_.Panel("SunPanel", &map_);
+  sun_ = parts_.Panel(&map_);
   sun_->setAttribute(Qt::WA_TransparentForMouseEvents);  // the button is held on the map
   auto* grid = new QGridLayout(sun_);
   grid->setContentsMargins(8, 8, 8, 8);
   grid->setSpacing(2);
-  QLabel* title = parts_.FixedLabel("SunTitle");
+  QLabel* title = parts_.FixedLabel();
   grid->addWidget(title, 0, 0, 1, 2);
   parts_.Binding.Bind(title, s.SunTitle);
   auto* plot = new PlotView(s.SunPlot, sun);
-  plot->setObjectName(QStringLiteral("SunPlot"));
   grid->addWidget(plot, 1, 0, 1, 2);
   for (std::size_t row = 0; row < SunControls::kRows; ++row) {
-    QLabel* name = parts_.FixedLabel("SunName");
-    QLabel* value = parts_.FixedLabel("SunValue");
+    QLabel* name = parts_.FixedLabel();
+    QLabel* value = parts_.FixedLabel();
     value->setAlignment(Qt::AlignRight);
     grid->addWidget(name, static_cast<int>(row) + 2, 0);
     grid->addWidget(value, static_cast<int>(row) + 2, 1);
@@ -125,14 +120,11 @@ void LayerPanels::MakeSunPanel(const QtSurface& sun) {
 void LayerPanels::MakeProgressPanel() {
   ProgressControls& p = controls_.Progress;
   // Beside the map: set-up panels, which stand there too, must not hide it.
-  progress_ = parts_.Panel("ProgressPanel", map_.parentWidget());
+  progress_ = parts_.Panel(map_.parentWidget());
   auto* box = TightBox(QBoxLayout::TopToBottom, progress_);
   box->setContentsMargins(16, 12, 16, 12);
   auto* text = new QLabel;
-  text->setObjectName(QStringLiteral("ProgressText"));
   auto* bar = new FillBarWidget;
-  bar->setObjectName(QStringLiteral("ProgressBar"));
-  bar->setAccessibleName(QStringLiteral("progress"));
   box->addWidget(text);
   box->addWidget(bar);
   parts_.Binding.Bind(text, p.ProgressText);

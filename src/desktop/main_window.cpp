@@ -16,6 +16,7 @@
 #include <algorithm>
 
 #include "core/text_fields.h"
+#include "core/texts/window_texts.h"
 #include "desktop/fitted_label.h"
 #include "desktop/keys.h"
 #include "desktop/map_bar.h"
@@ -87,7 +88,6 @@ MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fo
     const MapViewState& view = program_.State().Map;
     return QPointF(view.CursorX, view.CursorY);
   };
-  NameKeys();
 
   // Ages grow, and what is told for some seconds goes, also when nothing happens.
   lamp_timer_.setInterval(1000);
@@ -99,25 +99,6 @@ MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fo
   ControlsOut();
 }
 
-// The tool tips tell the keys.
-void MainWindow::NameKeys() {
-  static constexpr const char* kKeys[][2] = {
-      {"Command8", "+"},         {"Command7", "-"},       {"Command1", "Page Up"},
-      {"Command2", "Page Down"}, {"Command12", "Home"},   {"Command13", "L"},
-      {"Check4", "G"},           {"Check9", "C"},         {"Check12", "I"},
-      {"Check14", "T"},          {"Command73", "P"},      {"PoiNew", "N"},
-      {"Command72", "D"},        {"Text15", "Ctrl+F"},    {"Command3", "Ctrl+L"},
-      {"Command57", "Ctrl+R"},   {"Command59", "Ctrl+S"}, {"Check6", "Ctrl+T: TX SETUP"},
-      {"Command66", "Alt+C"},    {"Command23", "Esc"},    {"Command43", "Esc"},
-      {"Command22", "Esc"},      {"Command71", "Esc"},    {"PoiClose", "Esc"},
-      {"IonoClose", "Esc"},      {"TxAbort", "Esc"},      {"Command32", "Esc"}};
-  for (const auto& [name, key] : kKeys) {
-    if (auto* widget = findChild<QWidget*>(QString::fromLatin1(name))) {
-      widget->setProperty("key_name", QString::fromLatin1(key));
-    }
-  }
-}
-
 // ---- Parts of the window --------------------------------------------------------------------
 
 QWidget* MainWindow::MakeBottomLine() {
@@ -126,16 +107,16 @@ QWidget* MainWindow::MakeBottomLine() {
   auto* row = TightBox(QBoxLayout::LeftToRight, line);
   row->setContentsMargins(8, 4, 8, 4);
   auto* station = new FittedLabel(1);
-  station->setObjectName(QStringLiteral("Label11"));
   station->setFont(parts_.FixedFont);
   station->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  QLabel* status = parts_.FixedLabel("Label15");
+  QLabel* status = parts_.FixedLabel();
   lamp_ = new LampWidget;
   row->addWidget(station, 1);
   row->addSpacing(12);
   row->addWidget(status);
   row->addSpacing(8);
-  link_words_ = parts_.FixedLabel("LinkWords");
+  link_words_ = parts_.FixedLabel();
+  link_words_->setObjectName(QStringLiteral("LinkWords"));
   row->addWidget(link_words_);
   row->addWidget(lamp_);
   binder_.Bind(station, controls_.Readouts.Label11);
@@ -162,17 +143,12 @@ QWidget* MainWindow::MakeRawPage() {
   auto* box = TightBox(QBoxLayout::TopToBottom, page);
   box->setContentsMargins(4, 4, 4, 4);
   auto* list = new QListView;
-  list->setObjectName(QStringLiteral("RawList"));
-  list->setAccessibleName(QStringLiteral("raw packets"));
   list->setFont(parts_.FixedFont);
   list->setUniformItemSizes(true);
   list->setEditTriggers(QAbstractItemView::NoEditTriggers);
   auto* search_row = TightBox(QBoxLayout::LeftToRight);
   auto* text = new QLineEdit;
-  text->setObjectName(QStringLiteral("Text14"));
-  text->setAccessibleName(QStringLiteral("text to search"));
-  text->setPlaceholderText(QStringLiteral("text to search"));
-  QPushButton* search = NamedButton("Command38");
+  QPushButton* search = SmallButton();
   search_row->addWidget(text, 1);
   search_row->addWidget(search);
   box->addWidget(list, 1);
@@ -187,12 +163,12 @@ QWidget* MainWindow::MakeRawPage() {
 
 // On a narrow window the columns fold into the drawer as tabs.
 void MainWindow::Arrange() {
-  const auto fold = [this](QWidget* column, bool folded, const char* title, int place) {
+  const auto fold = [this](QWidget* column, bool folded, Text title, int place) {
     const bool in_drawer = drawer_->indexOf(column) >= 0;
     if (folded == in_drawer) return;
     if (folded) {
       column->setMaximumWidth(QWIDGETSIZE_MAX);
-      drawer_->addTab(column, QString::fromLatin1(title));
+      drawer_->addTab(column, ToQt(title));
     } else {
       column->setFixedWidth(column == left_column_ ? kLeftWidth : kRightWidth);
       drawer_->removeTab(drawer_->indexOf(column));
@@ -203,8 +179,8 @@ void MainWindow::Arrange() {
     }
   };
   const int pages = drawer_->count();
-  fold(right_column_, width() < kFoldRightBelow, "STATIONS", 2);
-  fold(left_column_, width() < kFoldLeftBelow, "POSITION", 0);
+  fold(right_column_, width() < kFoldRightBelow, window_texts::kStations, 2);
+  fold(left_column_, width() < kFoldLeftBelow, window_texts::kPosition, 0);
   ShowDrawer();
   if (drawer_->count() != pages) ShareHeight();
 }
@@ -220,22 +196,22 @@ void MainWindow::ShowDrawer() {
   const bool was_open = !drawer_->isHidden();
   const bool terminal = controls_.Terminal.Frame19.Visible;
   const bool terminal_changes = terminal != (drawer_->indexOf(terminal_page_) >= 0);
-  ShowPage(raw_page_, controls_.Raw.RawList.Visible, "RAW");
-  ShowPage(terminal_page_, terminal, "TERMINAL");
+  ShowPage(raw_page_, controls_.Raw.RawList.Visible, window_texts::kRaw);
+  ShowPage(terminal_page_, terminal, window_texts::kTerminal);
   drawer_->setVisible(drawer_->count() > 0);
   if (!was_open && !drawer_->isHidden()) ShareHeight();
   if (terminal_changes) MakeRoomForTerminal(terminal);
 }
 
 // A page that comes is the one that is seen.
-void MainWindow::ShowPage(QWidget* page, bool shown, const char* title) {
+void MainWindow::ShowPage(QWidget* page, bool shown, Text title) {
   const int at = drawer_->indexOf(page);
   if (shown == (at >= 0)) return;
   if (!shown) {
     if (page->isAncestorOf(focusWidget())) map_->setFocus();
     return drawer_->removeTab(at);
   }
-  drawer_->insertTab(0, page, QString::fromLatin1(title));
+  drawer_->insertTab(0, page, ToQt(title));
   drawer_->setCurrentWidget(page);
 }
 
@@ -336,12 +312,12 @@ void MainWindow::Switch(CheckBox& control) {
 // Opened by a key it takes the next ones.
 void MainWindow::OpenStations() {
   Press(controls_.MoniAll.Command3);
-  if (controls_.MoniAll.HeardPanel.Visible) FocusOn("HeardList");
+  if (controls_.MoniAll.HeardPanel.Visible) FocusOn(controls_.MoniAll.HeardList);
 }
 
 // The field may lie on a page of the drawer that is not the shown one.
-void MainWindow::FocusOn(const char* name) {
-  auto* widget = findChild<QWidget*>(QString::fromLatin1(name));
+void MainWindow::FocusOn(const Control& control) {
+  auto* widget = findChild<QWidget*>(ToQt(control.Name));
   if (widget == nullptr) return;
   for (int page = 0; page < drawer_->count(); ++page) {
     if (drawer_->widget(page)->isAncestorOf(widget)) drawer_->setCurrentIndex(page);
@@ -370,7 +346,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 void MainWindow::PressControlKey(const QKeyEvent& event) {
   switch (event.key()) {
     case Qt::Key_F:
-      return FocusOn("Text15");
+      return FocusOn(controls_.MoniAll.Text15);
     case Qt::Key_L:
       return OpenStations();
     case Qt::Key_R:

@@ -65,12 +65,11 @@ class MainWindow final : public QWidget {
   void Arrange();
   void ShowDrawer();
   void ShowLamp();
-  void ShowPage(QWidget* page, bool shown, const char* title);
+  void ShowPage(QWidget* page, bool shown, Text title);
   void MakeRoomForTerminal(bool open);
   void ShareHeight();
-  void NameKeys();
   void OpenStations();
-  void FocusOn(const char* name);
+  void FocusOn(const Control& control);
   void Press(const Button& control);
   void Switch(CheckBox& control);
   void PressControlKey(const QKeyEvent& event);

@@ -5,6 +5,8 @@
 #include <QResizeEvent>
 #include <QToolButton>
 
+#include "core/texts/window_texts.h"
+
 namespace zepril {
 namespace {
 
@@ -25,21 +27,20 @@ MapBar::MapBar(WindowParts& parts, MapControls& map) : parts_(parts) {
   AddGap();
   AddLayers(map);
   row_->addStretch(1);
-  Add("Command72", Picture::Brightness, map.Command72, kRoomForFollow);
-  Add("Command59", Picture::Save, map.Command59, kRoomForLayers);
+  Add(Picture::Brightness, map.Command72, kRoomForFollow);
+  Add(Picture::Save, map.Command59, kRoomForLayers);
 }
 
 template <typename ControlOfMap>
-QToolButton* MapBar::Add(const char* name, Picture picture, ControlOfMap& control,
-                         int caption_from) {
-  QToolButton* tool = parts_.Tool(name, picture, caption_from != kNever);
+QToolButton* MapBar::Add(Picture picture, ControlOfMap& control, int caption_from) {
+  QToolButton* tool = parts_.Tool(picture, caption_from != kNever);
   row_->addWidget(tool);
   parts_.Binding.Bind(tool, control);
   if (caption_from > 0 && caption_from != kNever) captioned_.push_back({tool, caption_from});
   return tool;
 }
 
-void MapBar::AddDim(const char* text) {
+void MapBar::AddDim(Text text) {
   QLabel* label = DimLabel(text);
   row_->addWidget(label);
   dim_.push_back(label);
@@ -53,27 +54,27 @@ void MapBar::AddGap() {
 }
 
 void MapBar::AddPositions(MapControls& map) {
-  AddDim("scale");
-  Add("Command1", Picture::Coarser, map.Command1, kNever);
-  Add("Command2", Picture::Finer, map.Command2, kNever);
+  AddDim(window_texts::kScale);
+  Add(Picture::Coarser, map.Command1, kNever);
+  Add(Picture::Finer, map.Command2, kNever);
   AddGap();
-  AddDim("zoom");
-  Add("Command7", Picture::ZoomOut, map.Command7, kNever);
-  Add("Command9", Picture::ZoomOne, map.Command9, kNever);
-  Add("Command8", Picture::ZoomIn, map.Command8, kNever);
+  AddDim(window_texts::kZoom);
+  Add(Picture::ZoomOut, map.Command7, kNever);
+  Add(Picture::ZoomOne, map.Command9, kNever);
+  Add(Picture::ZoomIn, map.Command8, kNever);
   AddGap();
-  Add("Command12", Picture::Centre, map.Command12, 0)->setMinimumWidth(kCentreWidth);
-  Add("Option1", Picture::Own, map.Option1, kRoomForFollow);
-  Add("Option2", Picture::Station, map.Option2, kRoomForFollow);
+  Add(Picture::Centre, map.Command12, 0)->setMinimumWidth(kCentreWidth);
+  Add(Picture::Own, map.Option1, kRoomForFollow);
+  Add(Picture::Station, map.Option2, kRoomForFollow);
 }
 
 void MapBar::AddLayers(MapControls& map) {
-  Add("Check4", Picture::Grid, map.Check4, kRoomForLayers);
-  Add("Check9", Picture::Circles, map.Check9, kRoomForLayers);
-  Add("Check12", Picture::Pictures, map.Check12, kRoomForLayers);
-  Add("Check14", Picture::Track, map.Check14, kRoomForLayers);
+  Add(Picture::Grid, map.Check4, kRoomForLayers);
+  Add(Picture::Circles, map.Check9, kRoomForLayers);
+  Add(Picture::Pictures, map.Check12, kRoomForLayers);
+  Add(Picture::Track, map.Check14, kRoomForLayers);
   // The level is nowhere else to be seen.
-  Add("Command73", Picture::Places, map.Command73, 0);
+  Add(Picture::Places, map.Command73, 0);
 }
 
 void MapBar::resizeEvent(QResizeEvent* event) {

@@ -24,8 +24,8 @@ class MapBar final : public QFrame {
  private:
   // From which width of the bar on its caption stands beside the icon; 0: always.
   template <typename ControlOfMap>
-  QToolButton* Add(const char* name, Picture picture, ControlOfMap& control, int caption_from);
-  void AddDim(const char* text);
+  QToolButton* Add(Picture picture, ControlOfMap& control, int caption_from);
+  void AddDim(Text text);
   void AddGap();
   void AddPositions(MapControls& map);
   void AddLayers(MapControls& map);

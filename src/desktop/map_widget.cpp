@@ -30,8 +30,7 @@ MapWidget::MapWidget(QtLoop& loop, PictureBox& map, PictureBox& base, QtSurface&
       base_(base),
       map_surface_(map_surface),
       base_surface_(base_surface) {
-  setObjectName(QStringLiteral("Picture1"));
-  setAccessibleName(QStringLiteral("map"));
+  NameAfter(this, map_);
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);

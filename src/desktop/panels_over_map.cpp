@@ -12,8 +12,8 @@
 #include <string>
 
 #include "core/text_fields.h"
+#include "core/texts/window_texts.h"
 #include "desktop/class_button.h"
-#include "desktop/control_access.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
@@ -42,7 +42,7 @@ void PanelsOverMap::MakePanels() {
   MakeQthSetup();
   MakeHeardList();
   MakePalettePanel();
-  banner_ = parts_.FixedLabel("Text10");
+  banner_ = parts_.FixedLabel();
   banner_->setParent(&map_);
   banner_->setAlignment(Qt::AlignCenter);
   banner_->setMargin(6);
@@ -51,52 +51,43 @@ void PanelsOverMap::MakePanels() {
 }
 
 void PanelsOverMap::MakeNotices() {
-  const auto notice = [this](const char* name, Label& control) {
+  const auto notice = [this](Label& control) {
     auto* label = new QLabel(&map_);
-    label->setObjectName(QString::fromLatin1(name));
     label->setProperty("notice", true);
-    SpeakOfEmpty(label, "notice");
     label->setWordWrap(true);
     label->setAttribute(Qt::WA_NoMousePropagation);
     parts_.Binding.Bind(label, control);
     return label;
   };
-  link_notice_ = notice("LinkNotice", controls_.Status.LinkNotice);
-  file_notice_ = notice("FileNotice", controls_.Status.FileNotice);
+  link_notice_ = notice(controls_.Status.LinkNotice);
+  file_notice_ = notice(controls_.Status.FileNotice);
   // They may name a command or a file that is to be copied.
   link_notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   file_notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  mode_notice_ = notice("Label49", controls_.Terminal.Label49);
+  mode_notice_ = notice(controls_.Terminal.Label49);
   mode_notice_->setAlignment(Qt::AlignCenter);
 }
 
 void PanelsOverMap::MakeRecordPanel() {
   RecordPanelControls& r = controls_.Record;
-  record_panel_ = parts_.Panel("Frame1", &map_);
+  record_panel_ = parts_.Panel(&map_);
   auto* box = TightBox(QBoxLayout::TopToBottom, record_panel_);
   box->setContentsMargins(8, 8, 8, 8);
-  record_text_ = parts_.FixedLabel("Label20");
-  SpeakOfEmpty(record_text_, "station record");
+  record_text_ = parts_.FixedLabel();
   record_text_->setWordWrap(true);
   record_text_->setFocusPolicy(Qt::TabFocus);
   box->addWidget(record_text_);
   parts_.Binding.Bind(record_text_, r.Label20);
   KeepTailTogether();
   auto* row = TightBox(QBoxLayout::LeftToRight);
-  QLabel* mode = parts_.FixedLabel("Label19");
+  QLabel* mode = parts_.FixedLabel();
   parts_.Binding.Bind(mode, r.Label19);
-  const auto button = [&](const char* name, Button& control) {
-    row->addWidget(parts_.BoundButton(name, control));
-  };
-  button("Command18", r.Command18);
-  SpeakOfEmpty(row->itemAt(0)->widget(), "previous record");
+  row->addWidget(parts_.BoundButton(r.Command18));
   row->addWidget(mode);
-  button("Command19", r.Command19);
-  SpeakOfEmpty(row->itemAt(2)->widget(), "next record");
+  row->addWidget(parts_.BoundButton(r.Command19));
   row->addStretch(1);
-  button("Command11", r.Command11);
-  button("Command36", r.Command36);
-  button("Command23", r.Command23);
+  for (Button* control : {&r.Command11, &r.Command36, &r.Command23})
+    row->addWidget(parts_.BoundButton(*control));
   box->addLayout(row);
   parts_.Binding.Bind(record_panel_, r.Frame1);
 }
@@ -116,11 +107,12 @@ void PanelsOverMap::KeepTailTogether() {
 }
 
 void PanelsOverMap::MakeAlarmPanel() {
-  alarm_panel_ = parts_.Panel("Frame12", &map_);
+  alarm_panel_ = parts_.Panel(&map_);
   auto* box = TightBox(QBoxLayout::TopToBottom, alarm_panel_);
   box->setContentsMargins(16, 8, 16, 8);
-  auto* caption = parts_.FixedLabel("Frame12Caption");
-  QLabel* line = parts_.FixedLabel("Label25");
+  QLabel* caption = parts_.FixedLabel();
+  caption->setObjectName(ToQt(controls_.Status.Frame12.Name) + QStringLiteral("Caption"));
+  QLabel* line = parts_.FixedLabel();
   box->addWidget(caption);
   box->addWidget(line);
   parts_.Binding.Bind(line, controls_.Status.Label25);
@@ -133,18 +125,17 @@ void PanelsOverMap::MakeAlarmPanel() {
 
 void PanelsOverMap::MakeQthSetup() {
   QthSetupControls& q = controls_.Qth;
-  qth_panel_ = parts_.Panel("Frame2", &map_);
+  qth_panel_ = parts_.Panel(&map_);
   QGridLayout* grid = parts_.SetUpGrid(qth_panel_, q.Frame2, 2);
-  parts_.FieldRow(grid, 1, "TextQthNorth", "North km", q.TextQthNorth);
-  parts_.FieldRow(grid, 2, "TextQthEast", "East km", q.TextQthEast);
+  parts_.FieldRow(grid, 1, q.TextQthNorth);
+  parts_.FieldRow(grid, 2, q.TextQthEast);
   auto* note = new QLabel;
-  note->setObjectName(QStringLiteral("QthNote"));
   note->setProperty("fault", true);
   note->setWordWrap(true);
   grid->addWidget(note, 3, 0, 1, 2);
   parts_.Binding.Bind(note, q.QthNote);
-  grid->addWidget(parts_.BoundButton("QthOk", q.QthOk), 4, 0);
-  grid->addWidget(parts_.BoundButton("Command22", q.Command22), 4, 1);
+  grid->addWidget(parts_.BoundButton(q.QthOk), 4, 0);
+  grid->addWidget(parts_.BoundButton(q.Command22), 4, 1);
   QLabel* rests = RestsLabel();
   grid->addWidget(rests, 5, 0, 1, 2);
   parts_.Binding.Bind(rests, q.QthRests);
@@ -152,23 +143,20 @@ void PanelsOverMap::MakeQthSetup() {
 }
 
 void PanelsOverMap::MakeHeardList() {
-  heard_panel_ = parts_.Panel("HeardPanel", &map_);
+  heard_panel_ = parts_.Panel(&map_);
   auto* box = TightBox(QBoxLayout::TopToBottom, heard_panel_);
   box->setContentsMargins(8, 8, 8, 8);
-  box->addWidget(GroupCaption("HEARD STATIONS"));
+  box->addWidget(GroupCaption(window_texts::kHeardStations));
   auto* heads = TightBox(QBoxLayout::LeftToRight);
   heads->setSpacing(0);
   static constexpr int kHeadWidths[] = {76, 76, 64, 48};
   for (std::size_t column = 0; column < controls_.MoniAll.HeardOrder.size(); ++column) {
-    QPushButton* head = parts_.BoundButton(("HeardOrder" + WholeNumber(column)).c_str(),
-                                           controls_.MoniAll.HeardOrder[column]);
+    QPushButton* head = parts_.BoundButton(controls_.MoniAll.HeardOrder[column]);
     head->setProperty("tight", true);
     heads->addWidget(head, kHeadWidths[column]);
   }
   box->addLayout(heads);
   auto* list = new QListView;
-  list->setObjectName(QStringLiteral("HeardList"));
-  list->setAccessibleName(QStringLiteral("heard stations"));
   list->setFont(parts_.FixedFont);
   list->setUniformItemSizes(true);
   list->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -179,14 +167,12 @@ void PanelsOverMap::MakeHeardList() {
 
 void PanelsOverMap::MakePalettePanel() {
   PaletteControls& p = controls_.Palette;
-  palette_panel_ = parts_.Panel("PalettePanel", &map_);
+  palette_panel_ = parts_.Panel(&map_);
   auto* grid = new QGridLayout(palette_panel_);
   grid->setContentsMargins(8, 8, 8, 8);
   grid->setSpacing(kGap);
   for (std::size_t ink = 0; ink < p.Optionink.size(); ++ink) {
     auto* button = new ClassButton(parts_.Shades);
-    button->setObjectName(QStringLiteral("Optionink%1").arg(ink));
-    button->setAccessibleName(QStringLiteral("ink %1").arg(ink));
     button->setFixedSize(32, 24);
     button->setProperty("picture_only", true);
     grid->addWidget(button, static_cast<int>(ink / 8), static_cast<int>(ink % 8));
@@ -194,8 +180,8 @@ void PanelsOverMap::MakePalettePanel() {
     parts_.Binding.OnControlsOut(
         [this, button, ink] { button->SetFill(PlainColour(view_.InkColours[ink])); });
   }
-  grid->addWidget(parts_.BoundButton("Command42", p.Command42), 2, 0, 1, 4);
-  grid->addWidget(parts_.BoundButton("Command43", p.Command43), 2, 4, 1, 4);
+  grid->addWidget(parts_.BoundButton(p.Command42), 2, 0, 1, 4);
+  grid->addWidget(parts_.BoundButton(p.Command43), 2, 4, 1, 4);
   parts_.Binding.Bind(palette_panel_, p.PalettePanel);
 }
 

@@ -10,6 +10,7 @@
 #include <array>
 #include <string_view>
 
+#include "desktop/control_access.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
@@ -100,7 +101,7 @@ QImage ReadPicture(const QString& native_path, const QSize& room, double enlarge
 PictureView::PictureView(QtLoop& loop, ImageView& control, QWidget* parent)
     : QWidget(parent), loop_(loop), control_(control) {
   setAttribute(Qt::WA_OpaquePaintEvent);
-  setAccessibleName(QStringLiteral("picture"));
+  NameAfter(this, control);
   resized_.setSingleShot(true);
   resized_.setInterval(kResizedMs);
   connect(&resized_, &QTimer::timeout, this, [this] { Read(); });

@@ -3,10 +3,13 @@
 
 #include <QPainter>
 
+#include "desktop/control_access.h"
+
 namespace zepril {
 
 PlotView::PlotView(const PictureBox& control, const QtSurface& surface, int scale)
     : control_(control), surface_(surface) {
+  NameAfter(this, control);
   setFixedSize(surface.Picture().size() * scale);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -8,6 +8,9 @@
 
 #include <algorithm>
 
+#include "core/texts/window_texts.h"
+#include "platform/qt/text.h"
+
 namespace zepril {
 namespace {
 
@@ -16,8 +19,6 @@ constexpr int kLegendLeft = 4;
 constexpr int kLegendBox = 13;
 constexpr int kLegendText = 17;  // from the left edge of its box
 constexpr int kLegendGap = 8;
-constexpr const char* kTilesHere = "tiles here";
-constexpr const char* kFrames = "frames";
 
 void PaintFrameBox(QPainter& painter, const QRect& box, const Look& look, bool covered,
                    bool checked, bool focused) {
@@ -52,13 +53,8 @@ class FrameBoxButton final : public QAbstractButton {
 
 }  // namespace
 
-ScaleRow::ScaleRow(const QString& folder_name, const QString& scale, const Look& look,
-                   QWidget* parent)
+ScaleRow::ScaleRow(const Look& look, QWidget* parent)
     : QWidget(parent), look_(look), box_(new FrameBoxButton(look)), folders_(new QComboBox) {
-  box_->setObjectName(folder_name + QStringLiteral("Frames"));
-  box_->setAccessibleName(QStringLiteral("tile frames %1").arg(scale));
-  folders_->setObjectName(folder_name);
-  folders_->setAccessibleName(QStringLiteral("map folder %1").arg(scale));
   folders_->setFixedHeight(24);
   folders_->setMinimumWidth(0);
   folders_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -90,17 +86,17 @@ void ScaleRow::paintEvent(QPaintEvent*) {
 
 ScaleLegend::ScaleLegend(const Look& look, QWidget* parent) : QWidget(parent), look_(look) {
   setFixedHeight(kLegendHeight);
-  setAccessibleName(QStringLiteral("filled: tiles at the center, ticked: tile frames"));
+  setAccessibleName(ToQt(window_texts::kScaleLegend));
 }
 
 ScaleLegend::Places ScaleLegend::PlacesIn(int width, const QFontMetrics& metrics) {
   Places places;
   places.First = kLegendLeft;
   places.FirstEnd =
-      kLegendLeft + kLegendText + metrics.horizontalAdvance(QString::fromLatin1(kTilesHere));
+      kLegendLeft + kLegendText + metrics.horizontalAdvance(ToQt(window_texts::kTilesHere));
   // In the middle where there is room, never into the first.
   places.Second = std::max(width / 2 + kLegendGap, places.FirstEnd + kLegendGap);
-  const int length = kLegendText + metrics.horizontalAdvance(QString::fromLatin1(kFrames));
+  const int length = kLegendText + metrics.horizontalAdvance(ToQt(window_texts::kFrames));
   if (places.Second + length > width) places.Second = places.FirstEnd + kLegendGap;
   places.SecondEnd = places.Second + length;
   return places;
@@ -108,15 +104,15 @@ ScaleLegend::Places ScaleLegend::PlacesIn(int width, const QFontMetrics& metrics
 
 void ScaleLegend::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const auto entry = [&](int x, const char* text, bool covered, bool checked) {
+  const auto entry = [&](int x, Text text, bool covered, bool checked) {
     PaintFrameBox(painter, QRect(x, 2, kLegendBox, kLegendBox), look_, covered, checked, false);
     painter.setPen(look_.Dim);
     painter.drawText(QRect(x + kLegendText, 0, width(), height()), Qt::AlignLeft | Qt::AlignVCenter,
-                     QString::fromLatin1(text));
+                     ToQt(text));
   };
   const Places places = PlacesIn(width(), fontMetrics());
-  entry(places.First, kTilesHere, true, false);
-  entry(places.Second, kFrames, false, true);
+  entry(places.First, window_texts::kTilesHere, true, false);
+  entry(places.Second, window_texts::kFrames, false, true);
 }
 
 }  // namespace zepril

@@ -13,9 +13,7 @@ namespace zepril {
 
 class ScaleRow final : public QWidget {
  public:
-  // `scale` is what the row is called, "M0050".
-  ScaleRow(const QString& folder_name, const QString& scale, const Look& look,
-           QWidget* parent = nullptr);
+  explicit ScaleRow(const Look& look, QWidget* parent = nullptr);
   QAbstractButton* FrameBox() { return box_; }
   QComboBox* Folders() { return folders_; }
   void Show(bool covered, bool active);

@@ -18,15 +18,14 @@ constexpr int kMargin = 8;
 
 }  // namespace
 
-ScrollingPanel::ScrollingPanel(WindowParts& parts, const char* name, zepril::Frame& frame,
-                               QWidget* parent, QWidget& focus_after)
+ScrollingPanel::ScrollingPanel(WindowParts& parts, zepril::Frame& frame, QWidget* parent,
+                               QWidget& focus_after)
     : QFrame(parent), focus_after_(focus_after) {
-  setObjectName(QString::fromLatin1(name));
   setProperty("panel", true);
   setAttribute(Qt::WA_NoMousePropagation);
   auto* box = TightBox(QBoxLayout::TopToBottom, this);
   box->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  caption_ = GroupCaption("");
+  caption_ = GroupCaption(Text{""});
   caption_->setWordWrap(true);
   box->addWidget(caption_);
 

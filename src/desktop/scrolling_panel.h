@@ -17,8 +17,7 @@ class ScrollingPanel final : public QFrame {
  public:
   // The caption is that of `frame`, as is whether the panel is shown. When it comes the keys are
   // for its first field, once it is hidden for `focus_after` again.
-  ScrollingPanel(WindowParts& parts, const char* name, zepril::Frame& frame, QWidget* parent,
-                 QWidget& focus_after);
+  ScrollingPanel(WindowParts& parts, zepril::Frame& frame, QWidget* parent, QWidget& focus_after);
 
   // What lies in it from top to bottom, and the buttons from left to right.
   QBoxLayout* Content() { return content_; }

@@ -8,10 +8,13 @@
 #include <QPushButton>
 #include <QToolButton>
 
+#include "core/texts/window_texts.h"
 #include "desktop/class_button.h"
+#include "desktop/control_access.h"
 #include "desktop/fill_bar_widget.h"
 #include "desktop/fitted_label.h"
 #include "desktop/scale_row.h"
+#include "platform/qt/text.h"
 
 namespace zepril {
 namespace {
@@ -36,31 +39,30 @@ QWidget* SideColumns::MakeReadouts() {
   auto* group = new QWidget;
   auto* box = TightBox(QBoxLayout::TopToBottom, group);
   box->setSpacing(0);
-  box->addWidget(GroupCaption("POSITION"));
+  box->addWidget(GroupCaption(window_texts::kPosition));
   ReadoutControls& r = controls_.Readouts;
   struct Row {
-    const char* Name;
     Label& Control;
-    const char* Before;
+    Text Before;
   };
-  const Row rows[] = {{"Label1", r.Label1, "map center"}, {"Label2", r.Label2, nullptr},
-                      {"Label3", r.Label3, "cursor"},     {"Label4", r.Label4, nullptr},
-                      {"Label7", r.Label7, "MONI 1"},     {"Label8", r.Label8, nullptr}};
+  const Row rows[] = {{r.Label1, window_texts::kMapCentre}, {r.Label2, {}},
+                      {r.Label3, window_texts::kCursor},    {r.Label4, {}},
+                      {r.Label7, window_texts::kMoni1},     {r.Label8, {}}};
   for (const Row& row : rows) {
-    if (row.Before != nullptr) {
-      auto* dim = new QLabel(QString::fromLatin1(row.Before));
+    if (row.Before.IsThere()) {
+      auto* dim = new QLabel(ToQt(row.Before));
       dim->setProperty("dim", true);
       dim->setContentsMargins(0, 4, 0, 0);
       box->addWidget(dim);
     }
-    QLabel* label = parts_.FixedLabel(row.Name);
+    QLabel* label = parts_.FixedLabel();
     label->setMinimumHeight(16);
     label->setCursor(Qt::PointingHandCursor);
     label->setFocusPolicy(Qt::TabFocus);
     box->addWidget(label);
     parts_.Binding.Bind(label, row.Control);
   }
-  QLabel* scale = parts_.FixedLabel("ScaleText");
+  QLabel* scale = parts_.FixedLabel();
   scale->setContentsMargins(0, 8, 0, 0);
   box->addWidget(scale);
   parts_.Binding.Bind(scale, controls_.Map.ScaleText);
@@ -69,16 +71,11 @@ QWidget* SideColumns::MakeReadouts() {
 
 QWidget* SideColumns::MakeScales() {
   auto* group = new QWidget;
-  group->setObjectName(QStringLiteral("ScalePanel"));
+  NameAfter(group, controls_.Scales.ScalePanel);
   auto* box = TightBox(QBoxLayout::TopToBottom, group);
-  box->addWidget(GroupCaption("SCALES"));
-  static constexpr const char* kNames[] = {"Combo3", "Combo4", "Combo5",
-                                           "Combo6", "Combo7", "Combo8"};
-  static constexpr const char* kScales[] = {"M5000", "M1000", "M0200", "M0050", "M0010", "M0002"};
+  box->addWidget(GroupCaption(window_texts::kScales));
   for (std::size_t at = 0; at < controls_.Scales.Folder.size(); ++at) {
-    const QString scale = QString::fromLatin1(kScales[at]);
-    auto* row = new ScaleRow(QString::fromLatin1(kNames[at]), scale, parts_.Shades);
-    row->Folders()->setPlaceholderText(QStringLiteral("no ") + scale);
+    auto* row = new ScaleRow(parts_.Shades);
     box->addWidget(row);
     parts_.Binding.Bind(row->FrameBox(), controls_.Scales.FrameBox[at]);
     parts_.Binding.Bind(row->Folders(), controls_.Scales.Folder[at]);
@@ -87,17 +84,12 @@ QWidget* SideColumns::MakeScales() {
     });
   }
   auto* buttons = TightBox(QBoxLayout::LeftToRight);
-  struct Tool {
-    const char* Name;
-    Button& Control;
-  };
-  for (const Tool& tool :
-       {Tool{"Command5", controls_.Scales.Command5}, Tool{"Command6", controls_.Scales.Command6},
-        Tool{"Command37", controls_.Scales.Command37}}) {
-    QPushButton* button = NamedButton(tool.Name);
+  for (Button* tool :
+       {&controls_.Scales.Command5, &controls_.Scales.Command6, &controls_.Scales.Command37}) {
+    QPushButton* button = SmallButton();
     button->setStyleSheet(QStringLiteral("padding: 2px 2px;"));
     buttons->addWidget(button, 1);
-    parts_.Binding.Bind(button, tool.Control);
+    parts_.Binding.Bind(button, *tool);
   }
   box->addWidget(new ScaleLegend(parts_.Shades));
   box->addLayout(buttons);
@@ -105,13 +97,10 @@ QWidget* SideColumns::MakeScales() {
 }
 
 // A field that lists files and takes the name of a new one.
-QComboBox* SideColumns::MakeFileList(const char* name, const char* what, ComboBox& control) {
+QComboBox* SideColumns::MakeFileList(ComboBox& control) {
   auto* list = new QComboBox;
-  list->setObjectName(QString::fromLatin1(name));
-  list->setAccessibleName(QString::fromLatin1(what));
   list->setEditable(true);
   list->setInsertPolicy(QComboBox::NoInsert);
-  list->lineEdit()->setPlaceholderText(QString::fromLatin1(what));
   list->setFixedHeight(kControlHeight);
   list->setMinimumWidth(0);
   list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -122,17 +111,17 @@ QComboBox* SideColumns::MakeFileList(const char* name, const char* what, ComboBo
 QWidget* SideColumns::MakeFiles() {
   auto* group = new QWidget;
   auto* box = TightBox(QBoxLayout::TopToBottom, group);
-  box->addWidget(GroupCaption("FILES"));
+  box->addWidget(GroupCaption(window_texts::kFiles));
   TrackControls& tracks = controls_.Tracks;
-  box->addWidget(MakeFileList("Combo1", "TRK file", tracks.Combo1));
+  box->addWidget(MakeFileList(tracks.Combo1));
   auto* steps = TightBox(QBoxLayout::LeftToRight);
-  steps->addWidget(parts_.BoundButton("Command68", tracks.Command68), 1);
-  steps->addWidget(parts_.BoundButton("Command69", tracks.Command69), 1);
-  steps->addWidget(parts_.BoundButton("Frame10", tracks.Frame10), 2);
+  steps->addWidget(parts_.BoundButton(tracks.Command68), 1);
+  steps->addWidget(parts_.BoundButton(tracks.Command69), 1);
+  steps->addWidget(parts_.BoundButton(tracks.Frame10), 2);
   box->addLayout(steps);
   PlaceControls& places = controls_.Places;
-  box->addWidget(MakeFileList("Combo2", "POI file", places.Combo2));
-  box->addWidget(parts_.BoundButton("PoiNew", places.PoiNew));
+  box->addWidget(MakeFileList(places.Combo2));
+  box->addWidget(parts_.BoundButton(places.PoiNew));
   return group;
 }
 
@@ -146,8 +135,8 @@ QWidget* SideColumns::MakeRightColumn() {
   box->addWidget(MakeTransmit());
   box->addStretch(1);
   auto* pages = TightBox(QBoxLayout::LeftToRight);
-  pages->addWidget(parts_.BoundButton("Command57", controls_.Raw.Command57), 1);
-  pages->addWidget(parts_.BoundButton("Command65", controls_.Terminal.Command65), 1);
+  pages->addWidget(parts_.BoundButton(controls_.Raw.Command57), 1);
+  pages->addWidget(parts_.BoundButton(controls_.Terminal.Command65), 1);
   box->addLayout(pages);
   return column;
 }
@@ -156,11 +145,9 @@ QWidget* SideColumns::MakeMoni1() {
   auto* group = new QWidget;
   auto* box = TightBox(QBoxLayout::TopToBottom, group);
   Moni1Controls& m = controls_.Moni1;
-  box->addWidget(GroupCaption("MONI 1"));
+  box->addWidget(GroupCaption(window_texts::kMoni1));
 
   auto* call = new QComboBox;
-  call->setObjectName(QStringLiteral("Combo9"));
-  call->setAccessibleName(QStringLiteral("MONI 1 call"));
   call->setEditable(true);
   call->setInsertPolicy(QComboBox::NoInsert);
   call->setFont(parts_.FixedFont);
@@ -169,30 +156,26 @@ QWidget* SideColumns::MakeMoni1() {
   parts_.Binding.Bind(call, m.Combo9);
 
   auto* counts = TightBox(QBoxLayout::LeftToRight);
-  QLabel* count = parts_.FixedLabel("Label6");
+  QLabel* count = parts_.FixedLabel();
   auto* bar = new FillBarWidget;
-  bar->setObjectName(QStringLiteral("Label17"));
-  bar->setAccessibleName(QStringLiteral("size of the MONI 1 history"));
   counts->addWidget(count);
   counts->addWidget(bar, 1);
   box->addLayout(counts);
   parts_.Binding.Bind(count, m.Label6);
   parts_.Binding.Bind(bar, m.Label17);
 
-  for (auto& [name, control] : {std::pair<const char*, Label&>{"Label9", m.Label9},
-                                std::pair<const char*, Label&>{"Label10", m.Label10}}) {
+  for (Label* control : {&m.Label9, &m.Label10}) {
     // What stands below must not move under the hand when a text comes.
-    auto* label = new FittedLabel(&control == &m.Label10 ? kLongestTextLines : 1);
-    label->setObjectName(QString::fromLatin1(name));
+    auto* label = new FittedLabel(control == &m.Label10 ? kLongestTextLines : 1);
     label->setFont(parts_.FixedFont);
     label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     box->addWidget(label);
-    parts_.Binding.Bind(label, control);
+    parts_.Binding.Bind(label, *control);
   }
 
   auto* switches = TightBox(QBoxLayout::LeftToRight);
-  QPushButton* style = NamedButton("Command17");
-  QPushButton* alarm = NamedButton("Check1");
+  QPushButton* style = SmallButton();
+  QPushButton* alarm = SmallButton();
   switches->addWidget(style, 1);
   switches->addWidget(alarm, 1);
   box->addLayout(switches);
@@ -206,18 +189,16 @@ QBoxLayout* SideColumns::MakeClassRow() {
   MoniAllControls& m = controls_.MoniAll;
   auto* classes = TightBox(QBoxLayout::LeftToRight);
   struct Class {
-    const char* Name;
     CheckBox& Control;
     Picture Icon;
   };
-  const Class boxes[] = {{"Check10", m.Check10, Picture::ClassNetwork},
-                         {"Check11", m.Check11, Picture::ClassFixed},
-                         {"Check13", m.Check13, Picture::ClassMoving},
-                         {"Check19", m.Check19, Picture::ClassSpecial},
-                         {"Check25", m.Check25, Picture::ClassWeather}};
+  const Class boxes[] = {{m.Check10, Picture::ClassNetwork},
+                         {m.Check11, Picture::ClassFixed},
+                         {m.Check13, Picture::ClassMoving},
+                         {m.Check19, Picture::ClassSpecial},
+                         {m.Check25, Picture::ClassWeather}};
   for (const Class& row : boxes) {
     auto* button = new ClassButton(parts_.Shades);
-    button->setObjectName(QString::fromLatin1(row.Name));
     button->setIcon(IconOf(row.Icon, parts_.Shades.Text));
     button->setProperty("picture_only", true);
     button->setProperty("three_states", &row.Control == &m.Check13);
@@ -232,11 +213,11 @@ QWidget* SideColumns::MakeMoniAll() {
   auto* group = new QWidget;
   auto* box = TightBox(QBoxLayout::TopToBottom, group);
   MoniAllControls& m = controls_.MoniAll;
-  box->addWidget(GroupCaption("MONI ALL"));
+  box->addWidget(GroupCaption(window_texts::kMoniAll));
 
   auto* level_row = TightBox(QBoxLayout::LeftToRight);
-  QPushButton* level = NamedButton("Command13");
-  QLabel* shown = parts_.FixedLabel("Label16");
+  QPushButton* level = SmallButton();
+  QLabel* shown = parts_.FixedLabel();
   shown->setAlignment(Qt::AlignCenter);
   shown->setMinimumWidth(32);
   level_row->addWidget(level, 1);
@@ -248,8 +229,8 @@ QWidget* SideColumns::MakeMoniAll() {
   box->addLayout(MakeClassRow());
 
   auto* switches = TightBox(QBoxLayout::LeftToRight);
-  QPushButton* direct = NamedButton("Check24");
-  QPushButton* alarm = NamedButton("Check3");
+  QPushButton* direct = SmallButton();
+  QPushButton* alarm = SmallButton();
   switches->addWidget(direct, 1);
   switches->addWidget(alarm, 1);
   box->addLayout(switches);
@@ -257,25 +238,20 @@ QWidget* SideColumns::MakeMoniAll() {
   parts_.Binding.Bind(alarm, m.Check3);
 
   auto* bar = new FillBarWidget;
-  bar->setObjectName(QStringLiteral("Label5"));
-  bar->setAccessibleName(QStringLiteral("size of the MONI ALL list"));
   box->addWidget(bar);
   parts_.Binding.Bind(bar, m.Label5);
 
   auto* find_row = TightBox(QBoxLayout::LeftToRight);
   auto* call = new QLineEdit;
-  call->setObjectName(QStringLiteral("Text15"));
-  call->setAccessibleName(QStringLiteral("call to find"));
-  call->setPlaceholderText(QStringLiteral("call to find"));
   call->setFixedHeight(kControlHeight);
-  QPushButton* find = NamedButton("Command14");
+  QPushButton* find = SmallButton();
   find_row->addWidget(call, 1);
   find_row->addWidget(find);
   box->addLayout(find_row);
   parts_.Binding.Bind(call, m.Text15);
   parts_.Binding.Bind(find, m.Command14);
 
-  QPushButton* stations = NamedButton("Command3");
+  QPushButton* stations = SmallButton();
   box->addWidget(stations);
   parts_.Binding.Bind(stations, m.Command3);
   return group;
@@ -285,23 +261,21 @@ QWidget* SideColumns::MakeTransmit() {
   auto* group = new QWidget;
   auto* box = TightBox(QBoxLayout::TopToBottom, group);
   TransmitControls& t = controls_.Transmit;
-  box->addWidget(GroupCaption("TRANSMIT"));
+  box->addWidget(GroupCaption(window_texts::kTransmit));
   auto* switches = TightBox(QBoxLayout::LeftToRight);
-  QPushButton* tx = parts_.BoundButton("Check6", t.Check6);
+  QPushButton* tx = parts_.BoundButton(t.Check6);
   tx->setProperty("on_air", true);
-  QPushButton* object = parts_.BoundButton("Check18", t.Check18);
+  QPushButton* object = parts_.BoundButton(t.Check18);
   object->setProperty("own_object", true);
   switches->addWidget(tx, 1);
   switches->addWidget(object, 1);
   box->addLayout(switches);
-  QLabel* outcome = parts_.FixedLabel("TxOutcome");
+  QLabel* outcome = parts_.FixedLabel();
   outcome->setMinimumWidth(0);
   outcome->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   box->addWidget(outcome);
   parts_.Binding.Bind(outcome, t.TxOutcome);
   auto* bar = new FillBarWidget;
-  bar->setObjectName(QStringLiteral("NextBeacon"));
-  bar->setAccessibleName(QStringLiteral("time to the next report"));
   box->addWidget(bar);
   parts_.Binding.Bind(bar, t.NextBeacon);
   return group;

@@ -21,7 +21,7 @@ class SideColumns {
  private:
   QWidget* MakeReadouts();
   QWidget* MakeScales();
-  QComboBox* MakeFileList(const char* name, const char* what, ComboBox& control);
+  QComboBox* MakeFileList(ComboBox& control);
   QWidget* MakeFiles();
   QWidget* MakeMoni1();
   QBoxLayout* MakeClassRow();

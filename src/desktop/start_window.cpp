@@ -12,6 +12,7 @@
 #include <QRegularExpression>
 #include <QScrollArea>
 
+#include "core/texts/window_texts.h"
 #include "desktop/device_box.h"
 #include "desktop/fill_bar_widget.h"
 #include "desktop/window_parts.h"
@@ -27,7 +28,7 @@ constexpr int kLabelWidth = 84;
 constexpr int kFaultLines = 4;
 
 // A column's grid under its group caption: what a field is, and the field.
-QGridLayout* AddGroup(QBoxLayout* column, const char* caption) {
+QGridLayout* AddGroup(QBoxLayout* column, Text caption) {
   column->addWidget(GroupCaption(caption));
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(12);
@@ -66,7 +67,7 @@ void LetLongNamesBreak(QLabel* label, Binder& binder) {
 StartWindow::StartWindow(StartPanel& panel, QtLoop& loop, const MapFonts& fonts)
     : panel_(panel), loop_(loop), binder_(loop, NightLook()), fixed_font_(fonts.TextFont()) {
   setObjectName(QStringLiteral("Form0"));
-  setWindowTitle(QStringLiteral("ZEP RIL  START   V 8.08"));
+  setWindowTitle(ToQt(window_texts::kStartTitle));
   binder_.EnterPresses = false;  // it is START's
   // On a low screen the fields scroll; START stays where it is.
   auto* page = new QWidget;
@@ -74,10 +75,10 @@ StartWindow::StartWindow(StartPanel& panel, QtLoop& loop, const MapFonts& fonts)
   all->setContentsMargins(24, 20, 24, 12);
   all->setSpacing(12);
 
-  auto* title = new QLabel(QStringLiteral("ZEP RIL"));
+  auto* title = new QLabel(ToQt(window_texts::kProgram));
   title->setStyleSheet(QStringLiteral("font-size: 28px; font-weight: bold; letter-spacing: 4px;"));
   all->addWidget(title);
-  all->addWidget(DimLabel("APRS station program"));
+  all->addWidget(DimLabel(window_texts::kProgramIs));
   all->addSpacing(8);
 
   auto* columns = new QBoxLayout(QBoxLayout::LeftToRight);
@@ -109,13 +110,13 @@ QBoxLayout* StartWindow::StationColumn() {
   StartPanelControls& c = panel_.Controls;
   auto* column = new QBoxLayout(QBoxLayout::TopToBottom);
   column->setSpacing(8);
-  QGridLayout* station = AddGroup(column, "STATION");
-  AddField(station, 0, "Text8", "USER CALL", c.Text8);
-  station->addWidget(FaultLabel("Fault", c.Fault), 1, 1);
-  AddField(station, 2, "Text5", "MONI CALL", c.Text5);
+  QGridLayout* station = AddGroup(column, window_texts::kStation);
+  AddField(station, 0, c.Text8);
+  station->addWidget(FaultLabel(c.Fault), 1, 1);
+  AddField(station, 2, c.Text5);
   column->addSpacing(12);
-  QGridLayout* maps = AddGroup(column, "MAPS");
-  AddField(maps, 0, "Text1", "MAPS PATH", c.Text1);
+  QGridLayout* maps = AddGroup(column, window_texts::kMaps);
+  AddField(maps, 0, c.Text1);
   column->addStretch(1);
   return column;
 }
@@ -124,17 +125,17 @@ QBoxLayout* StartWindow::RadioColumn() {
   StartPanelControls& c = panel_.Controls;
   auto* column = new QBoxLayout(QBoxLayout::TopToBottom);
   column->setSpacing(8);
-  QGridLayout* radio = AddGroup(column, "RADIO");
-  AddInterface(radio, 0, "Option1", "serial modem PK-232, HF and VHF", c.Option1);
-  AddInterface(radio, 1, "Option2", "packet engine on this computer, port 8000", c.Option2);
-  AddInterface(radio, 2, "Option9", "packet engine on another computer, TCP/IP", c.Option9);
-  AddInterface(radio, 3, "Option10", "no radio interface", c.Option10);
-  AddInterface(radio, 4, "Option11", "serial modem SCS TNC, Robust Packet Radio", c.Option11);
-  AddInterface(radio, 5, "Option13", "serial controller SCS PTC", c.Option13);
+  QGridLayout* radio = AddGroup(column, window_texts::kRadio);
+  AddInterface(radio, 0, window_texts::kPk232Is, c.Option1);
+  AddInterface(radio, 1, window_texts::kAgwLocalIs, c.Option2);
+  AddInterface(radio, 2, window_texts::kAgwRemoteIs, c.Option9);
+  AddInterface(radio, 3, window_texts::kNoRadioIs, c.Option10);
+  AddInterface(radio, 4, window_texts::kScsTncIs, c.Option11);
+  AddInterface(radio, 5, window_texts::kScsPtcIs, c.Option13);
   radio->setRowMinimumHeight(6, 4);
   AddPort(radio, 7);
   AddSpeed(radio, 8);
-  QLabel* fault = FaultLabel("PortFault", c.PortFault);
+  QLabel* fault = FaultLabel(c.PortFault);
   LetLongNamesBreak(fault, binder_);
   fault->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   fault->setMinimumHeight(kFaultLines * fault->fontMetrics().lineSpacing());
@@ -145,17 +146,15 @@ QBoxLayout* StartWindow::RadioColumn() {
 
 QBoxLayout* StartWindow::BottomLine() {
   StartPanelControls& c = panel_.Controls;
-  progress_text_ = DimLabel("The sample maps are being drawn, once ...");
+  progress_text_ = DimLabel(window_texts::kMapsBeingDrawn);
   progress_ = new QProgressBar;
   progress_->setObjectName(QStringLiteral("MapProgress"));
-  progress_->setAccessibleName(QStringLiteral("sample maps drawn"));
+  progress_->setAccessibleName(ToQt(window_texts::kMapsDrawn));
   progress_text_->hide();
   progress_->hide();
-  QLabel* set_up = BoundLabel("SetupText", c.SetupText);
+  QLabel* set_up = BoundLabel(c.SetupText);
   KeepWidth(set_up);
   auto* set_up_bar = new FillBarWidget;
-  set_up_bar->setObjectName(QStringLiteral("SetupBar"));
-  set_up_bar->setAccessibleName(QStringLiteral("set-up of the modem"));
   set_up_bar->setFixedHeight(10);
   binder_.Bind(set_up_bar, c.SetupBar);
   auto* told = new QBoxLayout(QBoxLayout::TopToBottom);
@@ -167,7 +166,6 @@ QBoxLayout* StartWindow::BottomLine() {
   }
 
   auto* start = new QPushButton;
-  start->setObjectName(QStringLiteral("Command1"));
   start->setDefault(true);
   start->setAutoDefault(true);
   start->setMinimumSize(160, 40);
@@ -180,31 +178,28 @@ QBoxLayout* StartWindow::BottomLine() {
   return bottom;
 }
 
-QLineEdit* StartWindow::Field(const char* name, TextBox& control) {
+QLineEdit* StartWindow::Field(TextBox& control) {
   auto* edit = new QLineEdit;
-  edit->setObjectName(QString::fromLatin1(name));
   edit->setFont(fixed_font_);
   edit->setFixedHeight(kControlHeight);
   binder_.Bind(edit, control);
   return edit;
 }
 
-void StartWindow::AddField(QGridLayout* grid, int row, const char* name, const char* text,
-                           TextBox& control) {
-  QLineEdit* edit = Field(name, control);
-  edit->setAccessibleName(QString::fromLatin1(text));
-  auto* label = new QLabel(QString::fromLatin1(text));
+void StartWindow::AddField(QGridLayout* grid, int row, TextBox& control) {
+  QLineEdit* edit = Field(control);
+  auto* label = new QLabel(ToQt(control.Called));
   label->setBuddy(edit);
   grid->addWidget(label, row, 0);
   grid->addWidget(edit, row, 1);
 }
 
-void StartWindow::AddInterface(QGridLayout* grid, int row, const char* name,
-                               const char* explanation, OptionButton& control) {
-  QPushButton* option = NamedButton(name);
+void StartWindow::AddInterface(QGridLayout* grid, int row, Text explanation,
+                               OptionButton& control) {
+  QPushButton* option = SmallButton();
   option->setMinimumWidth(kOptionWidth);
   option->setAutoDefault(false);
-  option->setAccessibleDescription(QString::fromLatin1(explanation));
+  option->setAccessibleDescription(ToQt(explanation));
   grid->addWidget(option, row, 0);
   grid->addWidget(DimLabel(explanation), row, 1);
   binder_.Bind(option, control);
@@ -213,7 +208,6 @@ void StartWindow::AddInterface(QGridLayout* grid, int row, const char* name,
 void StartWindow::AddPort(QGridLayout* grid, int row) {
   StartPanelControls& c = panel_.Controls;
   auto* port = new DeviceBox;
-  port->setObjectName(QStringLiteral("Text3"));
   port->setFont(fixed_font_);
   port->lineEdit()->setFont(fixed_font_);
   port->setFixedHeight(kControlHeight);
@@ -226,29 +220,28 @@ void StartWindow::AddPort(QGridLayout* grid, int row) {
           [this, &c] { loop_.RunStep(c.Text3.Change); });
   port->Entered = [this] { loop_.RunStep([this] { panel_.ReadDevices(); }); };
   port->ListOpens = [this] { loop_.RunStep([this] { panel_.DeviceListOpens(); }); };
-  grid->addWidget(BoundLabel("PortLabel", c.PortLabel), row, 0);
+  grid->addWidget(BoundLabel(c.PortLabel), row, 0);
   grid->addWidget(port, row, 1);
   KeepPlace(port);
 }
 
 void StartWindow::AddSpeed(QGridLayout* grid, int row) {
   StartPanelControls& c = panel_.Controls;
-  QLineEdit* speed = Field("Text4", c.Text4);
+  QLineEdit* speed = Field(c.Text4);
   binder_.OnControlsOut([speed, &c] { speed->setAccessibleName(ToQt(c.SpeedLabel.Caption)); });
-  grid->addWidget(BoundLabel("SpeedLabel", c.SpeedLabel), row, 0);
+  grid->addWidget(BoundLabel(c.SpeedLabel), row, 0);
   grid->addWidget(speed, row, 1);
   KeepPlace(speed);
 }
 
-QLabel* StartWindow::BoundLabel(const char* name, Label& control) {
+QLabel* StartWindow::BoundLabel(Label& control) {
   auto* label = new QLabel;
-  label->setObjectName(QString::fromLatin1(name));
   binder_.Bind(label, control);
   return label;
 }
 
-QLabel* StartWindow::FaultLabel(const char* name, Label& control) {
-  QLabel* label = BoundLabel(name, control);
+QLabel* StartWindow::FaultLabel(Label& control) {
+  QLabel* label = BoundLabel(control);
   label->setProperty("fault", true);
   return label;
 }

@@ -5,6 +5,7 @@
 
 #include <functional>
 
+#include "core/texts/text.h"
 #include "desktop/binder.h"
 #include "platform/qt/map_fonts.h"
 #include "station/start_panel.h"
@@ -36,14 +37,13 @@ class StartWindow final : public QWidget {
   QBoxLayout* StationColumn();
   QBoxLayout* RadioColumn();
   QBoxLayout* BottomLine();
-  QLineEdit* Field(const char* name, TextBox& control);
-  void AddField(QGridLayout* grid, int row, const char* name, const char* text, TextBox& control);
-  void AddInterface(QGridLayout* grid, int row, const char* name, const char* explanation,
-                    OptionButton& control);
+  QLineEdit* Field(TextBox& control);
+  void AddField(QGridLayout* grid, int row, TextBox& control);
+  void AddInterface(QGridLayout* grid, int row, Text explanation, OptionButton& control);
   void AddPort(QGridLayout* grid, int row);
   void AddSpeed(QGridLayout* grid, int row);
-  QLabel* BoundLabel(const char* name, Label& control);
-  QLabel* FaultLabel(const char* name, Label& control);
+  QLabel* BoundLabel(Label& control);
+  QLabel* FaultLabel(Label& control);
 
   StartPanel& panel_;
   QtLoop& loop_;

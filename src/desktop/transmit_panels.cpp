@@ -8,8 +8,10 @@
 
 #include <algorithm>
 
+#include "core/texts/window_texts.h"
 #include "desktop/plot_view.h"
 #include "desktop/scrolling_panel.h"
+#include "platform/qt/text.h"
 
 namespace zepril {
 namespace {
@@ -28,8 +30,7 @@ TransmitPanels::TransmitPanels(WindowParts& parts, MainWindowControls& controls,
       controls_(controls),
       map_(map),
       tx_setup_(parts, controls, map, symbols.OfStation),
-      object_(new ScrollingPanel(parts, "Frame11", controls.ObjectSetup.Frame11, map.parentWidget(),
-                                 map)) {
+      object_(new ScrollingPanel(parts, controls.ObjectSetup.Frame11, map.parentWidget(), map)) {
   MakeObjectSetup(symbols.OfObject);
 }
 
@@ -39,33 +40,32 @@ void TransmitPanels::MakeObjectSetup(const QtSurface& symbol) {
   grid->setSpacing(kGap);
   object_->Content()->addWidget(RestsLabel());
   object_->Content()->addLayout(grid);
-  parts_.FieldRow(grid, 0, "ObjectNameField", "NAME", o.ObjectNameField);
-  parts_.FieldRow(grid, 1, "ObjectTextField", "TEXT", o.ObjectTextField);
-  grid->addWidget(new QLabel(QStringLiteral("SYMBOL")), 2, 0);
+  parts_.FieldRow(grid, 0, o.ObjectNameField);
+  parts_.FieldRow(grid, 1, o.ObjectTextField);
+  grid->addWidget(new QLabel(ToQt(window_texts::kSymbol)), 2, 0);
   auto* row = TightBox(QBoxLayout::LeftToRight);
   grid->addLayout(row, 2, 1);
-  for (QPushButton* step : {parts_.BoundButton("ObjectSymbolDown", o.ObjectSymbolDown),
-                            parts_.BoundButton("ObjectSymbolUp", o.ObjectSymbolUp)}) {
+  for (QPushButton* step :
+       {parts_.BoundButton(o.ObjectSymbolDown), parts_.BoundButton(o.ObjectSymbolUp)}) {
     step->setFixedWidth(kStepWidth);
     row->addWidget(step);
   }
   auto* picture = new PlotView(o.ObjectSymbolPicture, symbol, 2);
-  picture->setObjectName(QStringLiteral("ObjectSymbolPicture"));
   row->addWidget(picture);
   row->addStretch(1);
-  row->addWidget(new QLabel(QStringLiteral("OVERLAY")));
-  QLineEdit* overlay = parts_.BoundField("ObjectOverlayField", "OVERLAY", o.ObjectOverlayField);
+  row->addWidget(new QLabel(ToQt(o.ObjectOverlayField.Called)));
+  QLineEdit* overlay = parts_.BoundField(o.ObjectOverlayField);
   overlay->setFixedWidth(kOverlayField);
   row->addWidget(overlay);
-  QLabel* name = parts_.FixedLabel("ObjectSymbolName");
+  QLabel* name = parts_.FixedLabel();
   name->setMinimumWidth(0);
   name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   grid->addWidget(name, 3, 1);
   parts_.Binding.Bind(name, o.ObjectSymbolName);
   object_->Content()->addStretch(1);
-  object_->Buttons()->addWidget(parts_.BoundButton("ObjectOk", o.ObjectOk), 1);
-  object_->Buttons()->addWidget(parts_.BoundButton("Command31", o.Command31));
-  object_->Buttons()->addWidget(parts_.BoundButton("Command32", o.Command32));
+  object_->Buttons()->addWidget(parts_.BoundButton(o.ObjectOk), 1);
+  object_->Buttons()->addWidget(parts_.BoundButton(o.Command31));
+  object_->Buttons()->addWidget(parts_.BoundButton(o.Command32));
   parts_.Binding.OnControlsOut([&o, picture] {
     if (o.Frame11.Visible) picture->ControlsOut();
   });

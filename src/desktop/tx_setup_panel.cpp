@@ -8,8 +8,10 @@
 
 #include <algorithm>
 
+#include "core/texts/window_texts.h"
 #include "desktop/plot_view.h"
 #include "desktop/scrolling_panel.h"
+#include "platform/qt/text.h"
 
 namespace zepril {
 namespace {
@@ -24,10 +26,6 @@ constexpr int kButtonWidth = 88;
 constexpr int kIntervalField = 72;
 
 // The name of one control of several, counted from 1.
-QByteArray Numbered(const char* name, std::size_t at) {
-  return QByteArray(name) + QByteArray::number(static_cast<int>(at) + 1);
-}
-
 QPushButton* Tight(QPushButton* button) {
   button->setProperty("tight", true);
   return button;
@@ -42,7 +40,7 @@ TxSetupPanel::TxSetupPanel(WindowParts& parts, MainWindowControls& controls, QWi
       gate_(controls.Gate),
       controls_(controls.TxSetup),
       map_(map),
-      panel_(new ScrollingPanel(parts, "Frame4", controls_.Frame4, map.parentWidget(), map)) {
+      panel_(new ScrollingPanel(parts, controls_.Frame4, map.parentWidget(), map)) {
   QBoxLayout* box = panel_->Content();
   box->addWidget(RestsLabel());
   box->setSpacing(2 * kGap);
@@ -52,12 +50,12 @@ TxSetupPanel::TxSetupPanel(WindowParts& parts, MainWindowControls& controls, QWi
   MakeTimer(box);
   MakeRadio(box);
   box->addStretch(1);
-  QLabel* notice = parts_.FixedLabel("CallNotice");
+  QLabel* notice = parts_.FixedLabel();
   parts_.Binding.Bind(notice, controls_.CallNotice);
   panel_->Buttons()->addStretch(1);
   panel_->Buttons()->addWidget(notice);
-  for (QPushButton* button : {parts_.BoundButton("TxOk", controls_.TxOk),
-                              parts_.BoundButton("TxAbort", controls_.TxAbort)}) {
+  for (QPushButton* button :
+       {parts_.BoundButton(controls_.TxOk), parts_.BoundButton(controls_.TxAbort)}) {
     button->setMinimumWidth(kButtonWidth);
     panel_->Buttons()->addWidget(button);
   }
@@ -67,31 +65,30 @@ TxSetupPanel::TxSetupPanel(WindowParts& parts, MainWindowControls& controls, QWi
 void TxSetupPanel::MakeStation(QBoxLayout* box, const QtSurface& symbol) {
   auto* row = TightBox(QBoxLayout::LeftToRight);
   box->addLayout(row);
-  const auto field = [&](const char* name, const char* text, TextBox& control, int width) {
-    row->addWidget(new QLabel(QString::fromLatin1(text)));
-    QLineEdit* edit = parts_.BoundField(name, text, control);
+  const auto field = [&](TextBox& control, int width) {
+    row->addWidget(new QLabel(ToQt(control.Called)));
+    QLineEdit* edit = parts_.BoundField(control);
     edit->setFixedWidth(width);
     row->addWidget(edit);
   };
-  field("TxSsid", "SSID", controls_.TxSsid, kShortField);
+  field(controls_.TxSsid, kShortField);
   row->addSpacing(kGap);
-  field("TxDestinationField", "TO", controls_.TxDestinationField, kCallField);
+  field(controls_.TxDestinationField, kCallField);
   row->addSpacing(2 * kGap);
-  row->addWidget(new QLabel(QStringLiteral("APRS SYMBOL")));
-  for (QPushButton* step : {parts_.BoundButton("SymbolDown", controls_.SymbolDown),
-                            parts_.BoundButton("SymbolUp", controls_.SymbolUp)}) {
+  row->addWidget(new QLabel(ToQt(window_texts::kAprsSymbol)));
+  for (QPushButton* step :
+       {parts_.BoundButton(controls_.SymbolDown), parts_.BoundButton(controls_.SymbolUp)}) {
     step->setFixedWidth(kStepWidth);
     row->addWidget(step);
   }
   auto* picture = new PlotView(controls_.SymbolPicture, symbol, 2);
-  picture->setObjectName(QStringLiteral("SymbolPicture"));
   row->addWidget(picture);
-  QLabel* name = parts_.FixedLabel("SymbolName");
+  QLabel* name = parts_.FixedLabel();
   name->setMinimumWidth(0);
   name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   row->addWidget(name, 1);
   parts_.Binding.Bind(name, controls_.SymbolName);
-  field("TxOverlayField", "OVERLAY", controls_.TxOverlayField, kOverlayField);
+  field(controls_.TxOverlayField, kOverlayField);
   parts_.Binding.OnControlsOut([this, picture] {
     if (controls_.Frame4.Visible) picture->ControlsOut();
   });
@@ -103,30 +100,28 @@ void TxSetupPanel::MakePath(QBoxLayout* box) {
   grid->setSpacing(kGap);
   box->addLayout(grid);
   constexpr int kButtons = 5;  // the column of the first quick button
-  grid->addWidget(DimLabel(" VIA = PATH    (CALL1,...)   EASY SETUP    BUTTONS-->"), 0, 0, 1,
-                  kButtons);
-  grid->addWidget(parts_.BoundField("TxPathField", "path", controls_.TxPathField), 1, 0);
+  grid->addWidget(DimLabel(window_texts::kPath), 0, 0, 1, kButtons);
+  grid->addWidget(parts_.BoundField(controls_.TxPathField), 1, 0);
   grid->setColumnStretch(0, 1);
   for (std::size_t at = 0; at < TxSetupControls::kPaths; ++at) {
-    QPushButton* memory = parts_.BoundButton(Numbered("PathMemory", at), controls_.PathMemory[at]);
-    memory->setAccessibleName(QStringLiteral("path memory %1").arg(at + 1));
+    QPushButton* memory = parts_.BoundButton(controls_.PathMemory[at]);
     grid->addWidget(Tight(memory), 1, 1 + static_cast<int>(at));
   }
   constexpr std::size_t kInARow = TxSetupControls::kQuick / 2;
   for (std::size_t at = 0; at < TxSetupControls::kQuick; ++at) {
-    QPushButton* quick = parts_.BoundButton(Numbered("PathQuick", at), controls_.PathQuick[at]);
+    QPushButton* quick = parts_.BoundButton(controls_.PathQuick[at]);
     grid->addWidget(Tight(quick), static_cast<int>(at / kInARow),
                     kButtons + static_cast<int>(at % kInARow));
   }
-  grid->addWidget(Tight(parts_.BoundButton("PathClear", controls_.PathClear)), 0,
+  grid->addWidget(Tight(parts_.BoundButton(controls_.PathClear)), 0,
                   kButtons + static_cast<int>(kInARow), 2, 1);
 }
 
 void TxSetupPanel::MakeLines(QBoxLayout* box) {
   auto* head = TightBox(QBoxLayout::LeftToRight);
-  head->addWidget(GroupCaption("INFO LINES (ALTERNATING)"));
+  head->addWidget(GroupCaption(window_texts::kInfoLines));
   head->addStretch(1);
-  head->addWidget(DimLabel("M1 to M6:  Lclick RECALL,  Rclick SAVE"));
+  head->addWidget(DimLabel(window_texts::kInfoMemories));
   box->addLayout(head);
   auto* grid = new QGridLayout;
   grid->setSpacing(kGap);
@@ -135,17 +130,10 @@ void TxSetupPanel::MakeLines(QBoxLayout* box) {
   for (std::size_t line = 0; line < TxSetupControls::kLines; ++line) {
     const int row = static_cast<int>(line);
     grid->addWidget(new QLabel(QString::number(row + 1)), row, 0);
-    grid->addWidget(
-        parts_.BoundField(Numbered("InfoField", line), "info line", controls_.InfoField[line]), row,
-        1);
-    grid->itemAtPosition(row, 1)->widget()->setAccessibleName(
-        QStringLiteral("info line %1").arg(row + 1));
-    QPushButton* active = parts_.BoundButton(Numbered("fr4ta", line), controls_.fr4ta[line]);
-    active->setAccessibleName(QStringLiteral("info line %1 active").arg(row + 1));
+    grid->addWidget(parts_.BoundField(controls_.InfoField[line]), row, 1);
+    QPushButton* active = parts_.BoundButton(controls_.fr4ta[line]);
     grid->addWidget(active, row, 2);
-    QPushButton* memory =
-        parts_.BoundButton(Numbered("InfoMemory", line), controls_.InfoMemory[line]);
-    memory->setAccessibleName(QStringLiteral("info line memory %1").arg(row + 1));
+    QPushButton* memory = parts_.BoundButton(controls_.InfoMemory[line]);
     grid->addWidget(Tight(memory), row, 3);
   }
 }
@@ -153,46 +141,44 @@ void TxSetupPanel::MakeLines(QBoxLayout* box) {
 void TxSetupPanel::MakeTimer(QBoxLayout* box) {
   auto* row = TightBox(QBoxLayout::LeftToRight);
   box->addLayout(row);
-  row->addWidget(new QLabel(QStringLiteral("TX TIMER IN MINUTES OR MANUAL TX")));
-  QPushButton* down = parts_.BoundButton("TxIntervalDown", controls_.TxIntervalDown);
+  row->addWidget(new QLabel(ToQt(window_texts::kTxTimer)));
+  QPushButton* down = parts_.BoundButton(controls_.TxIntervalDown);
   down->setFixedWidth(kStepWidth);
   row->addWidget(down);
-  QLineEdit* interval = parts_.BoundField("TxInterval", "minutes", controls_.TxInterval);
+  QLineEdit* interval = parts_.BoundField(controls_.TxInterval);
   interval->setFixedWidth(kIntervalField);
   row->addWidget(interval);
-  QPushButton* up = parts_.BoundButton("TxIntervalUp", controls_.TxIntervalUp);
+  QPushButton* up = parts_.BoundButton(controls_.TxIntervalUp);
   up->setFixedWidth(kStepWidth);
   row->addWidget(up);
   row->addStretch(1);
-  row->addWidget(parts_.BoundButton("TxTimestampBox", controls_.TxTimestampBox));
+  row->addWidget(parts_.BoundButton(controls_.TxTimestampBox));
 }
 
 void TxSetupPanel::MakeRadio(QBoxLayout* box) {
-  box->addWidget(GroupCaption("RADIO"));
+  box->addWidget(GroupCaption(window_texts::kRadio));
   auto* speeds = TightBox(QBoxLayout::LeftToRight);
   box->addLayout(speeds);
-  for (std::size_t at = 0; at < controls_.Speeds.size(); ++at) {
-    const QByteArray name = "Option" + QByteArray::number(static_cast<int>(at) + 3);
-    speeds->addWidget(parts_.BoundButton(name, controls_.Speeds[at]));
-  }
+  for (OptionButton& speed : controls_.Speeds)
+    speeds->addWidget(parts_.BoundButton(speed));
   speeds->addStretch(1);
-  speeds->addWidget(parts_.BoundButton("DigiBox", controls_.DigiBox));
-  speeds->addWidget(parts_.BoundButton("Check15", gate_.Check15));
+  speeds->addWidget(parts_.BoundButton(controls_.DigiBox));
+  speeds->addWidget(parts_.BoundButton(gate_.Check15));
 
   auto* second = TightBox(QBoxLayout::LeftToRight);
   box->addLayout(second);
-  second->addWidget(parts_.BoundButton("Check2", transmit_.Check2));
-  auto* what = new QLabel(QStringLiteral("CROSSMODE DIGI TX / HF-DUAL 2. MODE:"));
+  second->addWidget(parts_.BoundButton(transmit_.Check2));
+  auto* what = new QLabel(ToQt(window_texts::kSecondMode));
   second->addWidget(what);
-  QPushButton* down = parts_.BoundButton("CrossDown", controls_.CrossDown);
+  QPushButton* down = parts_.BoundButton(controls_.CrossDown);
   down->setFixedWidth(kStepWidth);
   second->addWidget(down);
-  QLabel* mode = parts_.FixedLabel("CrossField");
+  QLabel* mode = parts_.FixedLabel();
   mode->setAlignment(Qt::AlignCenter);
   mode->setMinimumWidth(kIntervalField);
   second->addWidget(mode);
   parts_.Binding.Bind(mode, controls_.CrossField);
-  QPushButton* up = parts_.BoundButton("CrossUp", controls_.CrossUp);
+  QPushButton* up = parts_.BoundButton(controls_.CrossUp);
   up->setFixedWidth(kStepWidth);
   second->addWidget(up);
   second->addStretch(1);
@@ -201,10 +187,9 @@ void TxSetupPanel::MakeRadio(QBoxLayout* box) {
   auto* level = TightBox(QBoxLayout::LeftToRight);
   box->addLayout(level);
   auto* label = new QLabel;
-  label->setObjectName(QStringLiteral("TxLevelLabel"));
   level->addWidget(label);
   parts_.Binding.Bind(label, controls_.TxLevelLabel);
-  QLineEdit* millivolts = parts_.BoundField("TxLevel", "mV", controls_.TxLevel);
+  QLineEdit* millivolts = parts_.BoundField(controls_.TxLevel);
   millivolts->setFixedWidth(kIntervalField);
   level->addWidget(millivolts);
   level->addStretch(1);

@@ -10,13 +10,13 @@
 #include <QScrollArea>
 #include <QToolButton>
 
-#include "core/main_window_captions.h"
+#include "core/texts/window_texts.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
 
-QLabel* GroupCaption(const char* text) {
-  auto* label = new QLabel(QString::fromLatin1(text));
+QLabel* GroupCaption(Text text) {
+  auto* label = new QLabel(ToQt(text));
   label->setProperty("group", true);
   return label;
 }
@@ -40,16 +40,15 @@ QWidget* Scrolling(QWidget* column, int width) {
   return area;
 }
 
-QPushButton* NamedButton(const char* name, QWidget* parent) {
-  auto* button = new QPushButton(parent);
-  button->setObjectName(QString::fromLatin1(name));
+QPushButton* SmallButton() {
+  auto* button = new QPushButton;
   button->setFixedHeight(kControlHeight);
   button->setMinimumWidth(0);
   return button;
 }
 
-QLabel* DimLabel(const char* text) {
-  auto* label = new QLabel(QString::fromLatin1(text));
+QLabel* DimLabel(Text text) {
+  auto* label = new QLabel(ToQt(text));
   label->setProperty("dim", true);
   return label;
 }
@@ -61,9 +60,8 @@ QLabel* RestsLabel() {
   return label;
 }
 
-QToolButton* WindowParts::Tool(const char* name, Picture picture, bool caption) const {
+QToolButton* WindowParts::Tool(Picture picture, bool caption) const {
   auto* tool = new QToolButton;
-  tool->setObjectName(QString::fromLatin1(name));
   tool->setIcon(IconOf(picture, Shades.Text));
   tool->setIconSize(QSize(16, 16));
   tool->setFixedHeight(kControlHeight);
@@ -73,16 +71,14 @@ QToolButton* WindowParts::Tool(const char* name, Picture picture, bool caption) 
   return tool;
 }
 
-QLabel* WindowParts::FixedLabel(const char* name) const {
+QLabel* WindowParts::FixedLabel() const {
   auto* label = new QLabel;
-  label->setObjectName(QString::fromLatin1(name));
   label->setFont(FixedFont);
   return label;
 }
 
-QFrame* WindowParts::Panel(const char* name, QWidget* parent) const {
+QFrame* WindowParts::Panel(QWidget* parent) const {
   auto* panel = new QFrame(parent);
-  panel->setObjectName(QString::fromLatin1(name));
   panel->setProperty("panel", true);
   panel->setAttribute(Qt::WA_NoMousePropagation);  // what lies below has no part in a press
   return panel;
@@ -92,7 +88,7 @@ QGridLayout* WindowParts::SetUpGrid(QFrame* panel, const Frame& frame, int colum
   auto* grid = new QGridLayout(panel);
   grid->setContentsMargins(12, 8, 12, 12);
   grid->setSpacing(8);
-  QLabel* caption = GroupCaption("");
+  QLabel* caption = GroupCaption(Text{""});
   caption->setWordWrap(true);
   grid->addWidget(caption, 0, 0, 1, columns);
   Binding.OnControlsOut([caption, &frame] {
@@ -102,36 +98,33 @@ QGridLayout* WindowParts::SetUpGrid(QFrame* panel, const Frame& frame, int colum
   return grid;
 }
 
-void WindowParts::FieldRow(QGridLayout* grid, int row, const char* name, const char* text,
-                           TextBox& control) {
-  grid->addWidget(new QLabel(QString::fromLatin1(text)), row, 0);
-  grid->addWidget(BoundField(name, text, control), row, 1);
+void WindowParts::FieldRow(QGridLayout* grid, int row, TextBox& control) {
+  grid->addWidget(new QLabel(ToQt(control.Called)), row, 0);
+  grid->addWidget(BoundField(control), row, 1);
 }
 
-QLineEdit* WindowParts::BoundField(const char* name, const char* text, TextBox& control) {
+QLineEdit* WindowParts::BoundField(TextBox& control) {
   auto* edit = new QLineEdit;
-  edit->setObjectName(QString::fromLatin1(name));
-  edit->setAccessibleName(QString::fromLatin1(text));
   edit->setFont(FixedFont);
   Binding.Bind(edit, control);
   return edit;
 }
 
-QPushButton* WindowParts::BoundButton(const char* name, Button& control) {
-  QPushButton* button = NamedButton(name);
+QPushButton* WindowParts::BoundButton(Button& control) {
+  QPushButton* button = SmallButton();
   Binding.Bind(button, control);
   return button;
 }
 
-QPushButton* WindowParts::BoundButton(const char* name, CheckBox& control) {
-  QPushButton* button = NamedButton(name);
+QPushButton* WindowParts::BoundButton(CheckBox& control) {
+  QPushButton* button = SmallButton();
   Binding.Bind(button, control);
   KeepRoomForBold(button);
   return button;
 }
 
-QPushButton* WindowParts::BoundButton(const char* name, OptionButton& control) {
-  QPushButton* button = NamedButton(name);
+QPushButton* WindowParts::BoundButton(OptionButton& control) {
+  QPushButton* button = SmallButton();
   Binding.Bind(button, control);
   KeepRoomForBold(button);
   return button;

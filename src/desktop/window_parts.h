@@ -6,6 +6,7 @@
 
 #include <QBoxLayout>
 
+#include "core/texts/text.h"
 #include "desktop/binder.h"
 #include "desktop/icons.h"
 #include "desktop/look.h"
@@ -30,28 +31,28 @@ struct WindowParts {
   const Look& Shades;
   QFont FixedFont;  // "QX7_F6"
 
-  // Widgets with the object name of their control.
-  QToolButton* Tool(const char* name, Picture picture, bool caption) const;
-  QLabel* FixedLabel(const char* name) const;
-  QFrame* Panel(const char* name, QWidget* parent) const;
+  // Widgets that are to be bound; from their control they have their name then.
+  QToolButton* Tool(Picture picture, bool caption) const;
+  QLabel* FixedLabel() const;
+  QFrame* Panel(QWidget* parent) const;
   // The grid of a set-up panel, with the frame's caption over `columns` columns in its first row.
   QGridLayout* SetUpGrid(QFrame* panel, const Frame& frame, int columns);
   // A row of it: what the field is, and the field.
-  void FieldRow(QGridLayout* grid, int row, const char* name, const char* text, TextBox& control);
-  // A field that is bound already, in the fixed font; `text` tells what it is.
-  QLineEdit* BoundField(const char* name, const char* text, TextBox& control);
+  void FieldRow(QGridLayout* grid, int row, TextBox& control);
+  // A field that is bound already, in the fixed font.
+  QLineEdit* BoundField(TextBox& control);
   // A button, a switch or an option that is bound already.
-  QPushButton* BoundButton(const char* name, Button& control);
-  QPushButton* BoundButton(const char* name, CheckBox& control);
-  QPushButton* BoundButton(const char* name, OptionButton& control);
+  QPushButton* BoundButton(Button& control);
+  QPushButton* BoundButton(CheckBox& control);
+  QPushButton* BoundButton(OptionButton& control);
 
  private:
   void KeepRoomForBold(QPushButton* button);
 };
 
-QPushButton* NamedButton(const char* name, QWidget* parent = nullptr);
-QLabel* GroupCaption(const char* text);
-QLabel* DimLabel(const char* text);
+QPushButton* SmallButton();
+QLabel* GroupCaption(Text text);
+QLabel* DimLabel(Text text);
 // Says on a panel that the main cycle rests while it is open.
 QLabel* RestsLabel();
 QBoxLayout* TightBox(QBoxLayout::Direction direction, QWidget* parent = nullptr);

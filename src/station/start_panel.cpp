@@ -9,6 +9,7 @@
 #include "config/ports_file.h"
 #include "core/port_number.h"
 #include "core/text_fields.h"
+#include "core/texts/form0_texts.h"
 #include "station/modem_set_up.h"
 
 namespace zepril {
@@ -64,13 +65,7 @@ StartPanel::StartPanel(StartPanelPlatform platform, std::string program_folder,
                    {&Controls.Option10, RadioMode::None, nullptr},
                    {&Controls.Option11, RadioMode::ScsTnc, &scs_fields_},
                    {&Controls.Option13, RadioMode::ScsPtc, &scs_fields_}}} {
-  Controls.Command1.Caption = "START";
-  Controls.Option1.Caption = "PK 232";
-  Controls.Option2.Caption = "AGW PE";
-  Controls.Option9.Caption = "AGW LAN";
-  Controls.Option10.Caption = "-";
-  Controls.Option11.Caption = "SCS TNC";
-  Controls.Option13.Caption = "SCS PTC";
+  NameStartPanel(Controls);
   Controls.SetupText.Visible = false;
   Controls.SetupBar.Visible = false;
   Controls.SetupBar.FullWidthPx = kBarSteps;

@@ -2,11 +2,12 @@
 #include "station/station_rooms.h"
 
 #include "config/config_file.h"
-#include "core/main_window_captions.h"
 #include "core/main_window_resize.h"
 #include "core/position_text.h"
 #include "core/text_fields.h"
+#include "core/texts/form1_texts.h"
 #include "core/title_line.h"
+#include "station/initial_controls.h"
 #include "station/view_memory.h"
 #include "transmit/tx_setup_rules.h"
 

@@ -5,7 +5,7 @@
 
 #include <set>
 
-#include "core/main_window_captions.h"
+#include "core/texts/form1_texts.h"
 #include "core/text_fields.h"
 #include "desktop/start_window.h"
 #include "station/start_panel.h"

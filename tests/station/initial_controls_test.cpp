@@ -1,16 +1,17 @@
 // The main window's own texts, letter for letter.
-#include "core/main_window_captions.h"
+#include "station/initial_controls.h"
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
 #include "core/controls/main_window_controls.h"
+#include "core/texts/form1_texts.h"
 
 namespace zepril {
 namespace {
 
-TEST(MainWindowCaptions, PanelsCarryTheirTexts) {
+TEST(InitialControls, PanelsCarryTheirTexts) {
   MainWindowControls c;
   SetInitialControls(c);
   EXPECT_EQ(c.Qth.Frame2.Caption, "USER QTH SETUP: CENTER THE MAP TO YOUR QTH!");
@@ -30,7 +31,7 @@ TEST(MainWindowCaptions, PanelsCarryTheirTexts) {
             "IS HELD OPEN, ALL NORMAL PROGRAM FUNCTIONS ARE STOPPED.");
 }
 
-TEST(MainWindowCaptions, TxSetupNamesItsButtonsAndSpeeds) {
+TEST(InitialControls, TxSetupNamesItsButtonsAndSpeeds) {
   MainWindowControls c;
   SetInitialControls(c);
   TxSetupControls& t = c.TxSetup;
@@ -52,7 +53,7 @@ TEST(MainWindowCaptions, TxSetupNamesItsButtonsAndSpeeds) {
     EXPECT_EQ(t.Speeds[at].Caption, speeds[at]);
 }
 
-TEST(MainWindowCaptions, MinutesAndSymbolsStepFiveTimesASecondWhileHeld) {
+TEST(InitialControls, MinutesAndSymbolsStepFiveTimesASecondWhileHeld) {
   MainWindowControls c;
   SetInitialControls(c);
   for (const Button* held :
@@ -64,7 +65,7 @@ TEST(MainWindowCaptions, MinutesAndSymbolsStepFiveTimesASecondWhileHeld) {
   EXPECT_EQ(c.TxSetup.TxOk.RepeatMs, 0);
 }
 
-TEST(MainWindowCaptions, TheTransmittersPanelsWaitUntilTheyAreAskedFor) {
+TEST(InitialControls, TheTransmittersPanelsWaitUntilTheyAreAskedFor) {
   MainWindowControls c;
   SetInitialControls(c);
   for (const Control* panel : std::initializer_list<const Control*>{
@@ -79,7 +80,7 @@ TEST(MainWindowCaptions, TheTransmittersPanelsWaitUntilTheyAreAskedFor) {
   EXPECT_FALSE(c.Chat.Check7.Visible);
 }
 
-TEST(MainWindowCaptions, TheMemoriesToolTipsAreLeftToTheirTexts) {
+TEST(InitialControls, TheMemoriesToolTipsAreLeftToTheirTexts) {
   MainWindowControls c;
   SetInitialControls(c);
   c.TxSetup.InfoMemory[1].ToolTip = "145.500 MHZ";
@@ -90,7 +91,7 @@ TEST(MainWindowCaptions, TheMemoriesToolTipsAreLeftToTheirTexts) {
   EXPECT_EQ(c.TxSetup.PathMemory[2].ToolTip, "WIDE1-1");
 }
 
-TEST(MainWindowCaptions, EveryControlOfTheSetUpPanelsExplainsItself) {
+TEST(InitialControls, EveryControlOfTheSetUpPanelsExplainsItself) {
   MainWindowControls c;
   SetInitialControls(c);
   TxSetupControls& t = c.TxSetup;
@@ -128,7 +129,7 @@ TEST(MainWindowCaptions, EveryControlOfTheSetUpPanelsExplainsItself) {
 }
 
 // Its field takes all other keys for the modem.
-TEST(MainWindowCaptions, TheWayOutOfTheTerminalIsTold) {
+TEST(InitialControls, TheWayOutOfTheTerminalIsTold) {
   MainWindowControls c;
   SetInitialControls(c);
   for (const Control* control : {static_cast<const Control*>(&c.Terminal.Text19),
@@ -137,7 +138,7 @@ TEST(MainWindowCaptions, TheWayOutOfTheTerminalIsTold) {
   }
 }
 
-TEST(MainWindowCaptions, ARightClickIsToldInTheToolTip) {
+TEST(InitialControls, ARightClickIsToldInTheToolTip) {
   MainWindowControls c;
   SetInitialControls(c);
   EXPECT_TRUE(c.Transmit.Check6.ToolTip.ends_with("/ Rclick: TX SETUP"));
@@ -153,7 +154,7 @@ struct TipRow {
   const char* Text;
 };
 
-TEST(MainWindowCaptions, ToolTipsOfTheMapAreShownWithATenInTheLanguage) {
+TEST(InitialControls, ToolTipsOfTheMapAreShownWithATenInTheLanguage) {
   MainWindowControls c;
   SetInitialControls(c);
   const TipRow rows[] = {

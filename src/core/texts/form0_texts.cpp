@@ -1,0 +1,46 @@
+// The table of the start window: a row a control.
+#include "core/texts/form0_texts.h"
+
+#include "core/controls/start_panel_controls.h"
+#include "core/texts/control_rows.h"
+
+namespace zepril {
+// Found by the table through its form.
+static auto Groups(StartPanelControls& controls) {
+  return std::tie(controls);
+}
+
+namespace {
+
+using C = StartPanelControls;
+
+// Name, control, caption, tool tip, called, while empty, key.
+constexpr ControlRow<C> kTable[] = {
+    {"Text8", On<&C::Text8>(), {}, {}, {"USER CALL"}},
+    {"Fault", On<&C::Fault>()},
+    {"Text5", On<&C::Text5>(), {}, {}, {"MONI CALL"}},
+    {"Text1", On<&C::Text1>(), {}, {}, {"MAPS PATH"}},
+    {"Option1", On<&C::Option1>(), Own("PK 232")},
+    {"Option2", On<&C::Option2>(), Own("AGW PE")},
+    {"Option9", On<&C::Option9>(), Own("AGW LAN")},
+    {"Option10", On<&C::Option10>(), Own("-")},
+    {"Option11", On<&C::Option11>(), Own("SCS TNC")},
+    {"Option13", On<&C::Option13>(), Own("SCS PTC")},
+    {"PortLabel", On<&C::PortLabel>()},
+    {"Text3", On<&C::Text3>()},
+    {"SpeedLabel", On<&C::SpeedLabel>()},
+    {"Text4", On<&C::Text4>()},
+    {"PortFault", On<&C::PortFault>()},
+    {"SetupText", On<&C::SetupText>()},
+    {"SetupBar", On<&C::SetupBar>(), {}, {}, {"set-up of the modem"}},
+    {"Command1", On<&C::Command1>(), Own("START")},
+};
+
+}  // namespace
+
+void NameStartPanel(StartPanelControls& controls) {
+  NameControls(controls, kTable);
+  SayControls(controls, kTable, false);
+}
+
+}  // namespace zepril
