@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 
 namespace zepril {
 
@@ -12,26 +13,27 @@ namespace {
 // "34 s", "12 min", "3 h": the largest unit that is full, cut.
 std::string LengthText(double seconds) {
   const std::int64_t whole = std::max<std::int64_t>(ToWhole(Int(seconds)), 0);
-  if (whole < 60) return WholeNumber(whole) + " s";
-  if (whole < 3600) return WholeNumber(whole / 60) + " min";
-  return WholeNumber(whole / 3600) + " h";
+  if (whole < 60) return status_texts::kSeconds.With({WholeNumber(whole)});
+  if (whole < 3600) return status_texts::kMinutes.With({WholeNumber(whole / 60)});
+  return status_texts::kHours.With({WholeNumber(whole / 3600)});
 }
 
 }  // namespace
 
 LinkLamp LampOf(const LampFacts& facts) {
   constexpr double kFreshSeconds = 60.0;
-  if (!facts.HasLink) return {LampState::None, {}, "no radio link"};
+  if (!facts.HasLink) return {LampState::None, {}, status_texts::kNoLink};
   const double age = facts.NowSeconds - facts.LastDataSeconds;
   const bool any = facts.LastDataSeconds >= 0.0;
-  const std::string last =
-      any ? "last data " + WholeNumber(ToWhole(Int(age))) + " s ago" : std::string("no data yet");
+  const std::string last = any ? status_texts::kLastData.With({WholeNumber(ToWhole(Int(age)))})
+                               : status_texts::kNoDataYet;
   if (!facts.Up) {
     const double since = facts.LostSinceSeconds < 0.0 ? facts.NowSeconds : facts.LostSinceSeconds;
-    return {LampState::Lost, "LOST " + LengthText(facts.NowSeconds - since), "link lost, " + last};
+    return {LampState::Lost, status_texts::kLost.With({LengthText(facts.NowSeconds - since)}),
+            status_texts::kLinkLost.With({last})};
   }
   if (facts.Paused) {
-    return {LampState::Paused, "paused", "reception rests while a panel is open, " + last};
+    return {LampState::Paused, status_texts::kPaused, status_texts::kReceptionPaused.With({last})};
   }
   const bool fresh = any && age <= kFreshSeconds;
   return {fresh ? LampState::Data : LampState::Silent, {}, last};

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 #include "core/title_line.h"
 
 namespace zepril {
@@ -103,7 +104,9 @@ void MainCycle::RenewTitle() {
   if (internet.IGateConnected == GateLink::Down) {
     BlankInTitle(title, internet.IGateOn == Gate::On ? 82 : 76, 90);
   } else {
-    PutInTitle(title, 76, internet.IGateOn == Gate::On ? "IGate connected" : "      connected");
+    PutInTitle(
+        title, 76,
+        internet.IGateOn == Gate::On ? status_texts::kGateConnected : status_texts::kConnected);
     // Recently gated lines age by one place.
     auto& lines = internet.RecentlyGated;
     for (std::size_t at = 0; at + 1 < lines.size(); ++at)
@@ -117,7 +120,7 @@ void MainCycle::LookForCompanion() {
     const bool found = desktop_.WindowExists("AGWuidigi");
     state_.Radio.DigiOn = found ? Digipeater::On : Digipeater::Off;
     if (found) {
-      PutInTitle(state_.Settings.TitleText, 61, "Digi: AGWUI");
+      PutInTitle(state_.Settings.TitleText, 61, status_texts::kDigiOutside);
     } else {
       BlankInTitle(state_.Settings.TitleText, 61, 71);
     }
@@ -199,7 +202,7 @@ MainCycle::Outcome MainCycle::UpdateIonosphere() {
   if (state_.Internet.IonoAutoOn != 1) return Outcome::GoOn;
   const double now = clock_.SecondsSinceMidnight();
   if (std::fabs(now - state_.Internet.LastIonoTimer) <= kIonoSeconds) return Outcome::GoOn;
-  controls_.Status.IonoLabel.Caption = "UPDATING...";
+  controls_.Status.IonoLabel.Caption = status_texts::kUpdating;
   state_.Internet.LastIonoTimer = now;
   actions_.StartIonoUpdate();
   return Outcome::EndTick;
@@ -210,7 +213,7 @@ MainCycle::Outcome MainCycle::CollectMoni1() {
   const int share = 1 + controls_.MoniAll.Check23.Value;
   const bool minute_come = ClockHhMm() / share != state_.Internet.LastMoni1InternetMinute / share;
   if (state_.Internet.Moni1ScanOn == 0 && !minute_come) return Outcome::GoOn;
-  ShowCollecting("COLLECTING INTERNET DATA (MONI 1) ...", kCollectingMoni1);
+  ShowCollecting(status_texts::kCollectingMoni1, kCollectingMoni1);
   actions_.FetchMoni1();
   return Outcome::EndTick;
 }
@@ -220,12 +223,12 @@ MainCycle::Outcome MainCycle::CollectMoniAll() {
     return Outcome::GoOn;
   }
   if (ClockHhMm() / 4 == state_.Internet.LastMoniAllInternetMinute / 4) return Outcome::GoOn;
-  ShowCollecting("COLLECTING INTERNET DATA (MONI ALL) ...", kCollectingMoniAll);
+  ShowCollecting(status_texts::kCollectingMoniAll, kCollectingMoniAll);
   actions_.FetchMoniAll();
   return Outcome::EndTick;
 }
 
-void MainCycle::ShowCollecting(const char* text, std::uint32_t colour) {
+void MainCycle::ShowCollecting(Text text, std::uint32_t colour) {
   timer1_.Stop();
   controls_.Window.Pointer = PointerShape::Hourglass;
   controls_.Map.Picture1.Pointer = PointerShape::Hourglass;

@@ -10,6 +10,7 @@
 #include "core/actions/tick_actions.h"
 #include "core/controls/main_window_controls.h"
 #include "core/runtime_state.h"
+#include "core/texts/text.h"
 #include "core/timer.h"
 #include "platform/clock.h"
 #include "platform/desktop_actions.h"
@@ -56,7 +57,7 @@ class MainCycle {
   Outcome UpdateIonosphere();
   Outcome CollectMoni1();
   Outcome CollectMoniAll();
-  void ShowCollecting(const char* text, std::uint32_t colour);
+  void ShowCollecting(Text text, std::uint32_t colour);
   void RedrawWhenStale();
   void DecideWhatIsDue();
   void DecideChat();

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 
 namespace zepril {
 namespace {
@@ -16,7 +17,8 @@ constexpr int kAddresseePx = 96;  // beside the message field
 
 void ShowAutoAnswerCaption(ChatControls& controls, const ChatState& chat) {
   const bool holds_answer = chat.AutoAnswerOn == 1 && Trim(controls.Text2.Text).empty();
-  controls.Check16.Caption = holds_answer ? "AUTO ANSWER TEXT:" : "AUTO-A";
+  controls.Check16.Caption =
+      holds_answer ? status_texts::kAutoAnswerField : status_texts::kAutoAnswer;
   controls.Check16.WidthPx = holds_answer ? kLongCaptionPx : kShortCaptionPx;
 }
 

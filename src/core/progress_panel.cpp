@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 
 namespace zepril {
 
@@ -19,11 +20,11 @@ void ProgressPanel::Report(std::string_view what, double share) {
   if (gone < kShownAfterSeconds || now - shown_ < kShownEverySeconds) return;
   shown_ = now;
   const double done = std::isfinite(share) ? std::clamp(share, 0.0, 1.0) : 0.0;
-  std::string text(what);
-  text.append("  ").append(WholeNumber(ToWhole(std::floor(done * 100.0)))).append(" %");
+  std::string text =
+      status_texts::kProgress.With({what, WholeNumber(ToWhole(std::floor(done * 100.0)))});
   if (gone >= kTimeLeftAfterSeconds && done > 0.0) {
     const double left = gone / done - gone;
-    text.append("  ").append(WholeNumber(ToWhole(std::ceil(left)))).append(" s left");
+    text += status_texts::kTimeLeft.With({WholeNumber(ToWhole(std::ceil(left)))});
   }
   controls_.ProgressText.Caption = text;
   controls_.ProgressBar.FilledPx =

@@ -3,11 +3,12 @@
 
 #include "core/baud_mode.h"
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 
 namespace zepril {
 
 std::string BaseTitle(std::string_view version, std::string_view call) {
-  return PadRight("ZEP RIL  V " + std::string(version) + "  " + std::string(call), kTitleColumns);
+  return PadRight(status_texts::kTitle.With({version, call}), kTitleColumns);
 }
 
 void PutInTitle(std::string& title, std::size_t first, std::string_view text) {
@@ -23,7 +24,7 @@ std::string DigiMarker(const RadioState& radio) {
   constexpr std::size_t kWidth = 11;
   const bool modem = IsSerialModem(static_cast<RadioMode>(radio.RadioMode));
   if (!modem || radio.DigiOn != Digipeater::On) return std::string(kWidth, ' ');
-  return RelaysToAnotherMode(radio) ? "Digi X-mode" : "Digi active";
+  return RelaysToAnotherMode(radio) ? status_texts::kDigiCross : status_texts::kDigiActive;
 }
 
 }  // namespace zepril

@@ -8,6 +8,7 @@
 #include "config/config_file.h"
 #include "config/ports_file.h"
 #include "config/window_file.h"
+#include "core/texts/boxes.h"
 #include "desktop/window_place.h"
 #include "map/symbol_sheets.h"
 #include "platform/qt/serial_devices.h"
@@ -21,7 +22,6 @@ namespace {
 constexpr int kFirstMapWidth = 880;
 constexpr int kFirstMapHeight = 700;
 constexpr int kColourDepthBits = 32;
-constexpr const char* kBoxTitle = "ZEP RIL";
 
 }  // namespace
 
@@ -74,11 +74,9 @@ bool DesktopProgram::TakeFolder() {
     front_timer_.start(kFrontPollMs);
     return true;
   }
-  const std::string text = "ZEPRIL RUNS IN  " + places_.ProgramFolder +
-                           "  ALREADY.\n\nYes brings it to the front, No ends this start. Nothing "
-                           "has been changed.";
+  const std::string text = boxes::kRunsAlready.With({places_.ProgramFolder});
   const DialogAnswer answer =
-      dialogs_.Ask(kBoxTitle, text, DialogButtons::YesNo, DialogAnswer::Yes);
+      dialogs_.Ask(boxes::kTitle, text, DialogButtons::YesNo, DialogAnswer::Yes);
   if (answer == DialogAnswer::Yes) RunLock::AskForFront(path);
   return false;
 }
@@ -95,10 +93,10 @@ void DesktopProgram::ComeToFront() {
 bool DesktopProgram::ReadableSettings() {
   const auto trouble = TroubleWithConfig(disk_, places_.ProgramFolder);
   if (!trouble) return true;
-  const std::string text = "CAN'T READ  " + ConfigPath(places_.ProgramFolder) + "\n\n" + *trouble +
-                           "\n\nGo on with the default settings? The file stays as it is, and no "
-                           "setting of this run is kept.";
-  if (dialogs_.Ask(kBoxTitle, text, DialogButtons::YesNo, DialogAnswer::No) != DialogAnswer::Yes) {
+  const std::string text =
+      boxes::kSettingsUnread.With({ConfigPath(places_.ProgramFolder), *trouble});
+  if (dialogs_.Ask(boxes::kTitle, text, DialogButtons::YesNo, DialogAnswer::No) !=
+      DialogAnswer::Yes) {
     return false;
   }
   held_settings_ = std::make_unique<SettingsInMemory>(disk_, places_.ProgramFolder);

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "core/texts/window_texts.h"
 #include "desktop/desktop_program.h"
 #include "desktop/look.h"
 #include "desktop/session_end.h"
@@ -31,7 +32,7 @@ bool HasDisplay() {
 
 int main(int argc, char** argv) {
   if (!zepril::HasDisplay()) {
-    std::fputs("zepril: no display: set DISPLAY, or QT_QPA_PLATFORM=offscreen\n", stderr);
+    std::fputs(zepril::window_texts::kNoDisplay.English, stderr);
     return 1;
   }
   QApplication app(argc, argv);
@@ -44,7 +45,7 @@ int main(int argc, char** argv) {
   const std::string executable = zepril::NativeText(QCoreApplication::applicationDirPath());
   zepril::DesktopProgram desktop(zepril::FindProgramPlaces(executable, executable + "/data"));
   if (!desktop.LoadFonts()) {
-    std::fputs("zepril: its fonts are missing, a fixed font of the system stands in\n", stderr);
+    std::fputs(zepril::window_texts::kNoFonts.English, stderr);
   }
   desktop.Ended = [] { QCoreApplication::quit(); };
   const zepril::SessionEnd session_end([&desktop] { desktop.CloseAsOperator(); });

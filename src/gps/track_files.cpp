@@ -7,11 +7,12 @@
 #include "core/centre_follow.h"
 #include "core/point_file.h"
 #include "core/text_fields.h"
+#include "core/texts/boxes.h"
+#include "core/texts/status_texts.h"
 
 namespace zepril {
 namespace {
 
-constexpr const char* kBoxTitle = "ZEP RIL";
 constexpr std::string_view kExtension = ".TRK";
 constexpr int kEnterKey = 13;
 
@@ -64,8 +65,9 @@ void TrackFiles::ShowLoaded() {
 
 bool TrackFiles::Load(const std::string& name) {
   if (!IsPlainFileName(name)) return false;
-  auto read = ReadPointFile(tools_.Disk, PathOf(name), places_.TrackPoints,
-                            PlacesState::kMostTrackLines, tools_.LongWork, "Reading track " + name);
+  auto read =
+      ReadPointFile(tools_.Disk, PathOf(name), places_.TrackPoints, PlacesState::kMostTrackLines,
+                    tools_.LongWork, status_texts::kReadingTrack.With({name}));
   if (!read) return false;
   places_.TrackPoints = std::move(read->Points);
   return true;
@@ -84,7 +86,7 @@ void TrackFiles::Choose(const std::string& name) {
   }
   if (!IsPlainFileName(name)) {
     ShowLoaded();
-    tools_.Boxes.Tell(kBoxTitle, "\"" + name + "\" can't be the name of a track file.");
+    tools_.Boxes.Tell(boxes::kTitle, boxes::kTrackName.With({name}));
     return;
   }
   // A name that is new is offered first.
@@ -94,7 +96,7 @@ void TrackFiles::Choose(const std::string& name) {
   }
   if (!Load(name)) {
     ShowLoaded();
-    tools_.Boxes.Tell(kBoxTitle, "The track file " + name + " can't be read.");
+    tools_.Boxes.Tell(boxes::kTitle, boxes::kTrackUnread.With({name}));
     return;
   }
   loaded_ = true;
@@ -107,13 +109,12 @@ void TrackFiles::Choose(const std::string& name) {
 }
 
 bool TrackFiles::CreateEmpty(const std::string& name) {
-  const DialogAnswer answer =
-      tools_.Boxes.Ask(kBoxTitle, "There is no track file " + name + ".  CREATE AN EMPTY ONE?",
-                       DialogButtons::YesNo, DialogAnswer::No);
+  const DialogAnswer answer = tools_.Boxes.Ask(boxes::kTitle, boxes::kTrackMissing.With({name}),
+                                               DialogButtons::YesNo, DialogAnswer::No);
   if (answer != DialogAnswer::Yes) return false;
   tools_.Disk.MakeFolder(Folder());
   if (tools_.Disk.Append(PathOf(name), "")) return true;
-  tools_.Boxes.Tell(kBoxTitle, "The track file " + name + " can't be created.");
+  tools_.Boxes.Tell(boxes::kTitle, boxes::kTrackNotCreated.With({name}));
   return false;
 }
 

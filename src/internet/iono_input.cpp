@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/text_fields.h"
+#include "core/texts/boxes.h"
 
 namespace zepril {
 namespace {
@@ -49,9 +50,9 @@ void IonoInput::Open() {
 
 void IonoInput::Apply() {
   const auto sunspots = NumberUpTo(controls_.Text11.Text, kHighestSunspotNumber);
-  if (!sunspots) return Refuse(controls_.Text11, "SUNSPOT(R) must be a number from 0 to 400.");
+  if (!sunspots) return Refuse(controls_.Text11, boxes::kSunspotsRange);
   const auto k = NumberUpTo(controls_.Text12.Text, kHighestK);
-  if (!k) return Refuse(controls_.Text12, "K must be a number from 0 to 9.");
+  if (!k) return Refuse(controls_.Text12, boxes::kKRange);
   internet_.SunspotNumber = *sunspots;
   internet_.KpIndex = *k;
   controls_.Frame18.Visible = false;
@@ -59,8 +60,8 @@ void IonoInput::Apply() {
   if (view_.CirclesOn) tools_.Map.MapRedraw();
 }
 
-void IonoInput::Refuse(TextBox& field, const char* what) {
-  tools_.Boxes.Tell("ZEP RIL", what);
+void IonoInput::Refuse(TextBox& field, Text what) {
+  tools_.Boxes.Tell(boxes::kTitle, what);
   field.FocusWanted = true;
 }
 

@@ -8,6 +8,7 @@
 #include "core/controls/map_controls.h"
 #include "core/state/internet.h"
 #include "core/state/map_view.h"
+#include "core/texts/text.h"
 #include "platform/dialogs.h"
 
 namespace zepril {
@@ -36,7 +37,7 @@ class IonoInput {
   void Apply();
 
  private:
-  void Refuse(TextBox& field, const char* what);
+  void Refuse(TextBox& field, Text what);
 
   InternetState& internet_;
   MapViewState& view_;

@@ -2,6 +2,7 @@
 #include "links/agw_link.h"
 
 #include "core/text_fields.h"
+#include "core/texts/boxes.h"
 #include "links/agw_frame.h"
 
 namespace zepril {
@@ -9,10 +10,6 @@ namespace {
 
 constexpr double kReplySeconds = 10.0;
 constexpr std::size_t kReplyLength = 37;
-constexpr const char* kHostNotFound = "TCP/IP AGWPE HOST NOT FOUND !";
-constexpr const char* kEngineNotFound = "TCP/IP AGWPE NOT FOUND !";
-constexpr const char* kSendFailed = "TCP/IP AGWPE ERROR !";
-constexpr const char* kBoxTitle = "ZEP RIL  TCP/IP AGWPE";
 
 }  // namespace
 
@@ -51,8 +48,8 @@ void AgwLink::BeginConnection() {
                       static_cast<int>(WholeVal(radio_.AgwTcpPort, 0, 65535).value_or(0)));
 }
 
-bool AgwLink::Fail(const char* text) {
-  dialogs_.Tell(kBoxTitle, text);
+bool AgwLink::Fail(Text text) {
+  dialogs_.Tell(boxes::kEngineTitle, text);
   connection_.Close();
   program_.EndProgram();
   return false;
@@ -77,7 +74,7 @@ bool AgwLink::ConnectAgw() {
   while (connection_.State() == SocketState::Connecting && !clock_.EndAsked())
     clock_.HandOver();
   if (clock_.EndAsked()) return GiveUp();
-  if (connection_.State() != SocketState::Connected) return Fail(kHostNotFound);
+  if (connection_.State() != SocketState::Connected) return Fail(boxes::kHostNotFound);
   // The call is registered; the engine answers with a byte.
   radio_.AgwFrame.clear();
   connection_.Send(RegisterFrame());
@@ -86,7 +83,7 @@ bool AgwLink::ConnectAgw() {
     clock_.HandOver();
   if (clock_.EndAsked()) return GiveUp();
   if (radio_.AgwFrame.size() != kReplyLength || radio_.AgwFrame[kReplyLength - 1] != 1) {
-    return Fail(kEngineNotFound);
+    return Fail(boxes::kEngineNotFound);
   }
   // Monitoring on.
   radio_.AgwConnected = 1;
@@ -125,7 +122,7 @@ bool AgwLink::SendAgwUnproto() {
   const std::string data = AgwUnprotoData(transmission_.TxPath, transmission_.AgwTxText);
   const bool sent = connection_.Send(
       MakeAgwFrame(radio_.AgwPort, 'V', identity_.MyCallFull, transmission_.TxDestination, data));
-  if (!sent) dialogs_.Tell(kBoxTitle, kSendFailed);
+  if (!sent) dialogs_.Tell(boxes::kEngineTitle, boxes::kEngineSendFailed);
   return sent;
 }
 

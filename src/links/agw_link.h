@@ -12,6 +12,7 @@
 #include "core/state/identity.h"
 #include "core/state/radio.h"
 #include "core/state/transmission.h"
+#include "core/texts/text.h"
 #include "core/timer.h"
 #include "links/agw_connection.h"
 #include "platform/clock.h"
@@ -46,7 +47,7 @@ class AgwLink {
   std::string RegisterFrame() const;
   std::string MonitorFrame() const;
   bool Registered() const;
-  bool Fail(const char* text);
+  bool Fail(Text text);
   bool GiveUp();
 
   RadioState& radio_;

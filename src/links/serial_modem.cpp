@@ -4,18 +4,15 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/texts/notices.h"
+#include "core/texts/status_texts.h"
 #include "links/agw_link.h"
 #include "links/telling_clock.h"
 
 namespace zepril {
 namespace {
 
-constexpr const char* kTakesNothing = "The modem's line takes no bytes.";
-constexpr const char* kNotReached = "START has not reached the modem.";
-constexpr const char* kLostItsPower = "The modem has lost its power.";
-constexpr const char* kDoesNotAnswer = "The modem does not answer.";
 constexpr int kLookAgainMilliseconds = 1000;
-constexpr const char* kSetUp = "MODEM SET-UP";
 
 }  // namespace
 
@@ -44,7 +41,7 @@ void SerialModem::Open() {
     Run(PrepareModemScript(Sections()));
     EnterConverse();
   } else if (tools_.Port.Trouble().empty()) {
-    trouble_ = kNotReached;
+    trouble_ = notices::kModemNotReached;
   }
   tools_.ReopenTimer.Arm(kReopenMilliseconds);
 }
@@ -71,11 +68,12 @@ void SerialModem::Program(Progress& progress) {
   changed_ = changed_ || !tools_.Port.IsOpen();
   while (!busy_ && untold_) {
     untold_ = false;
-    const bool told = Run(ApplyTxSetupScript(Sections()),
-                          [&progress](double share) { progress.Report("TX SETUP", share); });
+    const bool told = Run(ApplyTxSetupScript(Sections()), [&progress](double share) {
+      progress.Report(status_texts::kTxSetupWork, share);
+    });
     // It must not go on under its old call and path.
     const bool stalled = !told && tools_.Port.IsOpen() && !tools_.LocalClock.EndAsked();
-    if (stalled) GiveUp(kTakesNothing);
+    if (stalled) GiveUp(notices::kModemTakesNothing);
   }
   progress.Done();
 }
@@ -106,7 +104,7 @@ void SerialModem::ReopenElapsed() {
 bool SerialModem::IsAsItWasLeft() {
   if (!silent_) return false;
   const CallHeld call = Ask();
-  if (call == CallHeld::NotTold) trouble_ = kDoesNotAnswer;
+  if (call == CallHeld::NotTold) trouble_ = notices::kModemSilent;
   return call == CallHeld::Own && !changed_;
 }
 
@@ -129,7 +127,7 @@ bool SerialModem::LeaveConverse() {
   }
   Run(LeaveConverseScript(radio_));
   if (!tools_.Port.IsOpen()) return false;
-  if (tools_.Port.BytesToWrite() > 0) trouble_ = kTakesNothing;
+  if (tools_.Port.BytesToWrite() > 0) trouble_ = notices::kModemTakesNothing;
   return trouble_.empty();
 }
 
@@ -139,7 +137,7 @@ bool SerialModem::SetUpWhole() {
   const double begin = tools_.LocalClock.MonotonicSeconds();
   TellingClock clock(tools_.LocalClock, [&] {
     const double gone = tools_.LocalClock.MonotonicSeconds() - begin;
-    tools_.LongWork.Report(kSetUp, std::min(gone / whole, 1.0));
+    tools_.LongWork.Report(status_texts::kModemWork, std::min(gone / whole, 1.0));
   });
   busy_ = true;
   const bool heard = RunModemScript(script, tools_.Port, clock, {}, ScriptTerms::OnlyWhileHeard);
@@ -161,7 +159,7 @@ void SerialModem::WatchUnsent() {
     unsent_.pop_front();
   if (unsent_.empty()) return tools_.ReopenTimer.Arm(kReopenMilliseconds);
   const double waited = tools_.LocalClock.MonotonicSeconds() - unsent_.front().Seconds;
-  if (waited >= kLongestUnsentSeconds) return GiveUp(kTakesNothing);
+  if (waited >= kLongestUnsentSeconds) return GiveUp(notices::kModemTakesNothing);
   // A millisecond more, so that the time is over when the timer fires.
   tools_.ReopenTimer.Arm(static_cast<int>(std::ceil((kLongestUnsentSeconds - waited) * 1000.0)) +
                          1);
@@ -170,7 +168,7 @@ void SerialModem::WatchUnsent() {
 // One that was off and on again has forgotten its call.
 bool SerialModem::HasItsPower() {
   if (tools_.Port.ModemReady() == power_) return true;
-  GiveUp(kLostItsPower);
+  GiveUp(notices::kModemLostPower);
   return false;
 }
 
@@ -206,12 +204,12 @@ bool SerialModem::HasItsCall() {
   for (int question = 1; question <= kQuestions; ++question) {
     const CallHeld call = Ask();
     if (call == CallHeld::Own) return true;
-    if (call == CallHeld::Another) return GiveUp(kLostItsPower), false;
+    if (call == CallHeld::Another) return GiveUp(notices::kModemLostPower), false;
     if (!answers_) return true;
   }
   if (tools_.LocalClock.EndAsked()) return false;
   silent_ = true;
-  return GiveUp(kDoesNotAnswer), false;
+  return GiveUp(notices::kModemSilent), false;
 }
 
 void SerialModem::LookAtSilence() {
@@ -220,7 +218,7 @@ void SerialModem::LookAtSilence() {
   if (!MayReopen || MayReopen()) HasItsCall();
 }
 
-void SerialModem::GiveUp(const char* trouble) {
+void SerialModem::GiveUp(Text trouble) {
   trouble_ = trouble;
   own_call_at_.reset();
   unsent_.clear();

@@ -20,6 +20,7 @@
 #include <string>
 
 #include "core/progress.h"
+#include "core/texts/text.h"
 #include "core/timer.h"
 #include "links/modem_call.h"
 #include "links/setup_sequences.h"
@@ -110,7 +111,7 @@ class SerialModem {
   bool HasItsCall();
   void LookAtSilence();
   bool IsAsItWasLeft();
-  void GiveUp(const char* trouble);
+  void GiveUp(Text trouble);
 
   const IdentityState& identity_;
   RadioState& radio_;

@@ -1,6 +1,8 @@
 // Sends the change of mode and the change back, once each.
 #include "links/temporary_mode.h"
 
+#include "core/texts/notices.h"
+
 namespace zepril {
 namespace {
 
@@ -27,9 +29,7 @@ void TemporaryMode::SwitchOn() {
   on_ = true;
   const bool robust = radio_.BaudMode == "300R";
   Send(robust ? kFsk : kRobust);
-  terminal_.Label49.Caption =
-      robust ? "TEMPORARY MODE FSK 300 Bd RELEASE BUTTON TO RETURN TO RPR 300 Bd"
-             : "TEMPORARY MODE RPR 300 Bd RELEASE BUTTON TO RETURN TO FSK 300 Bd";
+  terminal_.Label49.Caption = robust ? notices::kTemporaryFsk : notices::kTemporaryRobust;
   terminal_.Label49.Visible = true;
 }
 

@@ -5,6 +5,7 @@
 
 #include "core/baud_mode.h"
 #include "core/text_fields.h"
+#include "core/texts/boxes.h"
 #include "links/setup_sequences.h"
 
 namespace zepril {
@@ -14,9 +15,6 @@ constexpr char kBreak = 3;
 constexpr char kBackspace = 8;
 constexpr char kCancelLine = 24;
 constexpr char kEsc = 27;
-constexpr const char* kTitle = "ZEP RIL          TERMINAL";
-constexpr const char* kHalfLine =
-    "A LINE IS TYPED WITHOUT ITS END. DO YOU WANT TO SEND IT OFF NOW ?   (NO: IT IS WIPED)";
 
 void AddTo(std::string& text, std::string_view more) {
   text += more;
@@ -82,8 +80,8 @@ void Terminal::WipeHalfLine() {
 
 void Terminal::SettleHalfLine() {
   if (!HasHalfLine()) return;
-  const DialogAnswer answer =
-      tools_.Boxes.Ask(kTitle, kHalfLine, DialogButtons::YesNo, DialogAnswer::No);
+  const DialogAnswer answer = tools_.Boxes.Ask(boxes::kTerminalTitle, boxes::kHalfLine,
+                                               DialogButtons::YesNo, DialogAnswer::No);
   if (answer != DialogAnswer::Yes) return WipeHalfLine();
   tools_.Port.Write("\r");
   half_line_ = 0;

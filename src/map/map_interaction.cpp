@@ -4,6 +4,7 @@
 #include "core/centre_follow.h"
 #include "core/position_text.h"
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 #include "map/map_view.h"
 #include "map/picture_names.h"
 #include "map/scales.h"
@@ -401,7 +402,8 @@ void MapInteraction::OpenMonitorRecords() {
 
 void MapInteraction::ShowState() {
   MoniAllControls& all = controls_.MoniAll;
-  all.Label16.Caption = view_.WxCaption ? "WX" : WholeNumber(LabelStep(view_));
+  all.Label16.Caption =
+      view_.WxCaption ? status_texts::kWeatherLabels : WholeNumber(LabelStep(view_));
   int bit = 1;
   for (CheckBox* box : {&all.Check10, &all.Check11, &all.Check13, &all.Check19, &all.Check25}) {
     SetState(*box, (view_.StationClassMask & bit) != 0 ? ClassBox::Shown : ClassBox::Hidden);

@@ -4,6 +4,7 @@
 #include "core/centre_follow.h"
 #include "core/position_text.h"
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 #include "map/all_stations_layer.h"
 #include "map/fill_bars.h"
 #include "map/map_view.h"
@@ -25,7 +26,8 @@ void MapRedrawer::MapRedraw() {
   DrawingSurface& surface = tools_.MapSurface;
 
   // Caption of the centre button.
-  controls_.Map.Command12.Caption = view.MapLockedOnRecord == 1 ? "MAP L" : "MAP";
+  controls_.Map.Command12.Caption =
+      view.MapLockedOnRecord == 1 ? status_texts::kCentreLocked : status_texts::kCentre;
 
   // A picture in place of the map: nothing else is drawn.
   if (view.PictureMode == MapShows::Picture) {

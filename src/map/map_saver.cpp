@@ -4,6 +4,7 @@
 #include <set>
 
 #include "core/text_fields.h"
+#include "core/texts/boxes.h"
 
 namespace zepril {
 namespace {
@@ -20,7 +21,7 @@ void MapSaver::SaveMapWindow() {
   tools_.Disk.MakeFolder(folder);
   // The first number that is free, by one listing however many there are.
   const std::string path = folder + "\\" + FirstFreeMapName(tools_.Disk.List(folder, "MAP_*.BMP"));
-  if (tools_.Boxes.Ask("ZEP RIL", "SAVE MAP WINDOW TO FILE...  " + path, DialogButtons::OkCancel,
+  if (tools_.Boxes.Ask(boxes::kTitle, boxes::kSaveMap.With({path}), DialogButtons::OkCancel,
                        DialogAnswer::Cancel) != DialogAnswer::Ok) {
     return;
   }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 #include "map/line_batch.h"
 #include "map/map_colours.h"
 #include "map/map_view.h"
@@ -183,7 +184,8 @@ void ShowMoni1Captions(const FollowedStationState& followed, const StationStore&
                               " " + std::string(Mid(time, 1, 2)) + ":" +
                               std::string(Mid(time, 3, 2)) + "  " + followed.MonitorSymbolText;
   }
-  controls.Label10.Caption = "TEXT: " + DoubledAmpersands(followed.MonitorInfo);
+  controls.Label10.Caption =
+      status_texts::kLastText.With({DoubledAmpersands(followed.MonitorInfo)});
 }
 
 void Moni1Draw(DrawingSurface& surface, const MapViewState& view, FollowedStationState& followed,

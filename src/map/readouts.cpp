@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 #include "geodesy/conversions.h"
 #include "geodesy/coordinate_texts.h"
 #include "platform/clock.h"
@@ -168,7 +169,7 @@ std::string StationSpeedText(const StationStore& history) {
 
 std::string StationLine(double distance_km, double bearing_deg, const std::string& speed,
                         const std::string& via) {
-  std::string line = "DIST:       km   DIR:     \xB0   SPEED:     km/h   VIA:";
+  std::string line = status_texts::kStationLine;
   PutField(line, 6, 6, ShortNumber(RoundHalfEven(distance_km)));
   PutField(line, 22, 4, ShortNumber(RoundHalfEven(bearing_deg)));
   PutField(line, 37, 4, speed);

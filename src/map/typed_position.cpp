@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/text_fields.h"
+#include "core/texts/notices.h"
 #include "geodesy/conversions.h"
 
 namespace zepril {
@@ -19,18 +20,7 @@ constexpr double kSixty = 60.0;
 constexpr std::size_t kDecimalsOfDegrees = 4;  // kilometres have metres behind the point: three
 constexpr char kDegreeSign = '\xB0';
 
-constexpr const char* kBothWanted = "TYPE NORTH AND EAST";
-constexpr const char* kOnePosition = "TWO POSITIONS: CLEAR ONE OF THE FIELDS";
-constexpr const char* kUsePoint = "NUMBERS TAKE A POINT, NO COMMA";
-constexpr const char* kNotRead =
-    "NOT A POSITION. KILOMETRES, DEGREES (52.5041 13.4051) OR A LOCATOR";
-constexpr const char* kBeyond = "THIS PLACE LIES OUTSIDE THE MAP";
-constexpr const char* kNoSuchDegrees = "DEGREES GO TO 90 NORTH AND 180 EAST, MINUTES BELOW 60";
-constexpr const char* kMixed = "NORTH AND EAST: BOTH IN KILOMETRES OR BOTH IN DEGREES";
-constexpr const char* kShortLocator = "A LOCATOR OF 6 CHARACTERS OR MORE IS NEEDED";
-constexpr const char* kAreKilometres = "TAKEN AS KILOMETRES. DEGREES ARE TYPED AS 52.5N 13.4E";
-
-TypedPosition Refused(const char* why) {
+TypedPosition Refused(Text why) {
   return {std::nullopt, why};
 }
 
@@ -127,12 +117,13 @@ std::optional<Value> ReadValue(std::string_view word) {
 TypedPosition AtKilometres(double north_km, double east_km) {
   const bool on_map =
       std::fabs(north_km) < kHighestCentreKm && std::fabs(east_km) < kHighestCentreKm;
-  if (!on_map) return Refused(kBeyond);  // also what is no number
+  if (!on_map) return Refused(notices::kBeyondMap);  // also what is no number
   return {MapPosition{north_km, east_km}, std::string()};
 }
 
 TypedPosition AtDegrees(double lat, double lon, const MapViewState& view) {
-  if (std::fabs(lat) > kHighestLat || std::fabs(lon) > kHighestLon) return Refused(kNoSuchDegrees);
+  if (std::fabs(lat) > kHighestLat || std::fabs(lon) > kHighestLon)
+    return Refused(notices::kNoSuchDegrees);
   const GridMetres metres = GeodeticToUtm(lon, lat, view.MapCentralMeridian, view.MapFalseEasting);
   return AtKilometres(metres.North / 1000.0, metres.East / 1000.0);
 }
@@ -150,7 +141,7 @@ bool IsLocator(std::string_view text) {
 // The middle of the locator's field.
 TypedPosition AtLocator(std::string_view text, const MapViewState& view) {
   constexpr std::array<double, 5> kCells{18.0, 10.0, 24.0, 10.0, 24.0};
-  if (text.size() < 6) return Refused(kShortLocator);
+  if (text.size() < 6) return Refused(notices::kShortLocator);
   double lon = -180.0;
   double lat = -90.0;
   double side = 180.0;  // degrees of latitude; of longitude it is twice that
@@ -175,7 +166,8 @@ TypedPosition OfPair(const std::string& first, const std::string& second, bool i
   auto north = ReadValue(first);
   auto east = ReadValue(second);
   if (!north || !east) {
-    return Refused(HoldsComma(first) || HoldsComma(second) ? kUsePoint : kNotRead);
+    return Refused(HoldsComma(first) || HoldsComma(second) ? notices::kUsePoint
+                                                           : notices::kNoPosition);
   }
   const auto is_east = [](const Value& value) {
     return value.Hemisphere == 'E' || value.Hemisphere == 'W';
@@ -184,17 +176,17 @@ TypedPosition OfPair(const std::string& first, const std::string& second, bool i
     return value.Hemisphere == 'N' || value.Hemisphere == 'S';
   };
   if (is_east(*north) && !is_east(*east)) std::swap(north, east);
-  if (is_east(*north) || is_north(*east)) return Refused(kNotRead);
+  if (is_east(*north) || is_north(*east)) return Refused(notices::kNoPosition);
   const bool could_be_degrees =
       std::fabs(north->Number) <= kHighestLat && std::fabs(east->Number) <= kHighestLon;
   if (north->Marked && east->Marked) return AtDegrees(north->Number, east->Number, view);
-  if (north->Marked != east->Marked) return Refused(kMixed);
+  if (north->Marked != east->Marked) return Refused(notices::kMixedUnits);
   const bool fine = std::min(north->Decimals, east->Decimals) >= kDecimalsOfDegrees;
   if (could_be_degrees && (in_one_field || fine)) {
     return AtDegrees(north->Number, east->Number, view);
   }
   TypedPosition place = AtKilometres(north->Number, east->Number);
-  if (place.Place && could_be_degrees) place.Note = kAreKilometres;
+  if (place.Place && could_be_degrees) place.Note = notices::kAreKilometres;
   return place;
 }
 
@@ -203,7 +195,8 @@ std::optional<TypedPosition> OfOneField(const std::string& text, const MapViewSt
   const auto words = Words(text);
   if (words.size() == 2) return OfPair(words[0], words[1], true, view);
   if (words.size() == 1 && IsLocator(words[0])) return AtLocator(words[0], view);
-  if (words.size() > 2) return Refused(HoldsComma(text) ? kUsePoint : kNotRead);
+  if (words.size() > 2)
+    return Refused(HoldsComma(text) ? notices::kUsePoint : notices::kNoPosition);
   return std::nullopt;
 }
 
@@ -211,7 +204,7 @@ std::optional<TypedPosition> OfOneField(const std::string& text, const MapViewSt
 
 TypedPosition ReadTypedPosition(TypedField north, TypedField east, const MapViewState& view) {
   if (north.Text.size() > kLongestTyped || east.Text.size() > kLongestTyped) {
-    return Refused(kNotRead);
+    return Refused(notices::kNoPosition);
   }
   const std::string north_text = Plain(north.Text);
   const std::string east_text = Plain(east.Text);
@@ -219,8 +212,8 @@ TypedPosition ReadTypedPosition(TypedField north, TypedField east, const MapView
   const auto in_east = OfOneField(east_text, view);
   if (in_north && (east_text.empty() || !east.Changed)) return *in_north;
   if (in_east && (north_text.empty() || !north.Changed)) return *in_east;
-  if (in_north || in_east) return Refused(kOnePosition);
-  if (north_text.empty() || east_text.empty()) return Refused(kBothWanted);
+  if (in_north || in_east) return Refused(notices::kOnePosition);
+  if (north_text.empty() || east_text.empty()) return Refused(notices::kBothWanted);
   return OfPair(north_text, east_text, false, view);
 }
 

@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 
 namespace zepril {
 namespace {
@@ -61,7 +62,7 @@ void DistanceAlarm::TestAllStations(const StationRecord& record) {
   if (EqualFolded(call, Trim(followed_.Moni1Call)) || IsOwnCall(call)) return;
   const double distance_km = PlaneDistanceKm(record, map_);
   if (!(distance_km < alarm_.AlarmDistanceKm)) return;
-  Show("MONI ALL  <", record, distance_km);
+  Show(status_texts::kAlarmMoniAll, record, distance_km);
   for (Control* part : Panel()) {
     part->BackColour.reset();
     part->ForeColour.reset();
@@ -73,19 +74,17 @@ void DistanceAlarm::TestFollowed(const StationRecord& record) {
   if (followed_.Moni1AlarmOn != 1) return;
   const double distance_km = PlaneDistanceKm(record, map_);
   if (!(distance_km < alarm_.AlarmDistanceKm)) return;
-  Show("MONI 1  <", record, distance_km);
+  Show(status_texts::kAlarmMoni1, record, distance_km);
   for (Control* part : Panel()) {
     part->BackColour = kAlarmYellow;
     part->ForeColour = kAlarmBlack;
   }
 }
 
-void DistanceAlarm::Show(std::string_view opening, const StationRecord& record,
-                         double distance_km) {
-  status_.Frame12.Caption =
-      std::string(opening) + Str(alarm_.AlarmDistanceKm) + " km  ALARM   " + RecordTimeText(record);
+void DistanceAlarm::Show(Text words, const StationRecord& record, double distance_km) {
+  status_.Frame12.Caption = words.With({Str(alarm_.AlarmDistanceKm), RecordTimeText(record)});
   status_.Label25.Caption =
-      std::string(record.Call()) + "    D = " + FixedNumber(distance_km, 1) + " km !";
+      status_texts::kAlarmLine.With({record.Call(), FixedNumber(distance_km, 1)});
   status_.Frame12.Visible = true;
 }
 

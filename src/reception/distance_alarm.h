@@ -12,6 +12,7 @@
 #include "core/state/identity.h"
 #include "core/state/map_view.h"
 #include "core/station_record.h"
+#include "core/texts/text.h"
 
 namespace zepril {
 
@@ -33,7 +34,7 @@ class DistanceAlarm {
  private:
   bool IsOwnCall(std::string_view call) const;
   std::array<Control*, 2> Panel();
-  void Show(std::string_view opening, const StationRecord& record, double distance_km);
+  void Show(Text words, const StationRecord& record, double distance_km);
 
   const AlarmState& alarm_;
   const IdentityState& identity_;

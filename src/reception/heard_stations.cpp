@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 #include "geodesy/conversions.h"
 
 namespace zepril {
@@ -49,9 +50,10 @@ std::vector<HeardStation> HeardStations(const StationStore& store, std::size_t m
 
 std::string AgeText(std::int64_t minutes) {
   const std::int64_t age = std::max<std::int64_t>(minutes, 0);
-  if (age < 2 * kMinutesOfHour) return WholeNumber(age) + " min";
-  if (age < 2 * kMinutesOfDay) return WholeNumber(age / kMinutesOfHour) + " h";
-  return WholeNumber(age / kMinutesOfDay) + " d";
+  if (age < 2 * kMinutesOfHour) return status_texts::kMinutes.With({WholeNumber(age)});
+  if (age < 2 * kMinutesOfDay)
+    return status_texts::kHours.With({WholeNumber(age / kMinutesOfHour)});
+  return status_texts::kDays.With({WholeNumber(age / kMinutesOfDay)});
 }
 
 HeardStationsPanel::HeardStationsPanel(const StoresState& stores, const MapViewState& view,
@@ -103,7 +105,8 @@ void HeardStationsPanel::OrderBy(HeardColumn column) {
 }
 
 void HeardStationsPanel::ShowOrder() {
-  static constexpr std::array<const char*, 4> kCaptions{"CALL", "AGE", "KM", "DIR"};
+  static constexpr std::array<Text, 4> kCaptions{status_texts::kCall, status_texts::kAge,
+                                                 status_texts::kDistance, status_texts::kDirection};
   for (std::size_t column = 0; column < controls_.HeardOrder.size(); ++column) {
     OptionButton& head = controls_.HeardOrder[column];
     head.Value = static_cast<HeardColumn>(column) == order_;

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/text_fields.h"
+#include "core/texts/notices.h"
 
 namespace zepril {
 
@@ -28,17 +29,15 @@ std::vector<StationRecord> HistoryFile::Load() {
   std::vector<StationRecord> records =
       stamp && stamp->Size > kLargestRead ? ReadEnd(stamp->Size) : ReadWhole();
   if (unread_) {
-    notice_.Tell(path_ + " can't be read: " + files_.Trouble() +
-                 ". It is left as it is; new positions are not stored in it.");
+    notice_.Tell(notices::kHistoryUnread.With({path_, files_.Trouble()}));
   }
   if (records.size() > static_cast<std::size_t>(kMostHistoryLines)) {
     records.erase(records.begin(), records.end() - kMostHistoryLines);
     longer_ = true;
   }
   if (longer_) {
-    notice_.Tell(path_ + " is longer than is read. Its last " +
-                 WholeNumber(static_cast<std::int64_t>(records.size())) +
-                 " positions are shown, new ones are added at its end; nothing is lost.");
+    notice_.Tell(notices::kHistoryLonger.With(
+        {path_, WholeNumber(static_cast<std::int64_t>(records.size()))}));
   }
   return records;
 }
@@ -91,14 +90,12 @@ bool HistoryFile::Write(const std::vector<StationRecord>& records, std::string_v
     Written();
     if (!longer_ && !put_off_) {
       trouble_told_ = true;
-      notice_.Tell(path_ + " can't be written anew: " + why +
-                   ". New positions are added at its end; nothing is lost.");
+      notice_.Tell(notices::kHistoryNotAnew.With({path_, why}));
     }
     return true;
   }
   trouble_told_ = true;
-  notice_.Tell(path_ + " can't be written: " + files_.Trouble() +
-               ". New positions are held and written as soon as it can be.");
+  notice_.Tell(notices::kHistoryUnwritten.With({path_, files_.Trouble()}));
   return FirstFailure();
 }
 
@@ -130,15 +127,14 @@ bool HistoryFile::Shorten(const std::vector<StationRecord>& records) {
     return true;
   }
   put_off_ = true;
-  notice_.Tell(path_ + " is not shortened, for no copy of it can be kept: " +
-               (copy ? files_.Trouble() : "ten copies stand beside it already") +
-               ". It stays whole; new positions are added at its end.");
+  notice_.Tell(notices::kHistoryNotShortened.With(
+      {path_, copy ? files_.Trouble() : std::string(notices::kTenCopies)}));
   return false;
 }
 
 bool HistoryFile::Rewrite(const std::vector<StationRecord>& records) {
   if (!unread_ && files_.Replace(path_, HistoryText(records))) return true;
-  notice_.Tell(path_ + " can't be written: " + files_.Trouble() + ". It is as it was.");
+  notice_.Tell(notices::kHistoryAsItWas.With({path_, files_.Trouble()}));
   return false;
 }
 

@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include "core/text_fields.h"
+#include "core/texts/boxes.h"
+#include "core/texts/status_texts.h"
 
 namespace zepril {
 
@@ -37,9 +39,9 @@ bool RecordBrowser::HasSelection() const {
 
 void RecordBrowser::SetButtons() {
   const bool followed = SelectedIsFollowed();
-  panel_.Command18.Caption = followed ? "<X" : "<";
-  panel_.Command19.Caption = followed ? "X>" : ">";
-  panel_.Label19.Caption = followed ? "DELETE" : "QTH=";
+  panel_.Command18.Caption = followed ? status_texts::kCutOlder : status_texts::kOlder;
+  panel_.Command19.Caption = followed ? status_texts::kCutNewer : status_texts::kNewer;
+  panel_.Label19.Caption = followed ? status_texts::kDelete : status_texts::kOwnPlace;
 }
 
 void RecordBrowser::ShowSelected() {
@@ -74,7 +76,7 @@ bool RecordBrowser::OpenNewest(const std::string& call) {
 void RecordBrowser::Close() {
   panel_.Frame1.Visible = false;
   map_.MapLockedOnRecord = 0;
-  map_controls_.Command12.Caption = "MAP";
+  map_controls_.Command12.Caption = status_texts::kCentre;
 }
 
 void RecordBrowser::FollowedStationChanged() {
@@ -111,11 +113,9 @@ void RecordBrowser::Command19Click() {
 void RecordBrowser::DeletePositions(bool older) {
   constexpr std::size_t kTimeAndPlace = 31;
   const StationRecord record = SelectedStore().At(stores_.SelectedRecordIndex);
-  const std::string side = older ? "OLDER" : "NEWER";
-  const std::string title = "ZEP RIL         DELETE " + side + " POSITIONS";
-  const std::string text = "DELETE ALL POSITIONS " + side +
-                           " THAN THIS ONE:  " + std::string(record.Columns(1, kTimeAndPlace)) +
-                           "  ?";
+  const Text title = older ? boxes::kDeleteOlderTitle : boxes::kDeleteNewerTitle;
+  const std::string text =
+      (older ? boxes::kDeleteOlder : boxes::kDeleteNewer).With({record.Columns(1, kTimeAndPlace)});
   if (dialogs_.Ask(title, text, DialogButtons::YesNo, DialogAnswer::No) != DialogAnswer::Yes)
     return;
   if (!HasSelection() || !SelectedIsFollowed()) return;

@@ -1,6 +1,8 @@
 // Tries a log again after its rest, and tells when it can't be written.
 #include "reception/resting_logs.h"
 
+#include "core/texts/notices.h"
+
 namespace zepril {
 
 bool RestingLogs::AppendRaw(std::string_view collected) {
@@ -25,8 +27,7 @@ bool RestingLogs::Written(Kind kind, bool written) {
   }
   failing_ = kind;
   try_again_ = clock_.MonotonicSeconds() + kRestSeconds;
-  notice_.Tell(logs_.FailedPath() + " can't be written: " + files_.Trouble() +
-               ". Logs rest and are tried again every 10 minutes; reception goes on.");
+  notice_.Tell(notices::kLogsRest.With({logs_.FailedPath(), files_.Trouble()}));
   const bool first = !failed_once_;
   failed_once_ = true;
   return !first;

@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "core/texts/notices.h"
+
 namespace zepril {
 
 LinkWatch::LinkWatch(const RadioState& radio, StatusControls& status, LinkWatchTools tools)
@@ -64,11 +66,9 @@ void LinkWatch::EngineChanged(bool up) {
   status_.LinkNotice.Visible = !up;
   if (up) return;
   const bool local = radio_.RadioMode == static_cast<int>(RadioMode::AgwLocal);
-  const std::string where =
-      local ? "on this computer" : "at " + radio_.AgwHost + ", port " + radio_.AgwTcpPort + ",";
-  status_.LinkNotice.Caption = "The packet engine " + where +
-                               " does not answer. Nothing is heard or sent. It is tried again "
-                               "every ten seconds.";
+  status_.LinkNotice.Caption =
+      local ? notices::kLocalEngineSilent
+            : notices::kRemoteEngineSilent.With({radio_.AgwHost, radio_.AgwTcpPort});
 }
 
 }  // namespace zepril

@@ -9,14 +9,16 @@
 #include "config/ports_file.h"
 #include "core/port_number.h"
 #include "core/text_fields.h"
+#include "core/texts/boxes.h"
 #include "core/texts/form0_texts.h"
+#include "core/texts/notices.h"
+#include "core/texts/status_texts.h"
 #include "station/modem_set_up.h"
 
 namespace zepril {
 namespace {
 
 constexpr std::size_t kShortestCall = 3;
-constexpr const char* kBoxTitle = "ZEP RIL  START";
 // Numbers that a device is kept under where the settings hold none that can be.
 constexpr int kUsualPk232Port = 2;
 constexpr int kUsualScsPort = 3;
@@ -27,16 +29,16 @@ bool HasFastSpeeds(RadioMode mode) {
 }
 
 // START while it is under way: with a modem, how long its set-up takes.
-const char* StartingCaption(RadioMode mode) {
+Text StartingCaption(RadioMode mode) {
   switch (mode) {
     case RadioMode::Pk232:
-      return "40 s ...";
+      return status_texts::kStartPk232;
     case RadioMode::ScsTnc:
-      return "12 s ...";
+      return status_texts::kStartScsTnc;
     case RadioMode::ScsPtc:
-      return "25 s ...";
+      return status_texts::kStartScsPtc;
     default:
-      return "...";
+      return status_texts::kWorking;
   }
 }
 
@@ -169,8 +171,8 @@ void StartPanel::ShowPortFields() {
         static_cast<Control*>(&Controls.Text3), static_cast<Control*>(&Controls.Text4)}) {
     control->Visible = shown_ != nullptr;
   }
-  Controls.PortLabel.Caption = chosen.Serial() ? "COMM PORT" : "HOST NAME";
-  Controls.SpeedLabel.Caption = chosen.Serial() ? "COMM BAUD" : "HOST PORT";
+  Controls.PortLabel.Caption = chosen.Serial() ? status_texts::kCommPort : status_texts::kHostName;
+  Controls.SpeedLabel.Caption = chosen.Serial() ? status_texts::kCommBaud : status_texts::kHostPort;
   Controls.PortFault.Caption.clear();
   Controls.Text3.Text = shown_ != nullptr ? shown_->Port : std::string();
   Controls.Text4.Text = shown_ != nullptr ? shown_->Speed : std::string();
@@ -194,7 +196,7 @@ void StartPanel::ReadDevices() {
 void StartPanel::DeviceListOpens() {
   ReadDevices();
   if (Chosen().Serial() && present_.empty()) {
-    Controls.PortFault.Caption = "no serial device is there";
+    Controls.PortFault.Caption = notices::kNoDevice;
   }
 }
 
@@ -208,7 +210,7 @@ void StartPanel::PortChanged() {
   }
   const auto number = PortNumberOfText(field.Text);
   if (number && !IsPortNumber(*number)) {
-    Controls.PortFault.Caption = "port numbers go from 1 to " + WholeNumber(kHighestPortNumber);
+    Controls.PortFault.Caption = notices::kPortNumbers.With({WholeNumber(kHighestPortNumber)});
   }
 }
 
@@ -216,8 +218,7 @@ void StartPanel::SpeedChanged() {
   Controls.PortFault.Caption.clear();
   const std::string_view speed = Trim(Controls.Text4.Text);
   if (speed.empty() || Val(speed) > 0.0) return;
-  Controls.PortFault.Caption =
-      Chosen().Serial() ? "the speed is a number, such as 9600" : "the port is a number";
+  Controls.PortFault.Caption = Chosen().Serial() ? notices::kSpeedIsNumber : notices::kPortIsNumber;
 }
 
 // ---- START ----------------------------------------------------------------------------------
@@ -235,7 +236,7 @@ void StartPanel::Command1Click() {
   EnableFields(false);
   clock_.HandOver();
   if (!StoreFields()) {
-    Controls.Command1.Caption = "START";
+    Controls.Command1.Caption = status_texts::kStart;
     EnableFields(true);
     starting_ = false;
     return;
@@ -246,8 +247,8 @@ void StartPanel::Command1Click() {
 
 bool StartPanel::CallIsThere() {
   if (Trim(Controls.Text8.Text).size() >= kShortestCall) return true;
-  dialogs_.Tell(kBoxTitle, "SET USER CALL !");
-  Controls.Fault.Caption = "your call sign, 3 characters or more";
+  dialogs_.Tell(boxes::kStartTitle, boxes::kSetUserCall);
+  Controls.Fault.Caption = notices::kCallWanted;
   Controls.Text8.FocusWanted = true;
   return false;
 }
@@ -268,7 +269,7 @@ bool StartPanel::StoreFields() {
 }
 
 bool StartPanel::CantWrite(const char* name) {
-  dialogs_.Tell(kBoxTitle, "CAN'T WRITE  " + program_folder_ + "\\" + name);
+  dialogs_.Tell(boxes::kStartTitle, boxes::kCantWrite.With({program_folder_ + "\\" + name}));
   return false;
 }
 
@@ -342,7 +343,8 @@ std::string StartPanel::StableName(const std::string& device) const {
 // "port 3", or a device's name without its folders.
 std::string StartPanel::ShownPort() const {
   const std::string port(Trim(Controls.Text3.Text));
-  if (const auto number = PortNumberOfText(port)) return "port " + WholeNumber(*number);
+  if (const auto number = PortNumberOfText(port))
+    return status_texts::kPort.With({WholeNumber(*number)});
   return port.substr(port.rfind('/') + 1);
 }
 
@@ -357,14 +359,15 @@ void StartPanel::LeaveConverseOfLastRun() {
 
 void StartPanel::SetUpModem() {
   if (!Chosen().Serial()) return;
-  const std::string what =
-      " s left   modem on " + ShownPort() + ", " + std::string(Trim(Controls.Text4.Text)) + " Bd";
+  const std::string port = ShownPort();
+  const std::string speed(Trim(Controls.Text4.Text));
   Controls.SetupText.Visible = true;
   Controls.SetupBar.Visible = true;
   modem_.ForgetDevice();
   LeaveConverseOfLastRun();
   modem_is_set_up_ = TncSetup(settings_, modem_, clock_, [&](const SetUpProgress& progress) {
-    Controls.SetupText.Caption = ShortNumber(std::ceil(progress.SecondsLeft)) + what;
+    Controls.SetupText.Caption =
+        status_texts::kModemSetUp.With({ShortNumber(std::ceil(progress.SecondsLeft)), port, speed});
     Controls.SetupBar.FilledPx = static_cast<int>(progress.Share * kBarSteps);
     Controls.PortFault.Caption = progress.Trouble;
   });

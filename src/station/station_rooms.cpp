@@ -6,6 +6,7 @@
 #include "core/position_text.h"
 #include "core/text_fields.h"
 #include "core/texts/form1_texts.h"
+#include "core/texts/status_texts.h"
 #include "core/title_line.h"
 #include "station/initial_controls.h"
 #include "station/view_memory.h"
@@ -206,7 +207,7 @@ void StationRooms::ShowTitleMarkers() {
   PutInTitle(title, 1, base.substr(0, kTitleBaseColumns));
   PutInTitle(title, 61, DigiMarker(State.Radio));
   if (State.Internet.IGateOn == Gate::On) {
-    PutInTitle(title, 76, "IGate");
+    PutInTitle(title, 76, status_texts::kGate);
   } else {
     BlankInTitle(title, 76, 80);
   }
@@ -264,13 +265,14 @@ void StationRooms::MapRedraw() {
   if (State.Map.PictureMode != MapShows::Picture && Controls.Picture.Frame8.Visible)
     pictures_.ClosePicture();
   qth_.ShowFields();
-  Controls.Moni1.Command17.Caption = "TRACK " + WholeNumber(State.Followed.TrackStyle);
+  Controls.Moni1.Command17.Caption =
+      status_texts::kTrackStyle.With({WholeNumber(State.Followed.TrackStyle)});
   ShowPlaceLevel();
 }
 
 void StationRooms::ShowPlaceLevel() {
   Button& button = Controls.Map.Command73;
-  button.Caption = "POI " + WholeNumber(State.Map.PoiLevel);
+  button.Caption = status_texts::kPlaceLevel.With({WholeNumber(State.Map.PoiLevel)});
   button.BackColour.reset();
   if (State.Map.PoiLevel > 0) button.BackColour = kLayerOnColour;
 }

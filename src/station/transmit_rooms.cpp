@@ -6,6 +6,7 @@
 
 #include "config/modem_run_file.h"
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 #include "links/setup_sequences.h"
 #include "transmit/identification.h"
 
@@ -136,7 +137,7 @@ void TransmitRooms::TerminalChanged() {
   for (Control* control : std::initializer_list<Control*>{
            &controls_.Transmit.Check6, &controls_.TxSetup.TxOk, &controls_.Record.Label20}) {
     control->Enabled = !open;
-    if (open && !control->ToolTip.empty()) control->ToolTip = "Not while the terminal is open";
+    if (open && !control->ToolTip.empty()) control->ToolTip = status_texts::kNotInTerminal;
   }
   // Closed, the usual tool tips are back.
   if (!open) tools_.Joins.SetLabels();
@@ -152,7 +153,7 @@ void TransmitRooms::ShowNextBeacon() {
   const std::int64_t gone = SecondsOf(tools_.Machine.LocalClock.Now()) - own.LastBeaconTime;
   const std::int64_t shown = std::clamp<std::int64_t>(gone, 0, interval);
   bar.FilledPx = static_cast<int>(shown * bar.FullWidthPx / interval);
-  bar.ToolTip = "next position report in " + WholeNumber((interval - shown + 59) / 60) + " min";
+  bar.ToolTip = status_texts::kNextReport.With({WholeNumber((interval - shown + 59) / 60)});
 }
 
 }  // namespace zepril

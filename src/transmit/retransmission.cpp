@@ -5,13 +5,12 @@
 
 #include "core/station_record.h"
 #include "core/text_fields.h"
+#include "core/texts/boxes.h"
 #include "transmit/position_report.h"
 
 namespace zepril {
 namespace {
 
-constexpr const char* kTitle = "ZEP RIL          RETRANSMIT STATION'S POSITION";
-constexpr const char* kQuestion = "DO YOU WANT TO RETRANSMIT THIS STATION'S POSITION NOW ?";
 constexpr std::size_t kShortestRecord = 33;
 
 // The record behind the line on the window, where each "&" stands twice.
@@ -38,8 +37,8 @@ void Retransmission::RetransmitStation() {
   const std::string line = RecordText(record_.Label20.Caption);
   if (Trim(line).empty()) return;
   tools_.Timer1.Stop();
-  const DialogAnswer answer =
-      tools_.Boxes.Ask(kTitle, kQuestion, DialogButtons::YesNo, DialogAnswer::No);
+  const DialogAnswer answer = tools_.Boxes.Ask(boxes::kRetransmitTitle, boxes::kRetransmit,
+                                               DialogButtons::YesNo, DialogAnswer::No);
   if (answer == DialogAnswer::Yes) Send(line);
   tools_.Timer1.Enable();
   if (answer == DialogAnswer::Yes) tools_.LocalClock.HandOver();

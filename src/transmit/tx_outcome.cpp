@@ -2,35 +2,36 @@
 #include "transmit/tx_outcome.h"
 
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 
 namespace zepril {
 namespace {
 
-const char* Reason(Delivery delivery) {
+Text Reason(Delivery delivery) {
   switch (delivery) {
     case Delivery::Sent:
-      return "";
+      return {};
     case Delivery::LinkLost:
-      return "LINK LOST";
+      return status_texts::kReasonLinkLost;
     case Delivery::ModemBusy:
-      return "MODEM BUSY";
+      return status_texts::kReasonModemBusy;
     case Delivery::NoRadio:
-      return "NO RADIO";
+      return status_texts::kReasonNoRadio;
     case Delivery::NoCall:
-      return "NO CALL";
+      return status_texts::kReasonNoCall;
     case Delivery::NoPosition:
-      return "NO POSITION";
+      return status_texts::kReasonNoPosition;
     case Delivery::StillLeaving:
-      return "ONE STILL LEAVING";
+      return status_texts::kReasonStillLeaving;
   }
-  return "";
+  return {};
 }
 
 }  // namespace
 
 std::string OutcomeWords(Delivery delivery, const LocalTime& now) {
-  if (delivery != Delivery::Sent) return std::string("NOT SENT: ") + Reason(delivery);
-  return "SENT " + ZeroPadded(now.Hour, 2) + ":" + ZeroPadded(now.Minute, 2);
+  if (delivery != Delivery::Sent) return status_texts::kNotSent.With({Reason(delivery)});
+  return status_texts::kSent.With({ZeroPadded(now.Hour, 2) + ":" + ZeroPadded(now.Minute, 2)});
 }
 
 TxOutcome::TxOutcome(TransmitControls& controls, const Clock& clock)
@@ -39,7 +40,7 @@ TxOutcome::TxOutcome(TransmitControls& controls, const Clock& clock)
 void TxOutcome::Leaving() {
   colour_before_ = controls_.Check6.BackColour;
   controls_.Check6.BackColour = kOnTheAir;
-  controls_.TxOutcome.Caption = "SENDING";
+  controls_.TxOutcome.Caption = status_texts::kSending;
   controls_.TxOutcome.ForeColour.reset();
   told_at_ = clock_.MonotonicSeconds();
 }

@@ -5,6 +5,8 @@
 
 #include "core/baud_mode.h"
 #include "core/text_fields.h"
+#include "core/texts/notices.h"
+#include "core/texts/status_texts.h"
 
 namespace zepril {
 namespace {
@@ -12,7 +14,6 @@ namespace {
 constexpr std::array<const char*, 5> kSpeeds{"300R", "300", "1200", "9600", "19200"};
 constexpr std::array<const char*, TxSetupControls::kQuick> kQuickPaths{
     "WIDE1-1", "WIDE2-1", "WIDE2-2", "RELAY", "ECHO", "GATE"};
-constexpr const char* kCallFollows = "the call follows at the next START";
 constexpr int kLongestInterval = 60;
 constexpr int kHighestLevel = 32767;
 
@@ -27,9 +28,9 @@ TxSetup::TxSetup(TxSetupSections sections, TxSetupControls& controls, TransmitCo
     : sections_(sections), controls_(controls), transmit_(transmit), gate_(gate), tools_(tools) {
   controls_.Frame4.Visible = false;
   transmit_.Check6.RightClick = [this] { Open(); };
-  controls_.TxOk.Caption = "OK";
+  controls_.TxOk.Caption = status_texts::kOk;
   controls_.TxOk.Click = [this] { ApplyTxSetup(); };
-  controls_.TxAbort.Caption = "ABORT";
+  controls_.TxAbort.Caption = status_texts::kAbort;
   controls_.TxAbort.Click = [this] { Abort(); };
   BindFields();
   BindLines();
@@ -74,7 +75,7 @@ void TxSetup::BindPath() {
       controls_.TxPathField.Text = PathWith(controls_.TxPathField.Text, quick.Caption);
     };
   }
-  controls_.PathClear.Caption = "CLEAR";
+  controls_.PathClear.Caption = status_texts::kClear;
   controls_.PathClear.Click = [this] { controls_.TxPathField.Text.clear(); };
 }
 
@@ -192,12 +193,11 @@ void TxSetup::ShowByMode() {
   const bool tnc = mode == RadioMode::ScsTnc;
   const bool ptc = mode == RadioMode::ScsPtc;
   const bool level = tnc || ptc;
-  controls_.TxLevelLabel.Caption = tnc ? " SCS TNC: AFSK TX LEVEL ( 30 mV - 3000 mV )"
-                                       : " SCS PTC: AFSK TX LEVEL ( 30 mV - 3000 mV )";
+  controls_.TxLevelLabel.Caption = tnc ? status_texts::kTncLevel : status_texts::kPtcLevel;
   controls_.TxLevelLabel.Visible = level;
   controls_.TxLevel.Visible = level;
   // The PTC is not told its call by OK.
-  controls_.CallNotice.Caption = kCallFollows;
+  controls_.CallNotice.Caption = notices::kCallFollows;
   controls_.CallNotice.Visible = ptc;
   transmit_.Check2.Visible = tnc;
   controls_.CrossField.Visible = tnc;
@@ -245,7 +245,7 @@ void TxSetup::ApplyTxSetup() {
 
 // Events come in between: nothing is confirmed twice.
 void TxSetup::ShowWorking(bool working) {
-  controls_.TxOk.Caption = working ? "..." : "OK";
+  controls_.TxOk.Caption = working ? status_texts::kWorking : status_texts::kOk;
   controls_.TxOk.Enabled = !working;
   controls_.TxAbort.Enabled = !working;
 }

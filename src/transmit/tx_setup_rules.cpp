@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 
 namespace zepril {
 namespace {
@@ -46,7 +47,8 @@ std::string SteppedInterval(std::string_view text, int direction) {
 }
 
 std::string TxCaption(int interval_minutes) {
-  return interval_minutes == 0 ? "TX !" : "TX" + Str(interval_minutes);
+  if (interval_minutes == 0) return status_texts::kTxNow;
+  return status_texts::kTxEvery.With({Str(interval_minutes)});
 }
 
 int SteppedSymbol(int index, int direction) {

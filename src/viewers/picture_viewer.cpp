@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/text_fields.h"
+#include "core/texts/notices.h"
 
 namespace zepril {
 namespace {
@@ -155,16 +156,16 @@ void PictureViewer::ShowCaption() {
   switch (kind_) {
     case Kind::Picture:
       // Seen when the file turns out to be damaged.
-      caption = name + ": THE PICTURE CAN'T BE SHOWN";
+      caption = notices::kPictureDamaged.With({name});
       break;
     case Kind::Clip:
-      caption = name + ": TO BE OPENED OUTSIDE";
+      caption = notices::kPictureOutside.With({name});
       break;
     case Kind::Gone:
-      caption = name + ": NOT FOUND";
+      caption = notices::kPictureGone.With({name});
       break;
     case Kind::None:
-      caption = "NO PICTURE";
+      caption = notices::kNoPicture;
       break;
   }
 }

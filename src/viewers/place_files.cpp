@@ -7,6 +7,7 @@
 #include "core/centre_follow.h"
 #include "core/point_file.h"
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 #include "geodesy/coordinate_texts.h"
 
 namespace zepril {
@@ -104,7 +105,7 @@ bool PlaceFiles::Load(const std::string& name) {
   const auto stamp = tools_.Disk.Stamp(PathOf(name));
   auto read =
       ReadPointFile(tools_.Disk, PathOf(name), places_.PoiPoints, PlacesState::kMostPlacesRead,
-                    tools_.LongWork, "Reading places " + name);
+                    tools_.LongWork, status_texts::kReadingPlaces.With({name}));
   if (!read) return false;
   places_.PoiPoints = std::move(read->Points);
   cut_ = read->Cut;
@@ -116,7 +117,7 @@ bool PlaceFiles::Load(const std::string& name) {
 bool PlaceFiles::RefuseName(const std::string& name) {
   if (IsPlainFileName(name)) return false;
   ShowLoaded();
-  Tell("\"" + name + "\" can't be the name of a place file.");
+  Tell(boxes::kPlaceFileName.With({name}));
   return true;
 }
 
@@ -134,7 +135,7 @@ void PlaceFiles::SelectPoiFile() {
 void PlaceFiles::CreatePoiFile() {
   const std::string name = NameInField();
   if (name.empty()) {
-    Tell("Type the name of the new place file first.");
+    Tell(boxes::kTypeName);
     controls_.Combo2.FocusWanted = true;
     return;
   }
@@ -143,7 +144,7 @@ void PlaceFiles::CreatePoiFile() {
   tools_.Disk.MakeFolder(Folder());
   if (!tools_.Disk.Append(PathOf(name), "")) {
     ShowLoaded();
-    Tell("The place file " + name + " can't be created.");
+    Tell(boxes::kPlacesNotCreated.With({name}));
     return;
   }
   Take(name);
@@ -153,7 +154,7 @@ void PlaceFiles::CreatePoiFile() {
 void PlaceFiles::Take(const std::string& name) {
   if (!Load(name)) {
     ShowLoaded();
-    Tell("The place file " + name + " can't be read.");
+    Tell(boxes::kPlacesUnread.With({name}));
     return;
   }
   // A place that is being edited belongs to the file before.
@@ -222,7 +223,7 @@ void PlaceFiles::OpenLink() {
 
 bool PlaceFiles::FileChosen() {
   if (IsPlainFileName(settings_.PoiFile)) return true;
-  Tell("There is no place file yet.  TYPE A FILE NAME FIRST AND PRESS ENTER.");
+  Tell(boxes::kNoPlaceFile);
   controls_.Combo2.FocusWanted = true;
   return false;
 }
@@ -230,7 +231,7 @@ bool PlaceFiles::FileChosen() {
 // The table is full: one more would be an error, and the file stays as it is.
 bool PlaceFiles::RoomForOneMore() {
   if (places_.PoiPoints.Count() < PlacesState::kMostPlacesHeld) return true;
-  Tell("There is no room for another place.");
+  Tell(boxes::kNoRoom);
   return false;
 }
 
@@ -296,13 +297,13 @@ void PlaceFiles::MoveToCentre() {
 }
 
 bool PlaceFiles::Confirm(const std::string& text) {
-  return tools_.Boxes.Ask(kBoxTitle, text, DialogButtons::OkCancel, DialogAnswer::Cancel) ==
+  return tools_.Boxes.Ask(boxes::kTitle, text, DialogButtons::OkCancel, DialogAnswer::Cancel) ==
          DialogAnswer::Ok;
 }
 
 bool PlaceFiles::ConfirmRemoval() {
   const std::string name(places_.PoiPoints.Name(places_.PoiEditIndex));
-  if (Confirm("REMOVE THE PLACE  " + name + "  FROM THE FILE " + settings_.PoiFile + "?")) {
+  if (Confirm(boxes::kRemovePlace.With({name, settings_.PoiFile}))) {
     return true;
   }
   controls_.Text4.Text = name;
@@ -313,15 +314,12 @@ bool PlaceFiles::ConfirmRemoval() {
 // Before what was not read, or what another program has written since, is lost.
 bool PlaceFiles::ConfirmLoss() {
   const std::string& file = settings_.PoiFile;
-  if (cut_ && !Confirm("The file " + file + " holds more than " +
-                       WholeNumber(PlacesState::kMostPlacesRead) +
-                       " places, or longer lines than are read.  WRITE IT WITHOUT THE REST?")) {
+  if (cut_ && !Confirm(boxes::kPlacesCut.With({file, WholeNumber(PlacesState::kMostPlacesRead)}))) {
     return false;
   }
   const auto now = tools_.Disk.Stamp(PathOf(file));
   if (!now || now == stamp_) return true;
-  if (Confirm("The file " + file + " on the disk is no longer the one that was read.  " +
-              "WRITE OVER IT?")) {
+  if (Confirm(boxes::kPlacesChanged.With({file}))) {
     return true;
   }
   // What is there now counts; the place that was picked may be another one in it.
@@ -357,18 +355,17 @@ bool PlaceFiles::WriteFile(std::string_view edited_line) {
   const std::string& file = settings_.PoiFile;
   tools_.Disk.MakeFolder(Folder());
   if (!tools_.Disk.Replace(PathOf(file), FileText(edited_line))) {
-    Tell("The place file " + file + " can't be written.  NOTHING WAS CHANGED.");
+    Tell(boxes::kPlacesUnwritten.With({file}));
     return false;
   }
   const bool stays = places_.PoiEditIndex > 0 && IsPlace(edited_line);
   const int number = stays ? NumberInFile(places_.PoiEditIndex) : 0;
-  if (!Load(file)) Tell("The place file " + file + " can't be read any more.");
+  if (!Load(file)) Tell(boxes::kPlacesGone.With({file}));
   places_.PoiEditIndex = number <= places_.PoiPoints.Count() ? number : 0;
   if (IndexOfName(controls_.Combo2.Items, file) < 0) ListPoiFiles();
   // Kept: a place beyond the last that is read is written, but not there afterwards.
   if (cut_) {
-    Tell("The file " + file + " is full: only its first " +
-         WholeNumber(PlacesState::kMostPlacesRead) + " places are read.");
+    Tell(boxes::kPlacesFull.With({file, WholeNumber(PlacesState::kMostPlacesRead)}));
   }
   return true;
 }

@@ -18,6 +18,7 @@
 #include "core/state/map_view.h"
 #include "core/state/places.h"
 #include "core/state/settings.h"
+#include "core/texts/boxes.h"
 #include "platform/desktop_actions.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
@@ -88,10 +89,8 @@ class PlaceFiles {
   bool ConfirmLoss();
   int NumberInFile(int index) const;
   void RedrawPlaces();
-  void Tell(const std::string& text) { tools_.Boxes.Tell(kBoxTitle, text); }
+  void Tell(const std::string& text) { tools_.Boxes.Tell(boxes::kTitle, text); }
   bool Confirm(const std::string& text);
-
-  static constexpr const char* kBoxTitle = "ZEP RIL";
 
   const IdentityState& identity_;
   MapViewState& view_;

@@ -7,15 +7,15 @@
 #include <vector>
 
 #include "core/text_fields.h"
+#include "core/texts/status_texts.h"
 #include "geodesy/conversions.h"
 
 namespace zepril {
 namespace {
 
-// "²" is a byte of code page 1252.
-constexpr std::array<const char*, SunControls::kRows> kNames{
-    "SOL.EL.PWR (Wh/d/m\xB2hor):", "> (Ah @12V):", " ... 06-21 (Wh/d/m\xB2hor):", "> (Ah @12V):",
-    " ... 12-21 (Wh/d/m\xB2hor):", "> (Ah @12V):"};
+constexpr std::array<Text, SunControls::kRows> kNames{
+    status_texts::kSunToday,       status_texts::kSunAmpereHours, status_texts::kSunJune,
+    status_texts::kSunAmpereHours, status_texts::kSunDecember,    status_texts::kSunAmpereHours};
 
 constexpr double kDayStepDeg = 1.0;
 constexpr double kReferenceStepDeg = 7.5;
@@ -87,9 +87,9 @@ SunPlace SunCurve::PlaceUnderCursor() const {
 }
 
 void SunCurve::ShowTitle(const SunPlace& place, const LocalTime& now) {
-  controls_.SunTitle.Caption =
-      DateText(now) + "  SUN CURVE  " + CutToOneDecimal(place.LatitudeDeg) + "       N " +
-      CutToOneDecimal(place.LongitudeDeg) + "   E   UTC " + OffsetText(settings_.UtcOffsetHours);
+  controls_.SunTitle.Caption = status_texts::kSunTitle.With(
+      {DateText(now), CutToOneDecimal(place.LatitudeDeg), CutToOneDecimal(place.LongitudeDeg),
+       OffsetText(settings_.UtcOffsetHours)});
 }
 
 void SunCurve::ShowEnergies(const SunPath& today, const SunPath& summer, const SunPath& winter) {

@@ -64,5 +64,10 @@ inline constexpr Text kScsPtcIs{"serial controller SCS PTC"};
 inline constexpr Text kMapsBeingDrawn{"The sample maps are being drawn, once ..."};
 inline constexpr Text kMapsDrawn{"sample maps drawn"};
 
+// Where there is no window yet: on the terminal that the program was started from.
+inline constexpr Text kNoDisplay{"zepril: no display: set DISPLAY, or QT_QPA_PLATFORM=offscreen\n"};
+inline constexpr Text kNoFonts{
+    "zepril: its fonts are missing, a fixed font of the system stands in\n"};
+
 }  // namespace window_texts
 }  // namespace zepril

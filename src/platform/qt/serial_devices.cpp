@@ -16,6 +16,7 @@
 
 #include "core/port_number.h"
 #include "core/text_fields.h"
+#include "core/texts/notices.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
@@ -199,32 +200,26 @@ SerialTrouble SerialTroubleOf(const std::string& path) {
 std::string SerialTroubleText(SerialTrouble trouble, const std::string& path) {
   switch (trouble) {
     case SerialTrouble::NoPort:
-      return "No serial port is set.";
+      return notices::kNoPortSet;
     case SerialTrouble::Absent:
-      if (IsPath(path)) return path + " is not there.";
-      return path +
-             " is not there: this computer has fewer serial devices, and none is chosen for that "
-             "number.";
+      if (IsPath(path)) return notices::kPortAbsent.With({path});
+      return notices::kPortNumberAbsent.With({path});
     case SerialTrouble::NoDevice:
-      return path + " is no serial device.";
-    case SerialTrouble::NotPermitted: {
-      const std::string group = GroupOf(path);
-      return path + " may not be opened by you: it belongs to the group " + group +
-             ". To join it: sudo usermod -aG " + group + " $USER, then log in again.";
-    }
+      return notices::kPortNoDevice.With({path});
+    case SerialTrouble::NotPermitted:
+      return notices::kPortNotPermitted.With({path, GroupOf(path)});
     case SerialTrouble::UsedElsewhere:
-      return path + " is used by another program.";
+      return notices::kPortUsed.With({path});
     case SerialTrouble::OtherDevice:
-      return path + " is another device now. The one that was chosen is not there.";
+      return notices::kPortOtherDevice.With({path});
     case SerialTrouble::NeverThere:
-      return "No serial device stood behind " + path +
-             " at START. Plug the modem in and start the program anew.";
+      return notices::kPortNeverThere.With({path});
     case SerialTrouble::BadSpeed:
-      return path + " can't be opened at that speed.";
+      return notices::kPortSpeed.With({path});
     case SerialTrouble::Other:
       break;
   }
-  return path + " can't be opened.";
+  return notices::kPortClosed.With({path});
 }
 
 }  // namespace zepril
