@@ -18,9 +18,6 @@ namespace zepril {
 namespace {
 
 constexpr int kMargin = 8;
-constexpr int kPlaceWidth = 400;
-constexpr int kIonoWidth = 260;
-constexpr int kProgressWidth = 320;
 
 }  // namespace
 
@@ -36,8 +33,8 @@ LayerPanels::LayerPanels(WindowParts& parts, MainWindowControls& controls, QWidg
 
 void LayerPanels::MakePicturePanel(const Files& files) {
   PicturePanelControls& p = controls_.Picture;
-  picture_ = parts_.Panel(&map_);
-  auto* box = TightBox(QBoxLayout::TopToBottom, picture_);
+  made_.Picture = parts_.Panel(&map_);
+  auto* box = TightBox(QBoxLayout::TopToBottom, made_.Picture);
   auto* view = new PictureView(parts_.Loop, p.Picture);
   box->addWidget(view, 1);
   auto* row = TightBox(QBoxLayout::LeftToRight);
@@ -50,7 +47,7 @@ void LayerPanels::MakePicturePanel(const Files& files) {
   row->addWidget(parts_.BoundButton(p.Command70));
   row->addWidget(parts_.BoundButton(p.Command71));
   box->addLayout(row);
-  parts_.Binding.Bind(picture_, p.Frame8);
+  parts_.Binding.Bind(made_.Picture, p.Frame8);
   parts_.Binding.OnControlsOut([view, &p, &files] {
     if (p.Frame8.Visible) view->Show(p.Picture, files);
   });
@@ -58,8 +55,8 @@ void LayerPanels::MakePicturePanel(const Files& files) {
 
 void LayerPanels::MakePlacePanel() {
   PlaceControls& p = controls_.Places;
-  place_ = parts_.Panel(&map_);
-  QGridLayout* grid = parts_.SetUpGrid(place_, p.PoiPanel, 4);
+  made_.Place = parts_.Panel(&map_);
+  QGridLayout* grid = parts_.SetUpGrid(made_.Place, p.PoiPanel, 4);
   auto* name = new QLineEdit;
   name->setFont(parts_.FixedFont);
   grid->addWidget(name, 1, 0, 1, 4);
@@ -73,13 +70,13 @@ void LayerPanels::MakePlacePanel() {
   grid->addWidget(parts_.BoundButton(p.Command64), 3, 1);
   grid->addWidget(parts_.BoundButton(p.Command67), 3, 2);
   grid->addWidget(parts_.BoundButton(p.PoiClose), 3, 3);
-  parts_.Binding.Bind(place_, p.PoiPanel);
+  parts_.Binding.Bind(made_.Place, p.PoiPanel);
 }
 
 void LayerPanels::MakeIonoPanel() {
   IonoControls& i = controls_.Iono;
-  iono_ = parts_.Panel(&map_);
-  QGridLayout* grid = parts_.SetUpGrid(iono_, i.Frame18, 2);
+  made_.Iono = parts_.Panel(&map_);
+  QGridLayout* grid = parts_.SetUpGrid(made_.Iono, i.Frame18, 2);
   parts_.FieldRow(grid, 1, i.Text11);
   parts_.FieldRow(grid, 2, i.Text12);
   QPushButton* detailed = SmallButton();
@@ -87,14 +84,14 @@ void LayerPanels::MakeIonoPanel() {
   parts_.Binding.Bind(detailed, i.FoptDetailed);
   grid->addWidget(parts_.BoundButton(i.IonoOk), 4, 0);
   grid->addWidget(parts_.BoundButton(i.IonoClose), 4, 1);
-  parts_.Binding.Bind(iono_, i.Frame18);
+  parts_.Binding.Bind(made_.Iono, i.Frame18);
 }
 
 void LayerPanels::MakeSunPanel(const QtSurface& sun) {
   SunControls& s = controls_.Sun;
-  sun_ = parts_.Panel(&map_);
-  sun_->setAttribute(Qt::WA_TransparentForMouseEvents);  // the button is held on the map
-  auto* grid = new QGridLayout(sun_);
+  made_.Sun = parts_.Panel(&map_);
+  made_.Sun->setAttribute(Qt::WA_TransparentForMouseEvents);  // the button is held on the map
+  auto* grid = new QGridLayout(made_.Sun);
   grid->setContentsMargins(8, 8, 8, 8);
   grid->setSpacing(2);
   QLabel* title = parts_.FixedLabel();
@@ -111,7 +108,7 @@ void LayerPanels::MakeSunPanel(const QtSurface& sun) {
     parts_.Binding.Bind(name, s.SunNames[row]);
     parts_.Binding.Bind(value, s.SunValues[row]);
   }
-  parts_.Binding.Bind(sun_, s.SunPanel);
+  parts_.Binding.Bind(made_.Sun, s.SunPanel);
   parts_.Binding.OnControlsOut([plot, &s] {
     if (s.SunPanel.Visible) plot->ControlsOut();
   });
@@ -120,8 +117,8 @@ void LayerPanels::MakeSunPanel(const QtSurface& sun) {
 void LayerPanels::MakeProgressPanel() {
   ProgressControls& p = controls_.Progress;
   // Beside the map: set-up panels, which stand there too, must not hide it.
-  progress_ = parts_.Panel(map_.parentWidget());
-  auto* box = TightBox(QBoxLayout::TopToBottom, progress_);
+  made_.Progress = parts_.Panel(map_.parentWidget());
+  auto* box = TightBox(QBoxLayout::TopToBottom, made_.Progress);
   box->setContentsMargins(16, 12, 16, 12);
   auto* text = new QLabel;
   auto* bar = new FillBarWidget;
@@ -129,43 +126,7 @@ void LayerPanels::MakeProgressPanel() {
   box->addWidget(bar);
   parts_.Binding.Bind(text, p.ProgressText);
   parts_.Binding.Bind(bar, p.ProgressBar);
-  parts_.Binding.Bind(progress_, p.ProgressPanel);
-}
-
-void LayerPanels::Place() {
-  const int width = map_.width();
-  const int height = map_.height();
-  const int inner = std::max(width - 2 * kMargin, 100);
-  // Of its size before it comes, so that the picture is read once.
-  picture_->setGeometry(0, 0, width, height);
-  if (!place_->isHidden()) {
-    place_->setFixedWidth(std::min(kPlaceWidth, inner));
-    place_->adjustSize();
-    place_->move(kMargin, height - place_->height() - kMargin);
-  }
-  if (!iono_->isHidden()) {
-    iono_->setFixedWidth(std::min(kIonoWidth, inner));
-    iono_->adjustSize();
-    iono_->move(kMargin, kMargin);
-  }
-  if (!sun_->isHidden()) {
-    sun_->adjustSize();
-    sun_->move(kMargin, height - sun_->height() - kMargin);
-  }
-  if (!progress_->isHidden()) {
-    progress_->setFixedWidth(std::min(kProgressWidth, inner));
-    progress_->adjustSize();
-    const QPoint middle((width - progress_->width()) / 2, (height - progress_->height()) / 2);
-    progress_->move(map_.pos() + middle);
-    progress_->raise();
-  }
-}
-
-const Button* LayerPanels::CloseOfTopmost() const {
-  if (controls_.Places.PoiPanel.Visible) return &controls_.Places.PoiClose;
-  if (controls_.Iono.Frame18.Visible) return &controls_.Iono.IonoClose;
-  if (controls_.Picture.Frame8.Visible) return &controls_.Picture.Command71;
-  return nullptr;
+  parts_.Binding.Bind(made_.Progress, p.ProgressPanel);
 }
 
 }  // namespace zepril

@@ -20,10 +20,14 @@ class LayerPanels {
   LayerPanels(const LayerPanels&) = delete;
   LayerPanels& operator=(const LayerPanels&) = delete;
 
-  // Puts each that is open to its place on the map's present size.
-  void Place();
-  // The button that closes what lies on top; none when no panel is open.
-  const Button* CloseOfTopmost() const;
+  struct Widgets {
+    QFrame* Picture = nullptr;
+    QFrame* Place = nullptr;
+    QFrame* Iono = nullptr;
+    QFrame* Sun = nullptr;
+    QFrame* Progress = nullptr;
+  };
+  const Widgets& Made() const { return made_; }
 
  private:
   void MakePicturePanel(const Files& files);
@@ -35,11 +39,7 @@ class LayerPanels {
   WindowParts& parts_;
   MainWindowControls& controls_;
   QWidget& map_;
-  QFrame* picture_ = nullptr;
-  QFrame* place_ = nullptr;
-  QFrame* iono_ = nullptr;
-  QFrame* sun_ = nullptr;
-  QFrame* progress_ = nullptr;
+  Widgets made_;
 };
 
 }  // namespace zepril

@@ -83,7 +83,9 @@ MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fo
   panels_ = std::make_unique<PanelsOverMap>(parts_, controls_, program_.State().Map, *map_);
   transmit_panels_ = std::make_unique<TransmitPanels>(
       parts_, controls_, *map_, TransmitPanels::Symbols{surfaces.TxSymbol, surfaces.ObjectSymbol});
-  map_->PlaceOverlays = [this] { PlacePanels(); };
+  panel_table_ =
+      std::make_unique<PanelTable>(controls_, *map_, *layer_panels_, *panels_, *transmit_panels_);
+  map_->PlaceOverlays = [this] { panel_table_->Place(); };
   map_->Pointer = [this] {
     const MapViewState& view = program_.State().Map;
     return QPointF(view.CursorX, view.CursorY);
@@ -248,7 +250,7 @@ void MainWindow::ControlsOut() {
   }
   const bool busy = controls_.Window.Pointer == PointerShape::Hourglass;
   setCursor(busy ? Qt::WaitCursor : Qt::ArrowCursor);
-  if (transmit_panels_) PlacePanels();
+  if (panel_table_) panel_table_->Place();
 }
 
 // ---- What outlives a run ---------------------------------------------------------------------
@@ -396,17 +398,8 @@ void MainWindow::PressKey(QKeyEvent* event) {
   }
 }
 
-void MainWindow::PlacePanels() {
-  layer_panels_->Place();
-  panels_->Place();
-  transmit_panels_->Place();
-}
-
 void MainWindow::CloseTopmostPanel() {
-  if (controls_.Terminal.Frame19.Visible) return Press(controls_.Terminal.Command66);
-  if (const Button* close = transmit_panels_->CloseOfTopmost()) return Press(*close);
-  if (const Button* close = panels_->CloseOfTopmost()) return Press(*close);
-  if (const Button* close = layer_panels_->CloseOfTopmost()) return Press(*close);
+  if (const Button* close = panel_table_->CloseOfTopmost()) return Press(*close);
   map_->setFocus();
 }
 

@@ -15,6 +15,7 @@
 #include "desktop/layer_panels.h"
 #include "desktop/look.h"
 #include "desktop/map_widget.h"
+#include "desktop/panel_table.h"
 #include "desktop/panels_over_map.h"
 #include "desktop/side_columns.h"
 #include "desktop/transmit_panels.h"
@@ -74,7 +75,6 @@ class MainWindow final : public QWidget {
   void Switch(CheckBox& control);
   void PressControlKey(const QKeyEvent& event);
   void PressKey(QKeyEvent* event);
-  void PlacePanels();
   void CloseTopmostPanel();
 
   StationProgram& program_;
@@ -87,6 +87,7 @@ class MainWindow final : public QWidget {
   std::unique_ptr<LayerPanels> layer_panels_;
   std::unique_ptr<PanelsOverMap> panels_;
   std::unique_ptr<TransmitPanels> transmit_panels_;
+  std::unique_ptr<PanelTable> panel_table_;
 
   MapWidget* map_ = nullptr;
   QWidget* left_column_ = nullptr;

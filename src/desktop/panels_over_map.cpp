@@ -21,12 +21,10 @@ namespace {
 
 constexpr int kOverlayMargin = 8;
 constexpr int kRecordWidth = 984;  // 120 columns of 8 pixels and a frame
-constexpr int kQthWidth = 260;
-constexpr int kHeardWidth = 290;  // 31 columns of 8 pixels, a scroll bar and a frame
+constexpr int kHeardWidth = 290;   // 31 columns of 8 pixels, a scroll bar and a frame
 constexpr int kHeardHeight = 420;
 constexpr int kLowestHeard = 96;
 constexpr int kPathColumn = 91;  // 1-based: from here on the record stays together
-constexpr int kNoticeWidth = 760;
 
 }  // namespace
 
@@ -42,11 +40,11 @@ void PanelsOverMap::MakePanels() {
   MakeQthSetup();
   MakeHeardList();
   MakePalettePanel();
-  banner_ = parts_.FixedLabel();
-  banner_->setParent(&map_);
-  banner_->setAlignment(Qt::AlignCenter);
-  banner_->setMargin(6);
-  parts_.Binding.Bind(banner_, controls_.Status.Text10);
+  made_.Banner = parts_.FixedLabel();
+  made_.Banner->setParent(&map_);
+  made_.Banner->setAlignment(Qt::AlignCenter);
+  made_.Banner->setMargin(6);
+  parts_.Binding.Bind(made_.Banner, controls_.Status.Text10);
   MakeNotices();
 }
 
@@ -59,19 +57,19 @@ void PanelsOverMap::MakeNotices() {
     parts_.Binding.Bind(label, control);
     return label;
   };
-  link_notice_ = notice(controls_.Status.LinkNotice);
-  file_notice_ = notice(controls_.Status.FileNotice);
+  made_.LinkNotice = notice(controls_.Status.LinkNotice);
+  made_.FileNotice = notice(controls_.Status.FileNotice);
   // They may name a command or a file that is to be copied.
-  link_notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  file_notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  mode_notice_ = notice(controls_.Terminal.Label49);
-  mode_notice_->setAlignment(Qt::AlignCenter);
+  made_.LinkNotice->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  made_.FileNotice->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  made_.ModeNotice = notice(controls_.Terminal.Label49);
+  made_.ModeNotice->setAlignment(Qt::AlignCenter);
 }
 
 void PanelsOverMap::MakeRecordPanel() {
   RecordPanelControls& r = controls_.Record;
-  record_panel_ = parts_.Panel(&map_);
-  auto* box = TightBox(QBoxLayout::TopToBottom, record_panel_);
+  made_.Record = parts_.Panel(&map_);
+  auto* box = TightBox(QBoxLayout::TopToBottom, made_.Record);
   box->setContentsMargins(8, 8, 8, 8);
   record_text_ = parts_.FixedLabel();
   record_text_->setWordWrap(true);
@@ -89,7 +87,7 @@ void PanelsOverMap::MakeRecordPanel() {
   for (Button* control : {&r.Command11, &r.Command36, &r.Command23})
     row->addWidget(parts_.BoundButton(*control));
   box->addLayout(row);
-  parts_.Binding.Bind(record_panel_, r.Frame1);
+  parts_.Binding.Bind(made_.Record, r.Frame1);
 }
 
 // Where the record does not fit on one line, path, symbol and class go to the second one together.
@@ -107,8 +105,8 @@ void PanelsOverMap::KeepTailTogether() {
 }
 
 void PanelsOverMap::MakeAlarmPanel() {
-  alarm_panel_ = parts_.Panel(&map_);
-  auto* box = TightBox(QBoxLayout::TopToBottom, alarm_panel_);
+  made_.Alarm = parts_.Panel(&map_);
+  auto* box = TightBox(QBoxLayout::TopToBottom, made_.Alarm);
   box->setContentsMargins(16, 8, 16, 8);
   QLabel* caption = parts_.FixedLabel();
   caption->setObjectName(ToQt(controls_.Status.Frame12.Name) + QStringLiteral("Caption"));
@@ -116,17 +114,17 @@ void PanelsOverMap::MakeAlarmPanel() {
   box->addWidget(caption);
   box->addWidget(line);
   parts_.Binding.Bind(line, controls_.Status.Label25);
-  parts_.Binding.Bind(alarm_panel_, controls_.Status.Frame12);
+  parts_.Binding.Bind(made_.Alarm, controls_.Status.Frame12);
   parts_.Binding.OnControlsOut([this, caption] {
     caption->setText(ToQt(controls_.Status.Frame12.Caption));
-    if (alarm_panel_->isVisible()) alarm_panel_->adjustSize();
+    if (made_.Alarm->isVisible()) made_.Alarm->adjustSize();
   });
 }
 
 void PanelsOverMap::MakeQthSetup() {
   QthSetupControls& q = controls_.Qth;
-  qth_panel_ = parts_.Panel(&map_);
-  QGridLayout* grid = parts_.SetUpGrid(qth_panel_, q.Frame2, 2);
+  made_.Qth = parts_.Panel(&map_);
+  QGridLayout* grid = parts_.SetUpGrid(made_.Qth, q.Frame2, 2);
   parts_.FieldRow(grid, 1, q.TextQthNorth);
   parts_.FieldRow(grid, 2, q.TextQthEast);
   auto* note = new QLabel;
@@ -139,12 +137,12 @@ void PanelsOverMap::MakeQthSetup() {
   QLabel* rests = RestsLabel();
   grid->addWidget(rests, 5, 0, 1, 2);
   parts_.Binding.Bind(rests, q.QthRests);
-  parts_.Binding.Bind(qth_panel_, q.Frame2);
+  parts_.Binding.Bind(made_.Qth, q.Frame2);
 }
 
 void PanelsOverMap::MakeHeardList() {
-  heard_panel_ = parts_.Panel(&map_);
-  auto* box = TightBox(QBoxLayout::TopToBottom, heard_panel_);
+  made_.Heard = parts_.Panel(&map_);
+  auto* box = TightBox(QBoxLayout::TopToBottom, made_.Heard);
   box->setContentsMargins(8, 8, 8, 8);
   box->addWidget(GroupCaption(window_texts::kHeardStations));
   auto* heads = TightBox(QBoxLayout::LeftToRight);
@@ -162,13 +160,13 @@ void PanelsOverMap::MakeHeardList() {
   list->setEditTriggers(QAbstractItemView::NoEditTriggers);
   box->addWidget(list, 1);
   parts_.Binding.Bind(list, &heard_lines_, controls_.MoniAll.HeardList);
-  parts_.Binding.Bind(heard_panel_, controls_.MoniAll.HeardPanel);
+  parts_.Binding.Bind(made_.Heard, controls_.MoniAll.HeardPanel);
 }
 
 void PanelsOverMap::MakePalettePanel() {
   PaletteControls& p = controls_.Palette;
-  palette_panel_ = parts_.Panel(&map_);
-  auto* grid = new QGridLayout(palette_panel_);
+  made_.Palette = parts_.Panel(&map_);
+  auto* grid = new QGridLayout(made_.Palette);
   grid->setContentsMargins(8, 8, 8, 8);
   grid->setSpacing(kGap);
   for (std::size_t ink = 0; ink < p.Optionink.size(); ++ink) {
@@ -182,73 +180,25 @@ void PanelsOverMap::MakePalettePanel() {
   }
   grid->addWidget(parts_.BoundButton(p.Command42), 2, 0, 1, 4);
   grid->addWidget(parts_.BoundButton(p.Command43), 2, 4, 1, 4);
-  parts_.Binding.Bind(palette_panel_, p.PalettePanel);
+  parts_.Binding.Bind(made_.Palette, p.PalettePanel);
 }
 
-void PanelsOverMap::Place() {
-  const int width = map_.width();
-  const int height = map_.height();
-  const int inner = std::max(width - 2 * kOverlayMargin, 100);
-  // What is hidden is placed when it comes.
-  if (!record_panel_->isHidden()) {
-    const int record_width = std::min(inner, kRecordWidth);
-    record_text_->setFixedWidth(record_width - 18);
-    record_panel_->setFixedWidth(record_width);
-    record_panel_->adjustSize();
-    record_panel_->move((width - record_width) / 2,
-                        height - record_panel_->height() - kOverlayMargin);
-  }
-  if (!alarm_panel_->isHidden()) {
-    alarm_panel_->adjustSize();
-    alarm_panel_->move((width - alarm_panel_->width()) / 2, kOverlayMargin);
-  }
-  if (!qth_panel_->isHidden()) {
-    qth_panel_->setFixedWidth(std::min(kQthWidth, inner));
-    qth_panel_->adjustSize();
-    qth_panel_->move(kOverlayMargin, kOverlayMargin);
-  }
-  if (!heard_panel_->isHidden()) {
-    // The buttons of an open record stay free.
-    const int floor = record_panel_->isHidden() ? height : record_panel_->y();
-    const int heard_height = std::clamp(floor - 2 * kOverlayMargin, kLowestHeard, kHeardHeight);
-    const int heard_width = std::min(kHeardWidth, inner);
-    heard_panel_->setGeometry(width - heard_width - kOverlayMargin, kOverlayMargin, heard_width,
-                              heard_height);
-    if (!record_panel_->isHidden()) record_panel_->raise();
-  }
-  if (!palette_panel_->isHidden()) {
-    palette_panel_->adjustSize();
-    palette_panel_->move(width - palette_panel_->width() - kOverlayMargin,
-                         height - palette_panel_->height() - kOverlayMargin);
-  }
-  if (!banner_->isHidden()) {
-    banner_->adjustSize();
-    banner_->move((width - banner_->width()) / 2, kOverlayMargin);
-  }
-  PlaceNotices();
+void PanelsOverMap::PlaceRecord() {
+  const int width = std::min(std::max(map_.width() - 2 * kOverlayMargin, 100), kRecordWidth);
+  record_text_->setFixedWidth(width - 18);
+  made_.Record->setFixedWidth(width);
+  made_.Record->adjustSize();
+  made_.Record->move((map_.width() - width) / 2,
+                     map_.height() - made_.Record->height() - kOverlayMargin);
 }
 
-// Wide, over everything else on the map: the reason of a dead link at the top, trouble with a file
-// below it, the mode that lasts while the button is held at the bottom, next to the list.
-void PanelsOverMap::PlaceNotices() {
-  const int width = std::min(kNoticeWidth, std::max(map_.width() - 2 * kOverlayMargin, 100));
-  int top = kOverlayMargin;
-  for (QLabel* notice : {link_notice_, file_notice_, mode_notice_}) {
-    if (notice->isHidden()) continue;
-    const int height = notice->heightForWidth(width);
-    const int y = notice == mode_notice_ ? map_.height() - height - kOverlayMargin : top;
-    if (notice != mode_notice_) top += height + kOverlayMargin;
-    notice->setGeometry((map_.width() - width) / 2, y, width, height);
-    notice->raise();
-  }
-}
-
-const Button* PanelsOverMap::CloseOfTopmost() const {
-  if (controls_.Record.Frame1.Visible) return &controls_.Record.Command23;
-  if (controls_.MoniAll.HeardPanel.Visible) return &controls_.MoniAll.Command3;
-  if (controls_.Palette.PalettePanel.Visible) return &controls_.Palette.Command43;
-  if (controls_.Qth.Frame2.Visible) return &controls_.Qth.Command22;
-  return nullptr;
+void PanelsOverMap::PlaceHeard() {
+  // The buttons of an open record stay free.
+  const int floor = made_.Record->isHidden() ? map_.height() : made_.Record->y();
+  const int height = std::clamp(floor - 2 * kOverlayMargin, kLowestHeard, kHeardHeight);
+  const int width = std::min(kHeardWidth, std::max(map_.width() - 2 * kOverlayMargin, 100));
+  made_.Heard->setGeometry(map_.width() - width - kOverlayMargin, kOverlayMargin, width, height);
+  if (!made_.Record->isHidden()) made_.Record->raise();
 }
 
 }  // namespace zepril

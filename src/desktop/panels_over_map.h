@@ -21,10 +21,23 @@ class PanelsOverMap {
   PanelsOverMap(const PanelsOverMap&) = delete;
   PanelsOverMap& operator=(const PanelsOverMap&) = delete;
 
-  // Puts each to its place on the map's present size.
-  void Place();
-  // The button that closes what lies on top; none when no panel is open.
-  const Button* CloseOfTopmost() const;
+  struct Widgets {
+    QFrame* Record = nullptr;
+    QFrame* Alarm = nullptr;
+    QFrame* Qth = nullptr;
+    QFrame* Heard = nullptr;
+    QFrame* Palette = nullptr;
+    QLabel* Banner = nullptr;
+    QLabel* LinkNotice = nullptr;
+    QLabel* FileNotice = nullptr;
+    QLabel* ModeNotice = nullptr;
+  };
+  const Widgets& Made() const { return made_; }
+
+  // At the map's bottom, as wide as its line.
+  void PlaceRecord();
+  // At the map's right, above an open record.
+  void PlaceHeard();
 
  private:
   void MakePanels();
@@ -35,7 +48,6 @@ class PanelsOverMap {
   void MakeHeardList();
   void MakePalettePanel();
   void MakeNotices();
-  void PlaceNotices();
 
   WindowParts& parts_;
   MainWindowControls& controls_;
@@ -43,15 +55,7 @@ class PanelsOverMap {
   QWidget& map_;
   QStringListModel heard_lines_;
 
-  QFrame* record_panel_ = nullptr;
-  QFrame* alarm_panel_ = nullptr;
-  QFrame* qth_panel_ = nullptr;
-  QFrame* heard_panel_ = nullptr;
-  QFrame* palette_panel_ = nullptr;
-  QLabel* banner_ = nullptr;
-  QLabel* link_notice_ = nullptr;
-  QLabel* file_notice_ = nullptr;
-  QLabel* mode_notice_ = nullptr;
+  Widgets made_;
   QLabel* record_text_ = nullptr;
 };
 

@@ -71,7 +71,6 @@ void TransmitPanels::MakeObjectSetup(const QtSurface& symbol) {
   });
 }
 
-// At the map's top left; where that would reach its centre, over the column beside it.
 void TransmitPanels::PlaceObjectSetup() {
   const QRect map = map_.geometry();
   const int centre = map.x() + map.width() / 2;
@@ -79,15 +78,12 @@ void TransmitPanels::PlaceObjectSetup() {
   object_->PlaceIn(QRect(x, kMargin, kWidth, map_.parentWidget()->height() - 2 * kMargin));
 }
 
-void TransmitPanels::Place() {
-  tx_setup_.Place();
-  if (!object_->isHidden()) PlaceObjectSetup();
+QWidget* TransmitPanels::TxSetup() {
+  return tx_setup_.Widget();
 }
 
-const Button* TransmitPanels::CloseOfTopmost() const {
-  if (controls_.ObjectSetup.Frame11.Visible) return &controls_.ObjectSetup.Command32;
-  if (controls_.TxSetup.Frame4.Visible) return &controls_.TxSetup.TxAbort;
-  return nullptr;
+QWidget* TransmitPanels::ObjectSetup() {
+  return object_;
 }
 
 }  // namespace zepril

@@ -26,14 +26,14 @@ class TransmitPanels {
   TransmitPanels(const TransmitPanels&) = delete;
   TransmitPanels& operator=(const TransmitPanels&) = delete;
 
-  // Puts each that is open to its place beside or over the map.
-  void Place();
-  // The button that closes what lies on top; none when no panel is open.
-  const Button* CloseOfTopmost() const;
+  QWidget* TxSetup();
+  QWidget* ObjectSetup();
+  void PlaceTxSetup() { tx_setup_.Place(); }
+  // At the map's top left; where that would reach its centre, over the column beside it.
+  void PlaceObjectSetup();
 
  private:
   void MakeObjectSetup(const QtSurface& symbol);
-  void PlaceObjectSetup();
 
   WindowParts& parts_;
   MainWindowControls& controls_;

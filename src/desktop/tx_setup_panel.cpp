@@ -195,8 +195,11 @@ void TxSetupPanel::MakeRadio(QBoxLayout* box) {
   level->addStretch(1);
 }
 
+QWidget* TxSetupPanel::Widget() {
+  return panel_;
+}
+
 void TxSetupPanel::Place() {
-  if (panel_->isHidden()) return;
   const QWidget* under = map_.parentWidget();
   const int width = std::min(kWidth, under->width() - 2 * kMargin);
   const int x = std::min(map_.x() + kMargin, under->width() - width - kMargin);

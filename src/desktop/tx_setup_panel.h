@@ -22,6 +22,7 @@ class TxSetupPanel {
 
   // Puts it over the left part of the map, and over the columns where the map is too narrow.
   void Place();
+  QWidget* Widget();
 
  private:
   void MakeStation(QBoxLayout* box, const QtSurface& symbol);
