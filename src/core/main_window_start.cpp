@@ -64,24 +64,16 @@ bool MainWindowStart::Run(const std::string& program_folder, int colour_depth_bi
   return true;
 }
 
+// The settings fall back to values of their own when they are read.
 void MainWindowStart::SetDefaults() {
   state_.Map.StationClassMask = kAllClasses;
-  state_.Followed.Moni1AlarmOn = 1;
-  state_.Radio.RadioMode = 0;
   const StoreLimits limits = LimitsOfSpeed(clock_.LoopsPerSecond());
   state_.Stores.MoniAllRecords.Limit = limits.MoniAllLimit;
   state_.Stores.Moni1Records.Limit = limits.Moni1Limit;
-  state_.Identity.MapZoneName = "U33";
-  state_.Identity.MapsPath = R"(C:\ZEPRIL)";
-  state_.Gps.NmeaBaud = "4800";
   RadioState fresh;
   fresh.HfDualOn = state_.Radio.HfDualOn;
   state_.Radio = fresh;
-  state_.Followed.Moni1Call = "QX7KB";
   state_.Reception.SymbolIndex = 37;
-  state_.Alarms.AlarmDistanceKm = 10;
-  state_.Transmission.InfoLineActive.fill(1);
-  state_.Settings.Language = 11;
 }
 
 void MainWindowStart::SetView() {
