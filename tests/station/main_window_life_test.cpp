@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "core/main_window_start.h"
-#include "core/main_window_stop.h"
+#include "station/main_window_start.h"
+#include "station/main_window_stop.h"
 #include "tests/doubles/virtual_clock.h"
 
 namespace zepril {

@@ -7,7 +7,7 @@
 #pragma once
 
 #include "core/actions/map_actions.h"
-#include "core/actions/tick_actions.h"
+#include "station/tick_actions.h"
 #include "core/controls/main_window_controls.h"
 #include "core/runtime_state.h"
 #include "core/texts/text.h"

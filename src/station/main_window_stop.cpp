@@ -1,5 +1,5 @@
 // The steps of the end in their order: sound, link, settings, files.
-#include "core/main_window_stop.h"
+#include "station/main_window_stop.h"
 
 namespace zepril {
 

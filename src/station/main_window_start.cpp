@@ -1,5 +1,5 @@
 // The steps of the start in their order: defaults, settings, map, link, history, picture.
-#include "core/main_window_start.h"
+#include "station/main_window_start.h"
 
 #include <algorithm>
 

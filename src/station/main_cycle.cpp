@@ -1,5 +1,5 @@
 // The steps of a tick, one after the other, and what decides whether each is due.
-#include "core/main_cycle.h"
+#include "station/main_cycle.h"
 
 #include <cmath>
 

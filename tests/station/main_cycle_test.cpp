@@ -1,5 +1,5 @@
 // The steps of a tick: their order, and when each is due.
-#include "core/main_cycle.h"
+#include "station/main_cycle.h"
 
 #include <gtest/gtest.h>
 
