@@ -11,6 +11,7 @@
 
 #include "core/controls/main_window_controls.h"
 #include "core/position_text.h"
+#include "core/quiet_actions.h"
 #include "core/runtime_state.h"
 #include "core/text_fields.h"
 #include "map/map_room.h"
@@ -19,6 +20,7 @@
 #include "platform/native/system_clock.h"
 #include "platform/qt/map_fonts.h"
 #include "platform/qt/qt_surface.h"
+#include "platform/quiet_machine.h"
 #include "tests/doubles/temp_folder.h"
 #include "tests/map/bmp_maker.h"
 
@@ -67,11 +69,13 @@ class World {
   // Forgets every tile that was read.
   void NewRoom() {
     room_ = std::make_unique<MapRoom>(
-        MapRedrawSections{state_.Map, state_.Stores, state_.Followed, state_.Gps,
-                          state_.Transmission, state_.Identity},
-        MapRedrawControls{controls_.Window, controls_.Map, controls_.Scales, controls_.Palette,
-                          controls_.Moni1, controls_.MoniAll, controls_.Record, controls_.Chat},
-        controls_.Readouts, MapPlatform{files_, clock_, map_, base_}, overlays_, timer1_);
+        MapRoomSections{state_.Map, state_.Stores, state_.Followed, state_.Gps, state_.Transmission,
+                        state_.Identity, state_.Places, state_.Internet, state_.Settings},
+        MapRoomControls{controls_.Window, controls_.Map, controls_.Readouts, controls_.Scales,
+                        controls_.Palette, controls_.Moni1, controls_.MoniAll, controls_.Record,
+                        controls_.Chat, controls_.Qth},
+        MapRoomTools{files_, clock_, boxes_, desktop_, map_, base_, actions_, timer1_, timer2_,
+                     &overlays_});
   }
   void Redraw() { room_->Redrawer.MapRedraw(); }
   MapViewState& View() { return state_.Map; }
@@ -121,7 +125,11 @@ class World {
   RuntimeState state_;
   MainWindowControls controls_;
   OverlayLayers overlays_;
+  QuietActions actions_;
+  QuietDialogs boxes_;
+  QuietDesktop desktop_;
   Timer timer1_{6000};
+  Timer timer2_{6000};
   std::unique_ptr<MapRoom> room_;
 };
 

@@ -78,7 +78,7 @@ void MapInteraction::BindMap() {
   PictureBox& map = controls_.Map.Picture1;
   map.MouseMove = [this](const MousePress& at) {
     tools_.ReadoutTexts.CursorReadout(at.X, at.Y);
-    tools_.Lookups.MoveSunCurve();
+    if (tools_.Panels.Sun) tools_.Panels.Sun->MoveSunCurve();
   };
   map.MouseDown = [this](const MousePress& press) { PressMap(press); };
   map.MouseUp = [this](const MousePress&) { ReleaseMap(); };
@@ -89,7 +89,11 @@ void MapInteraction::BindFolders() {
   ScaleControls& scales = controls_.Scales;
   for (int row = 0; row < kMapScales; ++row) {
     const auto at = static_cast<std::size_t>(row);
-    scales.Folder[at].Change = [this, row] { ChooseFolder(row); };
+    // The choice is a setting.
+    scales.Folder[at].Change = [this, row] {
+      ChooseFolder(row);
+      tools_.Settings.WriteConfigFromMainWindow();
+    };
     scales.FrameBox[at].Click = [this] { Redraw(); };
   }
   const auto all_boxes = [this](int value) {
@@ -202,7 +206,7 @@ void MapInteraction::ChooseFolder(int row) {
 
 void MapInteraction::CentreOnRecord() {
   view_.PictureMode = MapShows::Map;
-  tools_.Lookups.ClosePicture();
+  ClosePicture();
   FollowNobody(view_, controls_.Map);
   const std::string& record = controls_.Record.Label20.Caption;
   // Without a record in the panel there is nowhere to go.
@@ -217,7 +221,7 @@ void MapInteraction::CentreOnRecord() {
 void MapInteraction::Follow(Following what) {
   FollowWith(view_, controls_.Map, what);
   view_.PictureMode = MapShows::Map;
-  tools_.Lookups.ClosePicture();
+  ClosePicture();
   UnlockFromRecord();
   Redraw();
 }
@@ -256,7 +260,7 @@ void MapInteraction::CentreOnPicture() {
     view_.CentreEastKm = place.EastKm;
   }
   view_.PictureMode = MapShows::Map;
-  tools_.Lookups.ClosePicture();
+  ClosePicture();
 }
 
 void MapInteraction::RightPress() {
@@ -270,7 +274,7 @@ void MapInteraction::RightPress() {
     view_.PlainMapHeld = true;
     controls_.Map.Picture1.Visible = false;
   } else {
-    tools_.Lookups.ShowSunCurve();
+    if (tools_.Panels.Sun) tools_.Panels.Sun->ShowSunCurve();
   }
 }
 
@@ -308,14 +312,14 @@ bool MapInteraction::LookUpStation() {
   if (!found) return false;
   stores_.SelectedStationCall = found->Call;
   stores_.SelectedRecordIndex = found->RecordIndex;
-  tools_.RecordPanel.OpenRecordPanel();
+  if (RecordPicked) RecordPicked();
   return true;
 }
 
 void MapInteraction::ReleaseMap() {
   view_.PlainMapHeld = false;
   controls_.Map.Picture1.Visible = true;
-  tools_.Lookups.HideSunCurve();
+  if (tools_.Panels.Sun) tools_.Panels.Sun->HideSunCurve();
 }
 
 // ---- Keys -----------------------------------------------------------------------------------
@@ -397,7 +401,7 @@ void MapInteraction::StepReadout(Readout readout) {
 void MapInteraction::OpenMonitorRecords() {
   stores_.SelectedStationCall = followed_.Moni1Call;
   stores_.SelectedRecordIndex = stores_.Moni1Records.Count();
-  tools_.RecordPanel.OpenRecordPanel();
+  if (RecordPicked) RecordPicked();
 }
 
 void MapInteraction::ShowState() {
@@ -424,6 +428,10 @@ void MapInteraction::ShowState() {
 
 void MapInteraction::UnlockFromRecord() {
   view_.MapLockedOnRecord = 0;
+}
+
+void MapInteraction::ClosePicture() {
+  if (tools_.Panels.Pictures) tools_.Panels.Pictures->ClosePicture();
 }
 
 void MapInteraction::FocusMap() {

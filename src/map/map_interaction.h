@@ -4,6 +4,7 @@
 #pragma once
 
 #include "core/actions/map_actions.h"
+#include "core/actions/settings_actions.h"
 #include "core/controls/map_controls.h"
 #include "core/controls/moni1_controls.h"
 #include "core/controls/moni_all_controls.h"
@@ -17,31 +18,19 @@
 #include "core/state/stores.h"
 #include "core/timer.h"
 #include "map/map_library.h"
+#include "map/map_panels.h"
 #include "map/readouts.h"
 #include "platform/desktop_actions.h"
 
 namespace zepril {
 
-// Opens the panel of station records, which reception owns.
-class RecordPanelOpener {
- public:
-  virtual ~RecordPanelOpener() = default;
-  // Shows the record in `SelectedStationCall` and `SelectedRecordIndex`.
-  virtual void OpenRecordPanel() = 0;
-};
-
-// What else a press on the map can find or show; a lookup returns true when it found something.
-// What is not overridden finds nothing.
+// What else a press on the map can find; a lookup returns true when it found something.
 class MapLookups {
  public:
   virtual ~MapLookups() = default;
-  virtual bool LookupPicture() { return false; }
-  virtual bool LookupTrackPoint() { return false; }
-  virtual bool LookupPlace() { return false; }
-  virtual void ShowSunCurve() {}
-  virtual void MoveSunCurve() {}  // the pointer moved while it is shown
-  virtual void HideSunCurve() {}
-  virtual void ClosePicture() {}
+  virtual bool LookupPicture() = 0;
+  virtual bool LookupTrackPoint() = 0;
+  virtual bool LookupPlace() = 0;
 };
 
 struct MapInteractionControls {
@@ -59,8 +48,9 @@ struct MapInteractionTools {
   MapActions& Map;
   MapLibrary& Library;
   Readouts& ReadoutTexts;
-  RecordPanelOpener& RecordPanel;
+  SettingsActions& Settings;
   MapLookups& Lookups;
+  const MapPanels& Panels;
   DesktopActions& Desktop;
   Timer& Timer1;
   Timer& Timer2;
@@ -79,6 +69,8 @@ class MapInteraction {
   MapInteraction(const MapInteraction&) = delete;
   MapInteraction& operator=(const MapInteraction&) = delete;
 
+  // A station's record was picked: `SelectedStationCall` and `SelectedRecordIndex` name it.
+  Event RecordPicked;
   // Brings level, class boxes, brightness, layers and follow options into the controls, after the
   // state was loaded.
   void ShowState();
@@ -119,6 +111,7 @@ class MapInteraction {
 
   void UnlockFromRecord();
   void FocusMap();
+  void ClosePicture();
   void Redraw();
 
   MapViewState& view_;

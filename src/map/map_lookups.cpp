@@ -21,7 +21,7 @@ bool PressLookups::LookupPicture() {
   FollowNobody(view_, controls_);
   tools_.MapSurface.Clear(kBlack);
   ++controls_.Picture1.Revision;
-  tools_.Panels.ShowPicture();
+  if (tools_.Panels.Pictures) tools_.Panels.Pictures->ShowPicture(view_.SelectedPicture);
   tools_.Timer1.Arm(kPictureTimer1Ms);
   return true;
 }
@@ -40,7 +40,7 @@ bool PressLookups::LookupPlace() {
   const auto found =
       FindPointNear(places_.PoiPoints, view_.ClickNorthKm, view_.ClickEastKm, PointToleranceKm());
   if (!found) return false;
-  tools_.Panels.EditPlace(*found);
+  if (tools_.Panels.Places) tools_.Panels.Places->EditPlace(*found);
   return true;
 }
 

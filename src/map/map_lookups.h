@@ -1,5 +1,4 @@
-// What a right press on the map finds beside stations: pictures, points of the track, places; and
-// the sun where nothing is.
+// What a right press on the map finds beside stations: pictures, points of the track, places.
 #pragma once
 
 #include "core/controls/map_controls.h"
@@ -14,7 +13,7 @@ namespace zepril {
 
 struct MapLookupTools {
   DrawingSurface& MapSurface;
-  MapPanels& Panels;
+  const MapPanels& Panels;
   Timer& Timer1;
 };
 
@@ -27,10 +26,6 @@ class PressLookups final : public MapLookups {
   bool LookupPicture() override;
   bool LookupTrackPoint() override;
   bool LookupPlace() override;
-  void ShowSunCurve() override { tools_.Panels.ShowSunCurve(); }
-  void MoveSunCurve() override { tools_.Panels.MoveSunCurve(); }
-  void HideSunCurve() override { tools_.Panels.HideSunCurve(); }
-  void ClosePicture() override { tools_.Panels.ClosePicture(); }
 
  private:
   double PointToleranceKm() const { return view_.MetresPerPixel / 100.0; }

@@ -49,8 +49,8 @@ void MapOverlays::PoiLayer(DrawingSurface& surface, const MapViewState& view) {
   zepril::PoiLayer(surface, view, sections_.Places.PoiPoints);
 }
 
-void MapOverlays::ShowPicture(DrawingSurface&, const MapViewState&) {
-  if (PictureShower) PictureShower();
+void MapOverlays::ShowPicture(DrawingSurface&, const MapViewState& view) {
+  if (panels_.Pictures) panels_.Pictures->ShowPicture(view.SelectedPicture);
 }
 
 }  // namespace zepril

@@ -1,13 +1,12 @@
 // The layers over the tiles that are no stations, drawn from what is loaded and switched on.
 #pragma once
 
-#include <functional>
-
 #include "core/state/internet.h"
 #include "core/state/places.h"
 #include "core/state/settings.h"
 #include "map/coordinate_values.h"
 #include "map/grid_lines.h"
+#include "map/map_panels.h"
 #include "map/overlay_layers.h"
 #include "map/propagation_estimate.h"
 #include "platform/clock.h"
@@ -24,8 +23,9 @@ struct OverlaySections {
 class MapOverlays final : public OverlayLayers {
  public:
   // `strips`: the values of the read-outs, for the strips chosen last.
-  MapOverlays(OverlaySections sections, const CoordinateValues& strips, const Clock& clock)
-      : sections_(sections), strips_(strips), clock_(clock) {}
+  MapOverlays(OverlaySections sections, const CoordinateValues& strips, const Clock& clock,
+              const MapPanels& panels)
+      : sections_(sections), strips_(strips), clock_(clock), panels_(panels) {}
 
   void GridLayer(DrawingSurface& surface, const MapViewState& view, DisplayMode mode,
                  PixelPoint last_tile) override;
@@ -35,13 +35,11 @@ class MapOverlays final : public OverlayLayers {
   void PoiLayer(DrawingSurface& surface, const MapViewState& view) override;
   void ShowPicture(DrawingSurface& surface, const MapViewState& view) override;
 
-  // Shows the chosen picture over the map window.
-  std::function<void()> PictureShower;
-
  private:
   OverlaySections sections_;
   const CoordinateValues& strips_;
   const Clock& clock_;
+  const MapPanels& panels_;
   GridLabels grid_labels_;
 };
 

@@ -22,6 +22,11 @@ MapRedrawer::MapRedrawer(MapRedrawSections sections, MapRedrawControls controls,
     : sections_(sections), controls_(controls), tools_(tools) {}
 
 void MapRedrawer::MapRedraw() {
+  Draw();
+  if (Redrawn) Redrawn();
+}
+
+void MapRedrawer::Draw() {
   MapViewState& view = sections_.View;
   DrawingSurface& surface = tools_.MapSurface;
 

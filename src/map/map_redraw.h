@@ -21,6 +21,7 @@
 #include "core/state/map_view.h"
 #include "core/state/stores.h"
 #include "core/state/transmission.h"
+#include "core/actions/map_actions.h"
 #include "core/symbol_table.h"
 #include "core/timer.h"
 #include "map/map_library.h"
@@ -69,11 +70,14 @@ struct MapRedrawTools {
   Timer& Timer1;
 };
 
-class MapRedrawer {
+class MapRedrawer final : public MapActions {
  public:
   MapRedrawer(MapRedrawSections sections, MapRedrawControls controls, MapRedrawTools tools);
 
-  void MapRedraw();
+  void MapRedraw() override;
+  void MapRefresh() override { ++controls_.Map.Picture1.Revision; }
+  // The map, or the picture in its place, was drawn; may be empty.
+  Event Redrawn;
 
  private:
   void ReadZone();
@@ -88,6 +92,7 @@ class MapRedrawer {
   void ShowTexts();
   void SetPointer(PointerShape shape);
   void Finish();
+  void Draw();
 
   MapRedrawSections sections_;
   MapRedrawControls controls_;

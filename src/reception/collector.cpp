@@ -13,7 +13,7 @@ constexpr std::size_t kLongestScsText = 1000;
 }  // namespace
 
 Collector::Collector(RadioState& radio, ReceptionState& reception, const InternetState& internet,
-                     Clock& clock, MonitorEngine& engine, SerialPort& modem, GateActions& gate)
+                     Clock& clock, MonitorEngine& engine, SerialPort& modem, GateActions* gate)
     : radio_(radio),
       reception_(reception),
       internet_(internet),
@@ -135,8 +135,8 @@ std::size_t Collector::Waiting() const {
 
 void Collector::HandToGate(std::string_view text) {
   constexpr std::size_t kShortestForGate = 11;
-  if (internet_.IGateConnected == GateLink::Up && text.size() >= kShortestForGate) {
-    gate_.GateMonitorBlock(text);
+  if (gate_ && internet_.IGateConnected == GateLink::Up && text.size() >= kShortestForGate) {
+    gate_->GateMonitorBlock(text);
   }
 }
 

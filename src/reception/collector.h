@@ -19,7 +19,7 @@ namespace zepril {
 class Collector {
  public:
   Collector(RadioState& radio, ReceptionState& reception, const InternetState& internet,
-            Clock& clock, MonitorEngine& engine, SerialPort& modem, GateActions& gate);
+            Clock& clock, MonitorEngine& engine, SerialPort& modem, GateActions* gate);
 
   // A receive pass begins; it collects once or several times.
   void PassBegins() { modem_text_.PassBegins(); }
@@ -47,7 +47,7 @@ class Collector {
   Clock& clock_;
   MonitorEngine& engine_;
   SerialText modem_text_;
-  GateActions& gate_;
+  GateActions* gate_;  // may be missing
 };
 
 }  // namespace zepril

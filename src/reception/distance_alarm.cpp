@@ -42,7 +42,9 @@ DistanceAlarm::DistanceAlarm(const AlarmState& alarm, const IdentityState& ident
       followed_(followed),
       map_(map),
       status_(status),
-      window_(window) {}
+      window_(window) {
+  status_.Frame12.Click = [this] { status_.Frame12.Visible = false; };
+}
 
 // The own call, with or without an SSID.
 bool DistanceAlarm::IsOwnCall(std::string_view call) const {

@@ -21,9 +21,12 @@ double PlaneDistanceKm(const StationRecord& record, const MapViewState& map);
 
 class DistanceAlarm {
  public:
+  // Sets the click of the panel, which closes it.
   DistanceAlarm(const AlarmState& alarm, const IdentityState& identity,
                 const FollowedStationState& followed, const MapViewState& map,
                 StatusControls& status, WindowControls& window);
+  DistanceAlarm(const DistanceAlarm&) = delete;
+  DistanceAlarm& operator=(const DistanceAlarm&) = delete;
 
   // Alarm over all stations: when it and the station labels are on, the station's class is on, the
   // station is neither the followed one nor the own, and nearer than the limit.

@@ -36,6 +36,8 @@ bool IsPlace(double north_km, double east_km) {
   return north_km != 0.0 || east_km != 0.0;
 }
 
+constexpr double kUnseenSeconds = 0.05;  // too short to press something meanwhile
+
 }  // namespace
 
 std::vector<HeardStation> HeardStations(const StationStore& store, std::size_t most) {
@@ -60,6 +62,8 @@ HeardStationsPanel::HeardStationsPanel(const StoresState& stores, const MapViewS
                                        MoniAllControls& controls, RecordBrowser& browser,
                                        const Clock& clock)
     : stores_(stores), view_(view), controls_(controls), browser_(browser), clock_(clock) {
+  controls_.Command3.Click = [this] { Command3Click(); };
+  controls_.HeardList.Click = [this] { HeardListClick(); };
   for (std::size_t column = 0; column < controls_.HeardOrder.size(); ++column) {
     controls_.HeardOrder[column].Click = [this, column] {
       OrderBy(static_cast<HeardColumn>(column));
@@ -92,6 +96,17 @@ void HeardStationsPanel::Renew() {
   list.ListIndex = RowOf(selected);
   // Who looks at the top wants to see what comes.
   if (list.TopIndex > 0) list.TopIndex = std::max(RowOf(top), 0);
+}
+
+void HeardStationsPanel::TickBegins() {
+  if (waits_) Renew();
+  waits_ = true;
+  tick_began_ = clock_.MonotonicSeconds();
+}
+
+void HeardStationsPanel::Received() {
+  waits_ = clock_.MonotonicSeconds() - tick_began_ > kUnseenSeconds;
+  if (!waits_) Renew();
 }
 
 void HeardStationsPanel::OrderBy(HeardColumn column) {

@@ -46,6 +46,12 @@ class HeardStationsPanel {
   // that was scrolled stays there. A row that is being pressed stays under the pointer: the renewal
   // waits.
   void Renew();
+  // A tick begins. A press that was made while the program waited, or worked long, is meant for the
+  // rows that were seen then: after such a tick the list is renewed here, at the beginning of the
+  // next one.
+  void TickBegins();
+  // Stations were received. The list is renewed at once when the tick is too young for a press.
+  void Received();
   // Another order; the same one again turns it round.
   void OrderBy(HeardColumn column);
 
@@ -72,6 +78,8 @@ class HeardStationsPanel {
   std::vector<Row> rows_;  // as shown
   HeardColumn order_ = HeardColumn::Age;
   bool turned_ = false;
+  bool waits_ = false;  // the list is renewed at the next tick
+  double tick_began_ = 0.0;
 };
 
 }  // namespace zepril

@@ -118,7 +118,8 @@ std::optional<FrameLevel> ReceivePass::Decode() {
   reception_.PacketInfoText = packet_.PacketInfoText;
   reception_.TimestampStale = packet_.TimestampStale ? 1 : 0;
   if (packet_.IsMessage) {
-    messages_.MessageReceived(packet_.PacketCall, packet_.PacketInfo, frame_.Header);
+    if (messages_)
+      messages_->MessageReceived(packet_.PacketCall, packet_.PacketInfo, frame_.Header);
   }
   if (result.Outcome == DecodeOutcome::Dropped) return Drop(result.Reason);
   reception_.SymbolIndex = packet_.SymbolIndex;

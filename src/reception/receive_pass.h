@@ -70,7 +70,7 @@ class ReceivePass {
     RecordBrowser& Browser;
     DistanceAlarm& Distance;
     MapActions& MapDrawing;
-    MessageActions& Messages;
+    MessageActions* Messages;  // may be missing
     EmergencyActions& Emergencies;
     Label& Notice;  // tells of logs that can't be written
   };
@@ -115,7 +115,7 @@ class ReceivePass {
   RecordBrowser& browser_;
   DistanceAlarm& distance_;
   MapActions& map_drawing_;
-  MessageActions& messages_;
+  MessageActions* messages_;
   EmergencyActions& emergencies_;
 
   const SymbolTable& symbols_;

@@ -22,7 +22,11 @@ RecordBrowser::RecordBrowser(StoresState& stores, MapViewState& map, RecordPanel
       map_controls_(map_controls),
       history_(history),
       dialogs_(dialogs),
-      actions_(actions) {}
+      actions_(actions) {
+  panel_.Command18.Click = [this] { Command18Click(); };
+  panel_.Command19.Click = [this] { Command19Click(); };
+  panel_.Command23.Click = [this] { Close(); };
+}
 
 bool RecordBrowser::SelectedIsFollowed() const {
   return history_.IsFollowed(stores_.SelectedStationCall);
@@ -59,6 +63,12 @@ void RecordBrowser::Open(const std::string& call, int index, double north_km, do
   SetButtons();
   panel_.Frame1.Visible = true;
   ShowSelected();
+}
+
+void RecordBrowser::OpenPicked() {
+  // A copy: opening writes the selection anew.
+  const std::string call = stores_.SelectedStationCall;
+  Open(call, stores_.SelectedRecordIndex, map_.ClickNorthKm, map_.ClickEastKm);
 }
 
 bool RecordBrowser::OpenNewest(const std::string& call) {

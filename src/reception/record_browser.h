@@ -19,14 +19,19 @@ namespace zepril {
 
 class RecordBrowser {
  public:
+  // Sets the events of the panel's buttons.
   RecordBrowser(StoresState& stores, MapViewState& map, RecordPanelControls& panel,
                 MapControls& map_controls, FollowedHistory& history, Dialogs& dialogs,
                 MapActions& actions);
+  RecordBrowser(const RecordBrowser&) = delete;
+  RecordBrowser& operator=(const RecordBrowser&) = delete;
 
   // Opens the panel on record `index` of `call`: of the history when that is the followed station,
   // else of the list of all stations. `north_km`, `east_km` is the picked place, around which the
   // buttons search.
   void Open(const std::string& call, int index, double north_km, double east_km);
+  // The same for the record that was picked on the map.
+  void OpenPicked();
   // Opens it on the newest record of `call`; false when there is none.
   bool OpenNewest(const std::string& call);
   void Close();

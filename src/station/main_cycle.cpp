@@ -21,15 +21,13 @@ constexpr int kPanelWidthTwips = 1815;
 }  // namespace
 
 MainCycle::MainCycle(RuntimeState& state, MainWindowControls& controls, Clock& clock,
-                     DesktopActions& desktop, Timer& timer1, Timer& timer2, TickActions& actions,
-                     MapActions& map)
+                     DesktopActions& desktop, Timer& timer1, Timer& timer2, MapActions& map)
     : state_(state),
       controls_(controls),
       clock_(clock),
       desktop_(desktop),
       timer1_(timer1),
       timer2_(timer2),
-      actions_(actions),
       map_(map) {}
 
 void MainCycle::Tick() {
@@ -55,7 +53,7 @@ void MainCycle::RunSteps() {
   state_.Settings.WindowActive = desktop_.MainWindowActive();
   // An SCS TNC on two modes listens on the second one too.
   if (state_.Radio.RadioMode == static_cast<int>(RadioMode::ScsTnc) && state_.Radio.HfDualOn == 1) {
-    actions_.KeepSecondModeMonitored();
+    RunStep(Steps.KeepSecondModeMonitored);
   }
   // A call typed into the MONI 1 field.
   if (FollowCallField() == Outcome::EndTick) return;
@@ -80,9 +78,9 @@ void MainCycle::RunSteps() {
   // The next tick comes later when something is transmitted.
   SetInterval();
   // GPS.
-  if (GpsIsPolled()) actions_.PollGps();
+  if (GpsIsPolled()) RunStep(Steps.PollGps);
   // Reception.
-  if (state_.Radio.RadioMode != static_cast<int>(RadioMode::None)) actions_.RunReceivePass();
+  if (state_.Radio.RadioMode != static_cast<int>(RadioMode::None)) RunStep(Steps.RunReceivePass);
   // Transmission.
   Transmit();
 }
@@ -95,7 +93,7 @@ bool MainCycle::GateMode() const {
 }
 
 void MainCycle::PollAprsIs() {
-  if (Val(state_.Internet.AprsIsPasscode) > 0.0 && GateMode()) actions_.PollAprsIsLink();
+  if (Val(state_.Internet.AprsIsPasscode) > 0.0 && GateMode()) RunStep(Steps.PollAprsIsLink);
 }
 
 void MainCycle::RenewTitle() {
@@ -133,7 +131,7 @@ MainCycle::Outcome MainCycle::CountScan() {
   KeepPanelWidths();
   --state_.Internet.Moni1ScanTicks;
   if (state_.Internet.Moni1ScanTicks != 0) return Outcome::GoOn;
-  actions_.RunScanSwitchHandler();
+  RunStep(Steps.RunScanSwitchHandler);
   return Outcome::EndTick;
 }
 
@@ -155,7 +153,7 @@ MainCycle::Outcome MainCycle::FollowCallField() {
   // Half a call, while the rest of it is being typed.
   const double since_key = clock_.MonotonicSeconds() - field.LastKeySeconds;
   if (field.HasFocus && since_key < kTypingSeconds) return Outcome::GoOn;
-  actions_.ChangeFollowedStation();
+  RunStep(Steps.ChangeFollowedStation);
   return Outcome::EndTick;
 }
 
@@ -168,7 +166,7 @@ void MainCycle::SelectLastRawLine() {
 void MainCycle::BringEmergencyBack() {
   if (state_.Alarms.AlarmCall.empty()) return;
   const double closed_for = clock_.MonotonicSeconds() - state_.Alarms.AlarmClosedAt;
-  if (std::fabs(closed_for) > kEmergencyReturnSeconds) actions_.ShowEmergencyPanel();
+  if (std::fabs(closed_for) > kEmergencyReturnSeconds) RunStep(Steps.ShowEmergencyPanel);
 }
 
 void MainCycle::LimitInternetTime() {
@@ -193,7 +191,7 @@ MainCycle::Outcome MainCycle::Identify() {
   if ((minute - offset) % 20 != 0 || time == state_.Transmission.LastIdBeaconTime) {
     return Outcome::GoOn;
   }
-  actions_.SendIdentification();
+  RunStep(Steps.SendIdentification);
   state_.Transmission.LastIdBeaconTime = time;
   return Outcome::EndTick;
 }
@@ -204,7 +202,7 @@ MainCycle::Outcome MainCycle::UpdateIonosphere() {
   if (std::fabs(now - state_.Internet.LastIonoTimer) <= kIonoSeconds) return Outcome::GoOn;
   controls_.Status.IonoLabel.Caption = status_texts::kUpdating;
   state_.Internet.LastIonoTimer = now;
-  actions_.StartIonoUpdate();
+  RunStep(Steps.StartIonoUpdate);
   return Outcome::EndTick;
 }
 
@@ -214,7 +212,7 @@ MainCycle::Outcome MainCycle::CollectMoni1() {
   const bool minute_come = ClockHhMm() / share != state_.Internet.LastMoni1InternetMinute / share;
   if (state_.Internet.Moni1ScanOn == 0 && !minute_come) return Outcome::GoOn;
   ShowCollecting(status_texts::kCollectingMoni1, kCollectingMoni1);
-  actions_.FetchMoni1();
+  RunStep(Steps.FetchMoni1);
   return Outcome::EndTick;
 }
 
@@ -224,7 +222,7 @@ MainCycle::Outcome MainCycle::CollectMoniAll() {
   }
   if (ClockHhMm() / 4 == state_.Internet.LastMoniAllInternetMinute / 4) return Outcome::GoOn;
   ShowCollecting(status_texts::kCollectingMoniAll, kCollectingMoniAll);
-  actions_.FetchMoniAll();
+  RunStep(Steps.FetchMoniAll);
   return Outcome::EndTick;
 }
 
@@ -292,14 +290,14 @@ bool MainCycle::GpsIsPolled() const {
 
 void MainCycle::Transmit() {
   TransmissionState& due = state_.Transmission;
-  if (due.ChatDue) actions_.RunChatPass();
+  if (due.ChatDue) RunStep(Steps.RunChatPass);
   if (state_.Radio.RadioMode == static_cast<int>(RadioMode::None)) return;
   if (due.ObjectDue && due.ObjectTxOn == 1) {
-    actions_.SendObjectReport();
+    RunStep(Steps.SendObjectReport);
     due.LastObjectTime = SecondsOf(clock_.Now());
   }
   if (due.BeaconDue) {
-    actions_.SendBeacon();
+    RunStep(Steps.SendBeacon);
     due.LastBeaconTime = SecondsOf(clock_.Now());
   }
 }

@@ -7,7 +7,7 @@
 #pragma once
 
 #include "core/actions/map_actions.h"
-#include "station/tick_actions.h"
+#include "station/tick_steps.h"
 #include "core/controls/main_window_controls.h"
 #include "core/runtime_state.h"
 #include "core/texts/text.h"
@@ -30,8 +30,10 @@ inline constexpr int kPageWatchdog = 60000;
 class MainCycle {
  public:
   MainCycle(RuntimeState& state, MainWindowControls& controls, Clock& clock,
-            DesktopActions& desktop, Timer& timer1, Timer& timer2, TickActions& actions,
-            MapActions& map);
+            DesktopActions& desktop, Timer& timer1, Timer& timer2, MapActions& map);
+
+  // To be set before the first tick.
+  TickSteps Steps;
 
   // One tick; a call while a tick is under way does nothing.
   void Tick();
@@ -77,7 +79,6 @@ class MainCycle {
   DesktopActions& desktop_;
   Timer& timer1_;
   Timer& timer2_;
-  TickActions& actions_;
   MapActions& map_;
   bool in_tick_ = false;
 };

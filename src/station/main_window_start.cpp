@@ -19,8 +19,8 @@ bool IsPicturePlace(std::string_view km_text) {
 }
 
 MainWindowStart::MainWindowStart(RuntimeState& state, MainWindowControls& controls, Clock& clock,
-                                 Timer& timer1, StartActions& actions)
-    : state_(state), controls_(controls), clock_(clock), timer1_(timer1), actions_(actions) {}
+                                 Timer& timer1, const StartSteps& steps)
+    : state_(state), controls_(controls), clock_(clock), timer1_(timer1), steps_(steps) {}
 
 bool MainWindowStart::Run(const std::string& program_folder, int colour_depth_bits) {
   // Version, folder, screen.
@@ -30,14 +30,14 @@ bool MainWindowStart::Run(const std::string& program_folder, int colour_depth_bi
   // Switches, store limits by the speed of the computer, defaults.
   SetDefaults();
   // Settings of the operator; names that follow from them.
-  actions_.ReadConfig();
-  actions_.SetOwnNames();
+  RunStep(steps_.ReadConfig);
+  RunStep(steps_.SetOwnNames);
   state_.Settings.TitleText = BaseTitle(state_.Identity.ProgramVersion, state_.Identity.MyCallFull);
   // Panels and maps.
-  actions_.LayOutPanels();
-  actions_.ScanMapLibrary();
+  RunStep(steps_.LayOutPanels);
+  RunStep(steps_.ScanMapLibrary);
   // History of the followed station, and where the map looks.
-  actions_.LoadHistory();
+  RunStep(steps_.LoadHistory);
   SetView();
   // The rhythm, then the radio link.
   state_.Settings.TickMilliseconds = 6000;
@@ -45,21 +45,21 @@ bool MainWindowStart::Run(const std::string& program_folder, int colour_depth_bi
   ApplyTxAllowed();
   state_.Reception.RxBuffer = "\n";
   // GPS, tracks, places, chat.
-  actions_.OpenGpsPort();
-  actions_.RestoreTracksPlacesAndChat();
+  RunStep(steps_.OpenGpsPort);
+  RunStep(steps_.RestoreTracksPlacesAndChat);
   controls_.Chat.Check16.Value = state_.Chat.AutoAnswerOn;
   // Gateway.
   SetIGateSwitch();
-  actions_.ShowTitleMarkers();
+  RunStep(steps_.ShowTitleMarkers);
   // Ionosphere and internet; the main cycle begins.
-  if (state_.Internet.IonoAutoOn == 1) actions_.StartIonoUpdate();
+  if (state_.Internet.IonoAutoOn == 1) RunStep(steps_.StartIonoUpdate);
   state_.Internet.LastMoni1InternetMinute = -5000;
   state_.Internet.LastMoniAllInternetMinute = 0;
   timer1_.Arm(state_.Settings.TickMilliseconds);
   // Labels and the first picture.
   ShowFirstPicture();
   // The terminal window, if open, and the second radio mode.
-  actions_.RunTerminalHandler();
+  RunStep(steps_.RunTerminalHandler);
   state_.Radio.HfDualOn = controls_.Transmit.Check2.Value;
   return true;
 }
@@ -94,15 +94,15 @@ void MainWindowStart::SetView() {
 bool MainWindowStart::OpenLink() {
   switch (static_cast<RadioMode>(state_.Radio.RadioMode)) {
     case RadioMode::AgwLocal:
-      actions_.OpenLocalEngine();
+      RunStep(steps_.OpenLocalEngine);
       return true;
     case RadioMode::Pk232:
     case RadioMode::ScsTnc:
     case RadioMode::ScsPtc:
-      actions_.OpenSerialModem();
+      RunStep(steps_.OpenSerialModem);
       return true;
     case RadioMode::AgwRemote:
-      return actions_.ConnectAgw();
+      return steps_.ConnectAgw && steps_.ConnectAgw();
     case RadioMode::None:
       for (CheckBox* box : {&controls_.Transmit.Check6, &controls_.Chat.Check16}) {
         box->Enabled = false;
@@ -143,8 +143,8 @@ void MainWindowStart::SetIGateSwitch() {
 
 void MainWindowStart::ShowFirstPicture() {
   state_.Alarms.AlarmDistanceKm = std::max(state_.Alarms.AlarmDistanceKm, 1);
-  actions_.SetLabels();
-  actions_.ShowAndDrawMap();
+  RunStep(steps_.SetLabels);
+  RunStep(steps_.ShowAndDrawMap);
   const bool no_user_position = state_.Map.OwnNorthKm == 0.0 && state_.Map.OwnEastKm == 0.0;
   const bool no_monitor_position =
       state_.Followed.MonitorNorthKm == 0.0 && state_.Followed.MonitorEastKm == 0.0;

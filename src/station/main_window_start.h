@@ -5,34 +5,33 @@
 #include "core/runtime_state.h"
 #include "core/timer.h"
 #include "platform/clock.h"
+#include "station/tick_steps.h"
 
 namespace zepril {
 
-// What the start asks of other rooms, in its order.
-class StartActions {
- public:
-  virtual ~StartActions() = default;
-  virtual void ReadConfig() = 0;
-  virtual void SetOwnNames() = 0;  // header pattern, passcode, navigation
-  virtual void LayOutPanels() = 0;
-  virtual void ScanMapLibrary() = 0;
-  virtual void LoadHistory() = 0;      // of the followed station; sets the monitor values
-  virtual void OpenLocalEngine() = 0;  // mode 0, with the digipeater companion
-  virtual void OpenSerialModem() = 0;  // modes 1, 5, 6
-  virtual bool ConnectAgw() = 0;       // mode 3; false: the program ends
-  virtual void OpenGpsPort() = 0;
-  virtual void RestoreTracksPlacesAndChat() = 0;
-  virtual void ShowTitleMarkers() = 0;
-  virtual void StartIonoUpdate() = 0;
-  virtual void SetLabels() = 0;  // by language
-  virtual void ShowAndDrawMap() = 0;
-  virtual void RunTerminalHandler() = 0;  // when the terminal window is open
+// What the start asks of other rooms, in its order. A step that nobody has set is passed over.
+struct StartSteps {
+  Step ReadConfig;
+  Step SetOwnNames;  // header pattern, passcode, navigation
+  Step LayOutPanels;
+  Step ScanMapLibrary;
+  Step LoadHistory;                  // of the followed station; sets the monitor values
+  Step OpenLocalEngine;              // mode 0, with the digipeater companion
+  Step OpenSerialModem;              // modes 1, 5, 6
+  std::function<bool()> ConnectAgw;  // mode 3; false: the program ends
+  Step OpenGpsPort;
+  Step RestoreTracksPlacesAndChat;
+  Step ShowTitleMarkers;
+  Step StartIonoUpdate;
+  Step SetLabels;  // by language
+  Step ShowAndDrawMap;
+  Step RunTerminalHandler;  // when the terminal window is open
 };
 
 class MainWindowStart {
  public:
   MainWindowStart(RuntimeState& state, MainWindowControls& controls, Clock& clock, Timer& timer1,
-                  StartActions& actions);
+                  const StartSteps& steps);
   // `program_folder`: where the program runs; `colour_depth_bits` of the screen. False when the
   // radio link failed in a way that ends the program.
   bool Run(const std::string& program_folder, int colour_depth_bits);
@@ -49,7 +48,7 @@ class MainWindowStart {
   MainWindowControls& controls_;
   Clock& clock_;
   Timer& timer1_;
-  StartActions& actions_;
+  const StartSteps& steps_;
 };
 
 // 1 when the third character of the call is a digit. A letter there makes the station one that

@@ -4,45 +4,45 @@
 namespace zepril {
 
 MainWindowStop::MainWindowStop(RuntimeState& state, MainWindowControls& controls, Timer& timer1,
-                               Timer& timer2, StopActions& actions)
-    : state_(state), controls_(controls), timer1_(timer1), timer2_(timer2), actions_(actions) {}
+                               Timer& timer2, const StopSteps& steps)
+    : state_(state), controls_(controls), timer1_(timer1), timer2_(timer2), steps_(steps) {}
 
 void MainWindowStop::CloseRequest() {
   timer2_.Stop();
   timer1_.Stop();
-  actions_.CloseSound();
-  if (controls_.Moni1.Check22.Value == 1) actions_.StopPageLoading();
-  if (controls_.Picture.Frame8.Visible) actions_.StopPicturePanel();
+  RunStep(steps_.CloseSound);
+  if (controls_.Moni1.Check22.Value == 1) RunStep(steps_.StopPageLoading);
+  if (controls_.Picture.Frame8.Visible) RunStep(steps_.StopPicturePanel);
 }
 
 void MainWindowStop::Run(bool by_operator) {
   CloseRequest();
   // Sound.
-  actions_.CloseSound();
+  RunStep(steps_.CloseSound);
   // The radio link, each in its own way.
   switch (static_cast<RadioMode>(state_.Radio.RadioMode)) {
     case RadioMode::AgwLocal:
-      actions_.CloseLocalEngine();
+      RunStep(steps_.CloseLocalEngine);
       break;
     case RadioMode::Pk232:
     case RadioMode::ScsTnc:
     case RadioMode::ScsPtc:
-      actions_.LeaveSerialModem();
+      RunStep(steps_.LeaveSerialModem);
       break;
     case RadioMode::AgwRemote:
-      actions_.DisconnectAgw();
+      RunStep(steps_.DisconnectAgw);
       break;
     case RadioMode::None:
       break;
   }
-  actions_.ClosePorts();
+  RunStep(steps_.ClosePorts);
   // The internet switches have no place in the file: they are off at the next start.
   // Hand-over files of the navigation program.
-  actions_.WriteNavigationFiles();
+  RunStep(steps_.WriteNavigationFiles);
   // Settings, only when the operator closed the window.
-  if (by_operator) actions_.MergeConfigAtExit();
+  if (by_operator) RunStep(steps_.MergeConfigAtExit);
   // What this run made for itself.
-  actions_.DeleteRunFiles();
+  RunStep(steps_.DeleteRunFiles);
 }
 
 }  // namespace zepril

@@ -15,7 +15,7 @@ bool StationProgram::Start(const std::string& program_folder, int colour_depth_b
 }
 
 void StationProgram::ModemWasNotSetUp() {
-  rooms_->ModemWasNotSetUp();
+  rooms_->Links.Modem.WasNotSetUp();
 }
 
 void StationProgram::Stop(bool by_operator) {
@@ -23,7 +23,7 @@ void StationProgram::Stop(bool by_operator) {
 }
 
 bool StationProgram::EndWanted() const {
-  return rooms_->EndWanted;
+  return rooms_->End.Wanted;
 }
 
 void StationProgram::MapResized(int width, int height) {
@@ -47,11 +47,11 @@ Timer& StationProgram::Timer2() {
 }
 
 Timer& StationProgram::ReopenTimer() {
-  return rooms_->ReopenTimer;
+  return rooms_->Links.ReopenTimer;
 }
 
 bool StationProgram::InTick() const {
-  return rooms_->Cycle().InTick();
+  return rooms_->Cycle.InTick();
 }
 
 void StationProgram::SecondPassed() {
@@ -59,15 +59,15 @@ void StationProgram::SecondPassed() {
 }
 
 LinkLamp StationProgram::Lamp() const {
-  return rooms_->Lamp();
+  return rooms_->Links.Watch.Lamp();
 }
 
 const ReceptionCounts& StationProgram::Counts() const {
-  return rooms_->Counts();
+  return rooms_->Reception.Pass.Counts();
 }
 
 void StationProgram::UseLocalEnginePort(int port) {
-  rooms_->LocalEngine().UsePort(port);
+  rooms_->Links.Local.UsePort(port);
 }
 
 }  // namespace zepril

@@ -5,9 +5,12 @@
 #include <utility>
 
 #include "core/controls/main_window_controls.h"
+#include "core/quiet_actions.h"
 #include "core/state/gps.h"
 #include "core/text_fields.h"
 #include "geodesy/conversions.h"
+#include "platform/quiet_machine.h"
+#include "reception/reception_room.h"
 
 namespace zepril {
 namespace {
@@ -92,44 +95,15 @@ class LogKeeper final : public Files {
   std::string LongLog;
 };
 
-// Nobody looks, nobody answers.
-class NoActions final : public MapActions,
-                        public MessageActions,
-                        public EmergencyActions,
-                        public GateActions,
-                        public SettingsActions {
- public:
-  void MapRedraw() override {}
-  void MapRefresh() override {}
-  void MessageReceived(std::string_view, std::string_view, std::string_view) override {}
-  void ShowEmergency() override {}
-  void GateMonitorBlock(std::string_view) override {}
-  void WriteConfigFromMainWindow() override {}
-  void ReplaceConfigLine(const std::string&, const std::string&) override {}
-};
-
-class NoDialogs final : public Dialogs {
- public:
-  DialogAnswer Ask(const std::string&, const std::string&, DialogButtons,
-                   DialogAnswer default_answer) override {
-    return default_answer;
-  }
-};
-
 }  // namespace
 
 struct DecodeStation::Station {
   explicit Station(const DecodeSettings& settings)
       : TheClock(settings.Now),
-        Link(Radio, Reception, Internet, TheClock, Engine, Modem, Actions),
-        Distance(Alarms, Identity, Followed, Map, Controls.Status, Controls.Window),
-        History(Identity, Stores, Followed, Map, Gps, Controls.Moni1, Controls.Map, Distance, Logs,
-                Actions, Controls.Status.FileNotice),
-        Browser(Stores, Map, Controls.Record, Controls.Map, History, Boxes, Actions),
-        Pass({Identity, Reception, Stores, Map, Alarms, Settings},
-             {Link, History, Browser, Distance, Actions, Actions, Actions,
-              Controls.Status.FileNotice},
-             Symbols, TheClock, Logs, Timer1, nullptr) {
+        Room({Identity, Radio, Reception, Stores, Followed, Map, Gps, Alarms, Settings, Internet},
+             {Controls.Window, Controls.Map, Controls.Moni1, Controls.MoniAll, Controls.Record,
+              Controls.Status},
+             {Logs, TheClock, Boxes, Engine, Modem, Symbols, Actions, Actions, Actions, Timer1}) {
     constexpr int kTickMilliseconds = 6000;
     Timer1.Arm(kTickMilliseconds);
     Identity.MyCallFull = settings.MyCallFull;
@@ -183,13 +157,9 @@ struct DecodeStation::Station {
   FedModem Modem;
   FedEngine Engine;
   LogKeeper Logs;
-  NoActions Actions;
-  NoDialogs Boxes;
-  Collector Link;
-  DistanceAlarm Distance;
-  FollowedHistory History;
-  RecordBrowser Browser;
-  ReceivePass Pass;
+  QuietActions Actions;
+  QuietDialogs Boxes;
+  ReceptionRoom Room;
 };
 
 DecodeStation::DecodeStation(const DecodeSettings& settings)
@@ -199,14 +169,14 @@ DecodeStation::~DecodeStation() = default;
 
 void DecodeStation::Receive(std::string_view bytes) {
   station_->Feed(bytes);
-  station_->Pass.Run();
+  station_->Room.Pass.Run();
 }
 
 void DecodeStation::Drain() {
   // A last line without its end is given up after some passes in which nothing else happens.
   for (int idle = 0; idle <= SerialText::kMostPasses; ++idle) {
     const std::size_t waiting = station_->Waiting();
-    station_->Pass.Run();
+    station_->Room.Pass.Run();
     if (station_->Waiting() != waiting) idle = 0;
   }
 }
@@ -216,7 +186,7 @@ std::string& DecodeStation::LongLog() {
 }
 
 const ReceptionCounts& DecodeStation::Counts() const {
-  return station_->Pass.Counts();
+  return station_->Room.Pass.Counts();
 }
 
 }  // namespace zepril

@@ -15,6 +15,7 @@
 #include "config/config_file.h"
 #include "config/main_window_settings.h"
 #include "core/controls/main_window_controls.h"
+#include "core/quiet_actions.h"
 #include "core/runtime_state.h"
 #include "core/text_fields.h"
 #include "map/grid_layer.h"
@@ -26,6 +27,7 @@
 #include "platform/native/system_clock.h"
 #include "platform/qt/map_fonts.h"
 #include "platform/qt/qt_surface.h"
+#include "platform/quiet_machine.h"
 #include "tool/arguments.h"
 
 namespace zepril {
@@ -286,16 +288,21 @@ int Paint(const Arguments& arguments, Files& files, RuntimeState& state, const R
   QtSurface base(width, height, fonts);
   RenderClock clock(wish.At);
   const CoordinateValues strips = StripsOfCentre(state);
-  MapOverlays layers({state.Places, state.Internet, state.Settings}, strips, clock);
+  const MapPanels no_panels;
+  MapOverlays layers({state.Places, state.Internet, state.Settings}, strips, clock, no_panels);
   RenderLayers overlays(layers, strips, wish.Grids);
   Timer timer1(6000);
+  Timer timer2(6000);
+  QuietActions actions;
+  QuietDialogs boxes;
+  QuietDesktop desktop;
   MainWindowControls controls;
   controls.Record.Frame1.Visible = false;
-  MapRoom room(
-      {state.Map, state.Stores, state.Followed, state.Gps, state.Transmission, state.Identity},
-      {controls.Window, controls.Map, controls.Scales, controls.Palette, controls.Moni1,
-       controls.MoniAll, controls.Record, controls.Chat},
-      controls.Readouts, {files, clock, map, base}, overlays, timer1);
+  MapRoom room({state.Map, state.Stores, state.Followed, state.Gps, state.Transmission,
+                state.Identity, state.Places, state.Internet, state.Settings},
+               {controls.Window, controls.Map, controls.Readouts, controls.Scales, controls.Palette,
+                controls.Moni1, controls.MoniAll, controls.Record, controls.Chat, controls.Qth},
+               {files, clock, boxes, desktop, map, base, actions, timer1, timer2, &overlays});
   room.Library.MapLibraryScan();
   for (CheckBox& box : controls.Scales.FrameBox)
     box.Value = arguments.Has("--frames") ? 1 : 0;

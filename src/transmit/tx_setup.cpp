@@ -228,7 +228,7 @@ void TxSetup::ApplyTxSetup() {
   ShowWorking(true);
   // The radio, the title, the file.
   ProgramRadio();
-  tools_.Actions.ShowTitleMarkers();
+  tools_.Joins.ShowTitleMarkers();
   tools_.Settings.WriteConfigFromMainWindow();
   ShowWorking(false);
   controls_.Frame4.Visible = false;
@@ -238,7 +238,7 @@ void TxSetup::ApplyTxSetup() {
   sections_.Reception.OwnHeaderPattern =
       OwnHeaderPatternOf(sections_.Identity.MyCallFull, sections_.Transmission.TxPath,
                          sections_.Transmission.TxDestination);
-  tools_.Actions.SetLabels();
+  tools_.Joins.SetLabels();
   sections_.Transmission.LastBeaconTime = 0;
   tools_.Timer1.Enable();
 }
@@ -255,7 +255,7 @@ void TxSetup::TakeRadio() {
   const SpeedChoice choice = ShownSpeeds();
   radio.BaudMode = choice.BaudMode;
   radio.BaudModeLabel = BaudModeLabelOf(choice.BaudMode);
-  tools_.Actions.RefreshStatusLine();
+  tools_.Joins.RefreshStatusLine();
   radio.CrossMode = choice.CrossMode;
   radio.HfDualOn = choice.HfDual ? 1 : 0;
   radio.DigiOn = choice.Digi ? Digipeater::On : Digipeater::Off;
@@ -292,7 +292,7 @@ void TxSetup::TakeLines() {
 }
 
 void TxSetup::ProgramRadio() {
-  if (ModeOf(sections_.Radio) == RadioMode::AgwLocal) return tools_.Actions.ReopenLocalEngine();
+  if (ModeOf(sections_.Radio) == RadioMode::AgwLocal) return tools_.Joins.ReopenLocalEngine();
   tools_.Modem.Program(tools_.LongWork);
   sections_.Reception.ForgetModemText();
 }

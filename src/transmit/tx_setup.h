@@ -24,15 +24,13 @@
 namespace zepril {
 
 // What OK asks of the rest of the program.
-class TxSetupActions {
- public:
-  virtual ~TxSetupActions() = default;
-  // The speed's label in the status line.
-  virtual void RefreshStatusLine() = 0;
+// What TX SETUP asks of the rest of the program when it is confirmed.
+struct TxSetupJoins {
+  Event RefreshStatusLine;  // the speed's label in the status line
   // The local packet engine is opened anew under the call, the digipeater beside it follows DIGI.
-  virtual void ReopenLocalEngine() = 0;
-  virtual void ShowTitleMarkers() = 0;
-  virtual void SetLabels() = 0;
+  Event ReopenLocalEngine;
+  Event ShowTitleMarkers;
+  Event SetLabels;
 };
 
 struct TxSetupSections {
@@ -44,7 +42,7 @@ struct TxSetupSections {
 };
 
 struct TxSetupTools {
-  TxSetupActions& Actions;
+  const TxSetupJoins& Joins;
   SettingsActions& Settings;
   TxSwitches& Switches;
   SerialModem& Modem;

@@ -128,6 +128,10 @@ void PictureViewer::ShowPicture(int index) {
   ShowFile(name);
 }
 
+void PictureViewer::MapRedrawn() {
+  if (view_.PictureMode != MapShows::Picture && controls_.Frame8.Visible) ClosePicture();
+}
+
 void PictureViewer::ShowFile(const std::string& name) {
   const std::string path = name.empty() ? std::string() : FilePath(name);
   const std::optional<FileStamp> stamp =

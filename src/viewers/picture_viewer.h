@@ -15,6 +15,7 @@
 #include "core/controls/picture_panel_controls.h"
 #include "core/state/identity.h"
 #include "core/state/map_view.h"
+#include "map/map_panels.h"
 #include "core/timer.h"
 #include "platform/desktop_actions.h"
 #include "platform/files.h"
@@ -28,7 +29,7 @@ struct PictureViewerTools {
   Timer& Timer1;
 };
 
-class PictureViewer {
+class PictureViewer final : public PicturePanel {
  public:
   // How long the cycle leaves a picture alone that was just chosen.
   static constexpr int kLookingMs = 30000;
@@ -41,9 +42,10 @@ class PictureViewer {
 
   // Shows picture `index`, 1-based, of `PictureNames`, and writes its page. Every redraw calls it
   // again: what is shown already is neither written nor read anew unless the file has changed.
-  void ShowPicture(int index);
+  void ShowPicture(int index) override;
   // Hides the panel; the map is not drawn.
-  void ClosePicture();
+  void ClosePicture() override;
+  void MapRedrawn() override;
 
  private:
   enum class Kind { Picture, Clip, Gone, None };

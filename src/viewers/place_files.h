@@ -19,6 +19,7 @@
 #include "core/state/places.h"
 #include "core/state/settings.h"
 #include "core/texts/boxes.h"
+#include "map/map_panels.h"
 #include "platform/desktop_actions.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
@@ -34,7 +35,7 @@ struct PlaceFilesTools {
   Progress& LongWork;
 };
 
-class PlaceFiles {
+class PlaceFiles final : public PlacePanel {
  public:
   // Sets the events of the list, of `Command73` and of the panel.
   PlaceFiles(const IdentityState& identity, MapViewState& view, SettingsState& settings,
@@ -52,7 +53,7 @@ class PlaceFiles {
   // Makes the file that the list field names, and loads it.
   void CreatePoiFile();
   // Opens the panel with place `index`, 1-based. An index that is not there does nothing.
-  void EditPlace(int index);
+  void EditPlace(int index) override;
   // Adds, renames or removes the place of the panel by the text of its name field. A place that was
   // renamed goes to the map centre too, if that has moved since the place was picked. What fails,
   // or is not confirmed, leaves file, places and panel as they are.

@@ -6,13 +6,14 @@
 #include "core/controls/sun_controls.h"
 #include "core/state/map_view.h"
 #include "core/state/settings.h"
+#include "map/map_panels.h"
 #include "platform/clock.h"
 #include "platform/drawing_surface.h"
 #include "viewers/sun_path.h"
 
 namespace zepril {
 
-class SunCurve {
+class SunCurve final : public SunPanel {
  public:
   // A column a degree of the clock, 15 an hour, from midnight to midnight.
   static constexpr int kPlotWidth = 361;
@@ -24,10 +25,10 @@ class SunCurve {
            DrawingSurface& surface, const Clock& clock);
 
   // For the cursor's position.
-  void ShowSunCurve();
+  void ShowSunCurve() override;
   // The pointer has moved: the plot follows while the panel is open.
-  void MoveSunCurve();
-  void HideSunCurve();
+  void MoveSunCurve() override;
+  void HideSunCurve() override;
 
  private:
   SunPlace PlaceUnderCursor() const;

@@ -18,7 +18,6 @@
 #include <utility>
 #include <vector>
 
-#include "core/actions/gate_actions.h"
 #include "core/state/identity.h"
 #include "core/state/internet.h"
 #include "core/state/radio.h"
@@ -52,11 +51,6 @@ std::string ReadWhole(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
-
-class NoGate final : public GateActions {
- public:
-  void GateMonitorBlock(std::string_view) override {}
-};
 
 // The radio side of a program, set up for a station.
 class ModemsTest : public ::testing::Test {
@@ -140,7 +134,7 @@ class ModelsTest : public ModemsTest {
     for (const std::string& packet : packets)
       modem->Hear(ReadAirScript(packet).Packets.at(0));
     std::string normal;
-    Collector collector(radio, reception, internet, clock, engine, port, gate);
+    Collector collector(radio, reception, internet, clock, engine, port, nullptr);
     const std::string expected = Normal(packets);
     Comes([&] {
       std::string collected;
@@ -176,7 +170,6 @@ class ModelsTest : public ModemsTest {
   ReceptionState reception;
   InternetState internet;
   AbsentEngine engine;
-  NoGate gate;
 };
 
 const Lines kPackets = {"N0CALL>APRS,WIDE1-1:!5230.00N/01324.00E>direct",
@@ -326,7 +319,7 @@ TEST_F(ModelsTest, TheToolPlaysAFileAndReportsWhatItIsAskedToSend) {
   Run(OpenModemScript(Sections()));
   ASSERT_TRUE(port.IsOpen()) << port.Trouble();
 
-  Collector collector(radio, reception, internet, clock, engine, port, gate);
+  Collector collector(radio, reception, internet, clock, engine, port, nullptr);
   std::string collected;
   EXPECT_TRUE(Comes([&] {
     collector.Collect(collected);

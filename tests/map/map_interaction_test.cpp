@@ -16,8 +16,9 @@ using testing::IsEmpty;
 
 // The joins of the map, written down.
 class Joins final : public MapActions,
-                    public RecordPanelOpener,
                     public MapLookups,
+                    public SunPanel,
+                    public PicturePanel,
                     public DesktopActions {
  public:
   explicit Joins(MapWorld& world) : world_(world) {}
@@ -28,11 +29,13 @@ class Joins final : public MapActions,
     world_.Redraw();
   }
   void MapRefresh() override { Calls.push_back("refresh"); }
-  void OpenRecordPanel() override { Calls.push_back("record panel"); }
   bool LookupPicture() override { return Look("PIC"); }
   bool LookupTrackPoint() override { return Look("TRK"); }
   bool LookupPlace() override { return Look("POI"); }
   void ShowSunCurve() override { Calls.push_back("SUN"); }
+  void MoveSunCurve() override {}
+  void ShowPicture(int) override {}
+  void MapRedrawn() override {}
   void HideSunCurve() override { Calls.push_back("hide SUN"); }
   void ClosePicture() override { Calls.push_back("close picture"); }
   bool MainWindowActive() const override { return true; }
@@ -69,7 +72,8 @@ struct InteractionWorld : MapWorld {
         Hands(State.Map, State.Stores, State.Followed,
               {Controls.Window, Controls.Map, Controls.Readouts, Controls.Scales, Controls.Palette,
                Controls.Moni1, Controls.MoniAll, Controls.Record},
-              {Join, Room.Library, Room.ReadoutTexts, Join, Join, Join, Timer1, Timer2}) {
+              {Join, Room.Library, Room.ReadoutTexts, Quiet, Join, Shown, Join, Timer1, Timer2}) {
+    Hands.RecordPicked = [this] { Join.Calls.push_back("record panel"); };
     Redraw();
     Timer1.Enable();
   }
@@ -77,6 +81,7 @@ struct InteractionWorld : MapWorld {
   void Key(int code, int shift = 0) { Controls.Map.Picture1.KeyDown({code, shift}); }
 
   Joins Join;
+  MapPanels Shown{&Join, nullptr, &Join};
   MapInteraction Hands;
 };
 

@@ -19,14 +19,15 @@ using testing::IsEmpty;
 
 // The map with lookups over a track and places, each switched on, and the joins upward written
 // down.
-struct LookupWorld : MapWorld, MapPanels, MapActions, RecordPanelOpener, DesktopActions {
+struct LookupWorld : MapWorld, PlacePanel, SunPanel, MapActions, DesktopActions {
   LookupWorld()
-      : Lookups(State.Map, State.Places, Controls.Map, {Surface, *this, Timer1}),
-        Interaction(
-            State.Map, State.Stores, State.Followed,
-            {Controls.Window, Controls.Map, Controls.Readouts, Controls.Scales, Controls.Palette,
-             Controls.Moni1, Controls.MoniAll, Controls.Record},
-            {*this, Room.Library, Room.ReadoutTexts, *this, Lookups, *this, Timer1, Timer2}) {
+      : Lookups(State.Map, State.Places, Controls.Map, {Surface, Shown, Timer1}),
+        Interaction(State.Map, State.Stores, State.Followed,
+                    {Controls.Window, Controls.Map, Controls.Readouts, Controls.Scales,
+                     Controls.Palette, Controls.Moni1, Controls.MoniAll, Controls.Record},
+                    {*this, Room.Library, Room.ReadoutTexts, Quiet, Lookups, Shown, *this, Timer1,
+                     Timer2}) {
+    Interaction.RecordPicked = [this] { Calls.push_back("station"); };
     View().TracksOn = true;
     View().PoiLevel = 1;
     Redraw();
@@ -34,9 +35,10 @@ struct LookupWorld : MapWorld, MapPanels, MapActions, RecordPanelOpener, Desktop
   }
   void EditPlace(int index) override { Calls.push_back("place " + WholeNumber(index)); }
   void ShowSunCurve() override { Calls.push_back("sun"); }
+  void MoveSunCurve() override {}
+  void HideSunCurve() override {}
   void MapRedraw() override { Calls.push_back("redraw"); }
   void MapRefresh() override {}
-  void OpenRecordPanel() override { Calls.push_back("station"); }
   bool MainWindowActive() const override { return true; }
   bool WindowExists(const std::string&) const override { return false; }
   void Open(const std::string&) override {}
@@ -51,6 +53,7 @@ struct LookupWorld : MapWorld, MapPanels, MapActions, RecordPanelOpener, Desktop
     State.Places.PoiPoints.Append("\xFE" + position + "  HUT");
   }
 
+  MapPanels Shown{nullptr, this, this};
   PressLookups Lookups;
   MapInteraction Interaction;
   std::vector<std::string> Calls;

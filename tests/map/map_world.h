@@ -9,15 +9,18 @@
 #include "core/controls/moni1_controls.h"
 #include "core/controls/moni_all_controls.h"
 #include "core/controls/palette_controls.h"
+#include "core/controls/qth_setup_controls.h"
 #include "core/controls/readout_controls.h"
 #include "core/controls/record_panel_controls.h"
 #include "core/controls/scale_controls.h"
 #include "core/controls/window_controls.h"
 #include "core/position_text.h"
 #include "core/runtime_state.h"
+#include "core/quiet_actions.h"
 #include "core/text_fields.h"
 #include "map/map_room.h"
 #include "platform/native/native_files.h"
+#include "platform/quiet_machine.h"
 #include "tests/doubles/recorder_surface.h"
 #include "tests/doubles/temp_folder.h"
 #include "tests/doubles/virtual_clock.h"
@@ -66,9 +69,10 @@ struct MapWorldControls {
   MoniAllControls MoniAll;
   RecordPanelControls Record;
   ChatControls Chat;
+  QthSetupControls Qth;
 
-  MapRedrawControls Redraw() {
-    return {Window, Map, Scales, Palette, Moni1, MoniAll, Record, Chat};
+  MapRoomControls All() {
+    return {Window, Map, Readouts, Scales, Palette, Moni1, MoniAll, Record, Chat, Qth};
   }
 };
 
@@ -83,8 +87,9 @@ struct MapWorld {
         Surface(kWidth, kHeight),
         Base(kWidth, kHeight),
         Room({State.Map, State.Stores, State.Followed, State.Gps, State.Transmission,
-              State.Identity},
-             Controls.Redraw(), Controls.Readouts, {Disk, Clock, Surface, Base}, overlays, Timer1) {
+              State.Identity, State.Places, State.Internet, State.Settings},
+             Controls.All(),
+             {Disk, Clock, Boxes, Desktop, Surface, Base, Quiet, Timer1, Timer2, &overlays}) {
     State.Identity.ProgramFolder = R"(C:\Z)";
     State.Identity.TempFolder = R"(C:\Z\TEMP)";
     State.Identity.MapsPath = R"(C:\Z\U33)";
@@ -136,6 +141,9 @@ struct MapWorld {
   RecorderSurface Base;
   RuntimeState State;
   MapWorldControls Controls;
+  QuietDialogs Boxes;
+  QuietDesktop Desktop;
+  QuietActions Quiet;
   Timer Timer1{6000};
   Timer Timer2{6000};
   MapRoom Room;

@@ -385,11 +385,11 @@ TEST(ReceivePass, LinkWithoutEndDoesNotHoldTheTick) {
   Reception station;
   EndlessModem modem;
   Collector link(station.Radio, station.Received, station.Internet, station.Time, station.Engine,
-                 modem, station.Actions);
+                 modem, &station.Actions);
   ReceivePass pass({station.Identity, station.Received, station.Stores, station.Map, station.Alarms,
                     station.Settings},
                    {link, station.History, station.Browser, station.Distance, station.Actions,
-                    station.Actions, station.Actions, station.Controls.Status.FileNotice},
+                    &station.Actions, station.Actions, station.Controls.Status.FileNotice},
                    station.Symbols, station.Time, station.Disk, station.Timer1, nullptr);
   pass.Run();
   EXPECT_LE(pass.Counts().Frames, 5000);

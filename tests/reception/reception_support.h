@@ -16,7 +16,7 @@
 #include "core/controls/window_controls.h"
 #include "core/state/gps.h"
 #include "platform/monitor_engine.h"
-#include "reception/receive_pass.h"
+#include "reception/reception_room.h"
 #include "tests/doubles/fake_serial.h"
 #include "tests/doubles/memory_files.h"
 #include "tests/doubles/scripted_dialogs.h"
@@ -91,15 +91,11 @@ struct ReceptionControls {
 class Reception {
  public:
   Reception()
-      : Link(Radio, Received, Internet, Time, Engine, Modem, Actions),
-        Distance(Alarms, Identity, Followed, Map, Controls.Status, Controls.Window),
-        History(Identity, Stores, Followed, Map, Gps, Controls.Moni1, Controls.Map, Distance, Disk,
-                Actions, Controls.Status.FileNotice),
-        Browser(Stores, Map, Controls.Record, Controls.Map, History, Boxes, Actions),
-        Pass({Identity, Received, Stores, Map, Alarms, Settings},
-             {Link, History, Browser, Distance, Actions, Actions, Actions,
-              Controls.Status.FileNotice},
-             Symbols, Time, Disk, Timer1, &Controls.Raw.RawList) {
+      : Room({Identity, Radio, Received, Stores, Followed, Map, Gps, Alarms, Settings, Internet},
+             {Controls.Window, Controls.Map, Controls.Moni1, Controls.MoniAll, Controls.Record,
+              Controls.Status, &Controls.Raw.RawList},
+             {Disk, Time, Boxes, Engine, Modem, Symbols, Actions, Actions, Actions, Timer1,
+              &Actions, &Actions}) {
     Identity.MyCall = Identity.MyCallFull = "QX7KB";
     Identity.MapSystemFolder = R"(C:\ZEPRIL\U33)";
     Radio.RadioMode = 1;
@@ -158,11 +154,12 @@ class Reception {
   MemoryFiles Disk;
   RecordingActions Actions;
   ScriptedDialogs Boxes;
-  Collector Link;
-  DistanceAlarm Distance;
-  FollowedHistory History;
-  RecordBrowser Browser;
-  ReceivePass Pass;
+  ReceptionRoom Room;
+  Collector& Link = Room.Link;
+  DistanceAlarm& Distance = Room.Distance;
+  FollowedHistory& History = Room.History;
+  RecordBrowser& Browser = Room.Browser;
+  ReceivePass& Pass = Room.Pass;
 };
 
 // A record of `call` at a place, by the columns.

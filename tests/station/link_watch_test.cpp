@@ -1,5 +1,5 @@
 // What the operator is told of his reports and of the link, second by second
-#include "station/link_watch.h"
+#include "links/link_watch.h"
 
 #include <gtest/gtest.h>
 

@@ -14,25 +14,29 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-class Recorder final : public TickActions, public MapActions, public DesktopActions {
+class Recorder final : public MapActions, public DesktopActions {
  public:
-  void PollAprsIsLink() override { Done.push_back("aprs-is"); }
-  void RunScanSwitchHandler() override { Done.push_back("scan"); }
-  void KeepSecondModeMonitored() override { Done.push_back("second mode"); }
-  void ChangeFollowedStation() override { Done.push_back("follow"); }
-  void ShowEmergencyPanel() override { Done.push_back("emergency"); }
-  void SendIdentification() override { Done.push_back("identify"); }
-  void StartIonoUpdate() override { Done.push_back("iono"); }
-  void FetchMoni1() override { Done.push_back("moni1"); }
-  void FetchMoniAll() override { Done.push_back("moni all"); }
-  void PollGps() override { Done.push_back("gps"); }
-  void RunReceivePass() override {
-    Done.push_back("receive");
-    if (WhileReceiving) WhileReceiving();
+  TickSteps Steps() {
+    TickSteps steps;
+    steps.PollAprsIsLink = [this] { Done.push_back("aprs-is"); };
+    steps.RunScanSwitchHandler = [this] { Done.push_back("scan"); };
+    steps.KeepSecondModeMonitored = [this] { Done.push_back("second mode"); };
+    steps.ChangeFollowedStation = [this] { Done.push_back("follow"); };
+    steps.ShowEmergencyPanel = [this] { Done.push_back("emergency"); };
+    steps.SendIdentification = [this] { Done.push_back("identify"); };
+    steps.StartIonoUpdate = [this] { Done.push_back("iono"); };
+    steps.FetchMoni1 = [this] { Done.push_back("moni1"); };
+    steps.FetchMoniAll = [this] { Done.push_back("moni all"); };
+    steps.PollGps = [this] { Done.push_back("gps"); };
+    steps.RunReceivePass = [this] {
+      Done.push_back("receive");
+      if (WhileReceiving) WhileReceiving();
+    };
+    steps.RunChatPass = [this] { Done.push_back("chat"); };
+    steps.SendObjectReport = [this] { Done.push_back("object"); };
+    steps.SendBeacon = [this] { Done.push_back("beacon"); };
+    return steps;
   }
-  void RunChatPass() override { Done.push_back("chat"); }
-  void SendObjectReport() override { Done.push_back("object"); }
-  void SendBeacon() override { Done.push_back("beacon"); }
   void MapRedraw() override {
     Done.push_back("redraw");
     if (WhileRedrawing) WhileRedrawing();
@@ -58,6 +62,7 @@ class Recorder final : public TickActions, public MapActions, public DesktopActi
 class MainCycleTest : public ::testing::Test {
  protected:
   MainCycleTest() {
+    cycle.Steps = recorder.Steps();
     state.Identity.MyCall = "QX7KB";
     state.Settings.TitleText = BaseTitle("8.08", "QX7KB");
     state.Radio.RadioMode = static_cast<int>(RadioMode::AgwRemote);
@@ -85,7 +90,7 @@ class MainCycleTest : public ::testing::Test {
   Recorder recorder;
   Timer timer1{6000};
   Timer timer2{3000};
-  MainCycle cycle{state, controls, clock, recorder, timer1, timer2, recorder, recorder};
+  MainCycle cycle{state, controls, clock, recorder, timer1, timer2, recorder};
 };
 
 TEST_F(MainCycleTest, EveryStepComesInItsOrder) {

@@ -15,32 +15,36 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-class StartRecorder final : public StartActions {
+class StartRecorder final {
  public:
-  void ReadConfig() override {
-    Done.push_back("config");
-    if (OnReadConfig) OnReadConfig();
+  StartSteps Steps() {
+    StartSteps steps;
+    steps.ReadConfig = [this] {
+      Done.push_back("config");
+      if (OnReadConfig) OnReadConfig();
+    };
+    steps.SetOwnNames = [this] { Done.push_back("names"); };
+    steps.LayOutPanels = [this] { Done.push_back("panels"); };
+    steps.ScanMapLibrary = [this] { Done.push_back("maps"); };
+    steps.LoadHistory = [this] {
+      Done.push_back("history");
+      if (OnLoadHistory) OnLoadHistory();
+    };
+    steps.OpenLocalEngine = [this] { Done.push_back("local engine"); };
+    steps.OpenSerialModem = [this] { Done.push_back("serial"); };
+    steps.ConnectAgw = [this] {
+      Done.push_back("agw");
+      return AgwAnswers;
+    };
+    steps.OpenGpsPort = [this] { Done.push_back("gps"); };
+    steps.RestoreTracksPlacesAndChat = [this] { Done.push_back("restore"); };
+    steps.ShowTitleMarkers = [this] { Done.push_back("title"); };
+    steps.StartIonoUpdate = [this] { Done.push_back("iono"); };
+    steps.SetLabels = [this] { Done.push_back("labels"); };
+    steps.ShowAndDrawMap = [this] { Done.push_back("draw"); };
+    steps.RunTerminalHandler = [this] { Done.push_back("terminal"); };
+    return steps;
   }
-  void SetOwnNames() override { Done.push_back("names"); }
-  void LayOutPanels() override { Done.push_back("panels"); }
-  void ScanMapLibrary() override { Done.push_back("maps"); }
-  void LoadHistory() override {
-    Done.push_back("history");
-    if (OnLoadHistory) OnLoadHistory();
-  }
-  void OpenLocalEngine() override { Done.push_back("local engine"); }
-  void OpenSerialModem() override { Done.push_back("serial"); }
-  bool ConnectAgw() override {
-    Done.push_back("agw");
-    return AgwAnswers;
-  }
-  void OpenGpsPort() override { Done.push_back("gps"); }
-  void RestoreTracksPlacesAndChat() override { Done.push_back("restore"); }
-  void ShowTitleMarkers() override { Done.push_back("title"); }
-  void StartIonoUpdate() override { Done.push_back("iono"); }
-  void SetLabels() override { Done.push_back("labels"); }
-  void ShowAndDrawMap() override { Done.push_back("draw"); }
-  void RunTerminalHandler() override { Done.push_back("terminal"); }
 
   Names Done;
   bool AgwAnswers = true;
@@ -56,7 +60,8 @@ class StartTest : public ::testing::Test {
       state.Identity.MyCall = call;
       if (WithConfig) WithConfig();
     };
-    return MainWindowStart(state, controls, clock, timer1, recorder).Run("C:\\ZEPRIL", 32);
+    const StartSteps steps = recorder.Steps();
+    return MainWindowStart(state, controls, clock, timer1, steps).Run("C:\\ZEPRIL", 32);
   }
 
   RuntimeState state;
@@ -209,18 +214,23 @@ TEST_F(StartTest, AlarmDistanceIsAtLeastOne) {
   EXPECT_EQ(state.Alarms.AlarmDistanceKm, 1);
 }
 
-class StopRecorder final : public StopActions {
+class StopRecorder final {
  public:
-  void CloseSound() override { Done.push_back("sound"); }
-  void StopPageLoading() override { Done.push_back("page"); }
-  void StopPicturePanel() override { Done.push_back("picture"); }
-  void CloseLocalEngine() override { Done.push_back("local engine"); }
-  void LeaveSerialModem() override { Done.push_back("serial"); }
-  void DisconnectAgw() override { Done.push_back("agw"); }
-  void ClosePorts() override { Done.push_back("ports"); }
-  void WriteNavigationFiles() override { Done.push_back("navigation"); }
-  void MergeConfigAtExit() override { Done.push_back("merge"); }
-  void DeleteRunFiles() override { Done.push_back("delete"); }
+  StopSteps Steps() {
+    StopSteps steps;
+    steps.CloseSound = [this] { Done.push_back("sound"); };
+    steps.StopPageLoading = [this] { Done.push_back("page"); };
+    steps.StopPicturePanel = [this] { Done.push_back("picture"); };
+    steps.CloseLocalEngine = [this] { Done.push_back("local engine"); };
+    steps.LeaveSerialModem = [this] { Done.push_back("serial"); };
+    steps.DisconnectAgw = [this] { Done.push_back("agw"); };
+    steps.ClosePorts = [this] { Done.push_back("ports"); };
+    steps.WriteNavigationFiles = [this] { Done.push_back("navigation"); };
+    steps.MergeConfigAtExit = [this] { Done.push_back("merge"); };
+    steps.DeleteRunFiles = [this] { Done.push_back("delete"); };
+    return steps;
+  }
+
   Names Done;
 };
 
@@ -231,7 +241,8 @@ class StopTest : public ::testing::Test {
     StopRecorder recorder;
     timer1.Arm(6000);
     timer2.Arm(3000);
-    MainWindowStop(state, controls, timer1, timer2, recorder).Run(by_operator);
+    const StopSteps steps = recorder.Steps();
+    MainWindowStop(state, controls, timer1, timer2, steps).Run(by_operator);
     EXPECT_FALSE(timer1.Enabled());
     EXPECT_FALSE(timer2.Enabled());
     return recorder.Done;

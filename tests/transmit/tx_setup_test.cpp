@@ -6,17 +6,15 @@
 namespace zepril {
 namespace {
 
-class ListedActions final : public TxSetupActions {
- public:
-  explicit ListedActions(const RadioState& radio) : radio_(radio) {}
-  void RefreshStatusLine() override { Calls.emplace_back("status " + radio_.BaudModeLabel); }
-  void ReopenLocalEngine() override { Calls.emplace_back("engine"); }
-  void ShowTitleMarkers() override { Calls.emplace_back("title"); }
-  void SetLabels() override { Calls.emplace_back("labels"); }
+struct ListedActions {
+  explicit ListedActions(const RadioState& radio) {
+    Joins.RefreshStatusLine = [&] { Calls.emplace_back("status " + radio.BaudModeLabel); };
+    Joins.ReopenLocalEngine = [&] { Calls.emplace_back("engine"); };
+    Joins.ShowTitleMarkers = [&] { Calls.emplace_back("title"); };
+    Joins.SetLabels = [&] { Calls.emplace_back("labels"); };
+  }
+  TxSetupJoins Joins;
   std::vector<std::string> Calls;
-
- private:
-  const RadioState& radio_;
 };
 
 class TxSetupTest : public ::testing::Test {
@@ -47,8 +45,8 @@ class TxSetupTest : public ::testing::Test {
                 world.Controls.TxSetup,
                 world.Controls.Transmit,
                 world.Controls.Gate,
-                {actions, world.Actions, world.Switches, world.Modem, world.LongWork, world.Symbols,
-                 preview, world.Timer1, world.Timer2}};
+                {actions.Joins, world.Actions, world.Switches, world.Modem, world.LongWork,
+                 world.Symbols, preview, world.Timer1, world.Timer2}};
 };
 
 // ---- Opening --------------------------------------------------------------------------------

@@ -1,6 +1,6 @@
 // The transmitting rooms in a running station: what holds the main cycle, and what may speak to the
 // modem meanwhile.
-#include "station/transmit_rooms.h"
+#include "transmit/transmit_room.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ void Press(CheckBox& box, int value) {
   box.Click();
 }
 
-TEST(TransmitRooms, ThePanelOfTheObjectHoldsTheCycleWhateverIsRedrawn) {
+TEST(TransmitRoom, ThePanelOfTheObjectHoldsTheCycleWhateverIsRedrawn) {
   StationHarness station(kOneObject);
   ASSERT_TRUE(station.Start());
   ObjectSetupControls& panel = station.Controls().ObjectSetup;
@@ -41,7 +41,7 @@ TEST(TransmitRooms, ThePanelOfTheObjectHoldsTheCycleWhateverIsRedrawn) {
   EXPECT_GT(station.State().Reception.RawLineCount, 0);
 }
 
-TEST(TransmitRooms, ThePanelOfTheTransmitterHoldsTheCycleWhateverIsRedrawn) {
+TEST(TransmitRoom, ThePanelOfTheTransmitterHoldsTheCycleWhateverIsRedrawn) {
   StationHarness station;
   ASSERT_TRUE(station.Start());
   station.Controls().Transmit.Check6.RightClick();
@@ -55,7 +55,7 @@ TEST(TransmitRooms, ThePanelOfTheTransmitterHoldsTheCycleWhateverIsRedrawn) {
   EXPECT_GT(station.State().Reception.RawLineCount, 0);
 }
 
-TEST(TransmitRooms, NoReportGoesBetweenTheLinesThatProgramTheModem) {
+TEST(TransmitRoom, NoReportGoesBetweenTheLinesThatProgramTheModem) {
   StationHarness station("MODEM=1\r\nTXON=0\r\nTXTO=ZEPR\r\nTXPA=\r\nTXID=10\r\n");
   ASSERT_TRUE(station.Start());
   CheckBox& tx = station.Controls().Transmit.Check6;
@@ -79,7 +79,7 @@ TEST(TransmitRooms, NoReportGoesBetweenTheLinesThatProgramTheModem) {
       << station.modem.Written;
 }
 
-TEST(TransmitRooms, TxOffDropsWhatTheLineHasNotTaken) {
+TEST(TransmitRoom, TxOffDropsWhatTheLineHasNotTaken) {
   StationHarness station("MODEM=1\r\nTXON=10\r\n");
   ASSERT_TRUE(station.Start());
   Press(station.Controls().Transmit.Check6, 1);
@@ -91,7 +91,7 @@ TEST(TransmitRooms, TxOffDropsWhatTheLineHasNotTaken) {
   EXPECT_EQ(station.modem.Waiting, 0U);
 }
 
-TEST(TransmitRooms, UnderTheOpenTerminalNothingElseSpeaksToTheModem) {
+TEST(TransmitRoom, UnderTheOpenTerminalNothingElseSpeaksToTheModem) {
   StationHarness station("MODEM=5\r\nTXON=0\r\n");
   ASSERT_TRUE(station.Start());
   MainWindowControls& controls = station.Controls();
@@ -115,7 +115,7 @@ TEST(TransmitRooms, UnderTheOpenTerminalNothingElseSpeaksToTheModem) {
   EXPECT_TRUE(station.modem.Written.starts_with("\x1B%AU1\r")) << station.modem.Written;
 }
 
-TEST(TransmitRooms, TheTerminalWaitsForTheEndOfAConversation) {
+TEST(TransmitRoom, TheTerminalWaitsForTheEndOfAConversation) {
   StationHarness station("MODEM=1\r\n");
   ASSERT_TRUE(station.Start());
   TerminalControls& terminal = station.Controls().Terminal;
@@ -131,7 +131,7 @@ TEST(TransmitRooms, TheTerminalWaitsForTheEndOfAConversation) {
   EXPECT_TRUE(terminal.Frame19.Visible);
 }
 
-TEST(TransmitRooms, ALocalEngineIsOpenedAnewUnderTheNewCall) {
+TEST(TransmitRoom, ALocalEngineIsOpenedAnewUnderTheNewCall) {
   StationHarness station("MODEM=0\r\nTXID=10\r\n");
   ASSERT_TRUE(station.Start());
   station.Controls().Transmit.Check6.RightClick();
@@ -151,7 +151,7 @@ TEST(TransmitRooms, ALocalEngineIsOpenedAnewUnderTheNewCall) {
   EXPECT_EQ(station.socket.Sent[2], MakeAgwFrame(0, 'm', "QX7KB-7", "APRS", {}));
 }
 
-TEST(TransmitRooms, AnAbsentLocalEngineIsTriedTwiceAndTheProgramGoesOn) {
+TEST(TransmitRoom, AnAbsentLocalEngineIsTriedTwiceAndTheProgramGoesOn) {
   StationHarness station("MODEM=0\r\n");
   ASSERT_TRUE(station.Start());
   std::vector<double> tries;
@@ -169,7 +169,7 @@ TEST(TransmitRooms, AnAbsentLocalEngineIsTriedTwiceAndTheProgramGoesOn) {
   EXPECT_TRUE(station.program->Timer1().Enabled());
 }
 
-TEST(TransmitRooms, TheTitleTellsOfTheDigipeaterAndOfTheNewCall) {
+TEST(TransmitRoom, TheTitleTellsOfTheDigipeaterAndOfTheNewCall) {
   StationHarness station("MODEM=1\r\nTXID=10\r\n");
   ASSERT_TRUE(station.Start());
   station.Controls().Transmit.Check6.RightClick();
@@ -181,7 +181,7 @@ TEST(TransmitRooms, TheTitleTellsOfTheDigipeaterAndOfTheNewCall) {
   EXPECT_NE(station.Controls().Window.Title.find("Digi active"), std::string::npos);
 }
 
-TEST(TransmitRooms, TheBarTellsTheMinutesToTheNextReport) {
+TEST(TransmitRoom, TheBarTellsTheMinutesToTheNextReport) {
   StationHarness station("TXON=10\r\n");
   ASSERT_TRUE(station.Start());
   FillBar& bar = station.Controls().Transmit.NextBeacon;
@@ -198,7 +198,7 @@ TEST(TransmitRooms, TheBarTellsTheMinutesToTheNextReport) {
   EXPECT_EQ(bar.ToolTip, "next position report in 1 min");
 }
 
-TEST(TransmitRooms, WithoutAPositionTheSwitchOpensUserQthSetup) {
+TEST(TransmitRoom, WithoutAPositionTheSwitchOpensUserQthSetup) {
   StationHarness station("UUN=0\r\nUUE=0\r\nTXON=10\r\n");
   ASSERT_TRUE(station.Start());
   QthSetupControls& qth = station.Controls().Qth;
@@ -216,7 +216,7 @@ TEST(TransmitRooms, WithoutAPositionTheSwitchOpensUserQthSetup) {
   EXPECT_EQ(transmit.Check6.Value, 1);
 }
 
-TEST(TransmitRooms, WhatWasConfirmedComesBackAtTheNextStart) {
+TEST(TransmitRoom, WhatWasConfirmedComesBackAtTheNextStart) {
   StationHarness station("MODEM=5\r\n");
   ASSERT_TRUE(station.Start());
   TxSetupControls& panel = station.Controls().TxSetup;

@@ -1,5 +1,5 @@
 // Follows the link from pass to pass, and words a loss once.
-#include "station/link_watch.h"
+#include "links/link_watch.h"
 
 #include <utility>
 
@@ -11,6 +11,7 @@ LinkWatch::LinkWatch(const RadioState& radio, StatusControls& status, LinkWatchT
     : radio_(radio), status_(status), tools_(std::move(tools)) {
   tools_.RemoteEngine.LinkChanged = [this] { EngineChanged(tools_.RemoteEngine.LinkIsUp()); };
   tools_.LocalEngine.LinkChanged = [this] { EngineChanged(tools_.LocalEngine.LinkIsUp()); };
+  status_.LinkNotice.Click = [this] { status_.LinkNotice.Visible = false; };
 }
 
 bool LinkWatch::HasLink() const {
@@ -33,7 +34,7 @@ bool LinkWatch::IsUp() const {
     case RadioMode::AgwRemote:
       return tools_.RemoteEngine.LinkIsUp();
     default:
-      return HasLink() && tools_.Transmit.ModemIsUp();
+      return HasLink() && tools_.Modem.LinkIsUp();
   }
 }
 
@@ -41,7 +42,7 @@ LinkLamp LinkWatch::Lamp() const {
   const bool up = IsUp();
   LinkLamp lamp = LampOf({HasLink(), up, tools_.CycleIsHeld(), radio_.LastDataSeconds, lost_since_,
                           tools_.LocalClock.MonotonicSeconds()});
-  if (const std::string trouble = tools_.Transmit.ModemTrouble(); !trouble.empty() && !up) {
+  if (const std::string trouble = tools_.Modem.Trouble(); !trouble.empty() && !up) {
     lamp.ToolTip += "\n" + trouble;
   }
   return lamp;
@@ -58,6 +59,11 @@ void LinkWatch::Renew() {
 void LinkWatch::Started() {
   if (radio_.RadioMode == static_cast<int>(RadioMode::AgwLocal) && !IsUp()) EngineChanged(false);
   Renew();
+}
+
+void LinkWatch::ShowModemTrouble() {
+  status_.LinkNotice.Caption = tools_.Modem.Trouble();
+  status_.LinkNotice.Visible = !status_.LinkNotice.Caption.empty();
 }
 
 // Once at each loss, and no box: the lamp goes on telling. It goes with the loss.

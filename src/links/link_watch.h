@@ -11,14 +11,14 @@
 #include "links/agw_link.h"
 #include "links/agw_local.h"
 #include "platform/clock.h"
-#include "station/transmit_rooms.h"
+#include "links/serial_modem.h"
 
 namespace zepril {
 
 struct LinkWatchTools {
   AgwLink& RemoteEngine;
   AgwLocal& LocalEngine;
-  const TransmitRooms& Transmit;
+  const SerialModem& Modem;
   const Clock& LocalClock;
   std::function<bool()> CycleIsHeld;  // a panel holds the main cycle
 };
@@ -33,6 +33,9 @@ class LinkWatch {
   LinkLamp Lamp() const;
   // Once a second: since when the link is lost.
   void Renew();
+  // The notice of the modem's trouble; it goes with the trouble. Once, and no box: the lamp goes on
+  // telling.
+  void ShowModemTrouble();
   // The engine was not there at the start: told like one that is lost.
   void Started();
 

@@ -1,0 +1,98 @@
+// The radio links as one thing: the packet engines, the serial modem with its terminal, and what
+// the operator is told of them.
+#pragma once
+
+#include <functional>
+
+#include "core/actions/map_actions.h"
+#include "core/actions/program_actions.h"
+#include "core/controls/raw_list_controls.h"
+#include "core/controls/status_controls.h"
+#include "core/controls/terminal_controls.h"
+#include "core/progress.h"
+#include "core/state/identity.h"
+#include "core/state/radio.h"
+#include "core/state/reception.h"
+#include "core/state/transmission.h"
+#include "core/timer.h"
+#include "links/agw_link.h"
+#include "links/agw_local.h"
+#include "links/link_watch.h"
+#include "links/serial_modem.h"
+#include "links/temporary_mode.h"
+#include "links/terminal.h"
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/serial_port.h"
+#include "platform/tcp_socket.h"
+
+namespace zepril {
+
+struct LinksSections {
+  const IdentityState& Identity;
+  RadioState& Radio;
+  ReceptionState& Received;
+  const TransmissionState& Transmission;
+};
+
+struct LinksControls {
+  TerminalControls& Talk;
+  RawListControls& Raw;
+  StatusControls& Status;
+};
+
+struct LinksTools {
+  TcpSocket& Winsock1;  // the packet engine
+  SerialPort& MSComm1;  // the modem
+  Clock& LocalClock;
+  Dialogs& Boxes;
+  ProgramActions& Program;
+  MapActions& Map;
+  Progress& LongWork;
+  Timer& Timer1;
+  Timer& Timer2;
+};
+
+struct LinksRoom {
+  // Sets the events of the controls; the object must outlive them.
+  LinksRoom(LinksSections sections, LinksControls controls, LinksTools tools);
+  LinksRoom(const LinksRoom&) = delete;
+  LinksRoom& operator=(const LinksRoom&) = delete;
+
+  void OpenLocalEngine();
+  // The engine knows the station by its call, which TX SETUP may have changed.
+  void ReopenLocalEngine();
+  void OpenSerialModem();
+  void LeaveSerialModem();
+  void ClosePort();
+  void RunTerminalHandler();
+  // An SCS TNC on two modes listens on the second one too.
+  void KeepSecondModeMonitored();
+  // Off is off: nothing leaves minutes later, when a stalled line moves again.
+  void DropUnsent();
+  bool HasUnsentBytes() const;
+
+  // The terminal was opened or closed; may be empty.
+  Event TerminalChanged;
+  // A panel holds the main cycle, or a tick is under way; set before the start.
+  std::function<bool()> CycleIsHeld;
+  std::function<bool()> InTick;
+
+  Timer ReopenTimer{kReopenMilliseconds};
+  AgwLink Remote;
+  AgwLocal Local;
+  SerialModem Modem;
+  Terminal Talk;
+  TemporaryMode OtherMode;
+  LinkWatch Watch;
+
+ private:
+  void BindModem();
+  void TerminalOpenedOrClosed();
+
+  LinksSections sections_;
+  LinksControls controls_;
+  LinksTools tools_;
+};
+
+}  // namespace zepril
