@@ -2,26 +2,19 @@
 #include "station/station_rooms.h"
 
 #include "config/main_window_settings.h"
-#include "config/modem_run_file.h"
 #include "config/window_file.h"
 #include "core/main_window_resize.h"
 #include "core/position_text.h"
 #include "core/text_fields.h"
 #include "core/texts/form1_texts.h"
-#include "core/texts/status_texts.h"
-#include "core/title_line.h"
-#include "links/setup_sequences.h"
+#include "station/data_folders.h"
 #include "station/initial_controls.h"
+#include "station/modem_memory.h"
+#include "station/title_markers.h"
 #include "station/view_memory.h"
 #include "transmit/tx_setup_rules.h"
 
 namespace zepril {
-namespace {
-
-// What a new operator wants to see.
-constexpr LabelLevel kFirstLabelLevel = LabelLevel::MarksAndCalls;
-
-}  // namespace
 
 StationRooms::StationRooms(StationPlatform machine)
     : machine_(machine),
@@ -63,7 +56,7 @@ StationRooms::StationRooms(StationPlatform machine)
       RawSearch(Controls.Raw, State.Settings, Timer1),
       Cycle(State, Controls, machine.LocalClock, machine.Desktop, Timer1, Timer2, Map.Redrawer) {
   SetInitialControls(Controls);
-  State.Map.StationLabelLevel = kFirstLabelLevel;
+  SetFirstView(State.Map);
   State.Map.ViewWidthPx = machine_.MapSurface.Width();
   State.Map.ViewHeightPx = machine_.MapSurface.Height();
   Timer1.Elapsed = [this] { Tick(); };
@@ -71,7 +64,8 @@ StationRooms::StationRooms(StationPlatform machine)
   Timer2.Elapsed = [this] { Cycle.Timer2Elapsed(); };
   JoinTick();
   JoinRooms();
-  RememberModem();
+  Links.Modem.Memory =
+      MemoryInFile(machine_.FileSystem, State.Identity, State.Radio, machine_.MSComm1);
 }
 
 bool StationRooms::Start(const std::string& program_folder, int colour_depth_bits) {
@@ -130,7 +124,7 @@ StartSteps StationRooms::StartOrder() {
   start.ReadConfig = [this] { ReadConfig(); };
   start.SetOwnNames = [this] { SetOwnNames(); };
   start.ScanMapLibrary = [this] {
-    MakeFolders();
+    MakeDataFolders(machine_.FileSystem, State.Identity);
     Map.Library.MapLibraryScan();
   };
   start.LoadHistory = [this] { Reception.Choice.LoadAtStart(); };
@@ -141,7 +135,7 @@ StartSteps StationRooms::StartOrder() {
     Tracks.RestoreAtStart();
     Viewers.Places.RestoreAtStart();
   };
-  start.ShowTitleMarkers = [this] { ShowTitleMarkers(); };
+  start.ShowTitleMarkers = [this] { ShowTitle(); };
   start.SetLabels = [this] { SetLabels(); };
   start.ShowAndDrawMap = [this] {
     Controls.Map.Picture1.Visible = true;
@@ -167,25 +161,8 @@ void StationRooms::SetOwnNames() {
                                State.Transmission.TxDestination);
 }
 
-void StationRooms::MakeFolders() {
-  machine_.FileSystem.MakeFolder(State.Identity.TempFolder);
-  for (const char* folder : {"\\LOG", "\\TRK", "\\POI"}) {
-    machine_.FileSystem.MakeFolder(State.Identity.MapSystemFolder + folder);
-  }
-}
-
-void StationRooms::ShowTitleMarkers() {
-  std::string& title = State.Settings.TitleText;
-  // The call may have got another SSID.
-  const std::string base = BaseTitle(State.Identity.ProgramVersion, State.Identity.MyCallFull);
-  PutInTitle(title, 1, base.substr(0, kTitleBaseColumns));
-  PutInTitle(title, 61, DigiMarker(State.Radio));
-  if (State.Internet.IGateOn == Gate::On) {
-    PutInTitle(title, 76, status_texts::kGate);
-  } else {
-    BlankInTitle(title, 76, 80);
-  }
-  Controls.Window.Title = std::string(Trim(title));
+void StationRooms::ShowTitle() {
+  ShowTitleMarkers(State.Identity, State.Radio, State.Internet, State.Settings, Controls.Window);
 }
 
 void StationRooms::SetLabels() {
@@ -209,15 +186,8 @@ StopSteps StationRooms::StopOrder() {
 }
 
 void StationRooms::MergeConfigAtExit() {
-  LastValues last;
-  for (std::size_t row = 0; row < last.CurrentMaps.size(); ++row) {
-    last.CurrentMaps[row] = Controls.Scales.Folder[row].Selected();
-  }
-  last.CentreNorthKm = State.Map.CentreNorthKm;
-  last.CentreEastKm = State.Map.CentreEastKm;
-  last.OwnNorthKm = State.Map.OwnNorthKm;
-  last.OwnEastKm = State.Map.OwnEastKm;
-  zepril::MergeConfigAtExit(machine_.FileSystem, State.Identity.ProgramFolder, last);
+  zepril::MergeConfigAtExit(machine_.FileSystem, State.Identity.ProgramFolder,
+                            LastValuesOf(State.Map, Controls.Scales));
   WriteWindowFile(machine_.FileSystem, State.Identity.ProgramFolder, ViewValues(State));
 }
 
@@ -228,7 +198,7 @@ void StationRooms::JoinRooms() {
   Map.Qth.PositionTaken = [this] { Transmit.Switches.ShowInterval(); };
   Transmit.Switches.PositionMissing = [this] { Map.Qth.Open(); };
   Transmit.SetupJoins = {[this] { Cycle.RenewStatusLine(); }, [this] { Links.ReopenLocalEngine(); },
-                         [this] { ShowTitleMarkers(); }, [this] { SetLabels(); }};
+                         [this] { ShowTitle(); }, [this] { SetLabels(); }};
   Links.CycleIsHeld = [this] { return CycleIsHeld(); };
   Links.InTick = [this] { return Cycle.InTick(); };
   Links.TerminalChanged = [this] {
@@ -236,21 +206,6 @@ void StationRooms::JoinRooms() {
     Transmit.TerminalChanged(open);
     // Closed, the usual tool tips are back.
     if (!open) SetLabels();
-  };
-}
-
-// Which modem is in converse is kept beyond the end of the run, which may come by a crash.
-void StationRooms::RememberModem() {
-  const auto now = [this] {
-    return ModemRun{State.Radio.RadioMode, ModemBaud(State.Radio),
-                    machine_.MSComm1.LastingName(ModemDevice(State.Radio))};
-  };
-  Files& files = machine_.FileSystem;
-  const std::string& folder = State.Identity.ProgramFolder;
-  Links.Modem.Memory.Begins = [&files, &folder, now] { NoteModemRun(files, folder, now()); };
-  Links.Modem.Memory.Ended = [&files, &folder, now] { EndModemRun(files, folder, now()); };
-  Links.Modem.Memory.SpeedLeftAt = [&files, &folder, now] {
-    return SpeedOfModemRun(files, folder, now());
   };
 }
 

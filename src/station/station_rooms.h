@@ -60,14 +60,12 @@ class StationRooms {
   StartSteps StartOrder();
   void ReadConfig();
   void SetOwnNames();
-  void MakeFolders();
-  void ShowTitleMarkers();
+  void ShowTitle();
   void SetLabels();
   StopSteps StopOrder();
   void MergeConfigAtExit();
 
   void JoinRooms();
-  void RememberModem();
 
   StationPlatform machine_;
 

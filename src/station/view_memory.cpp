@@ -14,6 +14,11 @@ constexpr int kHighestDisplayMode = 4;
 
 }  // namespace
 
+void SetFirstView(MapViewState& view) {
+  // What a new operator wants to see.
+  view.StationLabelLevel = LabelLevel::MarksAndCalls;
+}
+
 WindowValues ViewValues(const RuntimeState& state) {
   const MapViewState& view = state.Map;
   const auto text = [](int value) { return WholeNumber(value); };
@@ -54,6 +59,17 @@ void ApplyViewValues(const WindowValues& values, RuntimeState& state) {
     const int mode = (*systems)[at];
     if (mode >= 0 && mode <= kHighestDisplayMode) *modes[at] = mode;
   }
+}
+
+LastValues LastValuesOf(const MapViewState& view, const ScaleControls& scales) {
+  LastValues last;
+  for (std::size_t row = 0; row < last.CurrentMaps.size(); ++row)
+    last.CurrentMaps[row] = scales.Folder[row].Selected();
+  last.CentreNorthKm = view.CentreNorthKm;
+  last.CentreEastKm = view.CentreEastKm;
+  last.OwnNorthKm = view.OwnNorthKm;
+  last.OwnEastKm = view.OwnEastKm;
+  return last;
 }
 
 }  // namespace zepril
