@@ -57,7 +57,9 @@ QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
 }  // namespace
 
 void NameAfter(QWidget* widget, const Control& control) {
-  if (!control.Name.empty()) widget->setObjectName(ToQt(control.Name));
+  if (!control.Name.empty() && widget->objectName().isEmpty()) {
+    widget->setObjectName(ToQt(control.Name));
+  }
   if (!control.Called.empty()) widget->setAccessibleName(ToQt(control.Called));
   if (!control.WhileEmpty.empty()) SpeakOfEmpty(widget, ToQt(control.WhileEmpty));
 }

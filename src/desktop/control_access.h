@@ -11,7 +11,8 @@ class QWidget;
 
 namespace zepril {
 
-// Gives the widget its control's name, and what it is called where the control has such a text.
+// Gives the widget its control's name, unless it has one of its own, and what it is called where
+// the control has such a text.
 void NameAfter(QWidget* widget, const Control& control);
 // Gives the widget this role; to be called before the window is shown.
 void SetAccessibleRole(QWidget* widget, QAccessible::Role role);

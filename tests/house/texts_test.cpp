@@ -61,7 +61,7 @@ std::set<std::string> ControlNames() {
 bool NamesControl(const std::set<std::string>& names, const std::string& literal) {
   if (names.contains(literal)) return true;
   const std::size_t digits = literal.find_last_not_of("0123456789") + 1;
-  return names.contains(literal.substr(0, digits) + "#");
+  return digits < literal.size() && names.contains(literal.substr(0, digits) + "#");
 }
 
 // Rooms whose words can come to the operator's eyes.

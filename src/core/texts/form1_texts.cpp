@@ -248,7 +248,7 @@ constexpr ControlRow<MainWindowControls> kTable[] = {
      {"East in km, or degrees (52.5041 13.4051), or a locator / Enter: center the map there"},
      {"East km"}},
     {"QthNote", On<&QthSetupControls::QthNote>()},
-    {"ReceptionRests", On<&QthSetupControls::QthRests>(), {kReceptionRests}},
+    {"QthRests", On<&QthSetupControls::QthRests>(), {kReceptionRests}},
     {"QthOk", On<&QthSetupControls::QthOk>(), Own("OK"),
      {"Take what was typed, else the map center, as USER QTH"}},
     {"Command22", On<&QthSetupControls::Command22>(), {{"CANCEL"}},
