@@ -100,7 +100,8 @@ std::optional<std::string> TakeCallAnswer(RadioMode mode, std::string& text) {
   std::string_view left = text;
   while (!left.empty()) {
     const std::size_t line_end = left.find('\n');
-    const std::string_view whole = left.substr(0, line_end == left.npos ? line_end : line_end + 1);
+    const std::string_view whole =
+        left.substr(0, line_end == std::string_view::npos ? line_end : line_end + 1);
     left.remove_prefix(whole.size());
     const std::string_view line = whole.substr(0, whole.find_last_not_of("\r\n") + 1);
     const std::string_view bare = TrimRight(WithoutPrompts(line));
@@ -120,7 +121,7 @@ CallHeld AskForCall(RadioMode mode, std::string_view own, SerialPort& port, Cloc
   if (!question.Leave.empty()) {
     port.Write(question.Leave);
     text = Listen(port, clock, kBreakSeconds,
-                  [](const std::string& t) { return t.find(kPrompt) != t.npos; });
+                  [](const std::string& t) { return t.find(kPrompt) != std::string::npos; });
   }
   port.Write(question.Ask);
   std::optional<std::string> call;

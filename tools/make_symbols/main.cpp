@@ -78,7 +78,7 @@ class Sheet {
   }
 
  private:
-  Colour& At(int x, int y) { return pixels_[static_cast<std::size_t>(y * kWidth + x)]; }
+  Colour& At(int x, int y) { return pixels_[static_cast<std::size_t>(y) * kWidth + x]; }
 
   std::vector<Colour> pixels_;
 };

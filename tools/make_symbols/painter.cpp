@@ -38,7 +38,7 @@ void Painter::Paint(Point low, Point high, Colour colour, Inside inside) {
   for (int y = limit(low.y); y < limit(high.y + 1); ++y) {
     for (int x = limit(low.x); x < limit(high.x + 1); ++x) {
       if (inside(Point{(x + 0.5) / kFine, (y + 0.5) / kFine})) {
-        samples_[static_cast<std::size_t>(y * kSamples + x)] = colour;
+        samples_[static_cast<std::size_t>(y) * kSamples + x] = colour;
       }
     }
   }
@@ -106,7 +106,7 @@ Colour Painter::Pixel(int x, int y) const {
   int red = 0, green = 0, blue = 0;
   for (int sy = y * kFine; sy < (y + 1) * kFine; ++sy) {
     for (int sx = x * kFine; sx < (x + 1) * kFine; ++sx) {
-      const Colour& sample = samples_[static_cast<std::size_t>(sy * kSamples + sx)];
+      const Colour& sample = samples_[static_cast<std::size_t>(sy) * kSamples + sx];
       red += sample.red;
       green += sample.green;
       blue += sample.blue;
