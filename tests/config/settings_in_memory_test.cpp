@@ -46,6 +46,9 @@ TEST(SettingsInMemory, WhatIsSetIsReadBackAndTheFileStaysAsItIs) {
   EXPECT_NE(files.ReadAll(kIni, 1 << 20)->find("CALL=QX3EF"), std::string::npos);
   EXPECT_TRUE(files.Replace(R"(C:\ZEPRIL\PORTS.TXT)", "COM3=/dev/other\r\n"));
   EXPECT_TRUE(files.Replace(R"(C:\ZEPRIL\WINDOW.TXT)", "X=1\r\n"));
+  EXPECT_TRUE(files.Append(kIni, "X=1\r\n"));
+  EXPECT_TRUE(files.ReadAll(kIni, 1 << 20)->ends_with("X=1\r\n"));
+  EXPECT_FALSE(files.Remove(kIni));
   EXPECT_EQ(disk.Contents, before);
 }
 

@@ -7,6 +7,9 @@
 
 #include "core/texts/form1_texts.h"
 #include "core/text_fields.h"
+#include "desktop/lamp_widget.h"
+#include "desktop/look.h"
+#include "desktop/scale_row.h"
 #include "desktop/start_window.h"
 #include "station/start_panel.h"
 #include "tests/desktop/main_window_support.h"
@@ -131,6 +134,29 @@ TEST_F(AccessibleNamesTest, ASwitchTellsWhetherItIsOnAndIsPressedByItsAction) {
   grid->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   EXPECT_TRUE(State().Map.GridOn);
   EXPECT_TRUE(grid->state().checked);
+}
+
+TEST_F(AccessibleNamesTest, WhatIsOnlyPaintedIsToldInWords) {
+  std::set<std::string> told;
+  LampWidget lamp;
+  for (const LampState state :
+       {LampState::Data, LampState::Silent, LampState::Lost, LampState::None, LampState::Paused}) {
+    lamp.Show({state, "", ""});
+    told.insert(lamp.accessibleName().toStdString());
+  }
+  EXPECT_EQ(told.size(), 5U);
+  EXPECT_EQ(told.count(""), 0U);
+  EXPECT_EQ(ScaleLegend(NightLook()).accessibleName(),
+            QStringLiteral("filled: tiles at the center, ticked: tile frames"));
+}
+
+TEST_F(AccessibleNamesTest, ASwitchOfThreeStatesTellsItsThird) {
+  QAccessibleInterface* times = Of("Check13");
+  for (int value = 0; value < 3; ++value) {
+    loop.RunStep([&] { Controls().MoniAll.Check13.Value = value; });
+    EXPECT_EQ(times->state().checked, value > 0);
+    EXPECT_EQ(times->state().checkStateMixed, value == 2);
+  }
 }
 
 TEST_F(AccessibleNamesTest, NoControlOfTheStartWindowIsNameless) {

@@ -288,6 +288,8 @@ TEST_F(DesktopProgramTest, ARunOnDefaultsWritesNoSettings) {
   QTest::keyClick(&Start(), Qt::Key_Escape);
   EXPECT_EQ(ended, 1);
   EXPECT_TRUE(files.Stamp("C:\\ZEPRIL\\ZEPRIL.INI")->IsFolder);
+  // Nor does the place of the window become a file, which could be written here.
+  EXPECT_FALSE(files.Exists("C:\\ZEPRIL\\WINDOW.TXT"));
 }
 
 TEST_F(DesktopProgramTest, StartComesAliveWhenTheMapsAreDrawn) {

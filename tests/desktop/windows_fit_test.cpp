@@ -52,6 +52,13 @@ TEST(WindowPlace, WhatIsNoPlaceGivesTheFirstOne) {
   }
 }
 
+TEST(WindowPlace, AScreenSmallerThanTheLeastSizeIsKeptTo) {
+  QWidget window;
+  window.setMinimumSize(3000, 2000);
+  PlaceWindow(window, {}, "MAIN");
+  EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry()));
+}
+
 TEST(WindowPlace, AMaximisedWindowIsMaximisedAgain) {
   QWidget window;
   window.resize(300, 200);

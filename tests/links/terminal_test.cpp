@@ -180,7 +180,8 @@ TEST_F(HalfLineTest, AWholeLineOrNoneIsNoQuestion) {
                                                       {RadioMode::Pk232, "ab\x03"},
                                                       {RadioMode::ScsTnc, "\x1BI\r"},
                                                       {RadioMode::ScsTnc, "ab\x18"},
-                                                      {RadioMode::ScsPtc, "ab\x1BQ\r"}}) {
+                                                      {RadioMode::ScsPtc, "ab\x1BQ\r"},
+                                                      {RadioMode::ScsPtc, "ab\x1B\b"}}) {
     Use(mode);
     terminal.Open();
     Type(keys);

@@ -194,6 +194,22 @@ TEST(FollowedHistory, FileStaysWhenItsCopyCannotBeKept) {
   EXPECT_EQ(station.Disk.LineCount(kPath), 3);
 }
 
+TEST(FollowedHistory, WithoutItsCopyNoGapIsCutWhileItRunsEither) {
+  Reception station;
+  station.Followed.Moni1ThinningOn = 1;
+  station.Stores.Moni1Records.Limit = 10;
+  std::string old;
+  for (int place = 0; place < 11; ++place)
+    old += LineOf(Position(place, "240101 1200"));
+  station.Disk.Contents[kPath] = old;
+  station.History.LoadAtStart();
+  station.Disk.RefusedEnding = ".BAK";
+  EXPECT_TRUE(station.History.Enter(Position(500, "240201 1200")));
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 12);
+  EXPECT_EQ(station.Disk.Of(kPath), old + LineOf(Position(500, "240201 1200")));
+  EXPECT_TRUE(station.Notice().Visible);
+}
+
 TEST(FollowedHistory, FileThatCannotBeReadIsNotWrittenOver) {
   Reception station;
   const std::string old = LineOf(Position(1, "240101 1200"));
@@ -275,6 +291,19 @@ TEST(FollowedHistory, TheOldestCopyGoesWhenNewerOnesHoldAllOfIt) {
   EXPECT_EQ(station.Disk.Of(kPath + ".BA1"), WithGap(0) + WithGap(10));
 }
 
+// The file of now becomes the newest copy.
+TEST(FollowedHistory, TheOldestCopyGoesWhenTheFileOfNowHoldsAllOfIt) {
+  Reception station;
+  station.Disk.Contents[kPath + ".BAK"] = WithGap(0);
+  for (int number = 1; number <= 9; ++number)
+    station.Disk.Contents[kPath + ".BA" + WholeNumber(number)] = WithGap(10 * number);
+  const std::string now = WithGap(0) + LineOf(Position(500, "240402 1200"));
+  station.Disk.Contents[kPath] = now;
+  station.History.LoadAtStart();
+  EXPECT_EQ(station.Disk.Of(kPath + ".BAK"), now);
+  EXPECT_EQ(station.Disk.LineCount(kPath), 1);
+}
+
 // A history of more records than are read.
 std::string LongHistory(int records) {
   std::string text;
@@ -296,6 +325,23 @@ TEST(FollowedHistory, AHistoryThatIsTooLongIsAppendedTo) {
     EXPECT_EQ(station.Disk.Of(kPath), old + LineOf(Position(9100)) + LineOf(Position(9200)));
     EXPECT_FALSE(station.Disk.Exists(kPath + ".BAK"));
   }
+}
+
+TEST(FollowedHistory, OfAFileThatIsTooLargeOnlyWholeLinesOfItsEndAreRead) {
+  Reception station;
+  constexpr std::size_t kTorn = 1;  // characters of a record that lie before the end that is read
+  const std::string torn = LineOf(Position(2, "240115 1234", std::string(40, 'x')));
+  ASSERT_GE(torn.size(), StationRecord::kShortestLine + std::string("\r\n").size() + kTorn);
+  const std::string last = LineOf(Position(3));
+  const std::size_t notes =
+      static_cast<std::size_t>(HistoryFile::kLargestRead) - (torn.size() - kTorn) - last.size();
+  const std::string old = LineOf(Position(1)) + torn + std::string(notes - 2, 'x') + "\r\n" + last;
+  station.Disk.Contents[kPath] = old;
+  station.History.LoadAtStart();
+  ASSERT_EQ(station.Stores.Moni1Records.Count(), 1);
+  EXPECT_EQ(LineOf(station.Stores.Moni1Records.At(1)), last);
+  EXPECT_TRUE(station.History.Enter(Position(4)));
+  EXPECT_EQ(station.Disk.Of(kPath), old + LineOf(Position(4)));
 }
 
 TEST(FollowedHistory, AHistoryThatIsTooLongIsThinnedBesideItsOldFile) {

@@ -83,6 +83,16 @@ TEST_P(ModemAndTerminal, TheTerminalStaysClosedInTheMiddleOfAConversation) {
   EXPECT_TRUE(Terminal().Frame19.Visible);
 }
 
+TEST_P(ModemAndTerminal, HalfALineIsWipedBeforeTheModemIsLedBackAtTheEnd) {
+  Begin();
+  Terminal().Command65.Click();
+  Terminal().Text19.KeyTyped('x');
+  station.modem.Written.clear();
+  station.program->Stop(true);
+  const std::string wipe = GetParam() == RadioMode::ScsPtc ? "\x1B\r" : "\x18";
+  EXPECT_TRUE(station.modem.Written.starts_with(wipe));
+}
+
 TEST_P(ModemAndTerminal, AReportThatFallsDueInTheTickThatOpensItStaysBack) {
   Begin();
   SwitchOn(Transmit().Check6);

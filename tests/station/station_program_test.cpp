@@ -481,6 +481,11 @@ TEST(StationProgram, LogsThatCantBeWrittenDoNotStopTheStation) {
   }
   EXPECT_TRUE(station.program->Timer1().Enabled());
   EXPECT_EQ(station.State().Reception.RxBuffer.size() < 2000, true);
+  // Behind the first failure the logs rest, and what is heard is decoded.
+  station.Hear("N0CALL", kBerlin);
+  station.Ticks(1);
+  ASSERT_GT(station.State().Stores.MoniAllRecords.Count(), 0);
+  EXPECT_EQ(station.State().Stores.MoniAllRecords.All().back().Call(), "N0CALL");
 }
 
 TEST(StationProgram, ADayOfTrafficStaysWithinTheLimits) {

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include "tests/doubles/temp_folder.h"
 
@@ -54,6 +55,13 @@ TEST_F(RunLockTest, AWishToComeToTheFrontIsHeardOnce) {
   EXPECT_TRUE(RunLock::AskForFront(path));
   EXPECT_TRUE(first.FrontWanted());
   EXPECT_FALSE(first.FrontWanted());
+}
+
+TEST_F(RunLockTest, AWishThatAFormerRunDidNotHearIsForgotten) {
+  std::ofstream(path) << "F";
+  RunLock next;
+  ASSERT_EQ(next.Take(path), RunLock::Outcome::Taken);
+  EXPECT_FALSE(next.FrontWanted());
 }
 
 TEST_F(RunLockTest, AFolderThatTakesNoFileIsNoHindrance) {
