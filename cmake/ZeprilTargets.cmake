@@ -37,6 +37,25 @@ foreach(line IN LISTS floor_lines)
   separate_arguments("ZEPRIL_ARROWS_${CMAKE_MATCH_1}" UNIX_COMMAND "${CMAKE_MATCH_2}")
 endforeach()
 
+# zepril_precompile(<target> headers...): the libraries' headers whose reading takes most of the time
+# of the tests' and the windows' sources. zepril_precompiled(<target> <from>) reads those of another
+# target, which has the same flags.
+function(zepril_precompiled target from)
+  if(ZEPRIL_PCH)
+    target_precompile_headers(${target} REUSE_FROM ${from})
+  endif()
+endfunction()
+
+function(zepril_precompile target)
+  if(ZEPRIL_PCH)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+      # This compiler warns wrongly at text = "..." in the library's headers when they are precompiled.
+      target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
+    endif()
+  endif()
+endfunction()
+
 # zepril_room(<folder under src> [EXCEPT sources...]): the library zepril_<folder> of all its sources
 # but main.cpp. It links the rooms to which its arrows lead, the toolkit's only where that is built.
 function(zepril_room room)
