@@ -1,7 +1,7 @@
 // The base text of the title and the columns of its markers.
 #include "core/title_line.h"
 
-#include "core/baud_mode.h"
+#include "core/radio_rules.h"
 #include "core/text_fields.h"
 #include "core/texts/status_texts.h"
 

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <deque>
-#include <functional>
 #include <string>
 
 #include "core/state/radio.h"
@@ -29,11 +28,8 @@ class AgwLocal final : public MonitorEngine {
   bool AGWPutData(std::string_view header, std::string_view text) override;
   void AGWClose() override;
 
-  bool LinkIsUp() const { return connection_.IsUp(); }
-  // The link was lost, or is back; may be empty.
-  std::function<void()> LinkChanged;
-  // The transmitter was switched off: what has not left is dropped.
-  void DropUnsent() { connection_.DropUnsent(); }
+  bool LinkIsUp() const override { return connection_.IsUp(); }
+  void DropUnsent() override { connection_.DropUnsent(); }
   // Another port than the usual one, for engines of tests.
   void UsePort(int port) { port_ = port; }
 

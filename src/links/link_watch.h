@@ -1,5 +1,5 @@
-// What the operator is told of the radio link: the lamp with its word, and a notice when a packet
-// engine is lost.
+// What the operator is told of the radio link: the lamp with its word, and a notice when it is
+// lost.
 #pragma once
 
 #include <functional>
@@ -8,24 +8,20 @@
 #include "core/controls/status_controls.h"
 #include "core/link_lamp.h"
 #include "core/state/radio.h"
-#include "links/agw_link.h"
-#include "links/agw_local.h"
+#include "links/radio_links.h"
 #include "platform/clock.h"
-#include "links/serial_modem.h"
 
 namespace zepril {
 
 struct LinkWatchTools {
-  AgwLink& RemoteEngine;
-  AgwLocal& LocalEngine;
-  const SerialModem& Modem;
+  RadioLinks& Links;
   const Clock& LocalClock;
   std::function<bool()> CycleIsHeld;  // a panel holds the main cycle
 };
 
 class LinkWatch {
  public:
-  // Takes the engines' events.
+  // Takes the event of the links.
   LinkWatch(const RadioState& radio, StatusControls& status, LinkWatchTools tools);
   LinkWatch(const LinkWatch&) = delete;
   LinkWatch& operator=(const LinkWatch&) = delete;
@@ -33,16 +29,15 @@ class LinkWatch {
   LinkLamp Lamp() const;
   // Once a second: since when the link is lost.
   void Renew();
-  // The notice of the modem's trouble; it goes with the trouble. Once, and no box: the lamp goes on
-  // telling.
-  void ShowModemTrouble();
-  // The engine was not there at the start: told like one that is lost.
+  // Shows the notice of a link that is down. Once at each loss, and no box: the lamp goes on
+  // telling. It goes with the loss.
+  void ShowNotice();
+  // The link was not there at the start: told like one that is lost.
   void Started();
 
  private:
-  bool HasLink() const;
   bool IsUp() const;
-  void EngineChanged(bool up);
+  void LinkChanged();
 
   const RadioState& radio_;
   StatusControls& status_;

@@ -5,11 +5,6 @@
 #include "links/setup_sequences.h"
 
 namespace zepril {
-namespace {
-
-constexpr double kEngineSeconds = 2.0;
-
-}  // namespace
 
 LinksRoom::LinksRoom(LinksSections sections, LinksControls controls, LinksTools tools)
     : Remote(sections.Radio, sections.Identity, sections.Transmission, tools.Winsock1,
@@ -17,12 +12,14 @@ LinksRoom::LinksRoom(LinksSections sections, LinksControls controls, LinksTools 
       Local(sections.Radio, tools.Winsock1, tools.LocalClock, ReopenTimer),
       Modem(sections.Identity, sections.Radio, sections.Transmission,
             {tools.MSComm1, tools.LocalClock, ReopenTimer, tools.LongWork}),
+      Heard(sections.Radio, sections.Received, Local, tools.MSComm1, tools.LocalClock),
+      Radios({sections.Identity, sections.Radio, sections.Received, sections.Transmission},
+             {Local, Remote, Modem, tools.MSComm1, tools.LocalClock}),
       Talk(sections.Radio, controls.Talk,
            {tools.MSComm1, tools.Map, tools.Timer1, tools.Timer2, tools.Boxes}),
       OtherMode(sections.Radio, controls.Raw, controls.Talk, tools.MSComm1),
       Watch(sections.Radio, controls.Status,
-            {Remote, Local, Modem, tools.LocalClock,
-             [this] { return CycleIsHeld && CycleIsHeld(); }}),
+            {Radios, tools.LocalClock, [this] { return CycleIsHeld && CycleIsHeld(); }}),
       sections_(sections),
       controls_(controls),
       tools_(tools) {
@@ -35,40 +32,23 @@ LinksRoom::LinksRoom(LinksSections sections, LinksControls controls, LinksTools 
 
 void LinksRoom::BindModem() {
   Modem.DataArrived = [this] { Talk.DataArrived(); };
-  Modem.HeardMeanwhile = [this](const std::string& text) { sections_.Received.ModemText += text; };
-  Modem.GivenUp = [this] { Watch.ShowModemTrouble(); };
-  // A notice of trouble that is over goes by itself.
-  Modem.Reopened = [this] {
-    Watch.ShowModemTrouble();
-    sections_.Received.ForgetModemText();
-  };
   Modem.MayReopen = [this] { return !Talk.IsOpen() && !(InTick && InTick()); };
 }
 
-void LinksRoom::OpenLocalEngine() {
-  const std::string& call = sections_.Identity.MyCallFull;
-  const std::string name = call.empty() ? std::string("MYCALL") : call;
-  if (Local.AGWStartPoll("ZEPRIL", name)) return;
-  // The engine might just be starting.
-  tools_.LocalClock.Wait(kEngineSeconds);
-  Local.AGWStartPoll("ZEPRIL", name);
+bool LinksRoom::Open() {
+  RadioLink* link = Radios.Active();
+  if (!link) return true;
+  const bool opened = link->Open();
+  if (link->HasTerminal()) {
+    Talk.Enable();
+    Watch.ShowNotice();
+  }
+  return opened;
 }
 
-void LinksRoom::ReopenLocalEngine() {
-  Local.AGWClose();
-  tools_.LocalClock.Wait(kEngineSeconds);
-  OpenLocalEngine();
-}
-
-void LinksRoom::OpenSerialModem() {
-  Modem.Open();
-  Talk.EnableFor(ModeOf(sections_.Radio));
-  Watch.ShowModemTrouble();
-}
-
-void LinksRoom::LeaveSerialModem() {
+void LinksRoom::Leave() {
   Talk.WipeHalfLine();
-  Modem.Leave();
+  if (RadioLink* link = Radios.Active()) link->Leave();
 }
 
 void LinksRoom::ClosePort() {
@@ -83,17 +63,7 @@ void LinksRoom::RunTerminalHandler() {
 void LinksRoom::KeepSecondModeMonitored() {
   // It may have been opened within the tick.
   if (Talk.IsOpen()) return;
-  RunModemScript(SecondModeScript(true), tools_.MSComm1, tools_.LocalClock);
-}
-
-void LinksRoom::DropUnsent() {
-  Modem.DropUnsent();
-  Local.DropUnsent();
-  Remote.DropUnsent();
-}
-
-bool LinksRoom::HasUnsentBytes() const {
-  return tools_.MSComm1.IsOpen() && tools_.MSComm1.BytesToWrite() > 0;
+  RunModemScript(SecondModeScript(sections_.Radio, true), tools_.MSComm1, tools_.LocalClock);
 }
 
 void LinksRoom::TerminalOpenedOrClosed() {

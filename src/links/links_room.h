@@ -17,7 +17,9 @@
 #include "core/timer.h"
 #include "links/agw_link.h"
 #include "links/agw_local.h"
+#include "links/heard_texts.h"
 #include "links/link_watch.h"
+#include "links/radio_links.h"
 #include "links/serial_modem.h"
 #include "links/temporary_mode.h"
 #include "links/terminal.h"
@@ -32,7 +34,7 @@ struct LinksSections {
   const IdentityState& Identity;
   RadioState& Radio;
   ReceptionState& Received;
-  const TransmissionState& Transmission;
+  TransmissionState& Transmission;
 };
 
 struct LinksControls {
@@ -59,18 +61,15 @@ struct LinksRoom {
   LinksRoom(const LinksRoom&) = delete;
   LinksRoom& operator=(const LinksRoom&) = delete;
 
-  void OpenLocalEngine();
-  // The engine knows the station by its call, which TX SETUP may have changed.
-  void ReopenLocalEngine();
-  void OpenSerialModem();
-  void LeaveSerialModem();
+  // The start of the run, with the radio interface of the settings. False when the program is to
+  // end.
+  bool Open();
+  // Its end.
+  void Leave();
   void ClosePort();
   void RunTerminalHandler();
-  // An SCS TNC on two modes listens on the second one too.
+  // A modem on two modes listens on the second one too.
   void KeepSecondModeMonitored();
-  // Off is off: nothing leaves minutes later, when a stalled line moves again.
-  void DropUnsent();
-  bool HasUnsentBytes() const;
 
   // The terminal was opened or closed; may be empty.
   Event TerminalChanged;
@@ -82,6 +81,8 @@ struct LinksRoom {
   AgwLink Remote;
   AgwLocal Local;
   SerialModem Modem;
+  HeardTexts Heard;
+  RadioLinks Radios;
   Terminal Talk;
   TemporaryMode OtherMode;
   LinkWatch Watch;

@@ -177,14 +177,14 @@ bool SerialModem::MaySend() {
   return !tools_.Port.IsOpen() || (HasItsPower() && HasItsCall());
 }
 
-// ---- The modem's call
-// -----------------------------------------------------------------------------
+// ---- The modem's call ---------------------------------------------------------------------------
 
 CallHeld SerialModem::Ask() {
+  const ModemKind* kind = ModemKindOf(ModeOf(radio_));
+  if (!kind) return CallHeld::NotTold;
   busy_ = true;
   std::string heard;
-  const CallHeld call =
-      AskForCall(ModeOf(radio_), identity_.MyCall, tools_.Port, tools_.LocalClock, heard);
+  const CallHeld call = AskForCall(*kind, identity_.MyCall, tools_.Port, tools_.LocalClock, heard);
   busy_ = false;
   const double now = tools_.LocalClock.MonotonicSeconds();
   asked_at_ = now;

@@ -1,6 +1,7 @@
 // Sends the change of mode and the change back, once each.
 #include "links/temporary_mode.h"
 
+#include "core/radio_rules.h"
 #include "core/texts/notices.h"
 
 namespace zepril {
@@ -20,8 +21,8 @@ TemporaryMode::TemporaryMode(const RadioState& radio, RawListControls& raw,
 }
 
 bool TemporaryMode::Applies() const {
-  return radio_.RadioMode == static_cast<int>(RadioMode::ScsTnc) &&
-         (radio_.BaudMode == "300R" || radio_.BaudMode == "300") && !terminal_.Frame19.Visible;
+  return HasSecondMode(radio_) && (radio_.BaudMode == "300R" || radio_.BaudMode == "300") &&
+         !terminal_.Frame19.Visible;
 }
 
 void TemporaryMode::SwitchOn() {

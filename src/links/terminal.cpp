@@ -3,18 +3,15 @@
 
 #include <string_view>
 
-#include "core/baud_mode.h"
 #include "core/text_fields.h"
 #include "core/texts/boxes.h"
+#include "links/modem_kind.h"
 #include "links/setup_sequences.h"
 
 namespace zepril {
 namespace {
 
-constexpr char kBreak = 3;
 constexpr char kBackspace = 8;
-constexpr char kCancelLine = 24;
-constexpr char kEsc = 27;
 
 void AddTo(std::string& text, std::string_view more) {
   text += more;
@@ -34,8 +31,8 @@ Terminal::Terminal(const RadioState& radio, TerminalControls& controls, Terminal
   controls_.Text20.Click = [this] { controls_.Text19.FocusWanted = true; };
 }
 
-void Terminal::EnableFor(RadioMode mode) {
-  controls_.Command65.Enabled = IsSerialModem(mode);
+void Terminal::Enable() {
+  controls_.Command65.Enabled = true;
 }
 
 void Terminal::Open() {
@@ -56,11 +53,11 @@ void Terminal::KeyTyped(char character) {
 
 // As the modem does.
 void Terminal::CountTyped(char character) {
-  const auto mode = static_cast<RadioMode>(radio_.RadioMode);
-  if (character == '\r' || (character == kBreak && mode == RadioMode::Pk232) ||
-      (character == kCancelLine && mode != RadioMode::ScsPtc)) {
+  const ModemKind* kind = ModemKindOf(ModeOf(radio_));
+  if (!kind) return;
+  if (kind->KeysThatEndALine.find(character) != std::string_view::npos) {
     half_line_ = 0;
-  } else if (character == kEsc && mode == RadioMode::ScsPtc) {
+  } else if (kind->KeysThatBeginACommand.find(character) != std::string_view::npos) {
     half_line_ = 1;
   } else if (character == kBackspace) {
     half_line_ -= half_line_ > 0 ? 1 : 0;

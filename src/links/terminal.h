@@ -30,13 +30,13 @@ class Terminal {
   static constexpr std::size_t kLongestText = 1000;
   static constexpr std::size_t kKeptText = 300;
 
-  // Sets the events of the panel; the button is disabled until EnableFor.
+  // Sets the events of the panel; the button is disabled until Enable.
   Terminal(const RadioState& radio, TerminalControls& controls, TerminalTools tools);
   Terminal(const Terminal&) = delete;
   Terminal& operator=(const Terminal&) = delete;
 
-  // Only a serial modem has a terminal.
-  void EnableFor(RadioMode mode);
+  // There is a modem to talk to.
+  void Enable();
   void Open();
   // Asks first what becomes of half a line.
   void Close();

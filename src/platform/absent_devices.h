@@ -22,6 +22,8 @@ class AbsentEngine final : public MonitorEngine {
   std::string AGWGetData() override { return {}; }
   bool AGWPutData(std::string_view, std::string_view) override { return false; }
   void AGWClose() override {}
+  bool LinkIsUp() const override { return false; }
+  void DropUnsent() override {}
 };
 
 }  // namespace zepril

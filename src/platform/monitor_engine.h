@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,12 @@ class MonitorEngine {
   // Sends one frame: header "DESTINATION,DIGI,DIGI" with the port, and its text.
   virtual bool AGWPutData(std::string_view header, std::string_view text) = 0;
   virtual void AGWClose() = 0;
+
+  virtual bool LinkIsUp() const = 0;
+  // What has not left yet never leaves.
+  virtual void DropUnsent() = 0;
+  // The link was lost, or is back; may be empty.
+  std::function<void()> LinkChanged;
 };
 
 }  // namespace zepril

@@ -68,4 +68,10 @@ bool AppendAgwFrame(std::string_view text, std::string& collected) {
   return true;
 }
 
+Brought BringAgwText(std::string_view raw, std::string& normal) {
+  const bool whole = HasAgwForm(raw);
+  if (whole) AppendAgwFrame(raw, normal);
+  return {raw.size(), raw, whole};
+}
+
 }  // namespace zepril

@@ -13,6 +13,8 @@
 #include <string>
 #include <string_view>
 
+#include "reception/dialects.h"
+
 namespace zepril {
 
 // True when `text` has exactly three CR: behind the header, and two behind the information. A text
@@ -24,5 +26,9 @@ bool HasAgwForm(std::string_view text);
 // a call like "DL1TOM" nor a comment disturbs. False, and nothing appended, when the line has no
 // "To " or no " <".
 bool AppendAgwFrame(std::string_view text, std::string& collected);
+
+// A text of the engine. Kept: one of another form ends the collecting; later frames wait for the
+// next pass.
+Brought BringAgwText(std::string_view raw, std::string& normal);
 
 }  // namespace zepril

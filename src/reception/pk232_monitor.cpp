@@ -23,4 +23,10 @@ std::string_view Pk232Text(std::string_view input) {
   return rest;
 }
 
+Brought BringPk232Text(std::string_view raw, std::string& normal) {
+  const std::string_view text = Pk232Text(raw);
+  normal += text;
+  return {raw.size(), text};
+}
+
 }  // namespace zepril

@@ -3,7 +3,10 @@
 // have to go.
 #pragma once
 
+#include <string>
 #include <string_view>
+
+#include "reception/dialects.h"
 
 namespace zepril {
 
@@ -12,5 +15,8 @@ namespace zepril {
 // The echo "K" CR LF and anything shorter than 10 characters is nothing. A first line with neither
 // "<UI>" nor "[UI]" is skipped, with its CR LF as long as 10 characters remain behind.
 std::string_view Pk232Text(std::string_view input);
+
+// Whole lines of the modem.
+Brought BringPk232Text(std::string_view raw, std::string& normal);
 
 }  // namespace zepril

@@ -5,8 +5,7 @@ namespace zepril {
 
 ReceptionRoom::ReceptionRoom(ReceptionSections sections, ReceptionRoomControls controls,
                              ReceptionTools tools)
-    : Link(sections.Radio, sections.Received, sections.Internet, tools.LocalClock, tools.Engine,
-           tools.Modem, tools.Gate),
+    : Link(sections.Radio, sections.Internet, tools.Heard, tools.Gate),
       Distance(sections.Alarms, sections.Identity, sections.Followed, sections.View,
                controls.Status, controls.Window),
       History(sections.Identity, sections.Stores, sections.Followed, sections.View, sections.Gps,

@@ -26,11 +26,10 @@
 #include "core/state/stores.h"
 #include "core/symbol_table.h"
 #include "core/timer.h"
+#include "links/heard_texts.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
-#include "platform/monitor_engine.h"
-#include "platform/serial_port.h"
 #include "reception/collector.h"
 #include "reception/distance_alarm.h"
 #include "reception/followed_choice.h"
@@ -69,8 +68,7 @@ struct ReceptionTools {
   Files& Disk;
   Clock& LocalClock;
   Dialogs& Boxes;
-  MonitorEngine& Engine;
-  SerialPort& Modem;
+  HeardTexts& Heard;
   const SymbolTable& Symbols;
   MapActions& Map;
   SettingsActions& Settings;

@@ -108,4 +108,21 @@ std::size_t TakeScsFrames(std::string_view text, ScsDialect dialect, std::string
   return taken;
 }
 
+namespace {
+
+Brought BringScsText(std::string_view raw, ScsDialect dialect, std::string& normal) {
+  const std::size_t taken = TakeScsFrames(raw, dialect, normal);
+  return {taken, normal.empty() ? std::string_view() : raw.substr(0, taken)};
+}
+
+}  // namespace
+
+Brought BringScsTncText(std::string_view raw, std::string& normal) {
+  return BringScsText(raw, ScsDialect::Tnc, normal);
+}
+
+Brought BringScsPtcText(std::string_view raw, std::string& normal) {
+  return BringScsText(raw, ScsDialect::Ptc, normal);
+}
+
 }  // namespace zepril

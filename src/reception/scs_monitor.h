@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "reception/dialects.h"
+
 namespace zepril {
 
 enum class ScsDialect {
@@ -21,5 +23,9 @@ enum class ScsDialect {
 // frames are taken. A header that is no unnumbered frame of pid F0 ends the taking; it is passed
 // over, so that the frames behind it come next time.
 std::size_t TakeScsFrames(std::string_view text, ScsDialect dialect, std::string& collected);
+
+// What the modem has written since it was last silent.
+Brought BringScsTncText(std::string_view raw, std::string& normal);
+Brought BringScsPtcText(std::string_view raw, std::string& normal);
 
 }  // namespace zepril

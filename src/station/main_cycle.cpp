@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "core/radio_rules.h"
 #include "core/text_fields.h"
 #include "core/texts/status_texts.h"
 #include "core/title_line.h"
@@ -52,9 +53,7 @@ void MainCycle::RunSteps() {
   // Is the main window the active one?
   state_.Settings.WindowActive = desktop_.MainWindowActive();
   // An SCS TNC on two modes listens on the second one too.
-  if (state_.Radio.RadioMode == static_cast<int>(RadioMode::ScsTnc) && state_.Radio.HfDualOn == 1) {
-    RunStep(Steps.KeepSecondModeMonitored);
-  }
+  if (ListensOnTwoModes(state_.Radio)) RunStep(Steps.KeepSecondModeMonitored);
   // A call typed into the MONI 1 field.
   if (FollowCallField() == Outcome::EndTick) return;
   // Raw list: the newest row is selected and shown.
@@ -80,20 +79,14 @@ void MainCycle::RunSteps() {
   // GPS.
   if (GpsIsPolled()) RunStep(Steps.PollGps);
   // Reception.
-  if (state_.Radio.RadioMode != static_cast<int>(RadioMode::None)) RunStep(Steps.RunReceivePass);
+  if (!HasNoRadio(state_.Radio)) RunStep(Steps.RunReceivePass);
   // Transmission.
   Transmit();
 }
 
-bool MainCycle::GateMode() const {
-  const int mode = state_.Radio.RadioMode;
-  return mode == static_cast<int>(RadioMode::AgwLocal) ||
-         mode == static_cast<int>(RadioMode::Pk232) ||
-         mode == static_cast<int>(RadioMode::ScsTnc) || mode == static_cast<int>(RadioMode::ScsPtc);
-}
-
 void MainCycle::PollAprsIs() {
-  if (Val(state_.Internet.AprsIsPasscode) > 0.0 && GateMode()) RunStep(Steps.PollAprsIsLink);
+  if (Val(state_.Internet.AprsIsPasscode) > 0.0 && GateIsPossible(state_.Radio))
+    RunStep(Steps.PollAprsIsLink);
 }
 
 void MainCycle::RenewTitle() {
@@ -114,7 +107,7 @@ void MainCycle::RenewTitle() {
 }
 
 void MainCycle::LookForCompanion() {
-  if (state_.Radio.RadioMode == static_cast<int>(RadioMode::AgwLocal)) {
+  if (MayHaveCompanion(state_.Radio)) {
     const bool found = desktop_.WindowExists("AGWuidigi");
     state_.Radio.DigiOn = found ? Digipeater::On : Digipeater::Off;
     if (found) {
@@ -137,7 +130,7 @@ MainCycle::Outcome MainCycle::CountScan() {
 
 void MainCycle::RenewStatusLine() {
   std::string line = " " + ClockText();
-  if (state_.Radio.RadioMode != static_cast<int>(RadioMode::None)) {
+  if (!HasNoRadio(state_.Radio)) {
     line = state_.Radio.BaudModeLabel + "  " + line;
   }
   // Kept: column 6 of the finished line, whatever stands there.
@@ -175,7 +168,7 @@ void MainCycle::LimitInternetTime() {
   if (std::fabs(on_for) <= state_.Internet.InetMaxOnSeconds) return;
   controls_.MoniAll.Check23.Value = 0;
   controls_.Moni1.Check22.Value = 0;
-  if (state_.Radio.RadioMode == static_cast<int>(RadioMode::None)) {
+  if (HasNoRadio(state_.Radio)) {
     controls_.Chat.Check7.Value = 0;
   }
 }
@@ -183,7 +176,7 @@ void MainCycle::LimitInternetTime() {
 MainCycle::Outcome MainCycle::Identify() {
   if (state_.Radio.DigiOn != Digipeater::On && state_.Internet.IGateConnected != GateLink::Up)
     return Outcome::GoOn;
-  if (!GateMode()) return Outcome::GoOn;
+  if (!GateIsPossible(state_.Radio)) return Outcome::GoOn;
   // The third character spreads the stations over the hour; a letter reads as 0.
   const int offset = static_cast<int>(Val(Mid(state_.Identity.MyCall, 3, 1)));
   const std::string time = ClockText();
@@ -265,7 +258,7 @@ void MainCycle::DecideChat() {
 void MainCycle::DecideObjectAndBeacon() {
   TransmissionState& due = state_.Transmission;
   if (due.TxIntervalMinutes <= 0 || due.ChatDue || controls_.Transmit.Check6.Value != 1 ||
-      state_.Radio.RadioMode == static_cast<int>(RadioMode::None)) {
+      HasNoRadio(state_.Radio)) {
     return;
   }
   const std::int64_t now = SecondsOf(clock_.Now());
@@ -291,7 +284,7 @@ bool MainCycle::GpsIsPolled() const {
 void MainCycle::Transmit() {
   TransmissionState& due = state_.Transmission;
   if (due.ChatDue) RunStep(Steps.RunChatPass);
-  if (state_.Radio.RadioMode == static_cast<int>(RadioMode::None)) return;
+  if (HasNoRadio(state_.Radio)) return;
   if (due.ObjectDue && due.ObjectTxOn == 1) {
     RunStep(Steps.SendObjectReport);
     due.LastObjectTime = SecondsOf(clock_.Now());

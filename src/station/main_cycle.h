@@ -69,7 +69,6 @@ class MainCycle {
   void Transmit();
   void KeepPanelWidths();
 
-  bool GateMode() const;  // radio modes with a gateway
   int ClockHhMm() const;
   std::string ClockText() const;
 

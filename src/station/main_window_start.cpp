@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/centre_follow.h"
+#include "core/radio_rules.h"
 #include "core/text_fields.h"
 #include "core/title_line.h"
 
@@ -92,25 +93,13 @@ void MainWindowStart::SetView() {
 }
 
 bool MainWindowStart::OpenLink() {
-  switch (static_cast<RadioMode>(state_.Radio.RadioMode)) {
-    case RadioMode::AgwLocal:
-      RunStep(steps_.OpenLocalEngine);
-      return true;
-    case RadioMode::Pk232:
-    case RadioMode::ScsTnc:
-    case RadioMode::ScsPtc:
-      RunStep(steps_.OpenSerialModem);
-      return true;
-    case RadioMode::AgwRemote:
-      return steps_.ConnectAgw && steps_.ConnectAgw();
-    case RadioMode::None:
-      for (CheckBox* box : {&controls_.Transmit.Check6, &controls_.Chat.Check16}) {
-        box->Enabled = false;
-        box->Visible = false;
-      }
-      return true;
+  if (HasNoRadio(state_.Radio)) {
+    for (CheckBox* box : {&controls_.Transmit.Check6, &controls_.Chat.Check16}) {
+      box->Enabled = false;
+      box->Visible = false;
+    }
   }
-  return true;  // any other number collects nothing
+  return !steps_.OpenLink || steps_.OpenLink();
 }
 
 void MainWindowStart::ApplyTxAllowed() {

@@ -15,10 +15,8 @@ struct StartSteps {
   Step SetOwnNames;  // header pattern, passcode, navigation
   Step LayOutPanels;
   Step ScanMapLibrary;
-  Step LoadHistory;                  // of the followed station; sets the monitor values
-  Step OpenLocalEngine;              // mode 0, with the digipeater companion
-  Step OpenSerialModem;              // modes 1, 5, 6
-  std::function<bool()> ConnectAgw;  // mode 3; false: the program ends
+  Step LoadHistory;                // of the followed station; sets the monitor values
+  std::function<bool()> OpenLink;  // the radio interface; false: the program ends
   Step OpenGpsPort;
   Step RestoreTracksPlacesAndChat;
   Step ShowTitleMarkers;

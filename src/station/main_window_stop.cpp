@@ -19,22 +19,8 @@ void MainWindowStop::Run(bool by_operator) {
   CloseRequest();
   // Sound.
   RunStep(steps_.CloseSound);
-  // The radio link, each in its own way.
-  switch (static_cast<RadioMode>(state_.Radio.RadioMode)) {
-    case RadioMode::AgwLocal:
-      RunStep(steps_.CloseLocalEngine);
-      break;
-    case RadioMode::Pk232:
-    case RadioMode::ScsTnc:
-    case RadioMode::ScsPtc:
-      RunStep(steps_.LeaveSerialModem);
-      break;
-    case RadioMode::AgwRemote:
-      RunStep(steps_.DisconnectAgw);
-      break;
-    case RadioMode::None:
-      break;
-  }
+  // The radio link.
+  RunStep(steps_.LeaveLink);
   RunStep(steps_.ClosePorts);
   // The internet switches have no place in the file: they are off at the next start.
   // Hand-over files of the navigation program.

@@ -13,10 +13,8 @@ struct StopSteps {
   Step CloseSound;
   Step StopPageLoading;  // the internet page is left blank
   Step StopPicturePanel;
-  Step CloseLocalEngine;  // mode 0, with the digipeater companion
-  Step LeaveSerialModem;  // exit sequence of modes 1, 5, 6
-  Step DisconnectAgw;     // mode 3
-  Step ClosePorts;        // both serial ports, the APRS-IS socket
+  Step LeaveLink;   // the radio interface
+  Step ClosePorts;  // both serial ports, the APRS-IS socket
   Step WriteNavigationFiles;
   Step MergeConfigAtExit;
   Step DeleteRunFiles;  // index files of the map library of this run

@@ -44,15 +44,15 @@ StationRooms::StationRooms(StationPlatform machine)
                  State.Map, State.Gps, State.Alarms, State.Settings, State.Internet},
                 {Controls.Window, Controls.Map, Controls.Moni1, Controls.MoniAll, Controls.Record,
                  Controls.Status, &Controls.Raw.RawList},
-                {machine.FileSystem, machine.LocalClock, machine.Boxes, Links.Local,
-                 machine.MSComm1, Map.Symbols, Map.Redrawer, Settings, Emergencies, Timer1}),
+                {machine.FileSystem, machine.LocalClock, machine.Boxes, Links.Heard, Map.Symbols,
+                 Map.Redrawer, Settings, Emergencies, Timer1}),
       Transmit({State.Identity, State.Radio, State.Transmission, State.Map, State.Gps,
                 State.Settings, State.Chat, State.Internet, State.Reception},
                {Controls.Window, Controls.Map, Controls.Transmit, Controls.Chat, Controls.Gate,
                 Controls.Record, Controls.TxSetup, Controls.ObjectSetup},
-               {machine.FileSystem, machine.LocalClock, machine.Boxes, machine.MSComm1,
-                machine.TxSymbolSurface, machine.ObjectSymbolSurface, Links, Map.Sheets,
-                Map.Symbols, LongWork, Map.Redrawer, Settings, Timer1, Timer2}),
+               {machine.FileSystem, machine.LocalClock, machine.Boxes, machine.TxSymbolSurface,
+                machine.ObjectSymbolSurface, Links, Map.Sheets, Map.Symbols, LongWork, Map.Redrawer,
+                Settings, Timer1, Timer2}),
       RawSearch(Controls.Raw, State.Settings, Timer1),
       Cycle(State, Controls, machine.LocalClock, machine.Desktop, Timer1, Timer2, Map.Redrawer) {
   SetInitialControls(Controls);
@@ -128,9 +128,7 @@ StartSteps StationRooms::StartOrder() {
     Map.Library.MapLibraryScan();
   };
   start.LoadHistory = [this] { Reception.Choice.LoadAtStart(); };
-  start.OpenLocalEngine = [this] { Links.OpenLocalEngine(); };
-  start.OpenSerialModem = [this] { Links.OpenSerialModem(); };
-  start.ConnectAgw = [this] { return Links.Remote.ConnectAgw(); };
+  start.OpenLink = [this] { return Links.Open(); };
   start.RestoreTracksPlacesAndChat = [this] {
     Tracks.RestoreAtStart();
     Viewers.Places.RestoreAtStart();
@@ -176,9 +174,7 @@ void StationRooms::SetLabels() {
 StopSteps StationRooms::StopOrder() {
   StopSteps stop;
   stop.StopPicturePanel = [this] { Viewers.Pictures.ClosePicture(); };
-  stop.CloseLocalEngine = [this] { Links.Local.AGWClose(); };
-  stop.LeaveSerialModem = [this] { Links.LeaveSerialModem(); };
-  stop.DisconnectAgw = [this] { Links.Remote.DisconnectAgw(); };
+  stop.LeaveLink = [this] { Links.Leave(); };
   stop.ClosePorts = [this] { Links.ClosePort(); };
   stop.MergeConfigAtExit = [this] { MergeConfigAtExit(); };
   stop.DeleteRunFiles = [this] { Map.Library.DeleteIndexFiles(); };
@@ -197,8 +193,8 @@ void StationRooms::JoinRooms() {
   Map.Interaction.RecordPicked = [this] { Reception.Browser.OpenPicked(); };
   Map.Qth.PositionTaken = [this] { Transmit.Switches.ShowInterval(); };
   Transmit.Switches.PositionMissing = [this] { Map.Qth.Open(); };
-  Transmit.SetupJoins = {[this] { Cycle.RenewStatusLine(); }, [this] { Links.ReopenLocalEngine(); },
-                         [this] { ShowTitle(); }, [this] { SetLabels(); }};
+  Transmit.SetupJoins = {[this] { Cycle.RenewStatusLine(); }, [this] { ShowTitle(); },
+                         [this] { SetLabels(); }};
   Links.CycleIsHeld = [this] { return CycleIsHeld(); };
   Links.InTick = [this] { return Cycle.InTick(); };
   Links.TerminalChanged = [this] {

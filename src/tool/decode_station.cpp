@@ -61,6 +61,8 @@ class FedEngine final : public MonitorEngine {
   }
   bool AGWPutData(std::string_view, std::string_view) override { return false; }
   void AGWClose() override {}
+  bool LinkIsUp() const override { return true; }
+  void DropUnsent() override {}
 
   std::string Input;
 };
@@ -103,7 +105,7 @@ struct DecodeStation::Station {
         Room({Identity, Radio, Reception, Stores, Followed, Map, Gps, Alarms, Settings, Internet},
              {Controls.Window, Controls.Map, Controls.Moni1, Controls.MoniAll, Controls.Record,
               Controls.Status},
-             {Logs, TheClock, Boxes, Engine, Modem, Symbols, Actions, Actions, Actions, Timer1}) {
+             {Logs, TheClock, Boxes, Heard, Symbols, Actions, Actions, Actions, Timer1}) {
     constexpr int kTickMilliseconds = 6000;
     Timer1.Arm(kTickMilliseconds);
     Identity.MyCallFull = settings.MyCallFull;
@@ -156,6 +158,7 @@ struct DecodeStation::Station {
   StandingClock TheClock;
   FedModem Modem;
   FedEngine Engine;
+  HeardTexts Heard{Radio, Reception, Engine, Modem, TheClock};
   LogKeeper Logs;
   QuietActions Actions;
   QuietDialogs Boxes;

@@ -1,24 +1,19 @@
-// The way of a text by radio interface: either engine, or the line of a modem.
+// Hands a text over, unless the link is held back, and tells what became of it.
 #include "transmit/frame_sender.h"
-
-#include <string>
-
-#include "core/baud_mode.h"
-#include "core/sent_text.h"
-#include "links/setup_sequences.h"
 
 namespace zepril {
 
 Delivery FrameSender::SendFrame(std::string_view text, SecondMode second_mode) {
+  RadioLink* link = links_.Active();
   Delivery delivery = Delivery::ModemBusy;
-  if (!HeldBack || !HeldBack()) {
+  if (!(HeldBack && HeldBack()) && (!link || link->MaySend())) {
     sending_ = true;
     if (Leaving) Leaving();
     delivery = HandOver(text, second_mode);
     // Without a radio nothing goes out, and nothing is waited for.
-    if (delivery != Delivery::NoRadio) tools_.LocalClock.Wait(kPauseSeconds);
+    if (delivery != Delivery::NoRadio) clock_.Wait(kPauseSeconds);
     sending_ = false;
-  } else if (IsSerialModem(ModeOf(radio_)) && !tools_.Modem.IsOpen()) {
+  } else if (link && !link->IsUp()) {
     delivery = Delivery::LinkLost;
   }
   if (Left) Left(delivery);
@@ -26,43 +21,14 @@ Delivery FrameSender::SendFrame(std::string_view text, SecondMode second_mode) {
 }
 
 Delivery FrameSender::HandOver(std::string_view text, SecondMode second_mode) {
-  const auto told = [](bool sent) { return sent ? Delivery::Sent : Delivery::LinkLost; };
-  switch (ModeOf(radio_)) {
-    case RadioMode::AgwLocal:
-      return told(ToLocalEngine(text));
-    case RadioMode::AgwRemote:
-      return told(ToRemoteEngine(text));
-    case RadioMode::ScsTnc:
-      if (radio_.HfDualOn == 1 && second_mode == SecondMode::SwitchOff) {
-        RunModemScript(SecondModeScript(false), tools_.Modem, tools_.LocalClock);
-      }
-      return told(ToModem(text));
-    case RadioMode::Pk232:
-    case RadioMode::ScsPtc:
-      return told(ToModem(text));
-    default:
-      return Delivery::NoRadio;
-  }
+  RadioLink* link = links_.Active();
+  if (!link) return Delivery::NoRadio;
+  return link->Send(text, second_mode) ? Delivery::Sent : Delivery::LinkLost;
 }
 
-bool FrameSender::ToLocalEngine(std::string_view text) {
-  return tools_.LocalEngine.AGWPutData(transmission_.TxDestination + "," + transmission_.TxPath,
-                                       text);
-}
-
-bool FrameSender::ToRemoteEngine(std::string_view text) {
-  transmission_.AgwTxText = text;
-  return tools_.RemoteEngine.SendAgwUnproto();
-}
-
-// Destination and path are the modem's own settings.
-bool FrameSender::ToModem(std::string_view text) {
-  if (!tools_.Modem.IsOpen()) return false;
-  // A modem takes some of these for the way back to its commands; a text that was heard may hold
-  // any.
-  tools_.Modem.Write(WithoutControlCharacters(text) + "\r");
-  if (ModemFrameWritten) ModemFrameWritten();
-  return tools_.Modem.IsOpen();
+bool FrameSender::IsBusy() const {
+  const RadioLink* link = links_.Active();
+  return sending_ || (link && link->HasUnsent());
 }
 
 }  // namespace zepril

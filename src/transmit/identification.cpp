@@ -1,7 +1,7 @@
 // Puts the words for digipeater, gateway and relay together.
 #include "transmit/identification.h"
 
-#include "core/baud_mode.h"
+#include "core/radio_rules.h"
 
 namespace zepril {
 namespace {

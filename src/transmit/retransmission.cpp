@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/radio_rules.h"
 #include "core/station_record.h"
 #include "core/text_fields.h"
 #include "core/texts/boxes.h"
@@ -33,7 +34,7 @@ Retransmission::Retransmission(const IdentityState& identity, const RadioState& 
 }
 
 void Retransmission::RetransmitStation() {
-  if (radio_.RadioMode == static_cast<int>(RadioMode::None)) return;
+  if (HasNoRadio(radio_)) return;
   const std::string line = RecordText(record_.Label20.Caption);
   if (Trim(line).empty()) return;
   tools_.Timer1.Stop();

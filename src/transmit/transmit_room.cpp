@@ -11,8 +11,7 @@ namespace zepril {
 
 TransmitRoom::TransmitRoom(TransmitSections sections, TransmitRoomControls controls,
                            TransmitTools tools)
-    : Sender(sections.Radio, sections.Transmission,
-             {tools.Links.Local, tools.Links.Remote, tools.MSComm1, tools.LocalClock}),
+    : Sender(tools.Links.Radios, tools.LocalClock),
       Outcome(controls.Transmit, tools.LocalClock),
       Beacon({sections.Identity, sections.Transmission, sections.View, sections.Gps,
               sections.Settings},
@@ -25,8 +24,8 @@ TransmitRoom::TransmitRoom(TransmitSections sections, TransmitRoomControls contr
       Setup({sections.Identity, sections.Radio, sections.Transmission, sections.Internet,
              sections.Received},
             controls.TxSetup, controls.Transmit, controls.Gate,
-            {SetupJoins, tools.Settings, Switches, tools.Links.Modem, tools.LongWork, tools.Symbols,
-             TxSymbol, tools.Timer1, tools.Timer2}),
+            {SetupJoins, tools.Settings, Switches, tools.Links.Radios, tools.LongWork,
+             tools.Symbols, TxSymbol, tools.Timer1, tools.Timer2}),
       Object(sections.Transmission, sections.View, controls.ObjectSetup, controls.Map,
              controls.Transmit,
              {tools.Map, tools.Settings, tools.Symbols, ObjectSymbol, Switches, tools.Timer1,
@@ -38,12 +37,12 @@ TransmitRoom::TransmitRoom(TransmitSections sections, TransmitRoomControls contr
       tools_(tools) {
   LinksRoom& links = tools_.Links;
   // What is being said to the modem is not broken into.
-  Sender.HeldBack = [&links] { return links.Talk.IsOpen() || !links.Modem.MaySend(); };
-  Sender.ModemFrameWritten = [&links] { links.Modem.FrameWritten(); };
-  Sender.Waiting = [&links] { return links.HasUnsentBytes(); };
+  Sender.HeldBack = [&links] { return links.Talk.IsOpen(); };
   Sender.Leaving = [this] { Outcome.Leaving(); };
   Sender.Left = [this](Delivery delivery) { Outcome.Tell(delivery); };
-  Switches.TurnedOff = [&links] { links.DropUnsent(); };
+  Switches.TurnedOff = [&links] {
+    if (RadioLink* link = links.Radios.Active()) link->DropUnsent();
+  };
   controls_.Transmit.NextBeacon.Colour = TxOutcome::kOnTheAir;
   controls_.Transmit.NextBeacon.Visible = false;
 }

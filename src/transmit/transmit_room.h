@@ -69,7 +69,6 @@ struct TransmitTools {
   Files& Disk;
   Clock& LocalClock;
   Dialogs& Boxes;
-  SerialPort& MSComm1;
   DrawingSurface& TxSymbolSurface;      // the symbol in TX SETUP
   DrawingSurface& ObjectSymbolSurface;  // and in OBJECT SETUP, each of one cell
   LinksRoom& Links;

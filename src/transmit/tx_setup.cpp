@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/baud_mode.h"
+#include "core/radio_rules.h"
 #include "core/text_fields.h"
 #include "core/texts/notices.h"
 #include "core/texts/status_texts.h"
@@ -189,21 +190,19 @@ void TxSetup::FillRadio() {
 }
 
 void TxSetup::ShowByMode() {
-  const RadioMode mode = ModeOf(sections_.Radio);
-  const bool tnc = mode == RadioMode::ScsTnc;
-  const bool ptc = mode == RadioMode::ScsPtc;
-  const bool level = tnc || ptc;
-  controls_.TxLevelLabel.Caption = tnc ? status_texts::kTncLevel : status_texts::kPtcLevel;
+  const bool second_mode = HasSecondMode(sections_.Radio);
+  const bool level = HasFastSpeeds(ModeOf(sections_.Radio));
+  controls_.TxLevelLabel.Caption = second_mode ? status_texts::kTncLevel : status_texts::kPtcLevel;
   controls_.TxLevelLabel.Visible = level;
   controls_.TxLevel.Visible = level;
-  // The PTC is not told its call by OK.
   controls_.CallNotice.Caption = notices::kCallFollows;
-  controls_.CallNotice.Visible = ptc;
-  transmit_.Check2.Visible = tnc;
-  controls_.CrossField.Visible = tnc;
-  controls_.CrossUp.Visible = tnc;
-  controls_.CrossDown.Visible = tnc;
-  controls_.DigiBox.Visible = level || mode == RadioMode::AgwLocal || mode == RadioMode::Pk232;
+  controls_.CallNotice.Visible = LearnsItsCallAtStartOnly(sections_.Radio);
+  transmit_.Check2.Visible = second_mode;
+  controls_.CrossField.Visible = second_mode;
+  controls_.CrossUp.Visible = second_mode;
+  controls_.CrossDown.Visible = second_mode;
+  // A digipeater is possible where a gate is.
+  controls_.DigiBox.Visible = GateIsPossible(sections_.Radio);
   // The other interfaces know 300 and 1200 Bd only.
   for (const std::size_t scs_only : {std::size_t{0}, std::size_t{3}, std::size_t{4}})
     controls_.Speeds[scs_only].Visible = level;
@@ -292,9 +291,7 @@ void TxSetup::TakeLines() {
 }
 
 void TxSetup::ProgramRadio() {
-  if (ModeOf(sections_.Radio) == RadioMode::AgwLocal) return tools_.Joins.ReopenLocalEngine();
-  tools_.Modem.Program(tools_.LongWork);
-  sections_.Reception.ForgetModemText();
+  if (RadioLink* link = tools_.Links.Active()) link->TakeNewSettings(tools_.LongWork);
 }
 
 }  // namespace zepril

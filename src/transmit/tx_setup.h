@@ -16,19 +16,16 @@
 #include "core/state/transmission.h"
 #include "core/symbol_table.h"
 #include "core/timer.h"
-#include "links/serial_modem.h"
+#include "links/radio_links.h"
 #include "transmit/symbol_preview.h"
 #include "transmit/tx_setup_rules.h"
 #include "transmit/tx_switches.h"
 
 namespace zepril {
 
-// What OK asks of the rest of the program.
 // What TX SETUP asks of the rest of the program when it is confirmed.
 struct TxSetupJoins {
   Event RefreshStatusLine;  // the speed's label in the status line
-  // The local packet engine is opened anew under the call, the digipeater beside it follows DIGI.
-  Event ReopenLocalEngine;
   Event ShowTitleMarkers;
   Event SetLabels;
 };
@@ -45,7 +42,7 @@ struct TxSetupTools {
   const TxSetupJoins& Joins;
   SettingsActions& Settings;
   TxSwitches& Switches;
-  SerialModem& Modem;
+  RadioLinks& Links;
   Progress& LongWork;
   const SymbolTable& Symbols;
   SymbolPreview& Preview;

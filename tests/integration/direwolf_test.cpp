@@ -21,6 +21,7 @@
 #include "platform/qt/qt_socket.h"
 #include "station/station_program.h"
 #include "tests/doubles/hurried_clock.h"
+#include "tests/doubles/recorded_progress.h"
 #include "tests/doubles/recorded_surfaces.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/temp_folder.h"
@@ -305,8 +306,10 @@ class SendingTest : public EngineTest {
     MakeBeacon();
   }
   void MakeBeacon() {
-    sender.emplace(state.Radio, state.Transmission,
-                   FrameSenderTools{local, *remote, modem, hurried});
+    links.emplace(
+        RadioLinksSections{state.Identity, state.Radio, state.Reception, state.Transmission},
+        RadioLinksTools{local, *remote, no_modem, modem, hurried});
+    sender.emplace(*links, hurried);
     beacon.emplace(
         BeaconSections{state.Identity, state.Transmission, state.Map, state.Gps, state.Settings},
         BeaconTools{*sender, symbols, files, loop, window, map});
@@ -324,6 +327,10 @@ class SendingTest : public EngineTest {
   Timer unused_timer{kReopenMilliseconds};
   AgwLocal local{state.Radio, socket, loop, reopen};
   std::optional<AgwLink> remote;
+  RecordedProgress work;
+  SerialModem no_modem{
+      state.Identity, state.Radio, state.Transmission, {modem, loop, unused_timer, work}};
+  std::optional<RadioLinks> links;
   std::optional<FrameSender> sender;
   std::optional<PositionBeacon> beacon;
 };

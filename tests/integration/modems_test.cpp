@@ -134,7 +134,8 @@ class ModelsTest : public ModemsTest {
     for (const std::string& packet : packets)
       modem->Hear(ReadAirScript(packet).Packets.at(0));
     std::string normal;
-    Collector collector(radio, reception, internet, clock, engine, port, nullptr);
+    HeardTexts heard(radio, reception, engine, port, clock);
+    Collector collector(radio, internet, heard, nullptr);
     const std::string expected = Normal(packets);
     Comes([&] {
       std::string collected;
@@ -245,8 +246,8 @@ TEST_F(ModelsTest, AnScsTncIsSetUpHeardAndMadeToSend) {
             Lines{"SENT scs-tnc R300 QX7KB-10>ZEPR,WIDE1-1,WIDE2-1:=4830.15N/00805.20E> Test\n"});
 
   // The answers of the second mode's switching stand between two packets.
-  Run(SecondModeScript(false));
-  Run(SecondModeScript(true));
+  Run(SecondModeScript(radio, false));
+  Run(SecondModeScript(radio, true));
   EXPECT_EQ(Received(kPackets), Normal(kPackets));
 
   radio.BaudMode = "1200";
@@ -319,7 +320,8 @@ TEST_F(ModelsTest, TheToolPlaysAFileAndReportsWhatItIsAskedToSend) {
   Run(OpenModemScript(Sections()));
   ASSERT_TRUE(port.IsOpen()) << port.Trouble();
 
-  Collector collector(radio, reception, internet, clock, engine, port, nullptr);
+  HeardTexts heard(radio, reception, engine, port, clock);
+  Collector collector(radio, internet, heard, nullptr);
   std::string collected;
   EXPECT_TRUE(Comes([&] {
     collector.Collect(collected);

@@ -17,7 +17,7 @@ using Call = std::optional<std::string>;
 
 // The call told in `text`, and what is left of it.
 std::pair<Call, std::string> Taken(RadioMode mode, std::string text) {
-  Call call = TakeCallAnswer(mode, text);
+  Call call = TakeCallAnswer(*ModemKindOf(mode), text);
   return {call, text};
 }
 
@@ -57,7 +57,7 @@ class AskForCallTest : public ::testing::Test {
   CallHeld Ask(RadioMode mode, const std::string& own) {
     heard.clear();
     port.Written.clear();
-    return AskForCall(mode, own, port, clock, heard);
+    return AskForCall(*ModemKindOf(mode), own, port, clock, heard);
   }
   // The modem's answer to the question; not before it.
   void Answer(const std::string& text) {
@@ -112,9 +112,13 @@ TEST_F(AskForCallTest, APulledPortEndsTheQuestion) {
   EXPECT_LT(clock.MonotonicSeconds() - begin, 0.05);
 }
 
-TEST_F(AskForCallTest, AnInterfaceWithoutACallOfItsOwnIsNotAsked) {
-  EXPECT_EQ(Ask(RadioMode::AgwRemote, "QX7KB"), CallHeld::NotTold);
-  EXPECT_EQ(port.Written, "");
+TEST(ModemKindOfTest, AnInterfaceWithoutACallOfItsOwnIsNoModem) {
+  for (const RadioMode mode : {RadioMode::AgwLocal, RadioMode::AgwRemote, RadioMode::None})
+    EXPECT_EQ(ModemKindOf(mode), nullptr);
+  for (const RadioMode mode : {RadioMode::Pk232, RadioMode::ScsTnc, RadioMode::ScsPtc}) {
+    ASSERT_NE(ModemKindOf(mode), nullptr);
+    EXPECT_FALSE(ModemKindOf(mode)->Call.Ask.empty());
+  }
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "links/modem_lines.h"
 #include "platform/code_page.h"
 #include "tests/doubles/fake_serial.h"
 #include "tests/doubles/virtual_clock.h"
@@ -367,8 +368,9 @@ TEST_F(SetupSequencesTest, AModemThatWasFoundAgainLeavesConverseInItsWay) {
 }
 
 TEST_F(SetupSequencesTest, TheSecondModeIsSwitchedWithATenthOfASecond) {
-  EXPECT_EQ(Transcript(SecondModeScript(true)), (Lines{"send <1B>%AU1<0D>", "wait 0.1"}));
-  EXPECT_EQ(Transcript(SecondModeScript(false)), (Lines{"send <1B>%AU0<0D>", "wait 0.1"}));
+  Sections(RadioMode::ScsTnc);
+  EXPECT_EQ(Transcript(SecondModeScript(radio, true)), (Lines{"send <1B>%AU1<0D>", "wait 0.1"}));
+  EXPECT_EQ(Transcript(SecondModeScript(radio, false)), (Lines{"send <1B>%AU0<0D>", "wait 0.1"}));
 }
 
 TEST_F(SetupSequencesTest, ACallIsExtendedByAnySsidButOnlyOnce) {

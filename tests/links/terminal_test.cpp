@@ -46,16 +46,10 @@ class TerminalTest : public ::testing::Test {
   Terminal terminal{radio, panel, {port, map, Timer1, Timer2, boxes}};
 };
 
-TEST_F(TerminalTest, OnlyASerialModemHasOne) {
+TEST_F(TerminalTest, ThereIsOneWhenThereIsAModemToTalkTo) {
   EXPECT_FALSE(panel.Command65.Enabled);
-  for (const RadioMode mode : {RadioMode::Pk232, RadioMode::ScsTnc, RadioMode::ScsPtc}) {
-    terminal.EnableFor(mode);
-    EXPECT_TRUE(panel.Command65.Enabled);
-  }
-  for (const RadioMode mode : {RadioMode::AgwLocal, RadioMode::AgwRemote, RadioMode::None}) {
-    terminal.EnableFor(mode);
-    EXPECT_FALSE(panel.Command65.Enabled);
-  }
+  terminal.Enable();
+  EXPECT_TRUE(panel.Command65.Enabled);
 }
 
 TEST_F(TerminalTest, ItOpensEmptyWithTheMainCycleStopped) {

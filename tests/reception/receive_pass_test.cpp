@@ -384,8 +384,8 @@ TEST(ReceivePass, LinkWithoutEndDoesNotHoldTheTick) {
   };
   Reception station;
   EndlessModem modem;
-  Collector link(station.Radio, station.Received, station.Internet, station.Time, station.Engine,
-                 modem, &station.Actions);
+  HeardTexts heard(station.Radio, station.Received, station.Engine, modem, station.Time);
+  Collector link(station.Radio, station.Internet, heard, &station.Actions);
   ReceivePass pass({station.Identity, station.Received, station.Stores, station.Map, station.Alarms,
                     station.Settings},
                    {link, station.History, station.Browser, station.Distance, station.Actions,

@@ -35,6 +35,8 @@ class FakeEngine final : public MonitorEngine {
   }
   bool AGWPutData(std::string_view, std::string_view) override { return true; }
   void AGWClose() override {}
+  bool LinkIsUp() const override { return true; }
+  void DropUnsent() override {}
 
   std::vector<std::string> Texts;
 };
@@ -94,8 +96,8 @@ class Reception {
       : Room({Identity, Radio, Received, Stores, Followed, Map, Gps, Alarms, Settings, Internet},
              {Controls.Window, Controls.Map, Controls.Moni1, Controls.MoniAll, Controls.Record,
               Controls.Status, &Controls.Raw.RawList},
-             {Disk, Time, Boxes, Engine, Modem, Symbols, Actions, Actions, Actions, Timer1,
-              &Actions, &Actions}) {
+             {Disk, Time, Boxes, RadioHeard, Symbols, Actions, Actions, Actions, Timer1, &Actions,
+              &Actions}) {
     Identity.MyCall = Identity.MyCallFull = "QX7KB";
     Identity.MapSystemFolder = R"(C:\ZEPRIL\U33)";
     Radio.RadioMode = 1;
@@ -154,6 +156,7 @@ class Reception {
   MemoryFiles Disk;
   RecordingActions Actions;
   ScriptedDialogs Boxes;
+  HeardTexts RadioHeard{Radio, Received, Engine, Modem, Time};
   ReceptionRoom Room;
   Collector& Link = Room.Link;
   DistanceAlarm& Distance = Room.Distance;

@@ -30,11 +30,9 @@ class StartRecorder final {
       Done.push_back("history");
       if (OnLoadHistory) OnLoadHistory();
     };
-    steps.OpenLocalEngine = [this] { Done.push_back("local engine"); };
-    steps.OpenSerialModem = [this] { Done.push_back("serial"); };
-    steps.ConnectAgw = [this] {
-      Done.push_back("agw");
-      return AgwAnswers;
+    steps.OpenLink = [this] {
+      Done.push_back("link");
+      return LinkOpens;
     };
     steps.OpenGpsPort = [this] { Done.push_back("gps"); };
     steps.RestoreTracksPlacesAndChat = [this] { Done.push_back("restore"); };
@@ -47,7 +45,7 @@ class StartRecorder final {
   }
 
   Names Done;
-  bool AgwAnswers = true;
+  bool LinkOpens = true;
   std::function<void()> OnReadConfig;
   std::function<void()> OnLoadHistory;
 };
@@ -76,7 +74,7 @@ class StartTest : public ::testing::Test {
 
 TEST_F(StartTest, RunsItsStepsInOrder) {
   EXPECT_TRUE(Start());
-  EXPECT_EQ(recorder.Done, (Names{"config", "names", "panels", "maps", "history", "agw", "gps",
+  EXPECT_EQ(recorder.Done, (Names{"config", "names", "panels", "maps", "history", "link", "gps",
                                   "restore", "title", "iono", "labels", "draw", "terminal"}));
   EXPECT_TRUE(timer1.Enabled());
   EXPECT_EQ(timer1.IntervalMs(), 6000);
@@ -85,26 +83,23 @@ TEST_F(StartTest, RunsItsStepsInOrder) {
   EXPECT_EQ(state.Internet.LastMoniAllInternetMinute, 0);
 }
 
-TEST_F(StartTest, EachModeOpensItsLink) {
-  const auto opened = [&](int radio_mode) {
-    mode = radio_mode;
-    recorder.Done.clear();
+TEST_F(StartTest, WithoutARadioNothingIsTransmitted) {
+  for (const int with_radio : {0, 1, 3, 5, 6}) {
+    mode = with_radio;
     Start();
-    return recorder.Done[5];
-  };
-  EXPECT_EQ(opened(0), "local engine");
-  EXPECT_EQ(opened(1), "serial");
-  EXPECT_EQ(opened(5), "serial");
-  EXPECT_EQ(opened(6), "serial");
-  EXPECT_EQ(opened(4), "gps");
+    EXPECT_TRUE(controls.Transmit.Check6.Visible) << with_radio;
+    EXPECT_TRUE(controls.Chat.Check16.Enabled) << with_radio;
+  }
+  mode = 4;
+  Start();
   EXPECT_FALSE(controls.Transmit.Check6.Visible);
   EXPECT_FALSE(controls.Chat.Check16.Enabled);
 }
 
 TEST_F(StartTest, AFailedLinkEndsTheStart) {
-  recorder.AgwAnswers = false;
+  recorder.LinkOpens = false;
   EXPECT_FALSE(Start());
-  EXPECT_EQ(recorder.Done.back(), "agw");
+  EXPECT_EQ(recorder.Done.back(), "link");
   EXPECT_FALSE(timer1.Enabled());
 }
 
@@ -221,9 +216,7 @@ class StopRecorder final {
     steps.CloseSound = [this] { Done.push_back("sound"); };
     steps.StopPageLoading = [this] { Done.push_back("page"); };
     steps.StopPicturePanel = [this] { Done.push_back("picture"); };
-    steps.CloseLocalEngine = [this] { Done.push_back("local engine"); };
-    steps.LeaveSerialModem = [this] { Done.push_back("serial"); };
-    steps.DisconnectAgw = [this] { Done.push_back("agw"); };
+    steps.LeaveLink = [this] { Done.push_back("link"); };
     steps.ClosePorts = [this] { Done.push_back("ports"); };
     steps.WriteNavigationFiles = [this] { Done.push_back("navigation"); };
     steps.MergeConfigAtExit = [this] { Done.push_back("merge"); };
@@ -256,23 +249,18 @@ class StopTest : public ::testing::Test {
 
 TEST_F(StopTest, RunsItsStepsInOrder) {
   EXPECT_EQ(Stop(3, true),
-            (Names{"sound", "sound", "agw", "ports", "navigation", "merge", "delete"}));
-  EXPECT_EQ(Stop(0, true)[2], "local engine");
-  EXPECT_EQ(Stop(1, true)[2], "serial");
-  EXPECT_EQ(Stop(5, true)[2], "serial");
-  EXPECT_EQ(Stop(6, true)[2], "serial");
-  EXPECT_EQ(Stop(4, true)[2], "ports");
+            (Names{"sound", "sound", "link", "ports", "navigation", "merge", "delete"}));
 }
 
 TEST_F(StopTest, SettingsAreMergedOnACloseByTheOperatorOnly) {
-  EXPECT_EQ(Stop(3, false), (Names{"sound", "sound", "agw", "ports", "navigation", "delete"}));
+  EXPECT_EQ(Stop(3, false), (Names{"sound", "sound", "link", "ports", "navigation", "delete"}));
 }
 
 TEST_F(StopTest, LoadingPagesAreStopped) {
   controls.Moni1.Check22.Value = 1;
   controls.Picture.Frame8.Visible = true;
-  EXPECT_EQ(Stop(4, true),
-            (Names{"sound", "page", "picture", "sound", "ports", "navigation", "merge", "delete"}));
+  EXPECT_EQ(Stop(4, true), (Names{"sound", "page", "picture", "sound", "link", "ports",
+                                  "navigation", "merge", "delete"}));
 }
 
 }  // namespace

@@ -26,6 +26,7 @@ class BeaconTest : public ::testing::Test {
     identity.MyCallFull = "QX7KB-10";
     view.OwnNorthKm = 5395.283;
     view.OwnEastKm = -10.517;
+    port.Call = "QX7KB-10";
     transmission.TxSymbolIndex = 30;  // "/>"
     transmission.InfoLine[0] = "Test";
     transmission.InfoLineActive = {1, 0, 0, 0, 0, 0};
@@ -55,7 +56,11 @@ class BeaconTest : public ::testing::Test {
   MemoryFiles files;
   SymbolTable symbols;
   AgwLink link{radio, identity, transmission, socket, clock, boxes, program, reopen};
-  FrameSender sender{radio, transmission, {engine, link, port, clock}};
+  ReceptionState received;
+  RecordedProgress work;
+  SerialModem modem{identity, radio, transmission, {port, clock, reopen, work}};
+  RadioLinks links{{identity, radio, received, transmission}, {engine, link, modem, port, clock}};
+  FrameSender sender{links, clock};
   PositionBeacon beacon{{identity, transmission, view, gps, settings},
                         {sender, symbols, files, clock, window, map}};
   PointerShape pointer_while_waiting = PointerShape::Default;

@@ -20,6 +20,7 @@
 #include "core/actions/program_actions.h"
 #include "core/actions/settings_actions.h"
 #include "core/runtime_state.h"
+#include "links/radio_links.h"
 #include "links/serial_modem.h"
 #include "map/symbol_sheets.h"
 #include "tests/doubles/fake_serial.h"
@@ -36,14 +37,20 @@ namespace zepril {
 
 class RecordingEngine final : public MonitorEngine {
  public:
-  bool AGWStartPoll(std::string_view, std::string_view) override { return true; }
+  bool AGWStartPoll(std::string_view, std::string_view call) override {
+    if (OnStart) OnStart(std::string(call));
+    return true;
+  }
   std::string AGWGetData() override { return {}; }
   bool AGWPutData(std::string_view header, std::string_view text) override {
     Sent.push_back(std::string(header) + " | " + std::string(text));
     return true;
   }
   void AGWClose() override {}
+  bool LinkIsUp() const override { return true; }
+  void DropUnsent() override {}
   std::vector<std::string> Sent;
+  std::function<void(const std::string& call)> OnStart;
 };
 
 class CountedActions final : public MapActions, public SettingsActions, public ProgramActions {
@@ -76,6 +83,7 @@ struct TransmitWorldControls {
 struct TransmitWorld {
   TransmitWorld() {
     State.Identity.MyCall = "QX7KB";
+    Port.Call = "QX7KB-10";
     State.Identity.MySsid = "10";
     State.Identity.MyCallFull = "QX7KB-10";
     State.Map.OwnNorthKm = 5395.283;
@@ -107,7 +115,9 @@ struct TransmitWorld {
       State.Identity, State.Radio, State.Transmission, {Port, Clock, Reopen, LongWork}};
   AgwLink Link{State.Radio, State.Identity, State.Transmission, Socket, Clock, Boxes,
                Actions,     Reopen};
-  FrameSender Sender{State.Radio, State.Transmission, {Engine, Link, Port, Clock}};
+  RadioLinks Links{{State.Identity, State.Radio, State.Reception, State.Transmission},
+                   {Engine, Link, Modem, Port, Clock}};
+  FrameSender Sender{Links, Clock};
   PositionBeacon Beacon{{State.Identity, State.Transmission, State.Map, State.Gps, State.Settings},
                         {Sender, Symbols, Disk, Clock, Controls.Window, Controls.Map}};
   TxSwitches Switches{{State.Transmission, State.Chat, State.Gps},

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core/baud_mode.h"
+#include "core/radio_rules.h"
 
 #include <vector>
 

@@ -9,7 +9,6 @@ namespace {
 struct ListedActions {
   explicit ListedActions(const RadioState& radio) {
     Joins.RefreshStatusLine = [&] { Calls.emplace_back("status " + radio.BaudModeLabel); };
-    Joins.ReopenLocalEngine = [&] { Calls.emplace_back("engine"); };
     Joins.ShowTitleMarkers = [&] { Calls.emplace_back("title"); };
     Joins.SetLabels = [&] { Calls.emplace_back("labels"); };
   }
@@ -21,6 +20,10 @@ class TxSetupTest : public ::testing::Test {
  protected:
   TxSetupTest() {
     world.Actions.OnSave = [this] { actions.Calls.emplace_back("save"); };
+    world.Engine.OnStart = [this](const std::string& call) {
+      EXPECT_EQ(call, world.State.Identity.MyCallFull);
+      actions.Calls.emplace_back("engine");
+    };
   }
   TxSetupControls& Panel() { return world.Controls.TxSetup; }
   TransmitControls& Transmit() { return world.Controls.Transmit; }
@@ -45,7 +48,7 @@ class TxSetupTest : public ::testing::Test {
                 world.Controls.TxSetup,
                 world.Controls.Transmit,
                 world.Controls.Gate,
-                {actions.Joins, world.Actions, world.Switches, world.Modem, world.LongWork,
+                {actions.Joins, world.Actions, world.Switches, world.Links, world.LongWork,
                  world.Symbols, preview, world.Timer1, world.Timer2}};
 };
 
