@@ -21,7 +21,7 @@
 #include "platform/qt/qt_serial_port.h"
 #include "platform/qt/qt_socket.h"
 #include "platform/qt/qt_surface.h"
-#include "station/start_panel.h"
+#include "station/start/start_panel.h"
 #include "station/station_program.h"
 
 namespace zepril {

@@ -8,7 +8,7 @@
 #include "core/texts/text.h"
 #include "desktop/binder.h"
 #include "platform/qt/map_fonts.h"
-#include "station/start_panel.h"
+#include "station/start/start_panel.h"
 
 class QBoxLayout;
 class QGridLayout;

@@ -11,7 +11,7 @@
 #include "desktop/look.h"
 #include "desktop/scale_row.h"
 #include "desktop/start_window.h"
-#include "station/start_panel.h"
+#include "station/start/start_panel.h"
 #include "tests/desktop/main_window_support.h"
 
 namespace zepril {

@@ -10,7 +10,7 @@
 #include "desktop/scale_row.h"
 #include "desktop/start_window.h"
 #include "desktop/window_place.h"
-#include "station/start_panel.h"
+#include "station/start/start_panel.h"
 #include "tests/desktop/main_window_support.h"
 
 namespace zepril {

@@ -7,7 +7,7 @@
 #include "config/main_window_settings.h"
 #include "core/text_fields.h"
 #include "links/setup_sequences.h"
-#include "station/start_panel.h"
+#include "station/start/start_panel.h"
 #include "tool/pk232_model.h"
 #include "tool/scs_ptc_model.h"
 #include "tool/scs_tnc_model.h"

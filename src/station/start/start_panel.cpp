@@ -1,5 +1,5 @@
 // Fields of the panel: shown, enabled and taken by the radio interface; START and its troubles.
-#include "station/start_panel.h"
+#include "station/start/start_panel.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,7 +13,7 @@
 #include "core/texts/form0_texts.h"
 #include "core/texts/notices.h"
 #include "core/texts/status_texts.h"
-#include "station/modem_set_up.h"
+#include "station/start/modem_set_up.h"
 
 namespace zepril {
 namespace {

@@ -1,5 +1,5 @@
 // Takes the modem's settings from the start panel and runs its set-up sequence.
-#include "station/modem_set_up.h"
+#include "station/start/modem_set_up.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // The start panel: fields by radio interface, START, devices, a modem's set-up.
-#include "station/start_panel.h"
+#include "station/start/start_panel.h"
 
 #include <gtest/gtest.h>
 
