@@ -3,23 +3,29 @@
 
 #include <algorithm>
 
+#include "config/modem_run_file.h"
 #include "links/modem_script.h"
 #include "links/setup_sequences.h"
 #include "links/telling_clock.h"
 
 namespace zepril {
+namespace {
 
-bool LeaveConverse(const StartPanelSettings& settings, int baud, SerialPort& port, Clock& clock) {
+// False when the modem has not got it.
+bool LeaveConverse(const RadioState& radio, int baud, SerialPort& port, Clock& clock) {
   ModemScript script;
-  script.Open(ModemDevice(settings), baud)
-      .Append(LeaveConverseScript(settings.Radio))
-      .AwaitSent()
-      .Close();
+  script.Open(ModemDevice(radio), baud).Append(LeaveConverseScript(radio)).AwaitSent().Close();
   return RunModemScript(script, port, clock);
 }
 
-std::string ModemDevice(const StartPanelSettings& settings) {
-  return ModemDevice(settings.Radio);
+}  // namespace
+
+void LeaveConverseOfLastRun(const StartPanelSettings& settings, Files& files,
+                            const std::string& program_folder, SerialPort& port, Clock& clock) {
+  const RadioState& radio = settings.Radio;
+  const ModemRun run{radio.RadioMode, 0, port.LastingName(ModemDevice(radio))};
+  const auto speed = SpeedOfModemRun(files, program_folder, run);
+  if (speed && LeaveConverse(radio, *speed, port, clock)) EndModemRun(files, program_folder, run);
 }
 
 bool TncSetup(const StartPanelSettings& settings, SerialPort& port, Clock& clock,

@@ -7,6 +7,7 @@
 
 #include "config/start_panel_settings.h"
 #include "platform/clock.h"
+#include "platform/files.h"
 #include "platform/serial_port.h"
 
 namespace zepril {
@@ -24,11 +25,10 @@ struct SetUpProgress {
 bool TncSetup(const StartPanelSettings& settings, SerialPort& port, Clock& clock,
               const std::function<void(const SetUpProgress&)>& told);
 
-// A modem that an earlier run could not leave in order is brought out of converse at the line speed
-// that it had then; the port is closed before and after. False when the modem has not got it.
-bool LeaveConverse(const StartPanelSettings& settings, int baud, SerialPort& port, Clock& clock);
-
-// The port of the settings' interface, as its field tells it.
-std::string ModemDevice(const StartPanelSettings& settings);
+// A modem that an earlier run could not leave in order, as after a crash, is still in converse: the
+// set-up would go on the air. It is brought out of it at the line speed that it had then; the port
+// is closed before and after. One that has not got it is remembered on.
+void LeaveConverseOfLastRun(const StartPanelSettings& settings, Files& files,
+                            const std::string& program_folder, SerialPort& port, Clock& clock);
 
 }  // namespace zepril
