@@ -30,15 +30,16 @@ StationRooms::StationRooms(StationPlatform machine)
             {Controls.Terminal, Controls.Raw, Controls.Status},
             {machine.Winsock1, machine.MSComm1, machine.LocalClock, machine.Boxes, End,
              Map.Redrawer, LongWork, Timer1, Timer2}),
-      Tracks(State.Identity, State.Map, State.Settings, State.Places, Controls.Tracks, Controls.Map,
-             {machine.FileSystem, machine.Boxes, Map.Redrawer, Settings, LongWork}),
+      Gps({State.Identity, State.Map, State.Settings, State.Places},
+          {Controls.Tracks, Controls.Map},
+          {machine.FileSystem, machine.Boxes, Map.Redrawer, Settings, LongWork}),
       Viewers({State.Identity, State.Map, State.Settings, State.Places},
               {Controls.Places, Controls.Picture, Controls.Sun, Controls.Map},
               {machine.FileSystem, machine.LocalClock, machine.Boxes, machine.Desktop,
                machine.SunSurface, Map.Redrawer, Settings, LongWork, Timer1},
               Map.Panels),
-      Iono(State.Internet, State.Map, Controls.Iono, Controls.Map,
-           {machine.Boxes, Map.Redrawer, Settings}),
+      Internet({State.Internet, State.Map}, {Controls.Iono, Controls.Map},
+               {machine.Boxes, Map.Redrawer, Settings}),
       Emergencies(Map.Redrawer),
       Reception({State.Identity, State.Radio, State.Reception, State.Stores, State.Followed,
                  State.Map, State.Gps, State.Alarms, State.Settings, State.Internet},
@@ -130,7 +131,7 @@ StartSteps StationRooms::StartOrder() {
   start.LoadHistory = [this] { Reception.Choice.LoadAtStart(); };
   start.OpenLink = [this] { return Links.Open(); };
   start.RestoreTracksPlacesAndChat = [this] {
-    Tracks.RestoreAtStart();
+    Gps.Tracks.RestoreAtStart();
     Viewers.Places.RestoreAtStart();
   };
   start.ShowTitleMarkers = [this] { ShowTitle(); };

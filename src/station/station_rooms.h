@@ -11,8 +11,8 @@
 #include "core/progress_panel.h"
 #include "core/runtime_state.h"
 #include "core/timer.h"
-#include "gps/track_files.h"
-#include "internet/iono_input.h"
+#include "gps/gps_room.h"
+#include "internet/internet_room.h"
 #include "links/links_room.h"
 #include "map/map_room.h"
 #include "reception/emergency_display.h"
@@ -74,9 +74,9 @@ class StationRooms {
   ProgressPanel LongWork;
   MapRoom Map;
   LinksRoom Links;
-  TrackFiles Tracks;
+  GpsRoom Gps;
   ViewersRoom Viewers;
-  IonoInput Iono;
+  InternetRoom Internet;
   EmergencyDisplay Emergencies;
   ReceptionRoom Reception;
   TransmitRoom Transmit;
