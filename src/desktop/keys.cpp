@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include "core/keys.h"
 #include "platform/code_page.h"
 
 namespace zepril {
@@ -25,22 +26,22 @@ KeyPress KeyPressOf(const QKeyEvent& event) {
   switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      key.Code = 13;
+      key.Code = kEnterKey;
       break;
     case Qt::Key_Escape:
-      key.Code = 27;
+      key.Code = kEscapeKey;
       break;
     case Qt::Key_Left:
-      key.Code = 37;
+      key.Code = kLeftKey;
       break;
     case Qt::Key_Up:
-      key.Code = 38;
+      key.Code = kUpKey;
       break;
     case Qt::Key_Right:
-      key.Code = 39;
+      key.Code = kRightKey;
       break;
     case Qt::Key_Down:
-      key.Code = 40;
+      key.Code = kDownKey;
       break;
     default:
       key.Code = event.key() < 256 ? event.key() : 0;

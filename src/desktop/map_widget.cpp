@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/keys.h"
 #include "desktop/control_access.h"
 #include "desktop/keys.h"
 #include "platform/qt/text.h"
@@ -147,15 +148,15 @@ void MapWidget::keyPressEvent(QKeyEvent* event) {
   // What a panel over the map has no use for comes up here too: it is not meant for the map.
   if (!hasFocus()) return QWidget::keyPressEvent(event);
   const KeyPress key = KeyPressOf(*event);
-  const bool is_press = IsRightClickKey(*event) || key.Code == 13;
+  const bool is_press = IsRightClickKey(*event) || key.Code == kEnterKey;
   if (is_press && event->isAutoRepeat()) return;
   if (IsRightClickKey(*event)) return PressRightAtPointer();
-  const bool ours = key.Code == 13 || (key.Code >= 37 && key.Code <= 40);
+  const bool ours = key.Code == kEnterKey || IsArrowKey(key.Code);
   if (!ours || !map_.KeyDown) {
     QWidget::keyPressEvent(event);
     return;
   }
-  if (key.Code != 13) by_keys_ = true;
+  if (key.Code != kEnterKey) by_keys_ = true;
   loop_.Press(&map_.KeyDown, map_.PressesInWaits, [this, key] { map_.KeyDown(key); });
   update();
 }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/centre_follow.h"
+#include "core/keys.h"
 #include "core/point_file.h"
 #include "core/text_fields.h"
 #include "core/texts/boxes.h"
@@ -14,7 +15,6 @@ namespace zepril {
 namespace {
 
 constexpr std::string_view kExtension = ".TRK";
-constexpr int kEnterKey = 13;
 
 }  // namespace
 

@@ -4,13 +4,12 @@
 #include <optional>
 #include <string_view>
 
+#include "core/keys.h"
 #include "core/text_fields.h"
 #include "core/texts/boxes.h"
 
 namespace zepril {
 namespace {
-
-constexpr int kEnterKey = 13;
 
 // A typed number from 0 to `highest`; nothing for any other text.
 std::optional<double> NumberUpTo(std::string_view text, double highest) {

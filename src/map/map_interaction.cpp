@@ -2,6 +2,7 @@
 #include "map/map_interaction.h"
 
 #include "core/centre_follow.h"
+#include "core/keys.h"
 #include "core/position_text.h"
 #include "core/text_fields.h"
 #include "core/texts/status_texts.h"
@@ -13,11 +14,6 @@
 namespace zepril {
 namespace {
 
-constexpr int kKeyEnter = 13;
-constexpr int kKeyLeft = 37;
-constexpr int kKeyUp = 38;
-constexpr int kKeyRight = 39;
-constexpr int kKeyDown = 40;
 constexpr int kRightButton = 2;
 
 constexpr int kTrackStyles = 7;
@@ -328,19 +324,19 @@ void MapInteraction::KeyOnMap(const KeyPress& key) {
   // 1 pixel, 10 with Shift; other shift states take the same formula.
   const double step = key.Shift * 9.0 + 1.0;
   switch (key.Code) {
-    case kKeyLeft:
+    case kLeftKey:
       MovePointer(-step, 0.0);
       break;
-    case kKeyUp:
+    case kUpKey:
       MovePointer(0.0, -step);
       break;
-    case kKeyRight:
+    case kRightKey:
       MovePointer(step, 0.0);
       break;
-    case kKeyDown:
+    case kDownKey:
       MovePointer(0.0, step);
       break;
-    case kKeyEnter:
+    case kEnterKey:
       LeftPress(view_.CursorX, view_.CursorY);
       break;
     default:

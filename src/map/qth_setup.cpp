@@ -4,14 +4,13 @@
 #include <utility>
 
 #include "core/centre_follow.h"
+#include "core/keys.h"
 #include "core/position_text.h"
 #include "core/text_fields.h"
 #include "map/typed_position.h"
 
 namespace zepril {
 namespace {
-
-constexpr int kEnterKey = 13;
 
 // A blank inside would part it into two values.
 std::string WithoutBlanks(const std::string& text) {

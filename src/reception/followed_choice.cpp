@@ -1,12 +1,12 @@
 // The field of MONI 1 and its list of calls, and what a new choice brings with it.
 #include "reception/followed_choice.h"
 
+#include "core/keys.h"
 #include "core/text_fields.h"
 
 namespace zepril {
 namespace {
 
-constexpr int kEnterKey = 13;
 constexpr std::ptrdiff_t kExtension = 4;  // ".TXT"
 
 }  // namespace

@@ -1,15 +1,10 @@
 // The field and buttons of FIND, and the redraw that marks the station.
 #include "reception/station_finder.h"
 
+#include "core/keys.h"
 #include "core/text_fields.h"
 
 namespace zepril {
-namespace {
-
-constexpr int kEnterKey = 13;
-
-}  // namespace
-
 StationFinder::StationFinder(MapViewState& view, const StoresState& stores,
                              MoniAllControls& controls, RecordPanelControls& record,
                              MapActions& map, Timer& timer1)

@@ -1,13 +1,13 @@
 // Opens the list with a slowed cycle, and searches from the selected line upwards.
 #include "station/raw_list_search.h"
 
+#include "core/keys.h"
 #include "core/text_fields.h"
 
 namespace zepril {
 namespace {
 
 constexpr int kSlowTicks = 4;
-constexpr int kEnterKey = 13;
 
 }  // namespace
 

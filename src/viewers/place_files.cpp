@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/centre_follow.h"
+#include "core/keys.h"
 #include "core/point_file.h"
 #include "core/text_fields.h"
 #include "core/texts/status_texts.h"
@@ -15,7 +16,6 @@ namespace {
 
 constexpr std::string_view kExtension = ".POI";
 constexpr std::string_view kLineEnd = "\r\n";
-constexpr int kEnterKey = 13;
 constexpr int kLevels = 3;
 constexpr int kPositionColumns = 20;  // mark, north, east and a blank
 
