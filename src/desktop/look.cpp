@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/state_colours.h"
+
 namespace zepril {
 namespace {
 
@@ -98,8 +100,10 @@ QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
 )")
       .arg(look.Window.name(), look.Panel.name(), look.Field.name(), look.Line.name(),
            look.Text.name(), look.Dim.name(), look.Accent.name())
-      .arg(PlainColour(kOnTheAir).name(), TextOn(PlainColour(kOnTheAir)).name(),
-           PlainColour(kOwnObject).name(), TextOn(PlainColour(kOwnObject)).name());
+      .arg(PlainColour(state_colours::kOnTheAir).name(),
+           TextOn(PlainColour(state_colours::kOnTheAir)).name(),
+           PlainColour(state_colours::kOwnObject).name(),
+           TextOn(PlainColour(state_colours::kOwnObject)).name());
 }
 
 QColor PlainColour(std::uint32_t state_colour) {
@@ -110,12 +114,13 @@ QColor PlainColour(std::uint32_t state_colour) {
 
 QColor StateShade(std::uint32_t state_colour, const Look& look) {
   // What is on the air is told loudly.
-  if (state_colour == kOnTheAir) return PlainColour(state_colour);
+  if (state_colour == state_colours::kOnTheAir) return PlainColour(state_colour);
   // A dimmed map is a switch that is on; the brighter one is seen by itself.
-  if (state_colour == kMapDimmed) return look.Accent;
-  if (state_colour == kMapAsItIs || state_colour == kMapBrighter) return look.Panel;
+  if (state_colour == state_colours::kMapDimmed) return look.Accent;
+  if (state_colour == state_colours::kMapAsItIs || state_colour == state_colours::kMapBrighter)
+    return look.Panel;
   // What can't go on sinks into the window.
-  if (state_colour == kOwnObjectDimmed) return look.Window;
+  if (state_colour == state_colours::kOwnObjectDimmed) return look.Window;
   const QColor plain = PlainColour(state_colour);
   // Greys name "nothing special": they take the field's own colour, or its line when darker.
   if (plain.saturation() < 24) return plain.lightness() > 160 ? look.Field : look.Line;
@@ -125,7 +130,8 @@ QColor StateShade(std::uint32_t state_colour, const Look& look) {
 }
 
 QColor StateInk(std::uint32_t state_colour, const Look& look) {
-  return state_colour == kOwnObjectDimmed ? look.Dim : TextOn(StateShade(state_colour, look));
+  return state_colour == state_colours::kOwnObjectDimmed ? look.Dim
+                                                         : TextOn(StateShade(state_colour, look));
 }
 
 double ContrastOf(const QColor& one, const QColor& other) {

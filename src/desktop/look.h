@@ -31,15 +31,6 @@ QString StyleSheetOf(const Look& look);
 QColor StateShade(std::uint32_t state_colour, const Look& look);
 // What is written on that shade.
 QColor StateInk(std::uint32_t state_colour, const Look& look);
-// The ground of a switch that is on, where being on means one thing all over the program.
-inline constexpr std::uint32_t kOnTheAir = 0x4848E0;
-inline constexpr std::uint32_t kOwnObject = 0x00C0C0;
-// The own object's switch while it can't go on.
-inline constexpr std::uint32_t kOwnObjectDimmed = 0x007070;
-// Brightness of the map's tiles, as its button tells it.
-inline constexpr std::uint32_t kMapAsItIs = 0xC0C0A0;
-inline constexpr std::uint32_t kMapDimmed = 0x606046;
-inline constexpr std::uint32_t kMapBrighter = 0xFFFFD6;
 // The colour itself, for fill bars and inks.
 QColor PlainColour(std::uint32_t state_colour);
 // Contrast of two colours, 1 to 21; text wants kReadable on its ground.

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QToolButton>
 
+#include "core/state_colours.h"
 #include "core/texts/window_texts.h"
 #include "desktop/class_button.h"
 #include "desktop/control_access.h"
@@ -80,7 +81,8 @@ QWidget* SideColumns::MakeScales() {
     parts_.Binding.Bind(row->FrameBox(), controls_.Scales.FrameBox[at]);
     parts_.Binding.Bind(row->Folders(), controls_.Scales.Folder[at]);
     parts_.Binding.OnControlsOut([this, row, at] {
-      row->Show(controls_.Scales.Covered[at], controls_.Scales.Folder[at].BackColour == 0x00E0E0U);
+      row->Show(controls_.Scales.Covered[at],
+                controls_.Scales.Folder[at].BackColour == state_colours::kActiveScale);
     });
   }
   auto* buttons = TightBox(QBoxLayout::LeftToRight);

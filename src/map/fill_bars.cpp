@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/state_colours.h"
 #include "core/text_fields.h"
 
 namespace zepril {
@@ -23,9 +24,9 @@ void ShowMoniAllBar(FillBar& bar, int count, int limit) {
 
 void ShowMoni1Bar(FillBar& bar, int count, int limit) {
   bar.FilledPx = std::min(BarPixels(count, limit), static_cast<int>(kFullBarPx));
-  bar.Colour = kBarColour;
-  if (count > limit) bar.Colour = kBarOverLimit;
-  if (count > 1.2 * limit) bar.Colour = kBarFarOverLimit;
+  bar.Colour = FillBar().Colour;
+  if (count > limit) bar.Colour = state_colours::kBarOverLimit;
+  if (count > 1.2 * limit) bar.Colour = state_colours::kBarFarOverLimit;
 }
 
 }  // namespace zepril

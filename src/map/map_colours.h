@@ -1,6 +1,7 @@
 // Colours of what is drawn over the map, 0xBBGGRR.
 #pragma once
 
+#include "core/state_colours.h"
 #include "platform/drawing_surface.h"
 
 namespace zepril {
@@ -25,7 +26,7 @@ inline constexpr Colour kRt90GridColour = 0x00F000;
 
 inline constexpr Colour kFindColour = 0x0080FF;        // the station that was looked for
 inline constexpr Colour kMessageDotColour = 0x00FF00;  // takes messages
-inline constexpr Colour kOwnObjectColour = 0x00C0C0;
+inline constexpr Colour kOwnObjectColour = state_colours::kOwnObject;
 inline constexpr Colour kOwnObjectOnAirColour = 0x00FFFF;
 inline constexpr Colour kTrackWithTextColour = 0xD0FF90;  // a track point with a text of its own
 inline constexpr Colour kPlaceColour = 0x00E0FF;

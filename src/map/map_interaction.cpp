@@ -4,6 +4,7 @@
 #include "core/centre_follow.h"
 #include "core/keys.h"
 #include "core/position_text.h"
+#include "core/state_colours.h"
 #include "core/text_fields.h"
 #include "core/texts/status_texts.h"
 #include "map/map_view.h"
@@ -18,7 +19,8 @@ constexpr int kRightButton = 2;
 
 constexpr int kTrackStyles = 7;
 
-constexpr std::array<std::uint32_t, 3> kBrightnessButton{0xC0C0A0, 0x606046, 0xFFFFD6};
+constexpr std::array<std::uint32_t, 3> kBrightnessButton{
+    state_colours::kMapAsItIs, state_colours::kMapDimmed, state_colours::kMapBrighter};
 
 ClassBox StateOf(const CheckBox& box) {
   return static_cast<ClassBox>(box.Value);

@@ -3,6 +3,7 @@
 
 #include "core/centre_follow.h"
 #include "core/position_text.h"
+#include "core/state_colours.h"
 #include "core/text_fields.h"
 #include "core/texts/status_texts.h"
 #include "map/all_stations_layer.h"
@@ -202,7 +203,7 @@ void MapRedrawer::ShowTexts() {
   tools_.ReadoutTexts.CursorReadout();
   tools_.ReadoutTexts.MonitorReadout();
   controls_.Map.ScaleText.Caption = ScaleText(sections_.View.MetresPerPixel);
-  controls_.Map.ScaleText.ForeColour = kScaleTextColour;
+  controls_.Map.ScaleText.ForeColour = state_colours::kScaleText;
   ShowMoniAllBar(controls_.MoniAll.Label5, stores.MoniAllRecords.Count(),
                  stores.MoniAllRecords.Limit);
   ShowMoni1Bar(controls_.Moni1.Label17, stores.Moni1Records.Count(), stores.Moni1Records.Limit);

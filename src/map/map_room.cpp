@@ -1,18 +1,17 @@
 // How the parts of the map are built, and what follows a redraw.
 #include "map/map_room.h"
 
+#include "core/state_colours.h"
 #include "core/text_fields.h"
 #include "core/texts/status_texts.h"
 
 namespace zepril {
 namespace {
 
-constexpr std::uint32_t kLayerOnColour = 0xD08030;  // as a switch that is on
-
 void ShowPlaceLevel(Button& button, int level) {
   button.Caption = status_texts::kPlaceLevel.With({WholeNumber(level)});
   button.BackColour.reset();
-  if (level > 0) button.BackColour = kLayerOnColour;
+  if (level > 0) button.BackColour = state_colours::kLayerOn;
 }
 
 // Whoever moves the map while the panel is open points out his place.

@@ -5,8 +5,6 @@
 
 namespace zepril {
 
-inline constexpr unsigned kScaleTextColour = 0xC0C0C0;
-
 // Always 14 characters, the number centred between dashes:
 //   5000 m a pixel: blank, dash 150, "-  500 km -", dash 150
 std::string ScaleText(double metres_per_pixel);

@@ -1,6 +1,7 @@
 // Looks the centre's tile up in the index of each scale.
 #include "map/tile_coverage.h"
 
+#include "core/state_colours.h"
 #include "core/text_fields.h"
 #include "map/scales.h"
 #include "map/tile_names.h"
@@ -13,12 +14,12 @@ void TileCoverageMarks(const MapViewState& view, MapLibrary& library, ScaleContr
   // The panel with the active scale marked.
   scales.ScalePanel.Visible = true;
   for (ComboBox& field : scales.Folder)
-    field.BackColour = kScaleFieldColour;
+    field.BackColour = state_colours::kScaleField;
   if (const auto active = ScaleRow(view.MapTileKm)) {
-    scales.Folder[static_cast<std::size_t>(*active)].BackColour = kActiveScaleColour;
+    scales.Folder[static_cast<std::size_t>(*active)].BackColour = state_colours::kActiveScale;
   }
   for (std::size_t row = 0; row < kMapScaleTable.size(); ++row) {
-    scales.FrameBox[row].BackColour = kNotCoveredColour;
+    scales.FrameBox[row].BackColour = state_colours::kNotCovered;
     scales.Covered[row] = false;
   }
   // The tile under the centre, looked up in the index of each scale's folder.
@@ -35,7 +36,7 @@ void TileCoverageMarks(const MapViewState& view, MapLibrary& library, ScaleContr
       return;
     }
     if (InStr(*index, tile) == 0) continue;
-    scales.FrameBox[row].BackColour = kCoveredColour;
+    scales.FrameBox[row].BackColour = state_colours::kCovered;
     scales.Covered[row] = true;
   }
 }

@@ -8,12 +8,6 @@
 
 namespace zepril {
 
-// State colours of the scale panel.
-inline constexpr std::uint32_t kScaleFieldColour = 0xC0C0C0;
-inline constexpr std::uint32_t kActiveScaleColour = 0x00E0E0;
-inline constexpr std::uint32_t kNotCoveredColour = 0x808080;
-inline constexpr std::uint32_t kCoveredColour = 0xC0C0A0;
-
 // Shows the panel, marks the active scale, and marks each scale whose selected folder has a tile at
 // the centre, by its index file. Left alone while the record panel is open. An index file that
 // can't be read ends the marking and has the library scanned anew; a scale without a folder is

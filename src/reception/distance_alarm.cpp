@@ -5,16 +5,12 @@
 #include <cmath>
 #include <cstdint>
 
+#include "core/state_colours.h"
 #include "core/text_fields.h"
 #include "core/texts/status_texts.h"
 
 namespace zepril {
-namespace {
-
-constexpr std::uint32_t kAlarmBlack = 0x000000;
-constexpr std::uint32_t kAlarmYellow = 0x00FFFF;
-
-}  // namespace
+namespace {}  // namespace
 
 double PlaneDistanceKm(const StationRecord& record, const MapViewState& map) {
   return std::hypot(record.NorthKm() - map.OwnNorthKm, record.EastKm() - map.OwnEastKm);
@@ -78,8 +74,8 @@ void DistanceAlarm::TestFollowed(const StationRecord& record) {
   if (!(distance_km < alarm_.AlarmDistanceKm)) return;
   Show(status_texts::kAlarmMoni1, record, distance_km);
   for (Control* part : Panel()) {
-    part->BackColour = kAlarmYellow;
-    part->ForeColour = kAlarmBlack;
+    part->BackColour = state_colours::kAlarmGround;
+    part->ForeColour = state_colours::kAlarmInk;
   }
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/radio_rules.h"
+#include "core/state_colours.h"
 #include "core/text_fields.h"
 #include "core/texts/status_texts.h"
 #include "core/title_line.h"
@@ -11,8 +12,6 @@
 namespace zepril {
 namespace {
 
-constexpr std::uint32_t kCollectingMoni1 = 0x00C000;
-constexpr std::uint32_t kCollectingMoniAll = 0xFF80E0;
 constexpr double kEmergencyReturnSeconds = 30.0;
 constexpr double kIonoSeconds = 3600.0;
 constexpr int kChatPassTicks = 30 / 6;
@@ -204,7 +203,7 @@ MainCycle::Outcome MainCycle::CollectMoni1() {
   const int share = 1 + controls_.MoniAll.Check23.Value;
   const bool minute_come = ClockHhMm() / share != state_.Internet.LastMoni1InternetMinute / share;
   if (state_.Internet.Moni1ScanOn == 0 && !minute_come) return Outcome::GoOn;
-  ShowCollecting(status_texts::kCollectingMoni1, kCollectingMoni1);
+  ShowCollecting(status_texts::kCollectingMoni1, state_colours::kCollectingMoni1);
   RunStep(Steps.FetchMoni1);
   return Outcome::EndTick;
 }
@@ -214,7 +213,7 @@ MainCycle::Outcome MainCycle::CollectMoniAll() {
     return Outcome::GoOn;
   }
   if (ClockHhMm() / 4 == state_.Internet.LastMoniAllInternetMinute / 4) return Outcome::GoOn;
-  ShowCollecting(status_texts::kCollectingMoniAll, kCollectingMoniAll);
+  ShowCollecting(status_texts::kCollectingMoniAll, state_colours::kCollectingMoniAll);
   RunStep(Steps.FetchMoniAll);
   return Outcome::EndTick;
 }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/state_colours.h"
 #include "core/text_fields.h"
 #include "core/texts/status_texts.h"
 #include "transmit/identification.h"
@@ -43,7 +44,7 @@ TransmitRoom::TransmitRoom(TransmitSections sections, TransmitRoomControls contr
   Switches.TurnedOff = [&links] {
     if (RadioLink* link = links.Radios.Active()) link->DropUnsent();
   };
-  controls_.Transmit.NextBeacon.Colour = TxOutcome::kOnTheAir;
+  controls_.Transmit.NextBeacon.Colour = state_colours::kOnTheAir;
   controls_.Transmit.NextBeacon.Visible = false;
 }
 

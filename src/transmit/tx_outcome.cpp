@@ -1,6 +1,7 @@
 // Words each outcome, and takes it away after its time.
 #include "transmit/tx_outcome.h"
 
+#include "core/state_colours.h"
 #include "core/text_fields.h"
 #include "core/texts/status_texts.h"
 
@@ -39,17 +40,18 @@ TxOutcome::TxOutcome(TransmitControls& controls, const Clock& clock)
 
 void TxOutcome::Leaving() {
   colour_before_ = controls_.Check6.BackColour;
-  controls_.Check6.BackColour = kOnTheAir;
+  controls_.Check6.BackColour = state_colours::kOnTheAir;
   controls_.TxOutcome.Caption = status_texts::kSending;
   controls_.TxOutcome.ForeColour.reset();
   told_at_ = clock_.MonotonicSeconds();
 }
 
 void TxOutcome::Tell(Delivery delivery) {
-  if (controls_.Check6.BackColour == kOnTheAir) controls_.Check6.BackColour = colour_before_;
+  if (controls_.Check6.BackColour == state_colours::kOnTheAir)
+    controls_.Check6.BackColour = colour_before_;
   controls_.TxOutcome.Caption = OutcomeWords(delivery, clock_.Now());
   controls_.TxOutcome.ForeColour.reset();
-  if (delivery != Delivery::Sent) controls_.TxOutcome.ForeColour = kOnTheAir;
+  if (delivery != Delivery::Sent) controls_.TxOutcome.ForeColour = state_colours::kOnTheAir;
   told_at_ = clock_.MonotonicSeconds();
 }
 

@@ -18,7 +18,6 @@ std::string OutcomeWords(Delivery delivery, const LocalTime& now);
 class TxOutcome {
  public:
   static constexpr double kShownSeconds = 8.0;
-  static constexpr std::uint32_t kOnTheAir = 0x4848E0;
 
   TxOutcome(TransmitControls& controls, const Clock& clock);
   TxOutcome(const TxOutcome&) = delete;

@@ -1,6 +1,7 @@
 // What switching TX or the object on and off does, and when neither can be.
 #include "transmit/tx_switches.h"
 
+#include "core/state_colours.h"
 #include "core/text_fields.h"
 #include "transmit/tx_setup_rules.h"
 
@@ -11,7 +12,7 @@ TxSwitches::TxSwitches(TxSwitchesSections sections, TxSwitchesControls controls,
     : sections_(sections), controls_(controls), beacon_(beacon), map_(map) {
   controls_.Transmit.Check6.Click = [this] { TxClicked(); };
   controls_.Transmit.Check18.Click = [this] { ObjectClicked(); };
-  controls_.Transmit.Check18.BackColour = kObjectDimmed;
+  controls_.Transmit.Check18.BackColour = state_colours::kOwnObjectDimmed;
   EnableChatButtons(false);
 }
 
@@ -63,7 +64,7 @@ void TxSwitches::SwitchedOn() {
 void TxSwitches::SwitchedOff() {
   if (TurnedOff) TurnedOff();
   ObjectOff();
-  controls_.Transmit.Check18.BackColour = kObjectDimmed;
+  controls_.Transmit.Check18.BackColour = state_colours::kOwnObjectDimmed;
   controls_.Chat.Frame3.Visible = false;
   controls_.Chat.Check7.Value = 0;
   EnableChatButtons(false);

@@ -29,8 +29,6 @@ struct TxSwitchesControls {
 
 class TxSwitches {
  public:
-  static constexpr std::uint32_t kObjectDimmed = 0x007070;
-
   // Sets the left clicks of `Check6` and `Check18`.
   TxSwitches(TxSwitchesSections sections, TxSwitchesControls controls, PositionBeacon& beacon,
              MapActions& map);

@@ -1,4 +1,5 @@
 // Texts and state colours are readable by day and by night.
+#include "core/state_colours.h"
 #include "desktop/look.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +22,7 @@ const std::vector<std::pair<std::string, std::uint32_t>> kStateColours = {
     {"map dark", 0x606046},
     {"map bright", 0xFFFFD6},
     {"distance alarm", 0x00FFFF},
-    {"own object that can't go on", kOwnObjectDimmed}};
+    {"own object that can't go on", state_colours::kOwnObjectDimmed}};
 
 class LookTest : public ::testing::TestWithParam<bool> {
  protected:
@@ -71,10 +72,10 @@ TEST_P(LookTest, AnInkKeepsItsColourWhereItIsReadable) {
 }
 
 TEST_P(LookTest, WhatIsOnTheAirKeepsItsColourAndIsReadable) {
-  EXPECT_EQ(PlainColour(kOnTheAir), QColor(0xE0, 0x48, 0x48));
-  EXPECT_EQ(PlainColour(kOwnObject), QColor(0xC0, 0xC0, 0x00));
+  EXPECT_EQ(PlainColour(state_colours::kOnTheAir), QColor(0xE0, 0x48, 0x48));
+  EXPECT_EQ(PlainColour(state_colours::kOwnObject), QColor(0xC0, 0xC0, 0x00));
   const QString sheet = StyleSheetOf(look);
-  for (std::uint32_t colour : {kOnTheAir, kOwnObject}) {
+  for (std::uint32_t colour : {state_colours::kOnTheAir, state_colours::kOwnObject}) {
     const QColor ground = PlainColour(colour);
     EXPECT_TRUE(sheet.contains(ground.name()));
     EXPECT_GE(ContrastOf(TextOn(ground), ground), kReadable);
@@ -83,8 +84,8 @@ TEST_P(LookTest, WhatIsOnTheAirKeepsItsColourAndIsReadable) {
 }
 
 TEST_P(LookTest, ASwitchThatCannotGoOnIsDimmed) {
-  EXPECT_EQ(StateShade(kOwnObjectDimmed, look), look.Window);
-  EXPECT_EQ(StateInk(kOwnObjectDimmed, look), look.Dim);
+  EXPECT_EQ(StateShade(state_colours::kOwnObjectDimmed, look), look.Window);
+  EXPECT_EQ(StateInk(state_colours::kOwnObjectDimmed, look), look.Dim);
   EXPECT_EQ(StateInk(0x00E0E0, look), TextOn(StateShade(0x00E0E0, look)));
 }
 

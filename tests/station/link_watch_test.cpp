@@ -1,4 +1,5 @@
 // What the operator is told of his reports and of the link, second by second
+#include "core/state_colours.h"
 #include "links/link_watch.h"
 
 #include <gtest/gtest.h>
@@ -80,7 +81,7 @@ TEST_F(ToldStation, TheSwitchIsRedWhileTheFrameLeaves) {
   };
   const auto before = Transmit().Check6.BackColour;
   PressTx();
-  EXPECT_EQ(while_waiting, TxOutcome::kOnTheAir);
+  EXPECT_EQ(while_waiting, state_colours::kOnTheAir);
   EXPECT_EQ(words, "SENDING");
   EXPECT_EQ(Transmit().Check6.BackColour, before);
 }
@@ -90,7 +91,7 @@ TEST_F(ToldStation, AReportOnALostLinkSaysThatItWasNotSent) {
   Seconds(3);
   PressTx();
   EXPECT_EQ(Outcome(), "NOT SENT: LINK LOST");
-  EXPECT_EQ(Transmit().TxOutcome.ForeColour, TxOutcome::kOnTheAir);
+  EXPECT_EQ(Transmit().TxOutcome.ForeColour, state_colours::kOnTheAir);
   EXPECT_EQ(FramesForTheAir(), 0);
 }
 

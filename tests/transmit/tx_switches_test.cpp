@@ -1,4 +1,5 @@
 // The TX and OBJECT TX switches and what goes with them.
+#include "core/state_colours.h"
 #include "transmit/tx_switches.h"
 
 #include "tests/transmit/transmit_world.h"
@@ -102,7 +103,7 @@ TEST_F(TxSwitchesTest, SwitchedOffEverythingGoesOffWithIt) {
   EXPECT_EQ(Chat().Check7.Value, 0);
   EXPECT_FALSE(Chat().Frame3.Visible);
   EXPECT_FALSE(world.Controls.Record.Command10.Enabled);
-  EXPECT_EQ(Transmit().Check18.BackColour, TxSwitches::kObjectDimmed);
+  EXPECT_EQ(Transmit().Check18.BackColour, state_colours::kOwnObjectDimmed);
   EXPECT_EQ(world.Actions.Redraws, redraws + 1);
 }
 
