@@ -6,6 +6,7 @@
 #include "core/centre_follow.h"
 #include "core/history_thinning.h"
 #include "core/text_fields.h"
+#include "reception/newest_values.h"
 #include "reception/record_builder.h"
 #include "reception/station_logs.h"
 
@@ -47,7 +48,7 @@ bool FollowedHistory::Enter(const StationRecord& record) {
   HoldCount();
   Thin();
   if (!WriteFile(HistoryText({entry}))) return false;
-  RefreshMonitorValues();
+  TakeNewestValues(stores_.Moni1Records, followed_);
   alarm_.TestFollowed(entry);
   FollowOnMap();
   return true;
@@ -84,21 +85,6 @@ void FollowedHistory::FollowOnMap() {
   map_.MapDrawn = false;
 }
 
-void FollowedHistory::RefreshMonitorValues() {
-  const StationStore& history = stores_.Moni1Records;
-  const StationRecord record = history.Count() > 0 ? history.At(history.Count()) : StationRecord();
-  followed_.MonitorDate = record.Date();
-  followed_.MonitorTime = record.Time();
-  followed_.MonitorNorthKm = record.NorthKm();
-  followed_.MonitorEastKm = record.EastKm();
-  followed_.MonitorHeardVia = record.HeardViaKey();
-  followed_.MonitorInfo = record.Info();
-  followed_.MonitorSymbol = record.Symbol();
-  followed_.MonitorSymbolText = record.SymbolText();
-  if (followed_.MonitorDate == "      ") followed_.MonitorDate.clear();
-  if (followed_.MonitorTime == "    ") followed_.MonitorTime.clear();
-}
-
 // A station without a name has no file; its history is empty and valid.
 bool FollowedHistory::WriteFile(std::string_view entered) {
   return Trim(followed_.Moni1Call).empty() || file_.Write(stores_.Moni1Records.All(), entered);
@@ -116,7 +102,7 @@ void FollowedHistory::LoadAtStart() {
     }
     stores_.Moni1Records.Assign(std::move(records));
   }
-  RefreshMonitorValues();
+  TakeNewestValues(stores_.Moni1Records, followed_);
 }
 
 void FollowedHistory::ChangeStation(const std::string& call) {
@@ -127,7 +113,7 @@ void FollowedHistory::ChangeStation(const std::string& call) {
     stores_.Moni1Records.Assign(file_.Load());
     WriteFile(AppendFromAllStations());
   }
-  RefreshMonitorValues();
+  TakeNewestValues(stores_.Moni1Records, followed_);
   settings_.ReplaceConfigLine("CALL", call);
 }
 
@@ -161,7 +147,7 @@ bool FollowedHistory::WriteAndReadBack() {
   const std::vector<StationRecord>& records = stores_.Moni1Records.All();
   const bool written = file_.HoldsMore() ? file_.Shorten(records) : file_.Rewrite(records);
   stores_.Moni1Records.Assign(file_.Load());
-  RefreshMonitorValues();
+  TakeNewestValues(stores_.Moni1Records, followed_);
   return written;
 }
 

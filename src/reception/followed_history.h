@@ -45,9 +45,6 @@ class FollowedHistory {
   // the list is what the file holds, as before the cut.
   bool WriteAndReadBack();
 
-  // The monitor values from the newest record; an empty history clears them.
-  void RefreshMonitorValues();
-
  private:
   bool WriteFile(std::string_view entered);
   void Thin();

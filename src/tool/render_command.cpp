@@ -28,6 +28,7 @@
 #include "platform/qt/map_fonts.h"
 #include "platform/qt/qt_surface.h"
 #include "platform/quiet_machine.h"
+#include "reception/newest_values.h"
 #include "tool/arguments.h"
 
 namespace zepril {
@@ -146,21 +147,6 @@ bool ReadRecords(const Files& files, RuntimeState& state, const std::string& pat
     }
     return state.Stores.MoniAllRecords.Append(record);
   });
-}
-
-void FollowNewest(RuntimeState& state) {
-  const StationStore& history = state.Stores.Moni1Records;
-  if (history.Count() == 0) return;
-  const StationRecord& newest = history.At(history.Count());
-  FollowedStationState& followed = state.Followed;
-  followed.MonitorDate = newest.Date();
-  followed.MonitorTime = newest.Time();
-  followed.MonitorNorthKm = newest.NorthKm();
-  followed.MonitorEastKm = newest.EastKm();
-  followed.MonitorHeardVia = newest.HeardViaKey();
-  followed.MonitorInfo = newest.Info();
-  followed.MonitorSymbol = newest.Symbol();
-  followed.MonitorSymbolText = newest.SymbolText();
 }
 
 void SetView(Arguments& arguments, RuntimeState& state) {
@@ -333,7 +319,7 @@ int RunRender(std::span<const std::string_view> args) {
     std::fputs("zepril-tool render: can't read the records\n", stderr);
     return 1;
   }
-  FollowNewest(state);
+  TakeNewestValues(state.Stores.Moni1Records, state.Followed);
   if (!ReadPoints(files, TextOf(arguments, "--poi", ""), state.Places.PoiPoints) ||
       !ReadPoints(files, TextOf(arguments, "--track", ""), state.Places.TrackPoints)) {
     return 1;
