@@ -107,7 +107,7 @@ std::optional<FileStamp> SettingsInMemory::Stamp(const std::string& path) const 
   return stamp;
 }
 
-std::string SettingsInMemory::Trouble() const {
+FileTrouble SettingsInMemory::Trouble() const {
   return disk_.Trouble();
 }
 
@@ -116,7 +116,7 @@ std::vector<FolderEntry> SettingsInMemory::List(const std::string& folder,
   return disk_.List(folder, pattern);
 }
 
-std::optional<std::string> TroubleWithConfig(const Files& files,
+std::optional<FileTrouble> TroubleWithConfig(const Files& files,
                                              const std::string& program_folder) {
   const std::string path = ConfigPath(program_folder);
   if (!files.Exists(path)) return std::nullopt;

@@ -30,7 +30,7 @@ class SettingsInMemory final : public Files {
   bool MakeFolder(const std::string& path) override;
   std::string NativePath(const std::string& path) const override;
   std::optional<FileStamp> Stamp(const std::string& path) const override;
-  std::string Trouble() const override;
+  FileTrouble Trouble() const override;
   std::vector<FolderEntry> List(const std::string& folder,
                                 const std::string& pattern) const override;
 
@@ -48,6 +48,6 @@ class SettingsInMemory final : public Files {
 };
 
 // Why `ZEPRIL.INI` is there and can't be read; nothing when all is well or none is there.
-std::optional<std::string> TroubleWithConfig(const Files& files, const std::string& program_folder);
+std::optional<FileTrouble> TroubleWithConfig(const Files& files, const std::string& program_folder);
 
 }  // namespace zepril

@@ -9,6 +9,7 @@
 #include "config/ports_file.h"
 #include "config/window_file.h"
 #include "core/texts/boxes.h"
+#include "core/texts/file_troubles.h"
 #include "desktop/window_place.h"
 #include "map/symbol_sheets.h"
 #include "platform/qt/serial_devices.h"
@@ -94,7 +95,7 @@ bool DesktopProgram::ReadableSettings() {
   const auto trouble = TroubleWithConfig(disk_, places_.ProgramFolder);
   if (!trouble) return true;
   const std::string text =
-      boxes::kSettingsUnread.With({ConfigPath(places_.ProgramFolder), *trouble});
+      boxes::kSettingsUnread.With({ConfigPath(places_.ProgramFolder), WordsOf(*trouble)});
   if (dialogs_.Ask(boxes::kTitle, text, DialogButtons::YesNo, DialogAnswer::No) !=
       DialogAnswer::Yes) {
     return false;

@@ -25,6 +25,20 @@ struct FileStamp {
   friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };
 
+// Why an operation failed.
+enum class FileTrouble {
+  NotDone,  // nothing more is known
+  DiskFull,
+  NoPermission,
+  DiskReadOnly,
+  FolderMissing,
+  NoOrdinaryFile,
+  NameTaken,
+  DiskError,
+  TooLarge,
+  Refused,  // by the system, for a reason of its own
+};
+
 class Files {
  public:
   // Gets a line without its end; false ends the reading.
@@ -65,8 +79,8 @@ class Files {
   // The path as the computer's other programs know it.
   virtual std::string NativePath(const std::string& path) const = 0;
 
-  // Why the last operation that failed did so, as words for the operator ("the disk is full").
-  virtual std::string Trouble() const { return "it could not be done"; }
+  // Why the last operation that failed did so.
+  virtual FileTrouble Trouble() const { return FileTrouble::NotDone; }
 
   virtual std::optional<FileStamp> Stamp(const std::string& path) const = 0;
   bool Exists(const std::string& path) const { return Stamp(path).has_value(); }

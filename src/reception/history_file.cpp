@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/text_fields.h"
+#include "core/texts/file_troubles.h"
 #include "core/texts/notices.h"
 
 namespace zepril {
@@ -29,7 +30,7 @@ std::vector<StationRecord> HistoryFile::Load() {
   std::vector<StationRecord> records =
       stamp && stamp->Size > kLargestRead ? ReadEnd(stamp->Size) : ReadWhole();
   if (unread_) {
-    notice_.Tell(notices::kHistoryUnread.With({path_, files_.Trouble()}));
+    notice_.Tell(notices::kHistoryUnread.With({path_, WordsOf(files_.Trouble())}));
   }
   if (records.size() > static_cast<std::size_t>(kMostHistoryLines)) {
     records.erase(records.begin(), records.end() - kMostHistoryLines);
@@ -85,7 +86,7 @@ bool HistoryFile::Write(const std::vector<StationRecord>& records, std::string_v
     unwritten_.erase(0, unwritten_.find('\n', unwritten_.size() - kMostUnwritten) + 1);
   }
   if (!longer_ && WriteAnew(records)) return Written();
-  const std::string why = files_.Trouble();
+  const Text why = WordsOf(files_.Trouble());
   if (files_.Append(path_, unwritten_)) {
     Written();
     if (!longer_ && !put_off_) {
@@ -95,7 +96,7 @@ bool HistoryFile::Write(const std::vector<StationRecord>& records, std::string_v
     return true;
   }
   trouble_told_ = true;
-  notice_.Tell(notices::kHistoryUnwritten.With({path_, files_.Trouble()}));
+  notice_.Tell(notices::kHistoryUnwritten.With({path_, WordsOf(files_.Trouble())}));
   return FirstFailure();
 }
 
@@ -128,13 +129,13 @@ bool HistoryFile::Shorten(const std::vector<StationRecord>& records) {
   }
   put_off_ = true;
   notice_.Tell(notices::kHistoryNotShortened.With(
-      {path_, copy ? files_.Trouble() : std::string(notices::kTenCopies)}));
+      {path_, copy ? WordsOf(files_.Trouble()) : notices::kTenCopies}));
   return false;
 }
 
 bool HistoryFile::Rewrite(const std::vector<StationRecord>& records) {
   if (!unread_ && files_.Replace(path_, HistoryText(records))) return true;
-  notice_.Tell(notices::kHistoryAsItWas.With({path_, files_.Trouble()}));
+  notice_.Tell(notices::kHistoryAsItWas.With({path_, WordsOf(files_.Trouble())}));
   return false;
 }
 

@@ -1,6 +1,7 @@
 // Tries a log again after its rest, and tells when it can't be written.
 #include "reception/resting_logs.h"
 
+#include "core/texts/file_troubles.h"
 #include "core/texts/notices.h"
 
 namespace zepril {
@@ -27,7 +28,7 @@ bool RestingLogs::Written(Kind kind, bool written) {
   }
   failing_ = kind;
   try_again_ = clock_.MonotonicSeconds() + kRestSeconds;
-  notice_.Tell(notices::kLogsRest.With({logs_.FailedPath(), files_.Trouble()}));
+  notice_.Tell(notices::kLogsRest.With({logs_.FailedPath(), WordsOf(files_.Trouble())}));
   const bool first = !failed_once_;
   failed_once_ = true;
   return !first;

@@ -20,8 +20,8 @@ TEST(SettingsInMemory, AFileThatCannotBeReadIsToldWithItsReason) {
   disk.Contents[kIni] = "USER=QX7KB\r\n";
   EXPECT_FALSE(TroubleWithConfig(disk, kFolder));
   disk.UnreadableEnding = "ZEPRIL.INI";
-  disk.Why = "there is no permission";
-  EXPECT_EQ(TroubleWithConfig(disk, kFolder), "there is no permission");
+  disk.Why = FileTrouble::NoPermission;
+  EXPECT_EQ(TroubleWithConfig(disk, kFolder), FileTrouble::NoPermission);
 }
 
 TEST(SettingsInMemory, WhatIsSetIsReadBackAndTheFileStaysAsItIs) {

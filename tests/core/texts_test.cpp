@@ -1,10 +1,12 @@
 // The tables of texts: values in their places, every control named once.
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 
 #include "core/controls/main_window_controls.h"
 #include "core/controls/start_panel_controls.h"
+#include "core/texts/file_troubles.h"
 #include "core/texts/form0_texts.h"
 #include "core/texts/form1_texts.h"
 #include "core/texts/text.h"
@@ -21,6 +23,20 @@ TEST(Texts, ValuesTakeTheirPlacesInWhateverOrder) {
 TEST(Texts, WhatAValueHoldsIsLeftAsItIs) {
   EXPECT_EQ(Text{"%1%2"}.With({"%2", "b"}), "%2b");
   EXPECT_EQ(Text{"%1 %2 %0"}.With({"a"}), "a %2 %0");
+}
+
+TEST(Texts, EveryTroubleWithAFileHasWordsOfItsOwn) {
+  std::set<std::string> words;
+  for (int kind = 0; kind <= static_cast<int>(FileTrouble::Refused); ++kind)
+    EXPECT_TRUE(words.insert(WordsOf(static_cast<FileTrouble>(kind))).second) << kind;
+  EXPECT_EQ(words.size(), 10u);
+  EXPECT_EQ(std::string(WordsOf(FileTrouble::NotDone)), "it could not be done");
+  EXPECT_EQ(std::string(WordsOf(FileTrouble::DiskFull)), "the disk is full");
+  EXPECT_EQ(std::string(WordsOf(FileTrouble::NoPermission)), "there is no permission");
+  EXPECT_EQ(std::string(WordsOf(FileTrouble::FolderMissing)), "its folder is missing");
+  EXPECT_EQ(std::string(WordsOf(FileTrouble::NoOrdinaryFile)), "it is no ordinary file");
+  EXPECT_EQ(std::string(WordsOf(FileTrouble::NameTaken)), "another file has its name");
+  EXPECT_EQ(std::string(WordsOf(FileTrouble::TooLarge)), "it is too large");
 }
 
 TEST(Texts, ATextThatIsNotThereIsEmpty) {

@@ -66,7 +66,7 @@ class MemoryFiles final : public Files {
     Contents[path] = text;
     return true;
   }
-  std::string Trouble() const override { return Why; }
+  FileTrouble Trouble() const override { return Why; }
   bool Remove(const std::string& path) override { return Contents.erase(path) > 0; }
   bool Rename(const std::string&, const std::string&) override { return false; }
   bool MakeFolder(const std::string&) override { return true; }
@@ -106,10 +106,10 @@ class MemoryFiles final : public Files {
   }
 
   std::map<std::string, std::string> Contents;
-  std::string RefusedEnding;             // files whose path ends so can't be written
-  bool NoRoomToReplace = false;          // a whole new file finds no room, a line more does
-  std::string Why = "the disk is full";  // told as the trouble of whatever fails
-  std::string UnreadableEnding;          // nor can these be read
+  std::string RefusedEnding;                // files whose path ends so can't be written
+  bool NoRoomToReplace = false;             // a whole new file finds no room, a line more does
+  FileTrouble Why = FileTrouble::DiskFull;  // told as the trouble of whatever fails
+  std::string UnreadableEnding;             // nor can these be read
 
  private:
   bool Unreadable(const std::string& path) const {

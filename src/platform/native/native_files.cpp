@@ -360,29 +360,29 @@ std::nullopt_t NativeFiles::TooLarge() const {
   return Unread();
 }
 
-std::string NativeFiles::Trouble() const {
+FileTrouble NativeFiles::Trouble() const {
   switch (trouble_) {
     case ENOSPC:
     case EDQUOT:
-      return "the disk is full";
+      return FileTrouble::DiskFull;
     case EACCES:
     case EPERM:
-      return "there is no permission";
+      return FileTrouble::NoPermission;
     case EROFS:
-      return "the disk is read only";
+      return FileTrouble::DiskReadOnly;
     case ENOENT:
     case ENOTDIR:
-      return "its folder is missing";
+      return FileTrouble::FolderMissing;
     case EISDIR:
-      return "it is no ordinary file";
+      return FileTrouble::NoOrdinaryFile;
     case EEXIST:
-      return "another file has its name";
+      return FileTrouble::NameTaken;
     case EIO:
-      return "the disk reports an error";
+      return FileTrouble::DiskError;
     case EFBIG:
-      return "it is too large";
+      return FileTrouble::TooLarge;
     default:
-      return "the system refuses it";
+      return FileTrouble::Refused;
   }
 }
 

@@ -33,7 +33,7 @@ class NativeFiles final : public Files {
   std::vector<FolderEntry> List(const std::string& folder,
                                 const std::string& pattern) const override;
 
-  std::string Trouble() const override;
+  FileTrouble Trouble() const override;
 
   // The native path of `path`, every element that exists spelled as on the disk.
   std::string NativePath(const std::string& path) const override;

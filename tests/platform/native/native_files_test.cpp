@@ -135,7 +135,7 @@ TEST_F(NativeFilesTest, ReplaceKeepingLeavesTheOldFileUnderItsOtherName) {
   EXPECT_EQ(files.ReadAll("C:\\H.TXT.BAK", 100), "old");
   // No copy is written over.
   EXPECT_FALSE(files.ReplaceKeeping("C:\\H.TXT", "shorter still", "C:\\H.TXT.BAK"));
-  EXPECT_EQ(files.Trouble(), "another file has its name");
+  EXPECT_EQ(files.Trouble(), FileTrouble::NameTaken);
   EXPECT_EQ(files.ReadAll("C:\\H.TXT", 100), "shorter");
   EXPECT_EQ(files.ReadAll("C:\\H.TXT.BAK", 100), "old");
   EXPECT_FALSE(files.ReplaceKeeping("C:\\NONE.TXT", "x", "C:\\NONE.TXT.BAK"));
@@ -167,19 +167,19 @@ TEST_F(NativeFilesTest, WhereALineFindsNoRoomNothingOfItStays) {
   {
     const SizeLimit limit(1000);
     EXPECT_FALSE(files.Append("C:\\log.txt", "a new line\r\n"));
-    EXPECT_EQ(files.Trouble(), "it is too large");
+    EXPECT_EQ(files.Trouble(), FileTrouble::TooLarge);
     EXPECT_FALSE(files.ReplaceKeeping("C:\\log.txt", std::string(2000, 'y'), "C:\\log.txt.BAK"));
   }
   EXPECT_EQ(files.ReadAll("C:\\log.txt", 2000), std::string(995, 'x') + "\r\n");
   EXPECT_EQ(files.List("C:\\", "*").size(), 1u);
 }
 
-TEST_F(NativeFilesTest, TroubleIsToldInWords) {
+TEST_F(NativeFilesTest, TroubleIsToldByItsKind) {
   EXPECT_FALSE(files.Append("C:\\no\\such\\folder.txt", "x"));
-  EXPECT_EQ(files.Trouble(), "its folder is missing");
+  EXPECT_EQ(files.Trouble(), FileTrouble::FolderMissing);
   std::filesystem::create_directories(folder.Sub("folder"));
   EXPECT_FALSE(files.ReadAll("C:\\folder", 10).has_value());
-  EXPECT_EQ(files.Trouble(), "it is no ordinary file");
+  EXPECT_EQ(files.Trouble(), FileTrouble::NoOrdinaryFile);
 }
 
 TEST_F(NativeFilesTest, RenameNeverOverwritesAndMayChangeTheCase) {
