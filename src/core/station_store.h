@@ -18,7 +18,6 @@ class StationStore {
   explicit StationStore(int capacity) : capacity_(capacity) {}
 
   int Count() const { return static_cast<int>(records_.size()); }
-  int Capacity() const { return capacity_; }
   // Working limit, measured from the computer's speed at start.
   int Limit = 0;
 

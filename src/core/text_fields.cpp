@@ -232,12 +232,6 @@ std::ptrdiff_t InStr(std::string_view text, std::string_view wanted) {
   return InStr(1, text, wanted);
 }
 
-std::ptrdiff_t InStrBack(std::string_view text, std::string_view wanted, std::ptrdiff_t end) {
-  if (end < 1) return 0;
-  const std::size_t found = text.rfind(wanted, static_cast<std::size_t>(end - 1));
-  return found == std::string_view::npos ? 0 : static_cast<std::ptrdiff_t>(found) + 1;
-}
-
 std::string_view TrimLeft(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
   return first == std::string_view::npos ? std::string_view{} : text.substr(first);

@@ -74,8 +74,6 @@ std::string_view Right(std::string_view text, std::ptrdiff_t length);
 // Column of the first occurrence of `wanted` at or behind column `start`, 0 when there is none.
 std::ptrdiff_t InStr(std::ptrdiff_t start, std::string_view text, std::string_view wanted);
 std::ptrdiff_t InStr(std::string_view text, std::string_view wanted);
-// Column of the last occurrence that begins at or before column `end`, 0 when there is none.
-std::ptrdiff_t InStrBack(std::string_view text, std::string_view wanted, std::ptrdiff_t end);
 
 // Code of a character, 0 to 255.
 inline int Asc(char c) {

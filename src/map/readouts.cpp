@@ -119,8 +119,6 @@ void Readouts::MonitorReadout() {
   const DistanceBearing way = StationDistanceBearing(
       view_.OwnNorthKm, view_.OwnEastKm, followed_.MonitorNorthKm, followed_.MonitorEastKm,
       view_.MapCentralMeridian, view_.MapFalseEasting);
-  station_distance_km_ = way.DistanceKm;
-  station_bearing_deg_ = way.BearingDeg;
   controls_.Label11.Caption = StationLine(way.DistanceKm, way.BearingDeg,
                                           StationSpeedText(history_), followed_.MonitorHeardVia);
 }

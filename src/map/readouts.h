@@ -48,10 +48,6 @@ class Readouts {
   // (map meridian -30 to 60) Gauss-Krueger and RT 90 are passed over.
   void StepDisplayMode(Readout readout);
 
-  // Distance and direction of the monitored station as shown last.
-  double StationDistanceKm() const { return station_distance_km_; }
-  double StationBearingDeg() const { return station_bearing_deg_; }
-
  private:
   struct Captions {
     std::string Upper;
@@ -67,8 +63,6 @@ class Readouts {
   const StationStore& history_;
   ReadoutControls& controls_;
   CoordinateValues values_;
-  double station_distance_km_ = 0.0;
-  double station_bearing_deg_ = 0.0;
 };
 
 // Speed of a station in km/h as text, from its stored positions: from the newest record back to the

@@ -16,7 +16,6 @@ namespace zepril {
 struct MapScale {
   std::string_view FolderPrefix;  // "M5000"
   double TileKm;                  // side of a tile
-  std::string_view VariantKey;    // configuration key of the chosen variant
   Colour FrameColour;             // tile frames
 };
 
@@ -25,12 +24,12 @@ inline constexpr std::size_t kScalePrefixLength = 5;
 inline constexpr int kTilePixels = 1000;  // side of a tile
 
 inline constexpr std::array<MapScale, kMapScales> kMapScaleTable{{
-    {"M5000", 5000.0, "M5000=", 0xC0A000},
-    {"M1000", 1000.0, "M1000=", 0xF0F0F0},
-    {"M0200", 200.0, "M0200=", 0x00D0E0},
-    {"M0050", 50.0, "M0050=", 0x4040E0},
-    {"M0010", 10.0, "M0010=", 0x00FF00},
-    {"M0002", 2.0, "M0002=", 0x00C0FF},
+    {"M5000", 5000.0, 0xC0A000},
+    {"M1000", 1000.0, 0xF0F0F0},
+    {"M0200", 200.0, 0x00D0E0},
+    {"M0050", 50.0, 0x4040E0},
+    {"M0010", 10.0, 0x00FF00},
+    {"M0002", 2.0, 0x00C0FF},
 }};
 
 // Row of a scale, 0 to 5; nothing for a side that is none of the six.

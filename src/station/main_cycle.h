@@ -17,16 +17,6 @@
 
 namespace zepril {
 
-// Intervals with which handlers arm `Timer2`, in milliseconds.
-namespace timer2 {
-inline constexpr int kMessageKey = 2000;
-inline constexpr int kMapMouse = 3000;
-inline constexpr int kMapPanels = 4000;
-inline constexpr int kPanels = 6000;
-inline constexpr int kOutsideViewers = 30000;
-inline constexpr int kPageWatchdog = 60000;
-}  // namespace timer2
-
 class MainCycle {
  public:
   MainCycle(RuntimeState& state, MainWindowControls& controls, Clock& clock,

@@ -100,8 +100,6 @@ TEST(Searching, ColumnsAreCountedFromOneAndZeroIsNone) {
   EXPECT_EQ(InStr(4, "abcabc", "c"), 6);
   EXPECT_EQ(InStr("abc", "x"), 0);
   EXPECT_EQ(InStr(9, "abc", "a"), 0);
-  EXPECT_EQ(InStrBack("abcabc", "c", 5), 3);
-  EXPECT_EQ(InStrBack("abc", "a", 0), 0);
 }
 
 TEST(NumericField, TakesDigitsAndPointsOnly) {

@@ -24,7 +24,6 @@ struct InternetState {
   Gate IGateOn = Gate::Off;
   GateLink IGateConnected = GateLink::Down;
   std::string AprsIsPasscode = "0";
-  std::string AprsIsRxBuffer;
   std::array<GatedLine, 5> RecentlyGated;  // newest last
 
   double InetSwitchTime = 0.0;  // timer value of the last operation of an internet switch
@@ -33,7 +32,6 @@ struct InternetState {
   int Moni1ScanTicks = 0;
   int LastMoni1InternetMinute = -5000;  // decimal hhmm of the last fetch
   int LastMoniAllInternetMinute = 0;
-  int InetSource = 0;
 
   double SunspotNumber = 40.0;
   double KpIndex = 2.0;

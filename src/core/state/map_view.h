@@ -97,7 +97,6 @@ struct MapViewState {
   std::vector<std::string> PictureNames;  // sorted, at most 5000, 12 characters each
 
   int ColourDepthBits = 32;
-  static constexpr int kScreenTwipsPerPixel = 15;
 };
 
 // The label levels as the operator steps through them: by number, then "WX".
