@@ -1,4 +1,4 @@
-// Repeats by an index beside the list, and the same by a plain scan; the list cut at its limit.
+// Repeats by an index beside the list; the list cut at its limit.
 #include "reception/all_stations_store.h"
 
 #include <algorithm>
@@ -46,23 +46,6 @@ bool IsSamePacket(const StationRecord& stored, const StationRecord& record) {
   return stored.PositionKey() == record.PositionKey() &&
          std::abs(stored.MinuteOfDay() - record.MinuteOfDay()) < kRepeatMinutes &&
          stored.HeardViaKey() != record.HeardViaKey();
-}
-
-bool IsRepeatByScan(const StationStore& store, const StationRecord& record) {
-  return std::any_of(store.All().begin(), store.All().end(),
-                     [&](const StationRecord& stored) { return IsSamePacket(stored, record); });
-}
-
-std::vector<StationRecord> WithoutSupersededByScan(const std::vector<StationRecord>& records) {
-  std::vector<StationRecord> kept;
-  for (std::size_t i = 0; i < records.size(); ++i) {
-    bool superseded = false;
-    for (std::size_t j = i + 1; i > 0 && j < records.size() && !superseded; ++j) {
-      superseded = SamePlaceAndCall(records[i], records[j]);
-    }
-    if (!superseded) kept.push_back(records[i]);
-  }
-  return kept;
 }
 
 // Takes in what was appended since the last look; after any other change everything anew.

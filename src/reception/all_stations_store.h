@@ -48,10 +48,6 @@ class AllStationsStore {
   std::uint64_t reordered_ = ~std::uint64_t{0};
 };
 
-// The two rules by looking at every record, as they are defined; the index must agree with them.
-bool IsRepeatByScan(const StationStore& store, const StationRecord& record);
-std::vector<StationRecord> WithoutSupersededByScan(const std::vector<StationRecord>& records);
-
 // True when the two records are the same packet by the rules above.
 bool IsSamePacket(const StationRecord& stored, const StationRecord& record);
 

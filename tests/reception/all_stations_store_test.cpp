@@ -18,6 +18,27 @@ StationRecord At(const std::string& time, const std::string& call, const std::st
   return RecordOf(call, "240115 " + time, " 5817.860", "  391.394", via, info);
 }
 
+// The two rules by looking at every record, as they are defined; the index must agree with them.
+bool IsRepeatByScan(const StationStore& store, const StationRecord& record) {
+  return std::any_of(store.All().begin(), store.All().end(),
+                     [&](const StationRecord& stored) { return IsSamePacket(stored, record); });
+}
+
+std::vector<StationRecord> WithoutSupersededByScan(const std::vector<StationRecord>& records) {
+  const auto same_place_and_call = [](const StationRecord& a, const StationRecord& b) {
+    return a.Columns(14, 31) == b.Columns(14, 31) && a.Columns(33, 41) == b.Columns(33, 41);
+  };
+  std::vector<StationRecord> kept;
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    bool superseded = false;
+    for (std::size_t j = i + 1; i > 0 && j < records.size() && !superseded; ++j) {
+      superseded = same_place_and_call(records[i], records[j]);
+    }
+    if (!superseded) kept.push_back(records[i]);
+  }
+  return kept;
+}
+
 bool Repeats(const StationRecord& stored, const StationRecord& record) {
   StationStore list(3000);
   AllStationsStore store(list);
