@@ -66,8 +66,4 @@ const ReceptionCounts& StationProgram::Counts() const {
   return rooms_->Reception.Pass.Counts();
 }
 
-void StationProgram::UseLocalEnginePort(int port) {
-  rooms_->Links.Local.UsePort(port);
-}
-
 }  // namespace zepril

@@ -70,8 +70,6 @@ class StationProgram {
   // Once a second, also while the main cycle rests: what is shown for some seconds, and since when.
   void SecondPassed();
   const ReceptionCounts& Counts() const;
-  // For engines of tests on another port than 8000.
-  void UseLocalEnginePort(int port);
 
  private:
   std::unique_ptr<StationRooms> rooms_;

@@ -42,6 +42,31 @@ class NoDesktop final : public DesktopActions {
   bool MovePointerOnMap(int, int) override { return false; }
 };
 
+// A socket that finds the engine of the test whatever port is asked for: the engine on this
+// computer has a usual one.
+class EngineSocket final : public TcpSocket {
+ public:
+  EngineSocket() {
+    socket_.Connected = [this] {
+      if (Connected) Connected();
+    };
+    socket_.DataArrived = [this](std::string_view bytes) {
+      if (DataArrived) DataArrived(bytes);
+    };
+  }
+  void Connect(const std::string& host, int) override { socket_.Connect(host, EnginePort); }
+  void Close() override { socket_.Close(); }
+  void Drop() override { socket_.Drop(); }
+  SocketState State() const override { return socket_.State(); }
+  bool Send(std::string_view bytes) override { return socket_.Send(bytes); }
+  std::size_t UnsentBytes() const override { return socket_.UnsentBytes(); }
+
+  int EnginePort = 0;
+
+ private:
+  QtSocket socket_;
+};
+
 // An engine that runs, and a loop.
 class EngineTest : public ::testing::Test {
  protected:
@@ -49,6 +74,7 @@ class EngineTest : public ::testing::Test {
     const std::string missing = MissingOfTheEngine();
     if (!missing.empty()) GTEST_SKIP() << missing << " (package direwolf) is not installed";
     engine = std::make_unique<Engine>(folder);
+    socket.EnginePort = engine->Port;
     ASSERT_TRUE(Until([this] { return !engine->Runs() || Listens(engine->Port); }))
         << engine->Log();
     ASSERT_TRUE(engine->Runs()) << engine->Log();
@@ -77,7 +103,7 @@ class EngineTest : public ::testing::Test {
   NativeFiles files{folder.Path()};
   QtLoop loop;
   ScriptedDialogs dialogs;
-  QtSocket socket;
+  EngineSocket socket;
   std::unique_ptr<Engine> engine;
 };
 
@@ -104,7 +130,6 @@ class DirewolfTest : public EngineTest, protected RecordedSurfaces {
     program = std::make_unique<StationProgram>(
         StationPlatform{files, loop, dialogs, desktop, socket, modem, map_surface, base_surface,
                         sun_surface, tx_symbol_surface, object_symbol_surface});
-    program->UseLocalEnginePort(engine->Port);
   }
 
   // The tick comes when the test says so, not every six seconds.
@@ -301,7 +326,6 @@ class SendingTest : public EngineTest {
     state.Radio.BaudMode = baud_mode;
     remote.emplace(state.Radio, state.Identity, state.Transmission, unused, loop, dialogs, nobody,
                    unused_timer);
-    local.UsePort(engine->Port);
     ASSERT_TRUE(local.AGWStartPoll("ZEPRIL", state.Identity.MyCallFull)) << engine->Log();
     MakeBeacon();
   }
