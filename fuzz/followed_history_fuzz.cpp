@@ -12,19 +12,10 @@
 #include "core/controls/status_controls.h"
 #include "core/controls/window_controls.h"
 #include "core/history_thinning.h"
+#include "core/quiet_actions.h"
 #include "core/state/gps.h"
 #include "reception/followed_history.h"
 #include "tests/doubles/memory_files.h"
-
-namespace {
-
-class NoSettings final : public zepril::SettingsActions {
- public:
-  void WriteConfigFromMainWindow() override {}
-  void ReplaceConfigLine(const std::string&, const std::string&) override {}
-};
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   zepril::IdentityState identity;
@@ -38,7 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   zepril::Moni1Controls moni1;
   zepril::StatusControls status;
   zepril::MemoryFiles disk;
-  NoSettings settings;
+  zepril::QuietActions settings;
   identity.MapSystemFolder = "M";
   zepril::DistanceAlarm alarm(alarms, identity, followed, map, status, window);
   zepril::FollowedHistory history(identity, stores, followed, map, gps, moni1, map_bar, alarm, disk,

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/point_file.h"
+#include "core/quiet_actions.h"
 #include "core/text_fields.h"
 #include "map/map_view.h"
 #include "map/poi_layer.h"
@@ -20,16 +21,10 @@ void Require(bool holds) {
   if (!holds) std::abort();
 }
 
-class Upward final : public zepril::MapActions,
-                     public zepril::SettingsActions,
-                     public zepril::Dialogs,
-                     public zepril::DesktopActions,
-                     public zepril::Progress {
+class Answers final : public zepril::Dialogs,
+                      public zepril::DesktopActions,
+                      public zepril::Progress {
  public:
-  void MapRedraw() override {}
-  void MapRefresh() override {}
-  void WriteConfigFromMainWindow() override {}
-  void ReplaceConfigLine(const std::string&, const std::string&) override {}
   zepril::DialogAnswer Ask(const std::string&, const std::string&, zepril::DialogButtons,
                            zepril::DialogAnswer) override {
     return zepril::DialogAnswer::Ok;
@@ -44,7 +39,8 @@ class Upward final : public zepril::MapActions,
 
 struct Station {
   explicit Station(zepril::MemoryFiles& disk)
-      : Room(Identity, View, Settings, Places, Controls, Map, {disk, Up, Up, Up, Up, Up}) {
+      : Room(Identity, View, Settings, Places, Controls, Map,
+             {disk, Machine, Machine, Quiet, Quiet, Machine}) {
     Identity.MapSystemFolder = "M";
     Settings.PoiFile = "LAST";
     View.CentreNorthKm = 5378.123;
@@ -64,7 +60,8 @@ struct Station {
   zepril::PlacesState Places;
   zepril::PlaceControls Controls;
   zepril::MapControls Map;
-  Upward Up;
+  Answers Machine;
+  zepril::QuietActions Quiet;
   zepril::PlaceFiles Room;
 };
 

@@ -8,6 +8,7 @@
 
 #include "core/point_file.h"
 #include "core/position_text.h"
+#include "core/quiet_actions.h"
 #include "core/text_fields.h"
 #include "gps/track_files.h"
 #include "map/map_view.h"
@@ -21,15 +22,8 @@ void Require(bool holds) {
   if (!holds) std::abort();
 }
 
-class Upward final : public zepril::MapActions,
-                     public zepril::SettingsActions,
-                     public zepril::Dialogs,
-                     public zepril::Progress {
+class Answers final : public zepril::Dialogs, public zepril::Progress {
  public:
-  void MapRedraw() override {}
-  void MapRefresh() override {}
-  void WriteConfigFromMainWindow() override {}
-  void ReplaceConfigLine(const std::string&, const std::string&) override {}
   zepril::DialogAnswer Ask(const std::string&, const std::string&, zepril::DialogButtons buttons,
                            zepril::DialogAnswer) override {
     return buttons == zepril::DialogButtons::YesNo ? zepril::DialogAnswer::Yes
@@ -77,9 +71,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   zepril::TrackControls controls;
   zepril::MapControls map;
   zepril::MemoryFiles disk;
-  Upward up;
+  Answers answers;
+  zepril::QuietActions quiet;
   identity.MapSystemFolder = "M";
-  zepril::TrackFiles room(identity, view, settings, places, controls, map, {disk, up, up, up, up});
+  zepril::TrackFiles room(identity, view, settings, places, controls, map,
+                          {disk, answers, quiet, quiet, answers});
 
   // The rest of the input as the file of the last run.
   disk.Contents["M\\TRK\\LAST.TRK"] = std::string(input.substr(end));

@@ -18,6 +18,7 @@
 #include "tests/desktop/desktop_support.h"
 #include "tests/desktop/loopback_engine.h"
 #include "tests/doubles/fake_socket.h"
+#include "tests/doubles/recorded_desktop.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/temp_folder.h"
 #include "tests/map/bmp_maker.h"
@@ -25,16 +26,6 @@
 namespace zepril {
 
 inline constexpr int kTileInk = 9;
-
-class NoDesktop final : public DesktopActions {
- public:
-  bool MainWindowActive() const override { return true; }
-  bool WindowExists(const std::string&) const override { return false; }
-  void Open(const std::string& what) override { Opened.push_back(what); }
-  bool MovePointerOnMap(int, int) override { return false; }
-
-  std::vector<std::string> Opened;
-};
 
 // A station on an engine that the test plays, with two tiles of one ink under its centre, and its
 // window. The timers are not driven: a tick comes when the test wants it.
@@ -105,7 +96,7 @@ class MainWindowTest : public ::testing::Test {
   NativeFiles files{folder.Path()};
   QtLoop loop;
   ScriptedDialogs dialogs;
-  NoDesktop desktop;
+  RecordedDesktop desktop;
   FakeSocket socket;
   AbsentSerialPort modem;
   MapFonts fonts;

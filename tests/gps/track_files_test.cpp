@@ -8,9 +8,7 @@
 #include <vector>
 
 #include "platform/native/native_files.h"
-#include "tests/doubles/memory_files.h"
-#include "tests/doubles/recorded_progress.h"
-#include "tests/doubles/scripted_dialogs.h"
+#include "tests/doubles/point_files_world.h"
 #include "tests/doubles/temp_folder.h"
 
 namespace zepril {
@@ -22,61 +20,19 @@ using testing::IsEmpty;
 constexpr const char* kFirst = "\xFE 5378.123  412.345 20240514 1230";
 constexpr const char* kSecond = "\xFE 5379.123  413.345 20240514 1231";
 
-std::string Lines(const std::vector<std::string>& lines) {
-  std::string text;
-  for (const std::string& line : lines)
-    text += line + "\r\n";
-  return text;
-}
-
-// The joins upward, written down.
-class Joins final : public MapActions, public SettingsActions {
- public:
-  void MapRedraw() override { Calls.push_back("redraw"); }
-  void MapRefresh() override { Calls.push_back("refresh"); }
-  void WriteConfigFromMainWindow() override { Calls.push_back("save"); }
-  void ReplaceConfigLine(const std::string& key, const std::string&) override {
-    Calls.push_back("replace " + key);
-  }
-  std::vector<std::string> Calls;
-};
-
-struct TrackWorld {
+struct TrackWorld : PointFilesWorld {
   explicit TrackWorld(Files& disk)
-      : Room(Identity, View, Settings, Places, Controls, Map, {disk, Boxes, Up, Up, LongWork}) {
-    Identity.MapSystemFolder = R"(C:\Z\U33)";
-  }
+      : Room(Identity, View, Settings, Places, Controls, Map, {disk, Boxes, Up, Up, LongWork}) {}
   TrackWorld() : TrackWorld(Disk) {}
 
   void Put(const std::string& name, const std::string& text) {
     Disk.Contents[R"(C:\Z\U33\TRK\)" + name] = text;
   }
-  // What the window does when an entry is chosen, or a name is typed.
-  void Choose(const std::string& name) {
-    for (std::size_t i = 0; i < Controls.Combo1.Items.size(); ++i) {
-      if (Controls.Combo1.Items[i] == name) Controls.Combo1.Select(static_cast<int>(i));
-    }
-    Controls.Combo1.Change();
-  }
-  void Type(const std::string& name) {
-    Controls.Combo1.Text.clear();
-    for (char c : name) {
-      Controls.Combo1.Text += c;
-      Controls.Combo1.Change();
-    }
-  }
+  void Choose(const std::string& name) { ChooseIn(Controls.Combo1, name); }
+  void Type(const std::string& name) { TypeIn(Controls.Combo1, name); }
   void Enter() { Controls.Combo1.KeyDown({13, 0}); }
 
-  MemoryFiles Disk;
-  IdentityState Identity;
-  MapViewState View;
-  SettingsState Settings;
-  PlacesState Places;
   TrackControls Controls;
-  MapControls Map;
-  ScriptedDialogs Boxes;
-  Joins Up;
-  RecordedProgress LongWork;
   TrackFiles Room;
 };
 
@@ -99,7 +55,7 @@ TEST(TrackList, IsEmptyWithoutTheFolder) {
 
 TEST(TrackStart, LoadsTheLastFileWithoutDrawing) {
   TrackWorld world;
-  world.Put("20240514.TRK", Lines({kFirst, kSecond}));
+  world.Put("20240514.TRK", FileOf({kFirst, kSecond}));
   world.Settings.TrackFile = "20240514";
   world.Room.RestoreAtStart();
   EXPECT_EQ(world.Places.TrackPoints.Count(), 2);
@@ -119,7 +75,7 @@ TEST(TrackStart, AFileThatHasGoneIsSilentlyEmptyAndItsNameStays) {
 
 TEST(TrackStart, ANameThatLeadsOutOfTheFolderIsNotRead) {
   TrackWorld world;
-  world.Put("..\\LOG\\X.TRK", Lines({kFirst}));
+  world.Put("..\\LOG\\X.TRK", FileOf({kFirst}));
   world.Settings.TrackFile = "..\\LOG\\X";
   world.Room.RestoreAtStart();
   EXPECT_EQ(world.Places.TrackPoints.Count(), 0);
@@ -127,7 +83,7 @@ TEST(TrackStart, ANameThatLeadsOutOfTheFolderIsNotRead) {
 
 TEST(TrackChoice, LoadsSavesAndDrawsWhenTheDisplayIsOn) {
   TrackWorld world;
-  world.Put("20240514.TRK", Lines({kFirst, kSecond}));
+  world.Put("20240514.TRK", FileOf({kFirst, kSecond}));
   world.Room.ListTrackFiles();
   world.View.TracksOn = true;
   world.Choose("20240514");
@@ -140,7 +96,7 @@ TEST(TrackChoice, LoadsSavesAndDrawsWhenTheDisplayIsOn) {
 
 TEST(TrackChoice, IsNotDrawnWhenTheDisplayIsOff) {
   TrackWorld world;
-  world.Put("20240514.TRK", Lines({kFirst}));
+  world.Put("20240514.TRK", FileOf({kFirst}));
   world.Room.ListTrackFiles();
   world.Choose("20240514");
   EXPECT_THAT(world.Up.Calls, ElementsAre("save"));
@@ -148,11 +104,11 @@ TEST(TrackChoice, IsNotDrawnWhenTheDisplayIsOff) {
 
 TEST(TrackChoice, OfTheNameThatIsHeldInAnyCaseReadsNothing) {
   TrackWorld world;
-  world.Put("20240514.TRK", Lines({kFirst}));
-  world.Put("ABC.TRK", Lines({kFirst}));
+  world.Put("20240514.TRK", FileOf({kFirst}));
+  world.Put("ABC.TRK", FileOf({kFirst}));
   world.Settings.TrackFile = "ABC";
   world.Room.RestoreAtStart();
-  world.Put("ABC.TRK", Lines({kFirst, kSecond}));
+  world.Put("ABC.TRK", FileOf({kFirst, kSecond}));
   world.Type("abc");
   world.Enter();
   EXPECT_EQ(world.Places.TrackPoints.Count(), 1);
@@ -164,7 +120,7 @@ TEST(TrackChoice, OfTheNameThatIsHeldReadsAFileThatWasMissing) {
   TrackWorld world;
   world.Settings.TrackFile = "ABC";
   world.Room.RestoreAtStart();
-  world.Put("ABC.TRK", Lines({kFirst}));
+  world.Put("ABC.TRK", FileOf({kFirst}));
   world.Type("abc");
   world.Enter();
   EXPECT_EQ(world.Places.TrackPoints.Count(), 1);
@@ -172,7 +128,7 @@ TEST(TrackChoice, OfTheNameThatIsHeldReadsAFileThatWasMissing) {
 
 TEST(TrackChoice, OfAnEmptyNameDoesNothing) {
   TrackWorld world;
-  world.Put("ABC.TRK", Lines({kFirst}));
+  world.Put("ABC.TRK", FileOf({kFirst}));
   world.Settings.TrackFile = "ABC";
   world.Room.RestoreAtStart();
   world.Controls.Combo1.Text = "  ";
@@ -184,8 +140,8 @@ TEST(TrackChoice, OfAnEmptyNameDoesNothing) {
 
 TEST(TrackChoice, TypingAloneChoosesNothing) {
   TrackWorld world;
-  world.Put("A.TRK", Lines({kFirst}));
-  world.Put("AB.TRK", Lines({kFirst, kSecond}));
+  world.Put("A.TRK", FileOf({kFirst}));
+  world.Put("AB.TRK", FileOf({kFirst, kSecond}));
   world.Room.ListTrackFiles();
   world.Type("AB");
   EXPECT_THAT(world.Up.Calls, IsEmpty());
@@ -204,7 +160,7 @@ TEST(TrackChoice, AFieldThatIsEmptiedForTypingStaysEmpty) {
 
 TEST(TrackChoice, ANewNameIsOfferedAndNoKeepsTheOldSelection) {
   TrackWorld world;
-  world.Put("ABC.TRK", Lines({kFirst}));
+  world.Put("ABC.TRK", FileOf({kFirst}));
   world.Settings.TrackFile = "ABC";
   world.Room.RestoreAtStart();
   world.Boxes.Expect("ZEP RIL", "There is no track file NEW.  CREATE AN EMPTY ONE?",
@@ -245,8 +201,8 @@ TEST(TrackChoice, AFileThatCannotBeCreatedIsTold) {
 
 TEST(TrackChoice, AnUnreadableFileLeavesSelectionAndPoints) {
   TrackWorld world;
-  world.Put("ABC.TRK", Lines({kFirst}));
-  world.Put("BAD.TRK", Lines({kFirst, kSecond}));
+  world.Put("ABC.TRK", FileOf({kFirst}));
+  world.Put("BAD.TRK", FileOf({kFirst, kSecond}));
   world.Disk.UnreadableEnding = "BAD.TRK";
   world.Settings.TrackFile = "ABC";
   world.Room.RestoreAtStart();
@@ -274,7 +230,7 @@ TEST(TrackChoice, ANameThatLeadsOutOfTheFolderIsRefused) {
 TEST(TrackButtons, StepThroughTheListAndStopAtItsEnds) {
   TrackWorld world;
   for (const char* name : {"A.TRK", "B.TRK", "C.TRK"})
-    world.Put(name, Lines({kFirst}));
+    world.Put(name, FileOf({kFirst}));
   world.Settings.TrackFile = "B";
   world.Room.RestoreAtStart();
   world.Controls.Command69.Click();
@@ -292,18 +248,18 @@ TEST(TrackButtons, StepThroughTheListAndStopAtItsEnds) {
 
 TEST(TrackButtons, FindTheFileOfToday) {
   TrackWorld world;
-  world.Put("A.TRK", Lines({kFirst}));
+  world.Put("A.TRK", FileOf({kFirst}));
   world.Settings.TrackFile = "A";
   world.Room.RestoreAtStart();
-  world.Put("B.TRK", Lines({kFirst}));
+  world.Put("B.TRK", FileOf({kFirst}));
   world.Controls.Command69.Click();
   EXPECT_EQ(world.Settings.TrackFile, "B");
 }
 
 TEST(TrackButtons, GoOnFromWhereAFileThatHasGoneWouldStand) {
   TrackWorld world;
-  world.Put("A.TRK", Lines({kFirst}));
-  world.Put("C.TRK", Lines({kFirst}));
+  world.Put("A.TRK", FileOf({kFirst}));
+  world.Put("C.TRK", FileOf({kFirst}));
   world.Settings.TrackFile = "B";
   world.Room.RestoreAtStart();
   world.Controls.Command68.Click();
@@ -318,15 +274,15 @@ TEST(TrackButtons, EnterTheListFromItsNearEnd) {
   world.Controls.Command68.Click();  // an empty list
   world.Controls.Command69.Click();
   EXPECT_EQ(world.Settings.TrackFile, "");
-  world.Put("A.TRK", Lines({kFirst}));
-  world.Put("C.TRK", Lines({kFirst}));
+  world.Put("A.TRK", FileOf({kFirst}));
+  world.Put("C.TRK", FileOf({kFirst}));
   world.Controls.Command68.Click();
   EXPECT_EQ(world.Settings.TrackFile, "C");
 }
 
 TEST(TrackEnd, CentresOnTheLastPointThatHasAPosition) {
   TrackWorld world;
-  world.Put("A.TRK", Lines({kFirst, kSecond, "\xFE    0.000    0.000 20240514 1232", "", "x"}));
+  world.Put("A.TRK", FileOf({kFirst, kSecond, "\xFE    0.000    0.000 20240514 1232", "", "x"}));
   world.Settings.TrackFile = "A";
   world.Room.RestoreAtStart();
   world.View.CentreFollow = Following::OwnPosition;
@@ -395,7 +351,7 @@ TEST(TrackFile, OfAnyBytesIsReadFromTheRealDisk) {
   std::string bytes;
   for (int i = 0; i < 5000; ++i)
     bytes += static_cast<char>(i * 37 % 256);
-  disk.Write(R"(C:\Z\U33\TRK\odd.trk)", bytes + "\r\n" + Lines({kFirst}));
+  disk.Write(R"(C:\Z\U33\TRK\odd.trk)", bytes + "\r\n" + FileOf({kFirst}));
   disk.MakeFolder(R"(C:\Z\U33\TRK\FOLDER.TRK)");
   world.Room.ListTrackFiles();
   EXPECT_THAT(world.Controls.Combo1.Items, ElementsAre("ODD"));

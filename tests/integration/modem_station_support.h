@@ -15,6 +15,7 @@
 #include "platform/native/native_files.h"
 #include "platform/qt/qt_loop.h"
 #include "platform/qt/qt_serial_port.h"
+#include "platform/quiet_machine.h"
 #include "station/station_program.h"
 #include "tests/doubles/fake_socket.h"
 #include "tests/doubles/hurried_clock.h"
@@ -27,14 +28,6 @@ namespace zepril {
 
 inline constexpr double kTickSeconds = 6.0;
 inline constexpr double kReopenSeconds = 10.0;
-
-class DesktopOfModems final : public DesktopActions {
- public:
-  bool MainWindowActive() const override { return false; }
-  bool WindowExists(const std::string&) const override { return false; }
-  void Open(const std::string&) override {}
-  bool MovePointerOnMap(int, int) override { return false; }
-};
 
 class ModemStation : public RecordedSurfaces {
  public:
@@ -86,7 +79,7 @@ class ModemStation : public RecordedSurfaces {
   QtLoop loop;
   HurriedClock clock;
   ScriptedDialogs dialogs;
-  DesktopOfModems desktop;
+  QuietDesktop desktop;
   FakeSocket socket;
   QtSerialPort port;
   std::unique_ptr<StationProgram> program;

@@ -3,20 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/doubles/recorded_actions.h"
 #include "tests/doubles/scripted_dialogs.h"
 
 namespace zepril {
 namespace {
-
-class CountingActions final : public MapActions, public SettingsActions {
- public:
-  void MapRedraw() override { ++Redraws; }
-  void MapRefresh() override {}
-  void WriteConfigFromMainWindow() override { ++Saves; }
-  void ReplaceConfigLine(const std::string&, const std::string&) override {}
-  int Redraws = 0;
-  int Saves = 0;
-};
 
 class IonoInputTest : public ::testing::Test {
  protected:
@@ -37,7 +28,7 @@ class IonoInputTest : public ::testing::Test {
   IonoControls controls;
   MapControls map;
   ScriptedDialogs boxes;
-  CountingActions actions;
+  RecordedActions actions;
   IonoInput input{internet, view, controls, map, {boxes, actions, actions}};
 };
 
@@ -57,14 +48,14 @@ TEST_F(IonoInputTest, TypedValuesAreUsedSavedAndDrawn) {
   EXPECT_EQ(internet.SunspotNumber, 80.0);
   EXPECT_EQ(internet.KpIndex, 3.7);
   EXPECT_FALSE(controls.Frame18.Visible);
-  EXPECT_EQ(actions.Saves, 1);
-  EXPECT_EQ(actions.Redraws, 1);
+  EXPECT_EQ(actions.CountOf("save"), 1);
+  EXPECT_EQ(actions.CountOf("redraw"), 1);
 }
 
 TEST_F(IonoInputTest, WithoutCirclesNothingIsDrawn) {
   Type("80", "3");
-  EXPECT_EQ(actions.Saves, 1);
-  EXPECT_EQ(actions.Redraws, 0);
+  EXPECT_EQ(actions.CountOf("save"), 1);
+  EXPECT_EQ(actions.CountOf("redraw"), 0);
 }
 
 TEST_F(IonoInputTest, EnterInAFieldTakesTheValuesAndOtherKeysDoNot) {
@@ -95,7 +86,7 @@ TEST_F(IonoInputTest, WhatIsNoNumberInItsRangeIsToldAndNothingIsLost) {
     EXPECT_EQ(internet.SunspotNumber, 101.5);
     EXPECT_EQ(internet.KpIndex, 2.0);
   }
-  EXPECT_EQ(actions.Saves, 0);
+  EXPECT_EQ(actions.CountOf("save"), 0);
 }
 
 TEST_F(IonoInputTest, CloseChangesNothing) {
@@ -112,7 +103,7 @@ TEST_F(IonoInputTest, TheSwitchForThreeValuesActsAtOnce) {
   controls.FoptDetailed.Value = 1;
   controls.FoptDetailed.Click();
   EXPECT_TRUE(view.FoptDetailed);
-  EXPECT_EQ(actions.Redraws, 1);
+  EXPECT_EQ(actions.CountOf("redraw"), 1);
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 
 #include "geodesy/coordinate_texts.h"
 #include "map/map_view.h"
-#include "tests/doubles/recorder_surface.h"
+#include "tests/map/kilometre_window.h"
 
 namespace zepril {
 namespace {
@@ -22,17 +22,8 @@ using Operation = RecorderSurface::Operation;
 
 constexpr Colour kYellow = 0x00E0FF;
 
-// A window in which pixel (x, y) is at km (1000 - y, x): one pixel a kilometre.
-struct PlaceWindow {
-  explicit PlaceWindow(int level = 2) : Surface(800, 600) {
-    View.ViewWidthPx = 800;
-    View.ViewHeightPx = 600;
-    View.MapTileKm = 1000.0;
-    View.CentreNorthKm = 701.0;
-    View.CentreEastKm = 400.0;
-    View.PoiLevel = level;
-    ComputeViewEdges(View);
-  }
+struct PlaceWindow : KilometreWindow {
+  explicit PlaceWindow(int level = 2) { View.PoiLevel = level; }
   void Add(double x, double y, const std::string& name) {
     const PositionTexts at = FormatPoiPositionTexts(1000.0 - y, x);
     Places.Append("\xFE" + at.North + at.East + "  " + name);
@@ -43,8 +34,6 @@ struct PlaceWindow {
     return Surface.Operations;
   }
 
-  RecorderSurface Surface;
-  MapViewState View;
   PointList Places{30010, 1024};
 };
 

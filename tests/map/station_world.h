@@ -10,30 +10,17 @@
 
 #include "map/all_stations_layer.h"
 #include "map/map_view.h"
+#include "tests/map/kilometre_window.h"
 #include "tests/map/map_world.h"
 
 namespace zepril {
 
-inline RecorderSurface::Operation Filled(int x1, int y1, int x2, int y2, Colour colour) {
-  return {"filled", x1, y1, x2, y2, colour, {}, FontFace::Text, {}};
-}
-inline RecorderSurface::Operation Words(int x, int y, const std::string& text, Colour colour) {
-  return {"text", x, y, 0, 0, colour, text, FontFace::Text, {}};
-}
-inline RecorderSurface::Operation Line(int x1, int y1, int x2, int y2, Colour colour) {
-  return {"line", x1, y1, x2, y2, colour, {}, FontFace::Text, {}};
-}
-
-// A window in which pixel (x, y) is at km (1000 - y, x): one pixel a kilometre.
+// A pixel a kilometre.
 struct StationWorld : MapWorld {
   StationWorld() {
-    MapViewState& view = View();
-    view.MapTileKm = 1000.0;
-    view.CentreNorthKm = 701.0;
-    view.CentreEastKm = 400.0;
-    ComputeViewEdges(view);
-    EXPECT_DOUBLE_EQ(view.ViewNorthKm, 1000.0);
-    EXPECT_DOUBLE_EQ(view.ViewWestKm, 0.0);
+    ShowAPixelAKilometre(View());
+    EXPECT_DOUBLE_EQ(View().ViewNorthKm, 1000.0);
+    EXPECT_DOUBLE_EQ(View().ViewWestKm, 0.0);
   }
   static RecordMaker At(int x, int y, const std::string& call = "N0CALL",
                         const std::string& symbol = "/>") {

@@ -12,7 +12,7 @@
 #include "map/line_batch.h"
 #include "map/map_colours.h"
 #include "map/map_view.h"
-#include "tests/doubles/recorder_surface.h"
+#include "tests/map/kilometre_window.h"
 
 namespace zepril {
 namespace {
@@ -22,26 +22,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using Operation = RecorderSurface::Operation;
 
-Operation Line(int x1, int y1, int x2, int y2, Colour colour) {
-  return {"line", x1, y1, x2, y2, colour, {}, FontFace::Text, {}};
-}
-Operation Filled(int x1, int y1, int x2, int y2, Colour colour) {
-  return {"filled", x1, y1, x2, y2, colour, {}, FontFace::Text, {}};
-}
-Operation Words(int x, int y, const std::string& text, Colour colour) {
-  return {"text", x, y, 0, 0, colour, text, FontFace::Text, {}};
-}
-
-// A window in which pixel (x, y) is at km (1000 - y, x): one pixel a kilometre.
-struct TrackWindow {
-  TrackWindow() : Surface(800, 600) {
-    View.ViewWidthPx = 800;
-    View.ViewHeightPx = 600;
-    View.MapTileKm = 1000.0;
-    View.CentreNorthKm = 701.0;
-    View.CentreEastKm = 400.0;
-    ComputeViewEdges(View);
-  }
+struct TrackWindow : KilometreWindow {
   void Add(double x, double y, const std::string& text = "") {
     const PositionTexts at = FormatGpsPositionTexts(1000.0 - y, x);
     Track.Append("\xFE" + at.North + at.East + text);
@@ -52,8 +33,6 @@ struct TrackWindow {
     return Surface.Operations;
   }
 
-  RecorderSurface Surface;
-  MapViewState View;
   PointList Track{1000000, 256};
 };
 

@@ -10,20 +10,13 @@
 #include "station/station_program.h"
 #include "tests/doubles/fake_serial.h"
 #include "tests/doubles/fake_socket.h"
+#include "tests/doubles/recorded_desktop.h"
 #include "tests/doubles/recorded_surfaces.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/temp_folder.h"
 #include "tests/doubles/virtual_clock.h"
 
 namespace zepril {
-
-class FakeDesktop final : public DesktopActions {
- public:
-  bool MainWindowActive() const override { return true; }
-  bool WindowExists(const std::string&) const override { return false; }
-  void Open(const std::string&) override {}
-  bool MovePointerOnMap(int, int) override { return false; }
-};
 
 class StationHarness : public RecordedSurfaces {
  public:
@@ -89,7 +82,7 @@ class StationHarness : public RecordedSurfaces {
   NativeFiles files{folder.Path()};
   VirtualClock clock{{2024, 1, 15, 12, 34, 0}};
   ScriptedDialogs dialogs;
-  FakeDesktop desktop;
+  RecordedDesktop desktop;
   FakeSocket socket;
   FakeSerial modem;
   std::unique_ptr<StationProgram> program;

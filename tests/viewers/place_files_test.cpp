@@ -9,9 +9,7 @@
 
 #include "core/text_fields.h"
 #include "platform/native/native_files.h"
-#include "tests/doubles/memory_files.h"
-#include "tests/doubles/recorded_progress.h"
-#include "tests/doubles/scripted_dialogs.h"
+#include "tests/doubles/point_files_world.h"
 #include "tests/doubles/temp_folder.h"
 
 namespace zepril {
@@ -25,33 +23,9 @@ constexpr const char* kHut = "\xFE 5378.123  412.345  HUT";
 constexpr const char* kLake = "\xFE 5380.000-  10.517  LAKE";
 constexpr const char* kPeak = "\xFE 5390.000  400.000 PEAK {www.example.org}";
 
-std::string Lines(const std::vector<std::string>& lines) {
-  std::string text;
-  for (const std::string& line : lines)
-    text += line + "\r\n";
-  return text;
-}
-
-// The joins upward, written down.
-class Joins final : public MapActions, public SettingsActions, public DesktopActions {
- public:
-  void MapRedraw() override { Calls.push_back("redraw"); }
-  void MapRefresh() override { Calls.push_back("refresh"); }
-  void WriteConfigFromMainWindow() override { Calls.push_back("save"); }
-  void ReplaceConfigLine(const std::string& key, const std::string&) override {
-    Calls.push_back("replace " + key);
-  }
-  bool MainWindowActive() const override { return true; }
-  bool WindowExists(const std::string&) const override { return false; }
-  void Open(const std::string& what) override { Calls.push_back("open " + what); }
-  bool MovePointerOnMap(int, int) override { return false; }
-  std::vector<std::string> Calls;
-};
-
-struct PlaceWorld {
+struct PlaceWorld : PointFilesWorld {
   explicit PlaceWorld(Files& disk)
       : Room(Identity, View, Settings, Places, Controls, Map, {disk, Boxes, Up, Up, Up, LongWork}) {
-    Identity.MapSystemFolder = R"(C:\Z\U33)";
     View.CentreNorthKm = 5378.123;
     View.CentreEastKm = 412.345;
     Controls.PoiPanel.Visible = false;
@@ -60,7 +34,7 @@ struct PlaceWorld {
   PlaceWorld() : PlaceWorld(Disk) {}
   // With the file HUTS of these lines loaded.
   explicit PlaceWorld(const std::vector<std::string>& lines) : PlaceWorld() {
-    Put("HUTS.POI", Lines(lines));
+    Put("HUTS.POI", FileOf(lines));
     Settings.PoiFile = "HUTS";
     Room.RestoreAtStart();
   }
@@ -68,35 +42,15 @@ struct PlaceWorld {
   static std::string PathOf(const std::string& name) { return R"(C:\Z\U33\POI\)" + name; }
   void Put(const std::string& name, const std::string& text) { Disk.Contents[PathOf(name)] = text; }
   std::string File(const std::string& name = "HUTS.POI") const { return Disk.Of(PathOf(name)); }
-  void Choose(const std::string& name) {
-    for (std::size_t i = 0; i < Controls.Combo2.Items.size(); ++i) {
-      if (Controls.Combo2.Items[i] == name) Controls.Combo2.Select(static_cast<int>(i));
-    }
-    Controls.Combo2.Change();
-  }
-  void Type(const std::string& name) {
-    Controls.Combo2.Text.clear();
-    for (char c : name) {
-      Controls.Combo2.Text += c;
-      Controls.Combo2.Change();
-    }
-  }
+  void Choose(const std::string& name) { ChooseIn(Controls.Combo2, name); }
+  void Type(const std::string& name) { TypeIn(Controls.Combo2, name); }
   void Enter() { Controls.Combo2.KeyDown({13, 0}); }
   void Name(const std::string& text) {
     Controls.Text4.Text = text;
     Controls.Text4.Change();
   }
 
-  MemoryFiles Disk;
-  IdentityState Identity;
-  MapViewState View;
-  SettingsState Settings;
-  PlacesState Places;
   PlaceControls Controls;
-  MapControls Map;
-  ScriptedDialogs Boxes;
-  Joins Up;
-  RecordedProgress LongWork;
   PlaceFiles Room;
 };
 
@@ -129,7 +83,7 @@ TEST(PlaceStart, AFileThatHasGoneIsSilentlyEmptyAndItsNameStays) {
 
 TEST(PlaceChoice, LoadsSavesAndDrawsWhenPlacesAreShown) {
   PlaceWorld world({kHut});
-  world.Put("LAKES.POI", Lines({kLake, kLake}));
+  world.Put("LAKES.POI", FileOf({kLake, kLake}));
   world.Room.ListPoiFiles();
   world.Choose("LAKES");
   EXPECT_EQ(world.Settings.PoiFile, "LAKES");
@@ -142,7 +96,7 @@ TEST(PlaceChoice, LoadsSavesAndDrawsWhenPlacesAreShown) {
 
 TEST(PlaceChoice, OfTheNameThatIsHeldInAnyCaseReadsNothing) {
   PlaceWorld world({kHut});
-  world.Put("HUTS.POI", Lines({kHut, kLake}));
+  world.Put("HUTS.POI", FileOf({kHut, kLake}));
   world.Controls.Combo2.Text = "huts";
   world.Room.SelectPoiFile();
   EXPECT_EQ(world.Places.PoiPoints.Count(), 1);
@@ -164,7 +118,7 @@ TEST(PlaceChoice, AFieldThatIsEmptiedForTypingStaysEmpty) {
 
 TEST(PlaceChoice, AnUnreadableFileLeavesSelectionAndPlaces) {
   PlaceWorld world({kHut});
-  world.Put("BAD.POI", Lines({kLake, kLake}));
+  world.Put("BAD.POI", FileOf({kLake, kLake}));
   world.Room.ListPoiFiles();
   world.Disk.UnreadableEnding = "BAD.POI";
   world.Boxes.Expect("ZEP RIL", "The place file BAD can't be read.");
@@ -176,7 +130,7 @@ TEST(PlaceChoice, AnUnreadableFileLeavesSelectionAndPlaces) {
 
 TEST(PlaceChoice, ClosesThePanelOfAPlaceOfTheFileBefore) {
   PlaceWorld world({kHut});
-  world.Put("LAKES.POI", Lines({kLake}));
+  world.Put("LAKES.POI", FileOf({kLake}));
   world.Room.ListPoiFiles();
   world.Room.EditPlace(1);
   world.Choose("LAKES");
@@ -186,7 +140,7 @@ TEST(PlaceChoice, ClosesThePanelOfAPlaceOfTheFileBefore) {
 
 TEST(PlaceChoice, KeepsANewPlaceThatIsBeingTyped) {
   PlaceWorld world({kHut});
-  world.Put("LAKES.POI", Lines({kLake}));
+  world.Put("LAKES.POI", FileOf({kLake}));
   world.Room.ListPoiFiles();
   world.Controls.PoiNew.Click();
   world.Name("CABIN");
@@ -215,10 +169,10 @@ TEST(PlaceCreation, ARightClickMakesTheFileToo) {
 
 TEST(PlaceCreation, OfAFileThatIsThereKeepsItsPlaces) {
   PlaceWorld world;
-  world.Put("HUTS.POI", Lines({kHut}));
+  world.Put("HUTS.POI", FileOf({kHut}));
   world.Type("huts");
   world.Enter();
-  EXPECT_EQ(world.File(), Lines({kHut}));
+  EXPECT_EQ(world.File(), FileOf({kHut}));
   EXPECT_EQ(world.Places.PoiPoints.Count(), 1);
 }
 
@@ -295,7 +249,7 @@ TEST(PlacePanel, ShowsThePlaceThatWasPicked) {
   EXPECT_EQ(world.Places.PoiEditIndex, 1);
   EXPECT_TRUE(world.Controls.Command64.Visible);
   EXPECT_FALSE(world.Controls.Command67.Visible);
-  EXPECT_EQ(world.File(), Lines({kHut, kPeak}));
+  EXPECT_EQ(world.File(), FileOf({kHut, kPeak}));
 }
 
 TEST(PlacePanel, APlaceThatIsNotThereDoesNothing) {
@@ -313,7 +267,7 @@ TEST(PlacePanel, ClosedLeavesEverything) {
   world.Controls.PoiClose.Click();
   EXPECT_FALSE(world.Controls.PoiPanel.Visible);
   EXPECT_EQ(world.Places.PoiEditIndex, 0);
-  EXPECT_EQ(world.File(), Lines({kHut}));
+  EXPECT_EQ(world.File(), FileOf({kHut}));
   EXPECT_THAT(world.Up.Calls, IsEmpty());
 }
 
@@ -344,7 +298,7 @@ TEST(PlaceEdit, ANewPlaceStandsAtTheMapCentreWithItsNameInColumn22) {
   world.Controls.PoiNew.Click();
   world.Name("  HUT ");
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({kLake, "\xFE 5378.123  412.345  HUT"}));
+  EXPECT_EQ(world.File(), FileOf({kLake, "\xFE 5378.123  412.345  HUT"}));
   EXPECT_EQ(world.File().find("HUT") - world.File().rfind('\xFE') + 1, 22u);
   EXPECT_EQ(world.Places.PoiPoints.Count(), 2);
   EXPECT_EQ(world.Places.PoiPoints.Name(2), "HUT");
@@ -367,7 +321,7 @@ TEST(PlaceEdit, ANewPlaceWithoutANameWritesNothing) {
   world.Controls.PoiNew.Click();
   world.Name("   ");
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({kLake, "rubbish"}));
+  EXPECT_EQ(world.File(), FileOf({kLake, "rubbish"}));
   EXPECT_TRUE(world.Controls.PoiPanel.Visible);
 }
 
@@ -378,7 +332,7 @@ TEST(PlaceEdit, ANewPlaceWestOfTheGridKeepsItsColumns) {
   world.Controls.PoiNew.Click();
   world.Name("FAR");
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({kHut, "\xFE-    .  1           FAR"}));
+  EXPECT_EQ(world.File(), FileOf({kHut, "\xFE-    .  1           FAR"}));
   EXPECT_DOUBLE_EQ(world.Places.PoiPoints.NorthKm(2), -0.001);
   EXPECT_EQ(world.Places.PoiPoints.EastKm(2), 0.0);
 }
@@ -388,7 +342,7 @@ TEST(PlaceEdit, ARenamedPlaceKeepsTwentyColumnsAndHasItsNameInColumn21) {
   world.Room.EditPlace(2);
   world.Name(" CABIN ");
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({kLake, "\xFE 5378.123  412.345 CABIN"}));
+  EXPECT_EQ(world.File(), FileOf({kLake, "\xFE 5378.123  412.345 CABIN"}));
   EXPECT_EQ(world.Places.PoiPoints.Name(2), "CABIN");
   EXPECT_EQ(world.Places.PoiEditIndex, 0);
 }
@@ -399,7 +353,7 @@ TEST(PlaceEdit, ARenamedPlaceMovesWithTheMapCentre) {
   world.View.CentreNorthKm = 5400.5;
   world.Name("CABIN");
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({"\xFE 5400.500  412.345 CABIN", kLake}));
+  EXPECT_EQ(world.File(), FileOf({"\xFE 5400.500  412.345 CABIN", kLake}));
 }
 
 TEST(PlaceEdit, AMapThatFollowsAStationMovesNoPlace) {
@@ -409,7 +363,7 @@ TEST(PlaceEdit, AMapThatFollowsAStationMovesNoPlace) {
   world.View.CentreNorthKm = 5400.5;
   world.Name("CABIN");
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({"\xFE 5378.123  412.345 CABIN", kLake}));
+  EXPECT_EQ(world.File(), FileOf({"\xFE 5378.123  412.345 CABIN", kLake}));
 }
 
 TEST(PlaceEdit, AnEmptyNameRemovesThePlaceOnceConfirmed) {
@@ -420,7 +374,7 @@ TEST(PlaceEdit, AnEmptyNameRemovesThePlaceOnceConfirmed) {
   world.Controls.PoiOk.Click();
   EXPECT_EQ(world.Boxes.LastButtons, DialogButtons::OkCancel);
   EXPECT_EQ(world.Boxes.LastDefault, DialogAnswer::Cancel);
-  EXPECT_EQ(world.File(), Lines({kHut, kPeak}));
+  EXPECT_EQ(world.File(), FileOf({kHut, kPeak}));
   EXPECT_EQ(world.Places.PoiPoints.Count(), 2);
   EXPECT_FALSE(world.Controls.PoiPanel.Visible);
 }
@@ -432,7 +386,7 @@ TEST(PlaceEdit, ARemovalThatIsNotConfirmedLeavesEverything) {
   world.Boxes.Expect("ZEP RIL", "REMOVE THE PLACE  LAKE  FROM THE FILE HUTS?",
                      DialogAnswer::Cancel);
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({kHut, kLake}));
+  EXPECT_EQ(world.File(), FileOf({kHut, kLake}));
   EXPECT_EQ(world.Controls.Text4.Text, "LAKE");
   EXPECT_TRUE(world.Controls.PoiPanel.Visible);
   EXPECT_EQ(world.Places.PoiEditIndex, 2);
@@ -444,7 +398,7 @@ TEST(PlaceEdit, TheWriteDropsLinesThatAreNoPlaces) {
   world.Controls.PoiNew.Click();
   world.Name("NEW");
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({kHut, kLake, "\xFE 5378.123  412.345  NEW"}));
+  EXPECT_EQ(world.File(), FileOf({kHut, kLake, "\xFE 5378.123  412.345  NEW"}));
   EXPECT_EQ(world.Places.PoiPoints.Count(), 3);
 }
 
@@ -476,7 +430,7 @@ TEST(PlaceEdit, ARefusedWriteIsToldAndLosesNothing) {
   world.Name("CABIN");
   world.Boxes.Expect("ZEP RIL", "The place file HUTS can't be written.  NOTHING WAS CHANGED.");
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({kHut, kLake}));
+  EXPECT_EQ(world.File(), FileOf({kHut, kLake}));
   EXPECT_EQ(world.Places.PoiPoints.Name(2), "LAKE");
   EXPECT_EQ(world.Controls.Text4.Text, "CABIN");
   EXPECT_TRUE(world.Controls.PoiPanel.Visible);
@@ -500,28 +454,28 @@ TEST(PlaceEdit, AFileThatHasGoneIsMadeAnew) {
   world.Controls.PoiNew.Click();
   world.Name("NEW");
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({kHut, "\xFE 5378.123  412.345  NEW"}));
+  EXPECT_EQ(world.File(), FileOf({kHut, "\xFE 5378.123  412.345  NEW"}));
 }
 
 TEST(PlaceEdit, WhatAnotherProgramHasWrittenIsNotOverwrittenUnasked) {
   PlaceWorld world({kHut});
-  world.Put("HUTS.POI", Lines({kHut, kLake}));
+  world.Put("HUTS.POI", FileOf({kHut, kLake}));
   world.Room.EditPlace(1);
   world.Name("CABIN");
   const std::string question =
       "The file HUTS on the disk is no longer the one that was read.  WRITE OVER IT?";
   world.Boxes.Expect("ZEP RIL", question, DialogAnswer::Cancel);
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({kHut, kLake}));
+  EXPECT_EQ(world.File(), FileOf({kHut, kLake}));
   EXPECT_EQ(world.Places.PoiPoints.Count(), 2);  // what is there now counts
   EXPECT_FALSE(world.Controls.PoiPanel.Visible);
 
-  world.Put("HUTS.POI", Lines({kLake}));
+  world.Put("HUTS.POI", FileOf({kLake}));
   world.Room.EditPlace(1);
   world.Name("CABIN");
   world.Boxes.Expect("ZEP RIL", question, DialogAnswer::Ok);
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({"\xFE 5378.123  412.345 CABIN", kLake}));
+  EXPECT_EQ(world.File(), FileOf({"\xFE 5378.123  412.345 CABIN", kLake}));
 }
 
 TEST(PlaceEdit, AnIndexThatIsNotThereAddsNoRubbish) {
@@ -531,7 +485,7 @@ TEST(PlaceEdit, AnIndexThatIsNotThereAddsNoRubbish) {
   world.Controls.PoiOk.Click();
   world.Places.PoiEditIndex = 7;
   world.Controls.Command64.Click();
-  EXPECT_EQ(world.File(), Lines({kHut}));
+  EXPECT_EQ(world.File(), FileOf({kHut}));
 }
 
 // ---- Place to the map centre ----------------------------------------------------------------
@@ -543,13 +497,13 @@ TEST(PlaceToCentre, MovesThePlaceAtOnceAndKeepsItsName) {
   world.Name("TYPED");
   world.View.CentreNorthKm = 5400.5;
   world.Controls.Command64.Click();
-  EXPECT_EQ(world.File(), Lines({kLake, "\xFE 5400.500  412.345 PEAK {www.example.org}"}));
+  EXPECT_EQ(world.File(), FileOf({kLake, "\xFE 5400.500  412.345 PEAK {www.example.org}"}));
   EXPECT_TRUE(world.Controls.PoiPanel.Visible);
   EXPECT_EQ(world.Controls.Text4.Text, "TYPED");
   EXPECT_EQ(world.Places.PoiEditIndex, 2);  // the line that was no place is gone
   EXPECT_THAT(world.Up.Calls, ElementsAre("redraw"));
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({kLake, "\xFE 5400.500  412.345 TYPED"}));
+  EXPECT_EQ(world.File(), FileOf({kLake, "\xFE 5400.500  412.345 TYPED"}));
 }
 
 TEST(PlaceToCentre, ThatCannotBeWrittenLeavesThePlace) {
@@ -558,7 +512,7 @@ TEST(PlaceToCentre, ThatCannotBeWrittenLeavesThePlace) {
   world.Disk.RefusedEnding = ".POI";
   world.Boxes.Expect("ZEP RIL", "The place file HUTS can't be written.  NOTHING WAS CHANGED.");
   world.Controls.Command64.Click();
-  EXPECT_EQ(world.File(), Lines({kLake}));
+  EXPECT_EQ(world.File(), FileOf({kLake}));
   EXPECT_DOUBLE_EQ(world.Places.PoiPoints.EastKm(1), -10.517);
 }
 
@@ -566,7 +520,7 @@ TEST(PlaceToCentre, OfALineWithoutANameClosesThePanel) {
   PlaceWorld world({"\xFE 5378.123  412.345", kLake});
   world.Room.EditPlace(1);
   world.Controls.Command64.Click();
-  EXPECT_EQ(world.File(), Lines({kLake}));
+  EXPECT_EQ(world.File(), FileOf({kLake}));
   EXPECT_FALSE(world.Controls.PoiPanel.Visible);
   EXPECT_EQ(world.Places.PoiEditIndex, 0);
 }
@@ -624,7 +578,7 @@ TEST(PlaceLimits, AnAddToAFullTableLeavesTheFile) {
   world.Name("ONE MORE");
   world.Boxes.Expect("ZEP RIL", "There is no room for another place.");
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(world.File(), Lines({kHut}));
+  EXPECT_EQ(world.File(), FileOf({kHut}));
   EXPECT_EQ(world.Controls.Text4.Text, "ONE MORE");
 }
 
@@ -640,12 +594,12 @@ TEST(PlaceFile, IsReplacedWholeOnTheRealDisk) {
   world.Name("H\xDCTTE");
   world.Controls.PoiOk.Click();
   EXPECT_EQ(disk.ReadAll(R"(C:\Z\U33\POI\HUTS.POI)", 1000),
-            Lines({"\xFE 5378.123  412.345  H\xDCTTE"}));
+            FileOf({"\xFE 5378.123  412.345  H\xDCTTE"}));
   EXPECT_THAT(disk.List(R"(C:\Z\U33\POI)", "*.*"), SizeIs(1));  // nothing is left beside it
   world.Room.EditPlace(1);
   world.Name("HUT");
   world.Controls.PoiOk.Click();
-  EXPECT_EQ(disk.ReadAll(R"(C:\Z\U33\POI\HUTS.POI)", 1000), Lines({"\xFE 5378.123  412.345 HUT"}));
+  EXPECT_EQ(disk.ReadAll(R"(C:\Z\U33\POI\HUTS.POI)", 1000), FileOf({"\xFE 5378.123  412.345 HUT"}));
 }
 
 TEST(PlaceFile, AFolderInItsPlaceIsNeitherReadNorReplaced) {

@@ -1,0 +1,21 @@
+// A desktop on which the main window is in front; what is opened is written down.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/desktop_actions.h"
+
+namespace zepril {
+
+class RecordedDesktop final : public DesktopActions {
+ public:
+  bool MainWindowActive() const override { return true; }
+  bool WindowExists(const std::string&) const override { return false; }
+  void Open(const std::string& what) override { Opened.push_back(what); }
+  bool MovePointerOnMap(int, int) override { return false; }
+
+  std::vector<std::string> Opened;
+};
+
+}  // namespace zepril
