@@ -12,6 +12,7 @@
 #include "core/texts/file_troubles.h"
 #include "desktop/window_place.h"
 #include "map/symbol_sheets.h"
+#include "platform/code_page.h"
 #include "platform/qt/serial_devices.h"
 #include "platform/qt/text.h"
 #include "sample_maps/sample_maps.h"
@@ -145,7 +146,7 @@ void DesktopProgram::DrawMissingSampleMaps() {
   if (panel_->Controls.Text1.Text.empty()) return;
   files_->MakeFolder(target);
   worker_ =
-      std::make_unique<SampleMapWorker>(places_.DataFolder + "/maps", files_->NativePath(target));
+      std::make_unique<SampleMapWorker>(CodePageFromUtf8(places_.DataFolder) + "/maps", target);
   worker_->Progress = [this](int done, int total) {
     start_window_->ShowMapProgress(done, total);
     panel_->Controls.Command1.Enabled = done >= total;

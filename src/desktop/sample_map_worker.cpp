@@ -25,7 +25,7 @@ void SampleMapWorker::Begin() {
       });
       return wanted_.load();
     };
-    DrawSampleMaps(source_, target_, tell);
+    DrawSampleMaps(files_, source_, target_, tell);
     tell(1, 1);
   });
 }

@@ -8,11 +8,13 @@
 #include <string>
 #include <thread>
 
+#include "platform/native/native_files.h"
+
 namespace zepril {
 
 class SampleMapWorker final : public QObject {
  public:
-  // `source`: native folder of the map data; `target`: native folder of the scale folders.
+  // `source`: folder of the map data; `target`: that of the scale folders.
   SampleMapWorker(std::string source, std::string target);
   ~SampleMapWorker() override;  // ends early; whole tiles stay and the next run goes on
 
@@ -21,6 +23,7 @@ class SampleMapWorker final : public QObject {
   std::function<void(int done, int total)> Progress;
 
  private:
+  NativeFiles files_{DefaultDriveFolder()};  // the thread's own
   std::string source_;
   std::string target_;
   std::atomic<bool> wanted_ = true;

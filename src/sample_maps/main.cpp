@@ -5,6 +5,8 @@
 #include <cstdio>
 
 #include "core/text_fields.h"
+#include "platform/code_page.h"
+#include "platform/native/native_files.h"
 #include "sample_maps/sample_maps.h"
 
 int main(int argc, char** argv) {
@@ -12,8 +14,10 @@ int main(int argc, char** argv) {
     std::fputs("usage: make_sample_maps <source data dir> <target dir>\n", stderr);
     return 2;
   }
-  const zepril::SampleMapsResult result =
-      zepril::DrawSampleMaps(argv[1], argv[2], [](int done, int total) {
+  zepril::NativeFiles files(zepril::DefaultDriveFolder());
+  const zepril::SampleMapsResult result = zepril::DrawSampleMaps(
+      files, zepril::CodePageFromUtf8(argv[1]), zepril::CodePageFromUtf8(argv[2]),
+      [](int done, int total) {
         std::fputs((zepril::WholeNumber(done) + "/" + zepril::WholeNumber(total) + "\n").c_str(),
                    stdout);
         std::fflush(stdout);

@@ -3,10 +3,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
-#include <iterator>
 #include <limits>
 #include <string_view>
+#include <utility>
 
 #include "core/text_fields.h"
 #include "geodesy/conversions.h"
@@ -22,12 +21,6 @@ struct Degrees {
   double Lon = 0, Lat = 0;
 };
 using Arc = std::vector<Degrees>;
-
-std::optional<std::string> ReadFile(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  return std::string{std::istreambuf_iterator<char>(file), {}};
-}
 
 // Cuts a text into words, without keeping them.
 class WordReader {
@@ -303,30 +296,46 @@ bool TakeLetter(std::string_view line, MapData& data) {
   return true;
 }
 
-template <typename Take>
-bool ReadLines(const std::filesystem::path& path, std::string& fault, Take take) {
-  const auto text = ReadFile(path);
-  if (text && EachLine(*text, take)) return true;
-  fault = path.filename().string();
-  return false;
-}
+// The files of map data in their folder.
+class MapDataFiles {
+ public:
+  MapDataFiles(const Files& files, std::string source)
+      : files_(files), source_(std::move(source)) {}
+
+  // False, with `fault` naming the file, when it is missing or a line is not understood.
+  template <typename Take>
+  bool Read(const std::string& name, std::string& fault, Take take) const {
+    const auto text = files_.ReadAll(source_ + "/" + name, kLargestFile);
+    if (text && EachLine(*text, take)) return true;
+    fault = name;
+    return false;
+  }
+
+ private:
+  static constexpr std::size_t kLargestFile = 256u << 20;
+
+  const Files& files_;
+  std::string source_;
+};
 
 }  // namespace
 
-std::optional<MapData> ReadMapData(const std::filesystem::path& source, std::string& fault) {
+std::optional<MapData> ReadMapData(const Files& files, const std::string& source,
+                                   std::string& fault) {
+  const MapDataFiles folder(files, source);
   MapData data;
   LandReader land(data);
   const auto line_to = [&](auto& places) {
     return [&places](std::string_view line) { return TakePlace(line, places); };
   };
-  const bool good = ReadLines(source / "europe.txt", fault,
-                              [&](std::string_view line) { return land.TakeLine(line); }) &&
-                    ReadLines(source / "lakes.txt", fault,
-                              [&](std::string_view line) { return TakeLake(line, data.Land); }) &&
-                    ReadLines(source / "towns.txt", fault, line_to(data.Towns)) &&
-                    ReadLines(source / "waters.txt", fault, line_to(data.Waters)) &&
-                    ReadLines(source / "letters.txt", fault,
-                              [&](std::string_view line) { return TakeLetter(line, data); });
+  const bool good = folder.Read("europe.txt", fault,
+                                [&](std::string_view line) { return land.TakeLine(line); }) &&
+                    folder.Read("lakes.txt", fault,
+                                [&](std::string_view line) { return TakeLake(line, data.Land); }) &&
+                    folder.Read("towns.txt", fault, line_to(data.Towns)) &&
+                    folder.Read("waters.txt", fault, line_to(data.Waters)) &&
+                    folder.Read("letters.txt", fault,
+                                [&](std::string_view line) { return TakeLetter(line, data); });
   if (!good) return std::nullopt;
   return data;
 }

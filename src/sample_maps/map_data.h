@@ -3,10 +3,11 @@
 
 #include <array>
 #include <cstdint>
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "platform/files.h"
 
 namespace zepril {
 
@@ -41,6 +42,7 @@ struct MapData {
 // Reads the five files of `source`. Nothing, with `fault` naming the file, when one is missing or
 // not understood. Land is cut off 90 degrees from the middle of the zone and 5 degrees south of
 // the equator, where the grid ends to make sense.
-std::optional<MapData> ReadMapData(const std::filesystem::path& source, std::string& fault);
+std::optional<MapData> ReadMapData(const Files& files, const std::string& source,
+                                   std::string& fault);
 
 }  // namespace zepril

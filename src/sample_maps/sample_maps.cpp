@@ -1,7 +1,7 @@
 // The scales that are drawn, and the tiles of each in their order.
 #include "sample_maps/sample_maps.h"
 
-#include <system_error>
+#include <exception>
 
 #include "sample_maps/labels.h"
 #include "sample_maps/map_data.h"
@@ -29,23 +29,25 @@ constexpr ScaleFolder kFolders[] = {
     {"M1000RELIEF", 1000, 4000, 7000, -2000, 2000, 3, 3, {true, 0, 0, true}},
 };
 
-std::filesystem::path BeingDrawn(const std::filesystem::path& target, const ScaleFolder& folder) {
-  return target / (std::string(kFolderBeingDrawn) + folder.Name);
+std::string Named(const std::string& target, const ScaleFolder& folder) {
+  return target + "/" + folder.Name;
+}
+
+std::string BeingDrawn(const std::string& target, const ScaleFolder& folder) {
+  return target + "/" + kFolderBeingDrawn + folder.Name;
 }
 
 class Drawing {
  public:
-  Drawing(const MapData& data, const SampleMapsProgress& progress)
-      : data_(data), progress_(progress) {
+  Drawing(Files& files, const MapData& data, const SampleMapsProgress& progress)
+      : files_(files), data_(data), progress_(progress) {
     for (const ScaleFolder& folder : kFolders)
       total_ += folder.Count();
   }
 
-  bool DrawFolder(const ScaleFolder& folder, const std::filesystem::path& path) {
-    std::error_code error;
-    std::filesystem::create_directories(path, error);
-    if (error) {
-      result_.Fault = path.string();
+  bool DrawFolder(const ScaleFolder& folder, const std::string& path) {
+    if (!files_.MakeFolder(path)) {
+      result_.Fault = path;
       return false;
     }
     const Labels labels = PlaceLabels(data_, folder.SideKm / static_cast<double>(kSampleTilePixels),
@@ -63,21 +65,22 @@ class Drawing {
 
  private:
   bool DrawTile(const ScaleFolder& folder, const SampleTile& place, const Labels& labels,
-                const Palette& palette, const std::filesystem::path& path) {
-    const std::filesystem::path file = path / TileName(place.NorthKm, place.EastKm);
-    const std::uintmax_t size = folder.Style.Relief ? kTileBytes8 : kTileBytes4;
-    std::error_code error;
-    if (std::filesystem::file_size(file, error) == size && !error) {
+                const Palette& palette, const std::string& path) {
+    const std::string file = path + "/" + TileName(place.NorthKm, place.EastKm);
+    const std::int64_t size = folder.Style.Relief ? kTileBytes8 : kTileBytes4;
+    const auto stamp = files_.Stamp(file);
+    if (stamp && stamp->IsRegular && stamp->Size == size) {
       ++result_.Kept;
-    } else if (WriteTile(file, PaintTile(data_, labels, place, folder.Style), palette)) {
+    } else if (WriteTile(files_, file, PaintTile(data_, labels, place, folder.Style), palette)) {
       ++result_.Drawn;
     } else {
-      result_.Fault = file.string();
+      result_.Fault = file;
       return false;
     }
     return !progress_ || progress_(result_.Drawn + result_.Kept, total_);
   }
 
+  Files& files_;
   const MapData& data_;
   const SampleMapsProgress& progress_;
   int total_ = 0;
@@ -86,31 +89,28 @@ class Drawing {
 
 }  // namespace
 
-SampleMapsResult DrawSampleMaps(const std::filesystem::path& source,
-                                const std::filesystem::path& target,
+SampleMapsResult DrawSampleMaps(Files& files, const std::string& source, const std::string& target,
                                 const SampleMapsProgress& progress) try {
   SampleMapsResult result;
-  const auto data = ReadMapData(source, result.Fault);
+  const auto data = ReadMapData(files, source, result.Fault);
   if (!data) return result;
-  Drawing drawing(*data, progress);
-  std::error_code error;
+  Drawing drawing(files, *data, progress);
   for (const ScaleFolder& folder : kFolders) {
-    const bool stands = std::filesystem::exists(target / folder.Name, error);
-    const std::filesystem::path path = stands ? target / folder.Name : BeingDrawn(target, folder);
+    const bool stands = files.Exists(Named(target, folder));
+    const std::string path = stands ? Named(target, folder) : BeingDrawn(target, folder);
     if (!drawing.DrawFolder(folder, path)) return drawing.Result();
   }
   result = drawing.Result();
   for (const ScaleFolder& folder : kFolders) {
-    if (!std::filesystem::exists(BeingDrawn(target, folder), error)) continue;
-    std::filesystem::rename(BeingDrawn(target, folder), target / folder.Name, error);
-    if (error) {
-      result.Fault = (target / folder.Name).string();
+    if (!files.Exists(BeingDrawn(target, folder))) continue;
+    if (!files.Rename(BeingDrawn(target, folder), Named(target, folder))) {
+      result.Fault = Named(target, folder);
       return result;
     }
   }
   result.Complete = true;
   return result;
-} catch (const std::exception& error) {  // out of memory, or a path the system refuses
+} catch (const std::exception& error) {  // out of memory
   SampleMapsResult result;
   result.Fault = error.what();
   return result;

@@ -1,9 +1,10 @@
 // Draws a small map library of Europe, so that the program shows a map from its first start.
 #pragma once
 
-#include <filesystem>
 #include <functional>
 #include <string>
+
+#include "platform/files.h"
 
 namespace zepril {
 
@@ -25,8 +26,7 @@ inline constexpr const char* kFolderBeingDrawn = "NEW~";
 // there yet gets its name only when all are whole. Tiles that exist with the right size are left
 // alone, so work that was ended early goes on where it stopped. A tile appears under its name only
 // when it is whole. Takes a few seconds; throws nothing.
-SampleMapsResult DrawSampleMaps(const std::filesystem::path& source,
-                                const std::filesystem::path& target,
+SampleMapsResult DrawSampleMaps(Files& files, const std::string& source, const std::string& target,
                                 const SampleMapsProgress& progress);
 
 }  // namespace zepril

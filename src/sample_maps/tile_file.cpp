@@ -3,8 +3,6 @@
 
 #include <cmath>
 #include <cstdlib>
-#include <fstream>
-#include <system_error>
 
 #include "core/text_fields.h"
 
@@ -92,7 +90,7 @@ std::string TileName(int north_km, int east_km) {
   return NameField(north_km) + NameField(east_km) + ".BMP";
 }
 
-bool WriteTile(const std::filesystem::path& path, const std::vector<std::uint8_t>& pixels,
+bool WriteTile(Files& files, const std::string& path, const std::vector<std::uint8_t>& pixels,
                const Palette& palette) {
   const bool packed = palette.size() == 16;
   const int line = packed ? kSampleTilePixels / 2 : kSampleTilePixels;
@@ -105,17 +103,12 @@ bool WriteTile(const std::filesystem::path& path, const std::vector<std::uint8_t
     }
   }
   // A name that no scan for tiles takes up, whatever becomes of the work.
-  std::filesystem::path part = path;
-  part += ".unfinished";
-  std::ofstream file(part, std::ios::binary | std::ios::trunc);
-  file.write(text.data(), static_cast<std::streamsize>(text.size()));
-  file.close();
-  std::error_code error;
-  if (file.good()) {
-    std::filesystem::rename(part, path, error);
-    if (!error) return true;
+  const std::string part = path + ".unfinished";
+  if (files.Write(part, text)) {
+    files.Remove(path);
+    if (files.Rename(part, path)) return true;
   }
-  std::filesystem::remove(part, error);
+  files.Remove(part);
   return false;
 }
 

@@ -3,15 +3,16 @@
 
 #include <array>
 #include <cstdint>
-#include <filesystem>
 #include <string>
 #include <vector>
+
+#include "platform/files.h"
 
 namespace zepril {
 
 constexpr int kSampleTilePixels = 1000;
-constexpr std::uintmax_t kTileBytes4 = 54 + 64 + 500000;
-constexpr std::uintmax_t kTileBytes8 = 54 + 1024 + 1000000;
+constexpr std::int64_t kTileBytes4 = 54 + 64 + 500000;
+constexpr std::int64_t kTileBytes8 = 54 + 1024 + 1000000;
 
 // Inks of the 16-colour tiles. An ink means one thing in every tile of every scale.
 enum Ink : std::uint8_t {
@@ -45,7 +46,7 @@ std::string TileName(int north_km, int east_km);
 
 // Writes pixels (top row first, one index each) with 4 bits where the palette has 16 entries, else
 // 8. The file stands under a longer name until it is whole.
-bool WriteTile(const std::filesystem::path& path, const std::vector<std::uint8_t>& pixels,
+bool WriteTile(Files& files, const std::string& path, const std::vector<std::uint8_t>& pixels,
                const Palette& palette);
 
 }  // namespace zepril

@@ -208,6 +208,7 @@ TEST_F(DesktopProgramTest, SampleMapsAreGoneOnWithBesideFoldersThatAreNamed) {
 
 TEST(SampleMaps, TheFoldersGetTheirNamesWhenAllAreWhole) {
   const TempFolder folder;
+  NativeFiles files(folder.Path());
   const std::string source = std::string(ZEPRIL_SOURCE_DIR) + "/data/maps";
   const auto names = [&folder] {
     std::set<std::string> found;
@@ -216,16 +217,16 @@ TEST(SampleMaps, TheFoldersGetTheirNamesWhenAllAreWhole) {
     return found;
   };
   const SampleMapsResult first =
-      DrawSampleMaps(source, folder.Path(), [](int done, int) { return done < 3; });
+      DrawSampleMaps(files, source, "C:", [](int done, int) { return done < 3; });
   EXPECT_FALSE(first.Complete);
   EXPECT_EQ(names(), std::set<std::string>{"NEW~M1000"});
-  const SampleMapsResult second = DrawSampleMaps(source, folder.Path(), {});
+  const SampleMapsResult second = DrawSampleMaps(files, source, "C:", {});
   EXPECT_TRUE(second.Complete);
   EXPECT_EQ(second.Kept, 3);
   EXPECT_EQ(names(), (std::set<std::string>{"M0200", "M1000", "M1000RELIEF", "M5000"}));
   // Ended between two of the names.
   std::filesystem::rename(folder.Sub("M5000"), folder.Sub("NEW~M5000"));
-  EXPECT_TRUE(DrawSampleMaps(source, folder.Path(), {}).Complete);
+  EXPECT_TRUE(DrawSampleMaps(files, source, "C:", {}).Complete);
   EXPECT_EQ(names().count("M5000"), 1u);
 }
 
