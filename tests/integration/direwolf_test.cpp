@@ -19,8 +19,10 @@
 #include "platform/native/native_files.h"
 #include "platform/qt/qt_loop.h"
 #include "platform/qt/qt_socket.h"
+#include "platform/quiet_machine.h"
 #include "station/station_program.h"
 #include "tests/doubles/hurried_clock.h"
+#include "tests/doubles/noted_end.h"
 #include "tests/doubles/recorded_progress.h"
 #include "tests/doubles/recorded_surfaces.h"
 #include "tests/doubles/scripted_dialogs.h"
@@ -33,14 +35,6 @@ namespace {
 
 constexpr const char* kFolder = "C:\\ZEPRIL";
 constexpr double kPatience = 20.0;  // seconds for what a busy computer does in one
-
-class NoDesktop final : public DesktopActions {
- public:
-  bool MainWindowActive() const override { return false; }
-  bool WindowExists(const std::string&) const override { return false; }
-  void Open(const std::string&) override {}
-  bool MovePointerOnMap(int, int) override { return false; }
-};
 
 // A socket that finds the engine of the test whatever port is asked for: the engine on this
 // computer has a usual one.
@@ -201,7 +195,7 @@ class DirewolfTest : public EngineTest, protected RecordedSurfaces {
     return records;
   }
 
-  NoDesktop desktop;
+  QuietDesktop desktop;
   AbsentSerialPort modem;
   std::unique_ptr<StationProgram> program;
 };
@@ -292,11 +286,6 @@ TEST_F(DirewolfTest, TheWholeProgramHearsItFromTheStartWindowOn) {
 
 // ---- What is sent ----------------------------------------------------------------------------
 
-class NoProgram final : public ProgramActions {
- public:
-  void EndProgram() override {}
-};
-
 // The rooms through which a report goes out by an engine.
 class SendingTest : public EngineTest {
  protected:
@@ -343,7 +332,7 @@ class SendingTest : public EngineTest {
   WindowControls window;
   MapControls map;
   SymbolTable symbols;
-  NoProgram nobody;
+  NotedEnd nobody;
   AbsentSerialPort modem;
   HurriedClock hurried{loop, 20.0};  // for the pause behind each frame
   QtSocket unused;

@@ -11,17 +11,12 @@
 #include "links/agw_link.h"
 #include "links/agw_local.h"
 #include "tests/doubles/fake_socket.h"
+#include "tests/doubles/noted_end.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/virtual_clock.h"
 
 namespace zepril {
 namespace {
-
-class NoProgram final : public ProgramActions {
- public:
-  void EndProgram() override { Ended = true; }
-  bool Ended = false;
-};
 
 // A link to another computer's engine that stands.
 class WatchedLink : public ::testing::Test {
@@ -64,7 +59,7 @@ class WatchedLink : public ::testing::Test {
   FakeSocket socket;
   VirtualClock clock;
   ScriptedDialogs dialogs;
-  NoProgram program;
+  NotedEnd program;
   Timer looks{kLookMilliseconds};
   AgwLink link{radio, identity, transmission, socket, clock, dialogs, program, looks};
   std::vector<bool> changes;
@@ -264,7 +259,7 @@ class StartedLink : public ::testing::Test {
   FakeSocket socket;
   VirtualClock clock;
   ScriptedDialogs dialogs;
-  NoProgram program;
+  NotedEnd program;
   Timer looks{kLookMilliseconds};
   AgwLink link{radio, identity, transmission, socket, clock, dialogs, program, looks};
   AgwLocal local{radio, socket, clock, looks};

@@ -11,6 +11,7 @@
 #include "links/agw_local.h"
 #include "links/agw_stream.h"
 #include "tests/doubles/fake_socket.h"
+#include "tests/doubles/noted_end.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/virtual_clock.h"
 
@@ -177,12 +178,6 @@ TEST_F(AgwStreamTest, ASenselessHeaderIsHandedOnRawAndTheStreamStartsAfresh) {
   EXPECT_EQ(frames, (std::vector<std::string>{good}));
 }
 
-class ProgramDouble final : public ProgramActions {
- public:
-  void EndProgram() override { Ended = true; }
-  bool Ended = false;
-};
-
 class AgwLinkTest : public ::testing::Test {
  protected:
   AgwLinkTest() {
@@ -206,7 +201,7 @@ class AgwLinkTest : public ::testing::Test {
   FakeSocket socket;
   VirtualClock clock;
   ScriptedDialogs dialogs;
-  ProgramDouble program;
+  NotedEnd program;
   Timer reopen{kReopenMilliseconds};
   AgwLink link{radio, identity, transmission, socket, clock, dialogs, program, reopen};
 };

@@ -7,17 +7,13 @@
 #include "tests/doubles/fake_serial.h"
 #include "tests/doubles/fake_socket.h"
 #include "tests/doubles/memory_files.h"
+#include "tests/doubles/noted_end.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/virtual_clock.h"
 #include "tests/transmit/transmit_world.h"
 
 namespace zepril {
 namespace {
-
-class NoProgram final : public ProgramActions {
- public:
-  void EndProgram() override {}
-};
 
 class BeaconTest : public ::testing::Test {
  protected:
@@ -51,7 +47,7 @@ class BeaconTest : public ::testing::Test {
   FakeSerial port;
   VirtualClock clock{{2024, 6, 1, 1, 30, 0}};
   ScriptedDialogs boxes;
-  NoProgram program;
+  NotedEnd program;
   Timer reopen{kReopenMilliseconds};
   MemoryFiles files;
   SymbolTable symbols;
