@@ -75,7 +75,7 @@ void FieldStore::TakeHost(const PortTexts& typed) {
 bool FieldStore::TakeModem(const RadioInterface& chosen) {
   RadioState& radio = settings_.Radio;
   PortTexts& typed = *chosen.Texts;
-  const bool pk232 = chosen.Mode == RadioMode::Pk232;
+  const bool pk232 = chosen.Texts == &interfaces_.Pk232;
   const std::string speed(Trim(typed.Speed));
   if (!speed.empty()) (pk232 ? radio.TncBaud : radio.ScsBaud) = speed;
   const PortChoice choice = pk232 ? ChosenPort(typed, radio.TncPort, kUsualPk232Port, devices_)

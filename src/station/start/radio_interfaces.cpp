@@ -3,15 +3,17 @@
 
 #include <algorithm>
 
+#include "core/texts/status_texts.h"
+
 namespace zepril {
 
 RadioInterfaces::RadioInterfaces(StartPanelControls& controls)
-    : all_{{{&controls.Option1, RadioMode::Pk232, &Pk232},
-            {&controls.Option2, RadioMode::AgwLocal, nullptr},
-            {&controls.Option9, RadioMode::AgwRemote, &Host},
-            {&controls.Option10, RadioMode::None, nullptr},
-            {&controls.Option11, RadioMode::ScsTnc, &Scs},
-            {&controls.Option13, RadioMode::ScsPtc, &Scs}}} {}
+    : all_{{{&controls.Option1, RadioMode::Pk232, &Pk232, status_texts::kStartPk232},
+            {&controls.Option2, RadioMode::AgwLocal, nullptr, status_texts::kWorking},
+            {&controls.Option9, RadioMode::AgwRemote, &Host, status_texts::kWorking},
+            {&controls.Option10, RadioMode::None, nullptr, status_texts::kWorking},
+            {&controls.Option11, RadioMode::ScsTnc, &Scs, status_texts::kStartScsTnc},
+            {&controls.Option13, RadioMode::ScsPtc, &Scs, status_texts::kStartScsPtc}}} {}
 
 const RadioInterface& RadioInterfaces::Chosen() const {
   const auto found = std::find_if(all_.begin(), all_.end(),
@@ -33,10 +35,6 @@ void RadioInterfaces::Choose(const RadioInterface& chosen) {
 void RadioInterfaces::Enable(bool enabled) {
   for (const RadioInterface& one : all_)
     one.Option->Enabled = enabled;
-}
-
-bool HasFastSpeeds(RadioMode mode) {
-  return mode == RadioMode::ScsTnc || mode == RadioMode::ScsPtc;
 }
 
 }  // namespace zepril

@@ -5,7 +5,9 @@
 #include <string>
 
 #include "core/controls/start_panel_controls.h"
+#include "core/radio_rules.h"
 #include "core/state/radio.h"
+#include "core/texts/text.h"
 
 namespace zepril {
 
@@ -20,7 +22,8 @@ struct RadioInterface {
   OptionButton* Option;
   RadioMode Mode;
   PortTexts* Texts;  // null: it has no port
-  bool Serial() const { return Texts != nullptr && Mode != RadioMode::AgwRemote; }
+  Text Starting;     // START while it is under way: with a modem, how long its set-up takes
+  bool Serial() const { return IsSerialModem(Mode); }
 };
 
 class RadioInterfaces {
@@ -44,8 +47,5 @@ class RadioInterfaces {
  private:
   std::array<RadioInterface, 6> all_;
 };
-
-// 300R, 9600 and 19200 on the air.
-bool HasFastSpeeds(RadioMode mode);
 
 }  // namespace zepril

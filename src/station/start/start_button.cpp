@@ -16,20 +16,6 @@ namespace {
 constexpr std::size_t kShortestCall = 3;
 constexpr int kBarSteps = 1000;
 
-// START while it is under way: with a modem, how long its set-up takes.
-Text StartingCaption(RadioMode mode) {
-  switch (mode) {
-    case RadioMode::Pk232:
-      return status_texts::kStartPk232;
-    case RadioMode::ScsTnc:
-      return status_texts::kStartScsTnc;
-    case RadioMode::ScsPtc:
-      return status_texts::kStartScsPtc;
-    default:
-      return status_texts::kWorking;
-  }
-}
-
 }  // namespace
 
 StartButton::StartButton(StartPanelControls& controls, StartButtonParts parts,
@@ -51,7 +37,7 @@ void StartButton::Command1Click() {
     return;
   }
   // Shown at once, with nothing to be changed from here on.
-  controls_.Command1.Caption = StartingCaption(parts_.Interfaces.Chosen().Mode);
+  controls_.Command1.Caption = parts_.Interfaces.Chosen().Starting;
   EnableFields(false);
   machine_.LocalClock.HandOver();
   if (!parts_.Fields.Store()) {
