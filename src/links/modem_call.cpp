@@ -8,6 +8,7 @@ namespace {
 
 constexpr double kPollSeconds = 0.01;
 constexpr double kBreakSeconds = 0.5;
+constexpr double kLineFeedSeconds = 0.05;
 constexpr std::string_view kPrompt = "cmd:";
 
 std::string_view WithoutPrompts(std::string_view line) {
@@ -22,6 +23,13 @@ bool BelongsToTheTalk(const ModemKind& kind, std::string_view line, std::string_
   if (kind.AnswersWithEmptyLines && line.empty()) return true;
   return EqualFolded(bare, "MYCALL") || bare == "?What?" || bare == "*" ||
          (bare.empty() && line != bare);
+}
+
+// The first line with its end: CR LF, or one of them alone, as a modem's settings have it.
+std::size_t LengthOfLine(std::string_view text) {
+  const std::size_t end = text.find_first_of("\r\n");
+  if (end == std::string_view::npos) return text.size();
+  return text.substr(end).starts_with("\r\n") ? end + 2 : end + 1;
 }
 
 std::string_view BaseCall(std::string_view call) {
@@ -63,13 +71,11 @@ std::optional<std::string> TakeCallAnswer(const ModemKind& kind, std::string& te
   std::string rest;
   std::string_view left = text;
   while (!left.empty()) {
-    const std::size_t line_end = left.find('\n');
-    const std::string_view whole =
-        left.substr(0, line_end == std::string_view::npos ? line_end : line_end + 1);
+    const std::string_view whole = left.substr(0, LengthOfLine(left));
     left.remove_prefix(whole.size());
     const std::string_view line = whole.substr(0, whole.find_last_not_of("\r\n") + 1);
     const std::string_view bare = TrimRight(WithoutPrompts(line));
-    if (whole.ends_with('\n') && kind.CallIn(bare)) call = kind.CallIn(bare);
+    if (whole.size() > line.size() && kind.CallIn(bare)) call = kind.CallIn(bare);
     if (!BelongsToTheTalk(kind, line, bare)) rest += whole;
   }
   if (call) text = rest;
@@ -93,6 +99,10 @@ CallHeld AskForCall(const ModemKind& kind, std::string_view own, SerialPort& por
     call = TakeCallAnswer(kind, all);
     return call.has_value();
   });
+  // The LF of a line whose CR has come belongs to the answer.
+  if (text.ends_with('\r')) {
+    text += Listen(port, clock, kLineFeedSeconds, [](const std::string& t) { return !t.empty(); });
+  }
   TakeCallAnswer(kind, text);
   heard += text;
   // What follows waits in the modem's buffer until it has obeyed.

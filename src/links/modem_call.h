@@ -21,8 +21,8 @@ std::vector<std::string_view> WordsOf(std::string_view text);
 std::optional<std::string> CallOfMyCall(std::string_view line);
 
 // Takes the answer out of `text`, which the modem has printed since it was asked, with the echo of
-// the question and the prompts; what it heard on the air stays. Only a line that has its end
-// counts. Empty: no answer yet, and `text` is as it was.
+// the question and the prompts; what it heard on the air stays. Only a line that has its end (CR,
+// LF or both) counts. Empty: no answer yet, and `text` is as it was.
 std::optional<std::string> TakeCallAnswer(const ModemKind& kind, std::string& text);
 
 // Asks the modem on `port`, which is open, for its call, at most `kLongestAnswerSeconds`, in plain

@@ -43,6 +43,15 @@ TEST(TakeCallAnswerTest, WhatIsHeardOnTheAirStays) {
             std::pair(Call("QX7KB"), std::string("N0CALL>APRS <UI>:\r\n!tst\r\n")));
 }
 
+TEST(TakeCallAnswerTest, AModemMayEndItsLinesInOneCharacterAlone) {
+  EXPECT_EQ(Taken(RadioMode::Pk232, "\rcmd:MYCALL\rMYCALL    PK232\rcmd:").first, "PK232");
+  EXPECT_EQ(Taken(RadioMode::Pk232, "cmd:MYCALL\rMYCALL    PK232\r\ncmd:").first, "PK232");
+  EXPECT_EQ(Taken(RadioMode::ScsTnc, "* I NOCALL *\r").first, "NOCALL");
+  EXPECT_EQ(Taken(RadioMode::ScsPtc, "MYCALL\n*** MYCALL: NOCALL\n").first, "NOCALL");
+  EXPECT_EQ(Taken(RadioMode::ScsTnc, "fm N0CALL to APRS\r* I QX7KB *\r!tst\r"),
+            std::pair(Call("QX7KB"), std::string("fm N0CALL to APRS\r!tst\r")));
+}
+
 TEST(TakeCallAnswerTest, OtherWordsAreNoAnswerAndStay) {
   for (const char* text : {"* OK *\r\n", "* INVALID COMMAND: I *\r\n", "*\r\n", "**\r\n",
                            "* I QX7KB *", "MYCALL\r\n", "MYCALL now QX7KB\r\n", "\r\ncmd:", ""}) {
