@@ -205,7 +205,7 @@ void DesktopProgram::End(bool by_operator) {
   ending_ = true;
   // The stop itself waits as it must.
   loop_.AskForEnd(false);
-  loop_.ForgetPresses();
+  loop_.TakeNoMorePresses();
   loop_.ControlsOut = nullptr;
   loop_.StepEnded = nullptr;
   start_window_->Closed = nullptr;

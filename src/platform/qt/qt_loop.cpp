@@ -114,7 +114,13 @@ void QtLoop::RunKeptPress() {
   RunStep(first.Step);
 }
 
+void QtLoop::TakeNoMorePresses() {
+  deaf_ = true;
+  kept_.clear();
+}
+
 void QtLoop::Press(const void* control, Presses in_waits, const std::function<void()>& step) {
+  if (deaf_ || end_asked_) return;
   // Behind what is kept already, presses keep their order.
   const bool waits = !(depth_ > 0) && (late_ || !kept_.empty());
   if (!waits) return RunStep(step);

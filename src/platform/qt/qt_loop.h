@@ -43,9 +43,10 @@ class QtLoop final : public SystemClock {
   bool InStep() const { return depth_ > 0 || catching_up_; }
   // The operator has pressed `control`, which the step acts on. Null: every one of them acts.
   void Press(const void* control, Presses in_waits, const std::function<void()>& step);
-  // The program ends: what was pressed and has not acted yet never does.
-  void ForgetPresses() { kept_.clear(); }
-  // The program is to end: whoever waits for another machine gives up.
+  // The program ends: what was pressed and has not acted yet never does, nor what is pressed still.
+  void TakeNoMorePresses();
+  // The program is to end: whoever waits for another machine gives up. Nothing that is pressed from
+  // then on acts.
   void AskForEnd(bool asked) { end_asked_ = asked; }
   bool EndAsked() const override { return end_asked_; }
   // Runs `step` with all timers held, as while a box is open.
@@ -87,6 +88,7 @@ class QtLoop final : public SystemClock {
   bool late_ = false;  // a step has waited: what the operator did meanwhile has not all arrived
   bool catching_up_ = false;
   bool end_asked_ = false;
+  bool deaf_ = false;  // no press is taken any more
 };
 
 }  // namespace zepril

@@ -260,13 +260,34 @@ TEST_F(QtLoopTest, TheEndComesBeforeWhatIsKept) {
   });
   loop->StepEnded = [&] {
     // As the program does when it was asked to end.
-    if (arrived > 0) loop->ForgetPresses();
+    if (arrived > 0) loop->TakeNoMorePresses();
   };
   loop->RunStep([&] {
     hand.Do();
     loop->Wait(kShort);
   });
   EXPECT_TRUE(PumpUntil([&] { return arrived == 1; }));
+  for (int turn = 0; turn < 5; ++turn)
+    QCoreApplication::processEvents();
+  EXPECT_EQ(acted, 0);
+}
+
+TEST_F(QtLoopTest, NothingThatIsPressedBehindTheWishToEndActs) {
+  int acted = 0;
+  const int control = 0;
+  Hand hand([&] { loop->Press(&control, Presses::OneKept, [&] { ++acted; }); });
+  loop->AskForEnd(true);
+  loop->RunStep([&] {
+    hand.Do();
+    loop->WaitPumping(kShort);
+  });
+  // The last steps of the program wait as they must, with windows that still hear.
+  loop->AskForEnd(false);
+  loop->TakeNoMorePresses();
+  loop->RunStep([&] {
+    hand.Do();
+    loop->WaitPumping(kShort);
+  });
   for (int turn = 0; turn < 5; ++turn)
     QCoreApplication::processEvents();
   EXPECT_EQ(acted, 0);
