@@ -1,6 +1,8 @@
 // Opens, watches and closes the socket, and takes its bytes to frames.
 #include "links/agw_connection.h"
 
+#include <utility>
+
 #include "links/agw_frame.h"
 
 namespace zepril {
@@ -76,10 +78,14 @@ void AgwConnection::Arrived(std::string_view bytes) {
   stream_.Feed(bytes);
   // Another frame has begun.
   if (!began_before || stream_.PendingBytes() < waiting) begun_at_ = fed_at_;
+  if (std::exchange(refused_, false)) Lose();
 }
 
 void AgwConnection::FrameArrived(std::string_view frame) {
   pulse_.Heard();
+  // The stream is in the middle of its bytes: the link is dropped behind them.
+  if (watched_ && Refuses && Refuses(frame)) refused_ = true;
+  if (refused_) return;
   if (watched_ && !up_) {
     up_ = true;
     if (Changed) Changed();
@@ -89,6 +95,7 @@ void AgwConnection::FrameArrived(std::string_view frame) {
 
 void AgwConnection::Look() {
   if (!watched_) return;
+  if (Looked) Looked();
   const double now = clock_.MonotonicSeconds();
   const bool stands = now - fed_at_ >= kHalfFrameSeconds || now - begun_at_ >= kLongestFrameSeconds;
   if (stream_.PendingBytes() > 0 && stands) stream_.GiveUp();

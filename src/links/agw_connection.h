@@ -56,8 +56,13 @@ class AgwConnection {
   std::function<void(std::string_view frame)> Frame;
   // Tells a link that was opened again what the engine must know first.
   std::function<void()> Greet;
+  // Whether a frame refuses what the engine was greeted with: then the link does not come up, and
+  // is opened again. May be empty.
+  std::function<bool(std::string_view frame)> Refuses;
   // Lost, or up again; may be empty.
   std::function<void()> Changed;
+  // Once a second while the link is watched; may be empty.
+  std::function<void()> Looked;
 
  private:
   void Open();
@@ -75,6 +80,7 @@ class AgwConnection {
   std::string host_;
   int port_ = 0;
   bool owns_events_ = false;
+  bool refused_ = false;
   bool watched_ = false;
   bool up_ = false;
   double tried_at_ = 0.0;  // monotonic seconds

@@ -11,6 +11,11 @@ namespace {
 constexpr double kReplySeconds = 10.0;
 constexpr std::size_t kReplyLength = 37;
 
+// To the registration of the call.
+bool IsReply(std::string_view frame) {
+  return frame.size() == kReplyLength && frame[4] == 'X';
+}
+
 }  // namespace
 
 AgwLink::AgwLink(RadioState& radio, const IdentityState& identity,
@@ -28,6 +33,10 @@ AgwLink::AgwLink(RadioState& radio, const IdentityState& identity,
     connection_.Send(RegisterFrame());
     connection_.Send(MonitorFrame());
   };
+  connection_.Refuses = [](std::string_view frame) {
+    return IsReply(frame) && frame.back() == '\0';
+  };
+  connection_.Looked = [this] { HandOn(); };
   connection_.Changed = [this] {
     radio_.AgwConnected = connection_.IsUp() ? 1 : 0;
     if (LinkChanged) LinkChanged();
@@ -63,7 +72,7 @@ bool AgwLink::GiveUp() {
 }
 
 bool AgwLink::Registered() const {
-  return radio_.AgwFrame.size() == kReplyLength && radio_.AgwFrame[4] == 'X';
+  return IsReply(radio_.AgwFrame);
 }
 
 bool AgwLink::ConnectAgw() {
@@ -88,6 +97,8 @@ bool AgwLink::ConnectAgw() {
   // Monitoring on.
   radio_.AgwConnected = 1;
   radio_.AgwRxBuffer.clear();
+  waiting_.clear();
+  waiting_bytes_ = 0;
   connection_.Send(MonitorFrame());
   connection_.Watch(true);
   return true;
@@ -97,8 +108,26 @@ void AgwLink::FrameArrived(std::string_view frame) {
   radio_.AgwFrame = frame;
   radio_.LastDataSeconds = clock_.MonotonicSeconds();
   // Everything behind the header is monitor text, whatever its kind: the parser looks for its mark.
-  radio_.AgwRxBuffer += Mid(frame, static_cast<std::ptrdiff_t>(kAgwHeaderLength) + 1);
-  if (radio_.AgwRxBuffer.size() > kLongestReceiveBuffer) radio_.AgwRxBuffer.clear();
+  waiting_.emplace_back(Mid(frame, static_cast<std::ptrdiff_t>(kAgwHeaderLength) + 1));
+  waiting_bytes_ += waiting_.back().size();
+  HandOn();
+  while (waiting_bytes_ > kMostWaiting) {
+    waiting_bytes_ -= waiting_.front().size();
+    waiting_.pop_front();
+  }
+}
+
+void AgwLink::HandOn() {
+  std::string& buffer = radio_.AgwRxBuffer;
+  while (!waiting_.empty()) {
+    // Text without the end of a frame would never be collected.
+    const bool collectable = buffer.find("\r\r") != std::string::npos;
+    if (collectable && buffer.size() + waiting_.front().size() > kMostHandedOn) return;
+    buffer += waiting_.front();
+    waiting_bytes_ -= waiting_.front().size();
+    waiting_.pop_front();
+    if (buffer.size() > kLongestReceiveBuffer) buffer.clear();
+  }
 }
 
 bool AgwLink::LinkIsUp() const {

@@ -5,6 +5,7 @@
 // and monitoring are asked for anew, no box appears.
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <string>
 
@@ -23,6 +24,11 @@ namespace zepril {
 
 class AgwLink {
  public:
+  // What has come and is not collected waits here beyond this much text in `AgwRxBuffer`, which
+  // would be emptied when it grew too long; of what waits the oldest goes.
+  static constexpr std::size_t kMostHandedOn = kLongestReceiveBuffer / 2;
+  static constexpr std::size_t kMostWaiting = 1 << 20;
+
   AgwLink(RadioState& radio, const IdentityState& identity, const TransmissionState& transmission,
           TcpSocket& winsock1, Clock& clock, Dialogs& dialogs, ProgramActions& program,
           Timer& reopen_timer);
@@ -47,6 +53,7 @@ class AgwLink {
   std::string RegisterFrame() const;
   std::string MonitorFrame() const;
   bool Registered() const;
+  void HandOn();
   bool Fail(Text text);
   bool GiveUp();
 
@@ -57,6 +64,8 @@ class AgwLink {
   Dialogs& dialogs_;
   ProgramActions& program_;
   AgwConnection connection_;
+  std::deque<std::string> waiting_;
+  std::size_t waiting_bytes_ = 0;
 };
 
 }  // namespace zepril

@@ -276,6 +276,73 @@ TEST_F(AgwLinkTest, TheBufferDoesNotGrowWithoutBound) {
   EXPECT_LE(radio.AgwRxBuffer.size(), kLongestReceiveBuffer);
 }
 
+TEST_F(AgwLinkTest, WhatIsNotCollectedForLongIsNotLost) {
+  EngineAnswers(Accepted());
+  link.ConnectAgw();
+  std::string sent;
+  for (int at = 0; at < 2000; ++at) {
+    const std::string text =
+        "1:Fm QX" + std::to_string(at) + " To APRS <UI >[1]\r!" + std::string(60, 'x') + "\r\r";
+    sent += text;
+    socket.Deliver(MonitorFrameOf(text));
+    EXPECT_LE(radio.AgwRxBuffer.size(), AgwLink::kMostHandedOn);
+  }
+  ASSERT_GT(sent.size(), 2 * kLongestReceiveBuffer);
+  std::string collected;
+  for (int tick = 0; tick < 60 && collected.size() < sent.size(); ++tick) {
+    collected += radio.AgwRxBuffer;
+    radio.AgwRxBuffer.clear();
+    clock.Wait(1.0);
+    reopen.Fired();
+    if (reopen.Elapsed) reopen.Elapsed();
+  }
+  EXPECT_EQ(collected, sent);
+}
+
+TEST_F(AgwLinkTest, WhatWaitsDoesNotGrowWithoutBoundAndLosesTheOldest) {
+  for (int at = 0; at < 40; ++at)
+    link.FrameArrived(
+        MonitorFrameOf(" " + std::to_string(at) + ":" + std::string(50000, 'x') + "\r\r"));
+  std::string collected;
+  for (int taken = 0; taken < 40; ++taken) {
+    collected += radio.AgwRxBuffer;
+    radio.AgwRxBuffer.clear();
+    link.FrameArrived(MonitorFrameOf("?\r\r"));
+  }
+  EXPECT_LE(collected.size(), AgwLink::kMostWaiting + kLongestReceiveBuffer);
+  EXPECT_EQ(collected.find(" 5:"), std::string::npos);
+  for (int at = 25; at < 40; ++at)
+    EXPECT_NE(collected.find(" " + std::to_string(at) + ":"), std::string::npos) << at;
+}
+
+TEST_F(AgwLinkTest, AnEngineThatRefusesTheCallLaterIsNoLinkAndIsAskedAgain) {
+  EngineAnswers(Accepted(), 0.0);
+  int changes = 0;
+  link.ConnectAgw();
+  link.LinkChanged = [&] { ++changes; };
+  socket.SetState(SocketState::PeerClosed);
+  EngineAnswers(MakeAgwFrame(0, 'X', "QX7KB", "", std::string(1, '\0')), 0.1);
+  const auto pass = [this](int seconds) {
+    for (int second = 0; second < seconds; ++second) {
+      clock.Wait(1.0);
+      if (reopen.Elapsed) reopen.Elapsed();
+    }
+  };
+  pass(40);
+  EXPECT_FALSE(link.LinkIsUp());
+  EXPECT_EQ(radio.AgwConnected, 0);
+  EXPECT_EQ(changes, 1);
+  EXPECT_GE(socket.Connects, 3);
+  transmission.AgwTxText = "Test";
+  const std::size_t sent = socket.Sent.size();
+  EXPECT_FALSE(link.SendAgwUnproto());
+  EXPECT_EQ(socket.Sent.size(), sent);
+  EngineAnswers(Accepted(), 0.1);
+  pass(15);
+  EXPECT_TRUE(link.LinkIsUp());
+  EXPECT_EQ(changes, 2);
+}
+
 TEST_F(AgwLinkTest, DisconnectUnregistersAndWaitsASecond) {
   EngineAnswers(Accepted());
   link.ConnectAgw();
