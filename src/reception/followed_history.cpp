@@ -25,7 +25,7 @@ FollowedHistory::FollowedHistory(const IdentityState& identity, StoresState& sto
       moni1_(moni1),
       map_controls_(map_controls),
       alarm_(alarm),
-      file_(followed.Moni1LogPath, files, file_notice),
+      file_(followed.Moni1LogPath, files, file_notice, stores.FileFailed),
       settings_(settings) {}
 
 bool FollowedHistory::IsFollowed(std::string_view call) const {

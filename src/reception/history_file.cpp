@@ -114,9 +114,7 @@ bool HistoryFile::WriteAnew(const std::vector<StationRecord>& records) {
 }
 
 bool HistoryFile::FirstFailure() {
-  const bool first = !failed_once_;
-  failed_once_ = true;
-  return !first;
+  return std::exchange(file_failed_, true);
 }
 
 bool HistoryFile::Shorten(const std::vector<StationRecord>& records) {

@@ -28,9 +28,10 @@ class HistoryFile {
   // Of a longer file only this much of the end is looked at.
   static constexpr std::int64_t kLargestRead = 2 << 20;
 
-  // `path`: of the file as the state has it; another path takes a loading.
-  HistoryFile(const std::string& path, Files& files, Label& notice)
-      : path_(path), files_(files), notice_(notice) {}
+  // `path`: of the file as the state has it; another path takes a loading. `file_failed`: of the
+  // run, kept for all its files.
+  HistoryFile(const std::string& path, Files& files, Label& notice, bool& file_failed)
+      : path_(path), files_(files), notice_(notice), file_failed_(file_failed) {}
 
   // The records of the file, which is created when missing. Empty when it can't be read: such a
   // file is never written over.
@@ -38,7 +39,8 @@ class HistoryFile {
 
   // All records, of which the last ones, the text `entered`, are new. Where the whole can't be
   // written, the new lines are added at the end of the file; where that fails too, they follow as
-  // soon as it can be. A notice tells of either. False only at the first failure of the run.
+  // soon as it can be. A notice tells of either. False only at the first failure of a file in the
+  // run.
   bool Write(const std::vector<StationRecord>& records, std::string_view entered);
   // The file gets these records only, the old one stays beside it. False, and nothing has changed,
   // when no copy can be kept.
@@ -71,7 +73,7 @@ class HistoryFile {
   bool odd_lines_ = false;  // it holds lines that are no records
   bool put_off_ = false;    // no copy could be kept; not tried again before the next loading
   bool trouble_told_ = false;
-  bool failed_once_ = false;
+  bool& file_failed_;
 };
 
 // The lines of a history file: right-trimmed records with CR LF.

@@ -40,7 +40,7 @@ ReceivePass::ReceivePass(Sections sections, Partners partners, const SymbolTable
       raw_list_(raw_list),
       all_stations_(stores_.MoniAllRecords),
       logs_(sections.Identity, files),
-      resting_logs_(logs_, files, clock, partners.Notice) {}
+      resting_logs_(logs_, files, clock, partners.Notice, sections.Stores.FileFailed) {}
 
 void ReceivePass::Run() {
   // A link that delivers without end must not keep the tick for ever.

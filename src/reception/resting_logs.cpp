@@ -1,6 +1,8 @@
 // Tries a log again after its rest, and tells when it can't be written.
 #include "reception/resting_logs.h"
 
+#include <utility>
+
 #include "core/texts/file_troubles.h"
 #include "core/texts/notices.h"
 
@@ -29,9 +31,7 @@ bool RestingLogs::Written(Kind kind, bool written) {
   failing_ = kind;
   try_again_ = clock_.MonotonicSeconds() + kRestSeconds;
   notice_.Tell(notices::kLogsRest.With({logs_.FailedPath(), WordsOf(files_.Trouble())}));
-  const bool first = !failed_once_;
-  failed_once_ = true;
-  return !first;
+  return std::exchange(file_failed_, true);
 }
 
 }  // namespace zepril

@@ -18,10 +18,12 @@ class RestingLogs {
  public:
   static constexpr double kRestSeconds = 600.0;
 
-  RestingLogs(StationLogs& logs, const Files& files, const Clock& clock, Label& notice)
-      : logs_(logs), files_(files), clock_(clock), notice_(notice) {}
+  // `file_failed`: of the run, kept for all its files.
+  RestingLogs(StationLogs& logs, const Files& files, const Clock& clock, Label& notice,
+              bool& file_failed)
+      : logs_(logs), files_(files), clock_(clock), notice_(notice), file_failed_(file_failed) {}
 
-  // As those of `StationLogs`; false only at the first failure of the run.
+  // As those of `StationLogs`; false only at the first failure of a file in the run.
   bool AppendRaw(std::string_view collected);
   bool AppendRecord(const StationRecord& record);
 
@@ -37,7 +39,7 @@ class RestingLogs {
   FileNotice notice_;
   Kind failing_ = Kind::None;
   double try_again_ = 0.0;  // monotonic seconds
-  bool failed_once_ = false;
+  bool& file_failed_;
 };
 
 }  // namespace zepril

@@ -113,6 +113,24 @@ TEST(FollowedHistory, FileThatCannotBeWrittenIsAFailure) {
   EXPECT_FALSE(station.History.Enter(Position(1)));
 }
 
+// The disk is known to be full: what waits behind is not lost once more.
+TEST(FollowedHistory, OnlyTheFirstFileThatFailsCostsWhatWaits) {
+  Reception station;
+  station.Stores.LogsOn = 1;
+  station.Followed.Moni1Call = "N0CALL";
+  station.Disk.RefusedEnding = ".TXT";
+  const std::string packets = Reception::Frame("=5230.00N/01324.00E>a") +
+                              Reception::Frame("=5231.00N/01324.00E>b") +
+                              Reception::Frame("=5232.00N/01324.00E>c");
+  station.Hear(packets);
+  EXPECT_EQ(station.Heard(), 0);
+  station.Hear(packets);
+  for (int pass = 0; pass < 3; ++pass)
+    station.Pass.Run();
+  EXPECT_EQ(station.Heard(), 3);
+  EXPECT_EQ(station.Stores.Moni1Records.Count(), 3);
+}
+
 TEST(FollowedHistory, LoadingSkipsLinesThatAreNoRecords) {
   Reception station;
   const std::string line(Position(1).RightTrimmed());

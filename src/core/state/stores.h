@@ -15,6 +15,9 @@ struct StoresState {
   int SelectedRecordIndex = 0;      // 1-based, into the list of that call
 
   int LogsOn = 0;  // write _LOG_, _LOGL_ and _LOGRAW_
+  // A log or the history could not be written in this run. The first time costs the frames that
+  // wait behind; from then on it is known, and costs nothing.
+  bool FileFailed = false;
 };
 
 }  // namespace zepril
