@@ -81,6 +81,8 @@ void StartButton::SetUpModem() {
         status_texts::kModemSetUp.With({ShortNumber(std::ceil(progress.SecondsLeft)), port, speed});
     controls_.SetupBar.FilledPx = static_cast<int>(progress.Share * kBarSteps);
     controls_.PortFault.Caption = progress.Trouble;
+    // Nothing can be changed here meanwhile, but the window can be closed.
+    machine_.LocalClock.HandOver();
   };
   modem_is_set_up_ = TncSetup(settings_.Values, modem, machine_.LocalClock, show);
   // A close that was asked for meanwhile is heard before the main window opens.
