@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QStyleFactory>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -35,6 +36,8 @@ int main(int argc, char** argv) {
     std::fputs(zepril::window_texts::kNoDisplay.English, stderr);
     return 1;
   }
+  // A file that may not grow any more is one that can't be written, not the end of the program.
+  std::signal(SIGXFSZ, SIG_IGN);
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("zepril"));
   QApplication::setQuitOnLastWindowClosed(false);
