@@ -17,7 +17,7 @@ AgwLocal::AgwLocal(RadioState& radio, TcpSocket& socket, Clock& clock, Timer& re
 
 bool AgwLocal::AGWStartPoll(std::string_view /*application*/, std::string_view call) {
   call_ = call;
-  connection_.Connect("127.0.0.1", port_);
+  connection_.Connect("127.0.0.1", kEnginePort);
   while (connection_.State() == SocketState::Connecting && !clock_.EndAsked())
     clock_.HandOver();
   const bool connected = connection_.State() == SocketState::Connected;

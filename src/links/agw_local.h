@@ -30,8 +30,6 @@ class AgwLocal final : public MonitorEngine {
 
   bool LinkIsUp() const override { return connection_.IsUp(); }
   void DropUnsent() override { connection_.DropUnsent(); }
-  // Another port than the usual one, for engines of tests.
-  void UsePort(int port) { port_ = port; }
 
  private:
   bool Greet();
@@ -42,7 +40,6 @@ class AgwLocal final : public MonitorEngine {
   AgwConnection connection_;
   std::deque<std::string> waiting_;
   std::string call_;
-  int port_ = kEnginePort;
 };
 
 }  // namespace zepril
