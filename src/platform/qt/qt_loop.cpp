@@ -77,6 +77,10 @@ void QtLoop::RunStep(const std::function<void()>& step) {
   pumping_ = outer_pumping;
   --depth_;
   if (ControlsOut) ControlsOut();
+  if (depth_ == 0) {
+    waited_ = 0.0;
+    hold_.Release();
+  }
   if (!InStep()) StepsAreOver();
 }
 
@@ -155,14 +159,25 @@ void QtLoop::PumpFor(double seconds, bool user_events) {
 
 void QtLoop::Wait(double seconds) {
   if (depth_ > 0) late_ = true;
+  if (depth_ > 0 && waited_ >= kLongStepSeconds) return WaitInALongStep(seconds);
   ++held_;
   PumpFor(seconds, false);
   --held_;
+  waited_ += std::max(seconds, 0.0);
   // User events that were passed over lie unnoticed until something wakes the dispatcher.
   if (auto* dispatcher = QAbstractEventDispatcher::instance()) dispatcher->wakeUp();
 }
 
+void QtLoop::WaitInALongStep(double seconds) {
+  hold_.Begin();
+  ++held_;
+  PumpFor(seconds, true);
+  --held_;
+}
+
 void QtLoop::WaitPumping(double seconds) {
+  // What was done up to here comes first.
+  hold_.Release();
   ++pumping_;
   PumpFor(seconds, true);
   --pumping_;

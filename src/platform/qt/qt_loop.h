@@ -8,7 +8,9 @@
 //
 // What the operator did during a plain wait arrives behind the step. Of presses of a control one
 // acts then, or none, by the control's own rule; and a request to end the program comes before all
-// of them: hands that go on pressing can't keep the program from its work, or from its end.
+// of them: hands that go on pressing can't keep the program from its work, or from its end. In a
+// step that has waited for long already the close of a window is heard at once, and everything else
+// that the operator does is held until the step is over.
 #pragma once
 
 #include <QObject>
@@ -21,11 +23,15 @@
 #include "core/controls.h"
 #include "core/timer.h"
 #include "platform/native/system_clock.h"
+#include "platform/qt/input_hold.h"
 
 namespace zepril {
 
 class QtLoop final : public SystemClock {
  public:
+  // Plain waits that make a step a long one: more than the pause behind a frame.
+  static constexpr double kLongStepSeconds = 1.0;
+
   QtLoop();
   ~QtLoop() override;
 
@@ -78,12 +84,15 @@ class QtLoop final : public SystemClock {
   void RunKeptPress();
   bool MayFire(const Driven& driven) const;
   void PumpFor(double seconds, bool user_events);
+  void WaitInALongStep(double seconds);
 
   std::vector<std::unique_ptr<Driven>> driven_;
-  QObject alive_;    // what is put off ends with the loop
-  int depth_ = 0;    // steps under way
-  int held_ = 0;     // no timer at all
-  int pumping_ = 0;  // inside a pumping wait or hand-over
+  QObject alive_;        // what is put off ends with the loop
+  int depth_ = 0;        // steps under way
+  int held_ = 0;         // no timer at all
+  int pumping_ = 0;      // inside a pumping wait or hand-over
+  double waited_ = 0.0;  // seconds of plain waits in this outermost step
+  InputHold hold_;
   std::vector<KeptPress> kept_;
   bool late_ = false;  // a step has waited: what the operator did meanwhile has not all arrived
   bool catching_up_ = false;

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QTcpServer>
+#include <QTimer>
 #include <QWindow>
 #include <gtest/gtest.h>
 
@@ -291,6 +292,47 @@ TEST_F(QtLoopTest, NothingThatIsPressedBehindTheWishToEndActs) {
   for (int turn = 0; turn < 5; ++turn)
     QCoreApplication::processEvents();
   EXPECT_EQ(acted, 0);
+}
+
+class ClosedWindow final : public QWindow {
+ public:
+  int Closes = 0;
+
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::Close) ++Closes;
+    return QWindow::event(event);
+  }
+};
+
+TEST_F(QtLoopTest, InALongStepACloseIsHeardAndEverythingElseIsHeld) {
+  ClosedWindow window;
+  window.show();
+  QCoreApplication::processEvents();
+  int arrived = 0;
+  Hand hand([&] { ++arrived; });
+  loop->RunStep([&] {
+    loop->Wait(QtLoop::kLongStepSeconds);
+    hand.Do();
+    hand.Do();
+    QTimer::singleShot(0, &window, &QWindow::close);
+    loop->Wait(kShort);
+    EXPECT_EQ(window.Closes, 1);
+    EXPECT_EQ(arrived, 0);
+    // Where the operator is heard, what he did before comes first.
+    loop->WaitPumping(kShort);
+    EXPECT_EQ(arrived, 1);
+    hand.Do();
+    loop->Wait(kShort);
+    EXPECT_EQ(arrived, 1);
+  });
+  EXPECT_TRUE(PumpUntil([&] { return arrived == 2; }));
+  // The next step is not long any more, and what it waits holds nothing back behind it.
+  loop->RunStep([&] {
+    hand.Do();
+    loop->Wait(kShort);
+  });
+  EXPECT_TRUE(PumpUntil([&] { return arrived == 3; }));
 }
 
 TEST_F(QtLoopTest, PressesInAPumpingWaitActAtOnce) {

@@ -1,0 +1,37 @@
+// Holds what the operator does in the program's windows, and gives it back later in its order. A
+// window's close is not held: it acts at once, as far as it may.
+#pragma once
+
+#include <QEvent>
+#include <QObject>
+#include <QPointer>
+
+#include <deque>
+#include <memory>
+
+namespace zepril {
+
+class InputHold final : public QObject {
+ public:
+  // Beyond so many events what follows is dropped: nobody types on for that long.
+  static constexpr std::size_t kMostEvents = 10000;
+
+  // From now on, until the release.
+  void Begin();
+  // What was held is posted to the windows for which it was meant, if they are still there.
+  void Release();
+
+ protected:
+  bool eventFilter(QObject* receiver, QEvent* event) override;
+
+ private:
+  struct Held {
+    QPointer<QObject> Receiver;
+    std::unique_ptr<QEvent> Event;
+  };
+
+  bool holding_ = false;
+  std::deque<Held> held_;
+};
+
+}  // namespace zepril
