@@ -20,9 +20,8 @@ TEST(RadioModes, AreToldApartInOnePlace) {
     }
   }
   // The rules beside the interfaces, the links by number, and what the companion tool is told.
-  const std::set<std::string> allowed{"src/core/radio_rules.cpp",
-                                      "src/links/radio_links.cpp", "src/tool/decode_command.cpp",
-                                      "src/tool/decode_station.cpp"};
+  const std::set<std::string> allowed{"src/core/radio_rules.cpp", "src/links/radio_links.cpp",
+                                      "src/tool/decode_command.cpp", "src/tool/decode_station.cpp"};
   EXPECT_EQ(found, allowed);
 }
 

@@ -101,7 +101,8 @@ const std::set<std::string>& KnownOfWindows() {
 // Files of the logic that write words for the air, for a modem, for a file or for the tool.
 bool SpeaksToOthers(const std::string& path) {
   static const std::regex others(
-      "^src/config/|/(pk232|scs_tnc|scs_ptc|dialects|identification|symbol_table|packet_decoder|picture_viewer)"
+      "^src/config/|/"
+      "(pk232|scs_tnc|scs_ptc|dialects|identification|symbol_table|packet_decoder|picture_viewer)"
       "\\.cpp$");
   return std::regex_search(path, others);
 }
