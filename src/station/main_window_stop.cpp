@@ -3,9 +3,9 @@
 
 namespace zepril {
 
-MainWindowStop::MainWindowStop(RuntimeState& state, MainWindowControls& controls, Timer& timer1,
-                               Timer& timer2, const StopSteps& steps)
-    : state_(state), controls_(controls), timer1_(timer1), timer2_(timer2), steps_(steps) {}
+MainWindowStop::MainWindowStop(MainWindowControls& controls, Timer& timer1, Timer& timer2,
+                               const StopSteps& steps)
+    : controls_(controls), timer1_(timer1), timer2_(timer2), steps_(steps) {}
 
 void MainWindowStop::CloseRequest() {
   timer2_.Stop();

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "core/controls/main_window_controls.h"
-#include "core/runtime_state.h"
 #include "core/timer.h"
 #include "station/tick_steps.h"
 
@@ -22,7 +21,7 @@ struct StopSteps {
 
 class MainWindowStop {
  public:
-  MainWindowStop(RuntimeState& state, MainWindowControls& controls, Timer& timer1, Timer& timer2,
+  MainWindowStop(MainWindowControls& controls, Timer& timer1, Timer& timer2,
                  const StopSteps& steps);
   // `by_operator`: a close of the window by the operator, not an end by a failed link: only then
   // are the settings merged into the configuration file.
@@ -31,7 +30,6 @@ class MainWindowStop {
  private:
   void CloseRequest();
 
-  RuntimeState& state_;
   MainWindowControls& controls_;
   Timer& timer1_;
   Timer& timer2_;

@@ -79,7 +79,7 @@ bool StationRooms::Start(const std::string& program_folder, int colour_depth_bit
 
 void StationRooms::Stop(bool by_operator) {
   const StopSteps steps = StopOrder();
-  MainWindowStop(State, Controls, Timer1, Timer2, steps).Run(by_operator);
+  MainWindowStop(Controls, Timer1, Timer2, steps).Run(by_operator);
 }
 
 void StationRooms::MapResized(int width, int height) {

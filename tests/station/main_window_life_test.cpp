@@ -229,38 +229,36 @@ class StopRecorder final {
 
 class StopTest : public ::testing::Test {
  protected:
-  Names Stop(int mode, bool by_operator) {
-    state.Radio.RadioMode = mode;
+  Names Stop(bool by_operator) {
     StopRecorder recorder;
     timer1.Arm(6000);
     timer2.Arm(3000);
     const StopSteps steps = recorder.Steps();
-    MainWindowStop(state, controls, timer1, timer2, steps).Run(by_operator);
+    MainWindowStop(controls, timer1, timer2, steps).Run(by_operator);
     EXPECT_FALSE(timer1.Enabled());
     EXPECT_FALSE(timer2.Enabled());
     return recorder.Done;
   }
   StopTest() { controls.Picture.Frame8.Visible = false; }
-  RuntimeState state;
   MainWindowControls controls;
   Timer timer1{6000};
   Timer timer2{3000};
 };
 
 TEST_F(StopTest, RunsItsStepsInOrder) {
-  EXPECT_EQ(Stop(3, true),
+  EXPECT_EQ(Stop(true),
             (Names{"sound", "sound", "link", "ports", "navigation", "merge", "delete"}));
 }
 
 TEST_F(StopTest, SettingsAreMergedOnACloseByTheOperatorOnly) {
-  EXPECT_EQ(Stop(3, false), (Names{"sound", "sound", "link", "ports", "navigation", "delete"}));
+  EXPECT_EQ(Stop(false), (Names{"sound", "sound", "link", "ports", "navigation", "delete"}));
 }
 
 TEST_F(StopTest, LoadingPagesAreStopped) {
   controls.Moni1.Check22.Value = 1;
   controls.Picture.Frame8.Visible = true;
-  EXPECT_EQ(Stop(4, true), (Names{"sound", "page", "picture", "sound", "link", "ports",
-                                  "navigation", "merge", "delete"}));
+  EXPECT_EQ(Stop(true), (Names{"sound", "page", "picture", "sound", "link", "ports", "navigation",
+                               "merge", "delete"}));
 }
 
 }  // namespace
