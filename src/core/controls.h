@@ -4,14 +4,13 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
-namespace zepril {
+#include "platform/event.h"
 
-using Event = std::function<void()>;
+namespace zepril {
 
 struct KeyPress {
   int Code = 0;   // virtual key code: 13 Enter, 37 to 40 arrows, otherwise the character's code
@@ -51,9 +50,9 @@ struct Control {
   std::string WhileEmpty;  // what stands in an empty field; said of a control without a caption
   std::string KeyName;     // the key that does the same, told in the tool tip
 
-  Event Click;
-  Event RightClick;
-  Event DoubleClick;
+  Event<> Click;
+  Event<> RightClick;
+  Event<> DoubleClick;
 };
 
 struct Label : Control {
@@ -77,12 +76,12 @@ struct OptionButton : Control {
 
 struct TextBox : Control {
   std::string Text;
-  Event Change;
-  Event GotFocus;
-  std::function<void(KeyPress)> KeyDown;
+  Event<> Change;
+  Event<> GotFocus;
+  Event<KeyPress> KeyDown;
   // Where this is set the field takes no typing by itself: each single key with a character comes
   // here (13 Enter, 8 Backspace, 27 Esc, 1 to 26 with Ctrl), a pasted text does not.
-  std::function<void(char)> KeyTyped;
+  Event<char> KeyTyped;
 };
 
 struct ComboBox : Control {
@@ -90,9 +89,9 @@ struct ComboBox : Control {
   std::vector<std::string> Items;
   int ListIndex = -1;           // 0-based, -1 none
   bool DropDownWanted = false;  // the list is to be opened; taken and cleared by the desktop
-  Event Change;                 // an entry was chosen; what is typed tells itself by KeyDown only
-  Event Left;                   // the operator went elsewhere in the window
-  std::function<void(KeyPress)> KeyDown;
+  Event<> Change;               // an entry was chosen; what is typed tells itself by KeyDown only
+  Event<> Left;                 // the operator went elsewhere in the window
+  Event<KeyPress> KeyDown;
   double LastKeySeconds = -60.0;  // monotonic, of the last key; where the room's KeyDown keeps it
 
   // The selected entry, or an empty text.
@@ -113,8 +112,8 @@ struct ListBox : Control {
   int ListIndex = -1;          // 0-based; the desktop tells what the operator selects
   int TopIndex = 0;            // first row shown; the desktop tells where the operator scrolls to
   bool Held = false;           // set by the desktop: a button is down on a row
-  Event RightDown;             // the second mouse button goes down over the list, and up again
-  Event RightUp;
+  Event<> RightDown;           // the second mouse button goes down over the list, and up again
+  Event<> RightUp;
 };
 
 struct Frame : Control {
@@ -131,10 +130,10 @@ struct FillBar : Control {
 struct PictureBox : Control {
   PointerShape Pointer = PointerShape::Default;
   std::uint64_t Revision = 0;  // raised when the picture was painted anew
-  std::function<void(MousePress)> MouseDown;
-  std::function<void(MousePress)> MouseMove;
-  std::function<void(MousePress)> MouseUp;
-  std::function<void(KeyPress)> KeyDown;
+  Event<MousePress> MouseDown;
+  Event<MousePress> MouseMove;
+  Event<MousePress> MouseUp;
+  Event<KeyPress> KeyDown;
 };
 
 // Shows a picture file, scaled to fit. An empty path shows `Caption` alone.

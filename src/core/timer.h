@@ -4,10 +4,10 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <functional>
 #include <optional>
 
 #include "platform/clock.h"
+#include "platform/event.h"
 
 namespace zepril {
 
@@ -82,9 +82,9 @@ class Timer {
   std::uint64_t Generation() const { return generation_; }
 
   // What happens when the interval has passed.
-  std::function<void()> Elapsed;
+  Event<> Elapsed;
   // Told to the owner of the loop after each change.
-  std::function<void()> Changed;
+  Event<> Changed;
 
  private:
   void Start(int next_ms) {
@@ -123,6 +123,12 @@ class Timer {
   double due_ = 0.0;                  // monotonic seconds, of a running timer
   std::optional<double> held_due_;    // of one that is held
   std::optional<double> late_since_;  // when a start put it off for the first time
+};
+
+// A timer for whoever owns the loop.
+struct DrivenTimer {
+  Timer* Subject;
+  bool Pumped;  // also fires while control is handed over inside a routine
 };
 
 }  // namespace zepril

@@ -10,13 +10,16 @@
 
 namespace zepril {
 
-void Binder::Raise(const Event& event) {
+void Binder::Raise(const Event<>& event) {
   if (event) loop_.RunStep(event);
 }
 
-void Binder::Press(const Control& control, const Event& act) {
-  loop_.Press(
-      &control, control.PressesInWaits, act ? act : [] {});
+void Binder::Press(const Control& control, const Event<>& event) {
+  Press(control, [&event] { event(); });
+}
+
+void Binder::Press(const Control& control, const std::function<void()>& act) {
+  loop_.Press(&control, control.PressesInWaits, act);
 }
 
 void Binder::BindCommon(QWidget* widget, Control& control, bool press_is_click) {

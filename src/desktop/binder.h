@@ -76,9 +76,10 @@ class Binder final : public QObject {
   void BindPlace(QListView* widget, ListBox& control);
   void BindKeys(QWidget* widget, std::function<void(KeyPress)> key_down);
   void BindFocus(QWidget* widget, const TextBox& control);
-  void Raise(const Event& event);
-  // The operator has pressed the control: `act`, which may be empty, in the loop's order.
-  void Press(const Control& control, const Event& act);
+  void Raise(const Event<>& event);
+  // The operator has pressed the control: the event, or `act`, in the loop's order.
+  void Press(const Control& control, const Event<>& event);
+  void Press(const Control& control, const std::function<void()>& act);
   void TakeFocusWishes();
   bool Leave(const Watched& row, QFocusEvent& event);
   void NoteHold(const Watched& row, bool held);

@@ -15,7 +15,7 @@ namespace zepril {
 
 // True: the widget itself does not get it.
 bool Binder::Released(const Watched& row, const QMouseEvent& event) {
-  const Event& click = row.Subject->Click;
+  const Event<>& click = row.Subject->Click;
   if (!row.PressIsClick || !click || event.button() != Qt::LeftButton) return false;
   if (!row.Subject->Enabled) return false;
   const auto* label = qobject_cast<const QLabel*>(row.Widget);

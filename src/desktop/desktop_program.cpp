@@ -6,54 +6,42 @@
 #include <cstdlib>
 
 #include "config/config_file.h"
-#include "config/ports_file.h"
 #include "config/window_file.h"
 #include "core/texts/boxes.h"
 #include "core/texts/file_troubles.h"
 #include "desktop/window_place.h"
-#include "map/symbol_sheets.h"
 #include "platform/code_page.h"
-#include "platform/qt/serial_devices.h"
 #include "platform/qt/text.h"
 #include "sample_maps/sample_maps.h"
-#include "viewers/sun_curve.h"
+#include "station/station_surfaces.h"
 
 namespace zepril {
 namespace {
 
-constexpr int kFirstMapWidth = 880;
-constexpr int kFirstMapHeight = 700;
 constexpr int kColourDepthBits = 32;
 
 }  // namespace
 
 DesktopProgram::DesktopProgram(const ProgramPlaces& places)
-    : places_(places),
-      disk_(DefaultDriveFolder()),
-      dialogs_(loop_),
-      map_surface_(kFirstMapWidth, kFirstMapHeight, fonts_),
-      base_surface_(kFirstMapWidth, kFirstMapHeight, fonts_),
-      sun_surface_(SunCurve::kPlotWidth, SunCurve::kPlotHeight, fonts_),
-      tx_symbol_surface_(kSymbolCellPixels, kSymbolCellPixels, fonts_),
-      object_symbol_surface_(kSymbolCellPixels, kSymbolCellPixels, fonts_) {
+    : places_(places), disk_(DefaultDriveFolder()) {
   QCoreApplication::instance()->installEventFilter(&key_repeats_);
 }
 
 DesktopProgram::~DesktopProgram() {
-  loop_.ControlsOut = nullptr;
-  loop_.StepEnded = nullptr;
+  machine_.Loop.ControlsOut = nullptr;
+  machine_.Loop.StepEnded = nullptr;
   // The program's timers go before the loop does.
-  loop_.ForgetTimers();
+  machine_.Loop.ForgetTimers();
 }
 
 bool DesktopProgram::LoadFonts() {
-  return fonts_.LoadFonts(ToQt(places_.DataFolder + "/fonts"));
+  return machine_.Fonts.LoadFonts(ToQt(places_.DataFolder + "/fonts"));
 }
 
 void DesktopProgram::CloseAsOperator() {
   // A box that waits for the operator must not keep the session from ending.
-  dialogs_.AnswerNoMore();
-  loop_.AskForEnd(true);
+  machine_.Boxes.AnswerNoMore();
+  machine_.Loop.AskForEnd(true);
   if (window_) {
     window_->close();
   } else if (program_ || (panel_ && panel_->Starting())) {
@@ -78,7 +66,7 @@ bool DesktopProgram::TakeFolder() {
   }
   const std::string text = boxes::kRunsAlready.With({places_.ProgramFolder});
   const DialogAnswer answer =
-      dialogs_.Ask(boxes::kTitle, text, DialogButtons::YesNo, DialogAnswer::Yes);
+      machine_.Boxes.Ask(boxes::kTitle, text, DialogButtons::YesNo, DialogAnswer::Yes);
   if (answer == DialogAnswer::Yes) RunLock::AskForFront(path);
   return false;
 }
@@ -97,7 +85,7 @@ bool DesktopProgram::ReadableSettings() {
   if (!trouble) return true;
   const std::string text =
       boxes::kSettingsUnread.With({ConfigPath(places_.ProgramFolder), WordsOf(*trouble)});
-  if (dialogs_.Ask(boxes::kTitle, text, DialogButtons::YesNo, DialogAnswer::No) !=
+  if (machine_.Boxes.Ask(boxes::kTitle, text, DialogButtons::YesNo, DialogAnswer::No) !=
       DialogAnswer::Yes) {
     return false;
   }
@@ -113,24 +101,16 @@ bool DesktopProgram::ShowStartWindow() {
   }
   const char* temp = std::getenv("TEMP");
   FillProgramFolder(disk_, places_);
-  modem_.DeviceOfNumber = [this](int number) {
-    return DeviceOfPort(*files_, places_.ProgramFolder, number);
+  given_.emplace(machine_.Given(*files_, places_.ProgramFolder));
+  panel_ =
+      std::make_unique<StartPanel>(*given_, places_.ProgramFolder, temp != nullptr ? temp : "");
+  start_window_ = std::make_unique<StartWindow>(*panel_, machine_.Loop, machine_.Fonts);
+  machine_.Boxes.SetOwner(start_window_.get());
+  machine_.Loop.ControlsOut = [this] { start_window_->ControlsOut(); };
+  machine_.Loop.StepEnded = [this] {
+    if (close_asked_) EndBeforeStart();
   };
-  panel_ = std::make_unique<StartPanel>(
-      StartPanelPlatform{*files_, loop_, dialogs_, modem_, PresentSerialDevices},
-      places_.ProgramFolder, temp != nullptr ? temp : "");
-  start_window_ = std::make_unique<StartWindow>(*panel_, loop_, fonts_);
-  dialogs_.SetOwner(start_window_.get());
-  loop_.ControlsOut = [this] { start_window_->ControlsOut(); };
-  loop_.StepEnded = [this] {
-    if (close_asked_) {
-      start_window_->hide();
-      TellEnded();
-    } else if (start_asked_) {
-      OpenMainWindow();
-    }
-  };
-  panel_->Started = [this] { start_asked_ = true; };
+  panel_->Started = [this] { machine_.Loop.Post([this] { OpenMainWindow(); }); };
   start_window_->Closed = [this] { CloseAsOperator(); };
   PlaceWindow(*start_window_, ReadWindowFile(*files_, places_.ProgramFolder), "START");
   start_window_->show();
@@ -159,32 +139,34 @@ void DesktopProgram::DrawMissingSampleMaps() {
 }
 
 void DesktopProgram::OpenMainWindow() {
-  start_asked_ = false;
-  loop_.StepEnded = nullptr;
-  program_ = std::make_unique<StationProgram>(
-      StationPlatform{*files_, loop_, dialogs_, desktop_, socket_, modem_, map_surface_,
-                      base_surface_, sun_surface_, tx_symbol_surface_, object_symbol_surface_});
+  if (ended_ || program_) return;
+  if (close_asked_) return EndBeforeStart();
+  machine_.Loop.StepEnded = nullptr;
+  program_ = std::make_unique<StationProgram>(*given_, panel_->Modem());
   if (!panel_->ModemIsSetUp()) program_->ModemWasNotSetUp();
-  loop_.Drive(program_->Timer1(), false);
-  loop_.Drive(program_->Timer2(), true);
-  loop_.Drive(program_->ReopenTimer(), true);
+  for (const DrivenTimer& timer : program_->Timers())
+    machine_.Loop.Drive(timer);
   bool started = false;
   // The start window stays until the link stands, so that its boxes have an owner.
-  loop_.RunStep([&] { started = program_->Start(places_.ProgramFolder, kColourDepthBits); });
-  if (!started || close_asked_) {
-    End(started);
-    return;
-  }
-  ShowWhatTheTerminalReceives();
-  window_ = std::make_unique<MainWindow>(*program_, loop_, fonts_,
-                                         WindowSurfaces{map_surface_, base_surface_, sun_surface_,
-                                                        tx_symbol_surface_, object_symbol_surface_},
-                                         *files_);
-  dialogs_.SetOwner(window_.get());
-  desktop_.SetWindows(window_.get(), window_->Map());
+  machine_.Loop.RunStep(
+      [&] { started = program_->Start(places_.ProgramFolder, kColourDepthBits); });
+  started && !close_asked_ ? ShowMainWindow() : End(started);
+}
+
+void DesktopProgram::ShowMainWindow() {
+  const StationSurfaces& painted = program_->Surfaces();
+  window_ = std::make_unique<MainWindow>(
+      *program_, machine_.Loop, machine_.Fonts,
+      WindowSurfaces{QtMachine::Own(*painted.Map), QtMachine::Own(*painted.Base),
+                     QtMachine::Own(*painted.Sun), QtMachine::Own(*painted.TxSymbol),
+                     QtMachine::Own(*painted.ObjectSymbol)},
+      *files_);
+  machine_.Boxes.SetOwner(window_.get());
+  machine_.Desktop.SetWindows(window_.get(), window_->Map());
   window_->Closed = [this] { End(true); };
-  loop_.ControlsOut = [this] { window_->ControlsOut(); };
-  loop_.StepEnded = [this] { window_->CloseWhenAsked(); };
+  machine_.Loop.ControlsOut = nullptr;  // the start window's
+  machine_.Loop.ControlsOut = [this] { window_->ControlsOut(); };
+  machine_.Loop.StepEnded = [this] { window_->CloseWhenAsked(); };
   window_->TakeKept(ReadWindowFile(*files_, places_.ProgramFolder));
   window_->show();
   KeepPlaces();
@@ -192,27 +174,24 @@ void DesktopProgram::OpenMainWindow() {
   start_window_->close();
 }
 
-// While the terminal is open no timer brings its text to the screen: what arrives is a step then.
-void DesktopProgram::ShowWhatTheTerminalReceives() {
-  modem_.DataArrived = [this, take = modem_.DataArrived] {
-    if (!take) return;
-    program_->Controls().Terminal.Frame19.Visible ? loop_.RunStep(take) : take();
-  };
+void DesktopProgram::EndBeforeStart() {
+  start_window_->hide();
+  TellEnded();
 }
 
 void DesktopProgram::End(bool by_operator) {
   if (ending_) return;
   ending_ = true;
   // The stop itself waits as it must.
-  loop_.AskForEnd(false);
-  loop_.TakeNoMorePresses();
-  loop_.ControlsOut = nullptr;
-  loop_.StepEnded = nullptr;
+  machine_.Loop.AskForEnd(false);
+  machine_.Loop.TakeNoMorePresses();
+  machine_.Loop.ControlsOut = nullptr;
+  machine_.Loop.StepEnded = nullptr;
   start_window_->Closed = nullptr;
   KeepPlaces();
   if (window_) window_->hide();
   start_window_->hide();
-  loop_.RunStep([&] { program_->Stop(by_operator && !program_->EndWanted()); });
+  machine_.Loop.RunStep([&] { program_->Stop(by_operator && !program_->EndWanted()); });
   TellEnded();
 }
 

@@ -3,24 +3,19 @@
 
 #include <QTimer>
 
-#include <functional>
 #include <memory>
+#include <optional>
 
-#include "desktop/key_repeats.h"
 #include "config/settings_in_memory.h"
+#include "desktop/key_repeats.h"
 #include "desktop/main_window.h"
-#include "desktop/qt_desktop_actions.h"
-#include "desktop/qt_dialogs.h"
+#include "desktop/qt_machine.h"
 #include "desktop/sample_map_worker.h"
 #include "desktop/start_window.h"
+#include "platform/event.h"
 #include "platform/native/native_files.h"
 #include "platform/native/program_folder.h"
 #include "platform/native/run_lock.h"
-#include "platform/qt/map_fonts.h"
-#include "platform/qt/qt_loop.h"
-#include "platform/qt/qt_serial_port.h"
-#include "platform/qt/qt_socket.h"
-#include "platform/qt/qt_surface.h"
 #include "station/start/start_panel.h"
 #include "station/station_program.h"
 
@@ -41,9 +36,9 @@ class DesktopProgram {
   // The session ends: as if the operator closed the window that is open.
   void CloseAsOperator();
   // The run is over and everything is stored. Called once.
-  std::function<void()> Ended;
+  Event<> Ended;
 
-  QtLoop& Loop() { return loop_; }
+  QtLoop& Loop() { return machine_.Loop; }
   StartWindow* Starting() { return start_window_.get(); }
   // Null until START; the window follows when the start has gone well.
   StationProgram* Station() { return program_.get(); }
@@ -55,7 +50,8 @@ class DesktopProgram {
   void ComeToFront();
   void DrawMissingSampleMaps();
   void OpenMainWindow();
-  void ShowWhatTheTerminalReceives();
+  void ShowMainWindow();
+  void EndBeforeStart();
   void End(bool by_operator);
   void TellEnded();
   void KeepPlaces();
@@ -66,24 +62,14 @@ class DesktopProgram {
   Files* files_ = &disk_;
   RunLock lock_;
   QTimer front_timer_;
-  QtLoop loop_;
-  QtDialogs dialogs_;
-  QtDesktopActions desktop_;
-  QtSocket socket_;
-  QtSerialPort modem_;
+  QtMachine machine_;
+  std::optional<Machine> given_;  // once the settings are readable
   KeyRepeats key_repeats_;
-  MapFonts fonts_;
-  QtSurface map_surface_;
-  QtSurface base_surface_;
-  QtSurface sun_surface_;
-  QtSurface tx_symbol_surface_;
-  QtSurface object_symbol_surface_;
   std::unique_ptr<StartPanel> panel_;
   std::unique_ptr<StartWindow> start_window_;
   std::unique_ptr<SampleMapWorker> worker_;
   std::unique_ptr<StationProgram> program_;
   std::unique_ptr<MainWindow> window_;
-  bool start_asked_ = false;
   bool close_asked_ = false;  // while START is under way
   bool ending_ = false;
   bool ended_ = false;

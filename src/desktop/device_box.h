@@ -3,7 +3,7 @@
 
 #include <QComboBox>
 
-#include <functional>
+#include "platform/event.h"
 
 namespace zepril {
 
@@ -13,9 +13,9 @@ class DeviceBox final : public QComboBox {
   void showPopup() override;
 
   // The list is about to open; its entries may be made now.
-  std::function<void()> ListOpens;
+  Event<> ListOpens;
   // The field has got the focus.
-  std::function<void()> Entered;
+  Event<> Entered;
 
  protected:
   void focusInEvent(QFocusEvent* event) override;

@@ -301,7 +301,7 @@ void MainWindow::resizeEvent(QResizeEvent*) {
 
 void MainWindow::Press(const Button& control) {
   if (control.Enabled && control.Click)
-    loop_.Press(&control, control.PressesInWaits, control.Click);
+    loop_.Press(&control, control.PressesInWaits, [&control] { control.Click(); });
 }
 
 void MainWindow::Switch(CheckBox& control) {

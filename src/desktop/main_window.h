@@ -6,7 +6,6 @@
 #include <QTimer>
 #include <QWidget>
 
-#include <functional>
 #include <memory>
 
 #include "config/window_file.h"
@@ -20,6 +19,7 @@
 #include "desktop/side_columns.h"
 #include "desktop/transmit_panels.h"
 #include "desktop/window_parts.h"
+#include "platform/event.h"
 #include "platform/qt/map_fonts.h"
 #include "station/station_program.h"
 
@@ -45,7 +45,7 @@ class MainWindow final : public QWidget {
 
   MapWidget* Map() { return map_; }
   // The operator has closed the window (or the program wants to end), and no step is under way.
-  std::function<void()> Closed;
+  Event<> Closed;
   void ControlsOut();
   // Where the window stands and which drawer is open, for the next run; to be given back before the
   // window is shown.

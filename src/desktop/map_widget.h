@@ -10,6 +10,7 @@
 
 #include "core/controls.h"
 #include "desktop/focus_watch.h"
+#include "platform/event.h"
 #include "platform/qt/qt_loop.h"
 #include "platform/qt/qt_surface.h"
 
@@ -23,11 +24,11 @@ class MapWidget final : public QWidget {
             QtSurface& base_surface, QWidget* parent = nullptr);
 
   // Told with the new size after the surfaces have it.
-  std::function<void(int width, int height)> Resized;
+  Event<int, int> Resized;
   // Told after a resize, to place what lies over the map.
-  std::function<void()> PlaceOverlays;
+  Event<> PlaceOverlays;
   // Told of turns of the wheel: over 0 away from the operator.
-  std::function<void(int steps)> Wheel;
+  Event<int> Wheel;
   // The pointer of the arrow keys, in pixels of the map: where the mouse was last, or where they
   // brought it.
   std::function<QPointF()> Pointer;

@@ -175,12 +175,12 @@ void PictureView::paintEvent(QPaintEvent*) {
 }
 
 void PictureView::mousePressEvent(QMouseEvent* event) {
-  const Event* raised = nullptr;
+  const Event<>* raised = nullptr;
   if (event->button() == Qt::LeftButton) raised = &control_.Click;
   if (event->button() == Qt::RightButton) raised = &control_.RightClick;
   event->accept();
   if (raised == nullptr || !*raised) return;
-  loop_.RunStep([raised] { (*raised)(); });
+  loop_.RunStep(*raised);
 }
 
 }  // namespace zepril

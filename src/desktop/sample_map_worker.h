@@ -4,10 +4,10 @@
 #include <QObject>
 
 #include <atomic>
-#include <functional>
 #include <string>
 #include <thread>
 
+#include "platform/event.h"
 #include "platform/native/native_files.h"
 
 namespace zepril {
@@ -20,7 +20,7 @@ class SampleMapWorker final : public QObject {
 
   void Begin();
   // Told in the window's thread; done == total at the end.
-  std::function<void(int done, int total)> Progress;
+  Event<int, int> Progress;
 
  private:
   NativeFiles files_{DefaultDriveFolder()};  // the thread's own

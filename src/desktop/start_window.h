@@ -3,10 +3,9 @@
 
 #include <QWidget>
 
-#include <functional>
-
 #include "core/texts/text.h"
 #include "desktop/binder.h"
+#include "platform/event.h"
 #include "platform/qt/map_fonts.h"
 #include "station/start/start_panel.h"
 
@@ -27,7 +26,7 @@ class StartWindow final : public QWidget {
   void ShowMapProgress(int done, int total);
   // The window was closed without START, or is asked to close while START is under way: then it
   // stays until that has come to its end.
-  std::function<void()> Closed;
+  Event<> Closed;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -17,25 +17,34 @@ bool IsVersion(std::string_view frame) {
 
 }  // namespace
 
-AgwConnection::AgwConnection(TcpSocket& socket, Clock& clock, Timer& look_timer)
+AgwConnection::AgwConnection(TcpSocket& socket, Clock& clock)
     : socket_(socket),
       clock_(clock),
-      look_timer_(look_timer),
       stream_([this](std::string_view frame) { FrameArrived(frame); }),
-      pulse_(socket, clock) {}
-
-AgwConnection::~AgwConnection() {
-  if (!owns_events_) return;
-  socket_.Connected = nullptr;
-  socket_.DataArrived = nullptr;
-  look_timer_.Elapsed = nullptr;
+      pulse_(socket, clock) {
+  look_timer_.Elapsed = [this] { Look(); };
 }
 
-void AgwConnection::Connect(const std::string& host, int port) {
+AgwConnection::~AgwConnection() {
+  GiveSocketBack();
+}
+
+void AgwConnection::TakeSocket() {
+  if (owns_events_) return;
   owns_events_ = true;
   socket_.Connected = [this] { Connected(); };
   socket_.DataArrived = [this](std::string_view bytes) { Arrived(bytes); };
-  look_timer_.Elapsed = [this] { Look(); };
+}
+
+void AgwConnection::GiveSocketBack() {
+  if (!owns_events_) return;
+  owns_events_ = false;
+  socket_.Connected = nullptr;
+  socket_.DataArrived = nullptr;
+}
+
+void AgwConnection::Connect(const std::string& host, int port) {
+  TakeSocket();
   watched_ = false;
   host_ = host;
   port_ = port;
@@ -63,6 +72,7 @@ void AgwConnection::Close() {
   up_ = false;
   look_timer_.Stop();
   socket_.Close();
+  GiveSocketBack();
 }
 
 void AgwConnection::Connected() {

@@ -15,13 +15,12 @@
 #include "core/timer.h"
 #include "links/agw_pulse.h"
 #include "links/agw_stream.h"
+#include "links/radio_link.h"
 #include "platform/clock.h"
+#include "platform/event.h"
 #include "platform/tcp_socket.h"
 
 namespace zepril {
-
-// Milliseconds between two attempts to open a lost link.
-inline constexpr int kReopenMilliseconds = 10000;
 
 class AgwConnection {
  public:
@@ -29,9 +28,9 @@ class AgwConnection {
   static constexpr double kHalfFrameSeconds = 5.0;
   static constexpr double kLongestFrameSeconds = 10.0;
 
-  // Takes the events of `socket` and `look_timer` from `Connect` on: two of these may share them as
-  // long as one is open at a time.
-  AgwConnection(TcpSocket& socket, Clock& clock, Timer& look_timer);
+  // Takes the events of `socket` from `Connect` to `Close`: two of these may share it as long as
+  // one is open at a time.
+  AgwConnection(TcpSocket& socket, Clock& clock);
   ~AgwConnection();
   AgwConnection(const AgwConnection&) = delete;
   AgwConnection& operator=(const AgwConnection&) = delete;
@@ -52,19 +51,24 @@ class AgwConnection {
   // Some of what was handed over has not left: the link is dropped with it, and opened again.
   void DropUnsent();
 
+  // To be driven by whoever owns the loop, also while control is handed over.
+  Timer& LookTimer() { return look_timer_; }
+
   // One whole frame, but for answers to the connection's own questions.
-  std::function<void(std::string_view frame)> Frame;
+  Event<std::string_view> Frame;
   // Tells a link that was opened again what the engine must know first.
-  std::function<void()> Greet;
+  Event<> Greet;
   // Whether a frame refuses what the engine was greeted with: then the link does not come up, and
   // is opened again. May be empty.
   std::function<bool(std::string_view frame)> Refuses;
   // Lost, or up again; may be empty.
-  std::function<void()> Changed;
+  Event<> Changed;
   // Once a second while the link is watched; may be empty.
-  std::function<void()> Looked;
+  Event<> Looked;
 
  private:
+  void TakeSocket();
+  void GiveSocketBack();
   void Open();
   void Look();
   void Lose();
@@ -74,7 +78,7 @@ class AgwConnection {
 
   TcpSocket& socket_;
   Clock& clock_;
-  Timer& look_timer_;
+  Timer look_timer_{kLookMilliseconds};
   AgwStream stream_;
   AgwPulse pulse_;
   std::string host_;

@@ -20,14 +20,14 @@ bool IsReply(std::string_view frame) {
 
 AgwLink::AgwLink(RadioState& radio, const IdentityState& identity,
                  const TransmissionState& transmission, TcpSocket& winsock1, Clock& clock,
-                 Dialogs& dialogs, ProgramActions& program, Timer& reopen_timer)
+                 Dialogs& dialogs, ProgramActions& program)
     : radio_(radio),
       identity_(identity),
       transmission_(transmission),
       clock_(clock),
       dialogs_(dialogs),
       program_(program),
-      connection_(winsock1, clock, reopen_timer) {
+      connection_(winsock1, clock) {
   connection_.Frame = [this](std::string_view frame) { FrameArrived(frame); };
   connection_.Greet = [this] {
     connection_.Send(RegisterFrame());

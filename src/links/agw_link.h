@@ -6,7 +6,6 @@
 #pragma once
 
 #include <deque>
-#include <functional>
 #include <string>
 
 #include "core/actions/program_actions.h"
@@ -18,6 +17,7 @@
 #include "links/agw_connection.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
+#include "platform/event.h"
 #include "platform/tcp_socket.h"
 
 namespace zepril {
@@ -30,8 +30,7 @@ class AgwLink {
   static constexpr std::size_t kMostWaiting = 1 << 20;
 
   AgwLink(RadioState& radio, const IdentityState& identity, const TransmissionState& transmission,
-          TcpSocket& winsock1, Clock& clock, Dialogs& dialogs, ProgramActions& program,
-          Timer& reopen_timer);
+          TcpSocket& winsock1, Clock& clock, Dialogs& dialogs, ProgramActions& program);
 
   // Connects, registers the call, switches monitoring on. False after a box that ended the program.
   bool ConnectAgw();
@@ -45,8 +44,9 @@ class AgwLink {
   // One whole frame of the engine.
   void FrameArrived(std::string_view frame);
   bool LinkIsUp() const;
+  Timer& LookTimer() { return connection_.LookTimer(); }
   // The link was lost, or is back; may be empty.
-  std::function<void()> LinkChanged;
+  Event<> LinkChanged;
 
  private:
   void BeginConnection();

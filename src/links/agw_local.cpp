@@ -6,8 +6,8 @@
 
 namespace zepril {
 
-AgwLocal::AgwLocal(RadioState& radio, TcpSocket& socket, Clock& clock, Timer& reopen_timer)
-    : radio_(radio), clock_(clock), connection_(socket, clock, reopen_timer) {
+AgwLocal::AgwLocal(RadioState& radio, TcpSocket& socket, Clock& clock)
+    : radio_(radio), clock_(clock), connection_(socket, clock) {
   connection_.Frame = [this](std::string_view frame) { FrameArrived(frame); };
   connection_.Greet = [this] { Greet(); };
   connection_.Changed = [this] {

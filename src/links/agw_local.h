@@ -21,7 +21,7 @@ class AgwLocal final : public MonitorEngine {
   static constexpr std::size_t kMostWaitingFrames = 500;
   static constexpr std::size_t kLongestText = 4000;
 
-  AgwLocal(RadioState& radio, TcpSocket& socket, Clock& clock, Timer& reopen_timer);
+  AgwLocal(RadioState& radio, TcpSocket& socket, Clock& clock);
 
   bool AGWStartPoll(std::string_view application, std::string_view call) override;
   std::string AGWGetData() override;
@@ -30,6 +30,7 @@ class AgwLocal final : public MonitorEngine {
 
   bool LinkIsUp() const override { return connection_.IsUp(); }
   void DropUnsent() override { connection_.DropUnsent(); }
+  Timer& LookTimer() { return connection_.LookTimer(); }
 
  private:
   bool Greet();

@@ -8,10 +8,10 @@ namespace zepril {
 
 LinksRoom::LinksRoom(LinksSections sections, LinksControls controls, LinksTools tools)
     : Remote(sections.Radio, sections.Identity, sections.Transmission, tools.Winsock1,
-             tools.LocalClock, tools.Boxes, tools.Program, ReopenTimer),
-      Local(sections.Radio, tools.Winsock1, tools.LocalClock, ReopenTimer),
+             tools.LocalClock, tools.Boxes, tools.Program),
+      Local(sections.Radio, tools.Winsock1, tools.LocalClock),
       Modem(sections.Identity, sections.Radio, sections.Transmission,
-            {tools.MSComm1, tools.LocalClock, ReopenTimer, tools.LongWork}),
+            {tools.MSComm1, tools.LocalClock, tools.LongWork}),
       Heard(sections.Radio, sections.Received, Local, tools.MSComm1, tools.LocalClock),
       Radios({sections.Identity, sections.Radio, sections.Received, sections.Transmission},
              {Local, Remote, Modem, tools.MSComm1, tools.LocalClock}),
@@ -31,7 +31,11 @@ LinksRoom::LinksRoom(LinksSections sections, LinksControls controls, LinksTools 
 }
 
 void LinksRoom::BindModem() {
-  Modem.DataArrived = [this] { Talk.DataArrived(); };
+  // While the terminal is open no timer brings its text to the screen: what arrives is a step then.
+  Modem.DataArrived = [this] {
+    const auto take = [this] { Talk.DataArrived(); };
+    Talk.IsOpen() ? tools_.Steps.RunStep(take) : take();
+  };
   Modem.MayReopen = [this] { return !Talk.IsOpen() && !(InTick && InTick()); };
 }
 
@@ -52,8 +56,13 @@ void LinksRoom::Leave() {
 }
 
 void LinksRoom::ClosePort() {
-  ReopenTimer.Stop();
+  for (const DrivenTimer& timer : Timers())
+    timer.Subject->Stop();
   tools_.MSComm1.Close();
+}
+
+std::vector<DrivenTimer> LinksRoom::Timers() {
+  return {{&Remote.LookTimer(), true}, {&Local.LookTimer(), true}, {&Modem.ReopenTimer, true}};
 }
 
 void LinksRoom::RunTerminalHandler() {

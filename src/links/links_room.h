@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "core/actions/map_actions.h"
 #include "core/actions/program_actions.h"
@@ -25,6 +26,8 @@
 #include "links/terminal.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
+#include "platform/event.h"
+#include "platform/loop.h"
 #include "platform/serial_port.h"
 #include "platform/tcp_socket.h"
 
@@ -47,6 +50,7 @@ struct LinksTools {
   TcpSocket& Winsock1;  // the packet engine
   SerialPort& MSComm1;  // the modem
   Clock& LocalClock;
+  Loop& Steps;
   Dialogs& Boxes;
   ProgramActions& Program;
   MapActions& Map;
@@ -71,13 +75,15 @@ struct LinksRoom {
   // A modem on two modes listens on the second one too.
   void KeepSecondModeMonitored();
 
+  // Those of the links.
+  std::vector<DrivenTimer> Timers();
+
   // The terminal was opened or closed; may be empty.
-  Event TerminalChanged;
+  Event<> TerminalChanged;
   // A panel holds the main cycle, or a tick is under way; set before the start.
   std::function<bool()> CycleIsHeld;
   std::function<bool()> InTick;
 
-  Timer ReopenTimer{kReopenMilliseconds};
   AgwLink Remote;
   AgwLocal Local;
   SerialModem Modem;

@@ -2,13 +2,16 @@
 // What it has heard is `links/heard_text`.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
 #include "core/progress.h"
+#include "platform/event.h"
 
 namespace zepril {
+
+// Milliseconds between two attempts to open a lost link.
+inline constexpr int kReopenMilliseconds = 10000;
 
 // What a frame does to the second mode of a modem that listens on two: a frame of the own station
 // switches it off first, the next tick switches it on again.
@@ -30,7 +33,7 @@ class RadioLink {
   // tell.
   virtual std::string LostNotice() const = 0;
   // The link was lost, or is back; may be empty.
-  std::function<void()> Changed;
+  Event<> Changed;
 
   // A frame may be handed over just now. May wait some seconds in plain waits.
   virtual bool MaySend() { return true; }

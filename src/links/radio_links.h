@@ -13,6 +13,7 @@
 #include "links/serial_link.h"
 #include "links/serial_modem.h"
 #include "platform/clock.h"
+#include "platform/event.h"
 #include "platform/monitor_engine.h"
 #include "platform/serial_port.h"
 
@@ -43,7 +44,7 @@ class RadioLinks {
   RadioLink* Active();
   const RadioLink* Active() const { return const_cast<RadioLinks*>(this)->Active(); }
   // The active link was lost, or is back; may be empty.
-  std::function<void()> Changed;
+  Event<> Changed;
 
  private:
   const RadioState& radio_;

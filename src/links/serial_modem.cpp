@@ -18,24 +18,19 @@ constexpr int kLookAgainMilliseconds = 1000;
 
 SerialModem::SerialModem(const IdentityState& identity, RadioState& radio,
                          const TransmissionState& transmission, SerialModemTools tools)
-    : identity_(identity), radio_(radio), transmission_(transmission), tools_(tools) {}
+    : identity_(identity), radio_(radio), transmission_(transmission), tools_(tools) {
+  ReopenTimer.Elapsed = [this] { ReopenElapsed(); };
+}
 
 SerialModem::~SerialModem() {
-  if (!opened_) return;
-  tools_.Port.DataArrived = nullptr;
-  tools_.ReopenTimer.Elapsed = nullptr;
+  if (opened_) tools_.Port.DataArrived = nullptr;
 }
 
 // ---- Start and end ----------------------------------------------------------------------------
 
 void SerialModem::Open() {
-  opened_ = true;
+  TakePort();
   asked_at_ = tools_.LocalClock.MonotonicSeconds();
-  tools_.Port.DataArrived = [this] {
-    radio_.LastDataSeconds = tools_.LocalClock.MonotonicSeconds();
-    if (DataArrived) DataArrived();
-  };
-  tools_.ReopenTimer.Elapsed = [this] { ReopenElapsed(); };
   // One that does not know its call is not brought to where it would transmit.
   if (set_up_) {
     Run(PrepareModemScript(Sections()));
@@ -43,7 +38,16 @@ void SerialModem::Open() {
   } else if (tools_.Port.Trouble().empty()) {
     trouble_ = notices::kModemNotReached;
   }
-  tools_.ReopenTimer.Arm(kReopenMilliseconds);
+  ReopenTimer.Arm(kReopenMilliseconds);
+}
+
+void SerialModem::TakePort() {
+  if (opened_) return;
+  opened_ = true;
+  tools_.Port.DataArrived = [this] {
+    radio_.LastDataSeconds = tools_.LocalClock.MonotonicSeconds();
+    if (DataArrived) DataArrived();
+  };
 }
 
 void SerialModem::EnterConverse() {
@@ -53,7 +57,7 @@ void SerialModem::EnterConverse() {
 }
 
 void SerialModem::Leave() {
-  tools_.ReopenTimer.Stop();
+  ReopenTimer.Stop();
   Run(LeaveModemScript(radio_));
   // One that is away, or that has not taken these bytes, may still be in converse.
   const bool left = tools_.Port.IsOpen() && tools_.Port.BytesToWrite() == 0;
@@ -81,11 +85,11 @@ void SerialModem::Program(Progress& progress) {
 // ---- A lost modem -------------------------------------------------------------------------------
 
 void SerialModem::ReopenElapsed() {
-  if (busy_) return tools_.ReopenTimer.Arm(kLookAgainMilliseconds);
+  if (busy_) return ReopenTimer.Arm(kLookAgainMilliseconds);
   if (tools_.Port.IsOpen() && HasItsPower()) LookAtSilence();
   if (tools_.Port.IsOpen()) return WatchUnsent();
   unsent_.clear();
-  tools_.ReopenTimer.Arm(kReopenMilliseconds);
+  ReopenTimer.Arm(kReopenMilliseconds);
   if (MayReopen && !MayReopen()) return;
   trouble_.clear();
   if (!tools_.Port.Reopen(ModemDevice(radio_), ModemBaud(radio_))) return;
@@ -157,12 +161,11 @@ void SerialModem::WatchUnsent() {
   const std::uint64_t gone = tools_.Port.BytesWritten() - tools_.Port.BytesToWrite();
   while (!unsent_.empty() && unsent_.front().End <= gone)
     unsent_.pop_front();
-  if (unsent_.empty()) return tools_.ReopenTimer.Arm(kReopenMilliseconds);
+  if (unsent_.empty()) return ReopenTimer.Arm(kReopenMilliseconds);
   const double waited = tools_.LocalClock.MonotonicSeconds() - unsent_.front().Seconds;
   if (waited >= kLongestUnsentSeconds) return GiveUp(notices::kModemTakesNothing);
   // A millisecond more, so that the time is over when the timer fires.
-  tools_.ReopenTimer.Arm(static_cast<int>(std::ceil((kLongestUnsentSeconds - waited) * 1000.0)) +
-                         1);
+  ReopenTimer.Arm(static_cast<int>(std::ceil((kLongestUnsentSeconds - waited) * 1000.0)) + 1);
 }
 
 // One that was off and on again has forgotten its call.
@@ -224,7 +227,7 @@ void SerialModem::GiveUp(Text trouble) {
   unsent_.clear();
   tools_.Port.DropUnsent();
   tools_.Port.Close();
-  tools_.ReopenTimer.Arm(kReopenMilliseconds);
+  ReopenTimer.Arm(kReopenMilliseconds);
   if (GivenUp) GivenUp();
 }
 

@@ -23,8 +23,10 @@
 #include "core/texts/text.h"
 #include "core/timer.h"
 #include "links/modem_call.h"
+#include "links/radio_link.h"
 #include "links/setup_sequences.h"
 #include "platform/clock.h"
+#include "platform/event.h"
 #include "platform/serial_port.h"
 
 namespace zepril {
@@ -32,7 +34,6 @@ namespace zepril {
 struct SerialModemTools {
   SerialPort& Port;
   Clock& LocalClock;
-  Timer& ReopenTimer;
   Progress& LongWork;
 };
 
@@ -78,18 +79,21 @@ class SerialModem {
   // Why there is no link, as a sentence for the operator; empty when all is well.
   std::string Trouble() const;
 
-  // The re-open timer has fired.
+  // When the line is looked at, and a lost port opened again. To be driven by whoever owns the
+  // loop, also while control is handed over.
+  Timer ReopenTimer{kReopenMilliseconds};
+  // It has fired.
   void ReopenElapsed();
   // Whether a lost port may be opened just now; may be empty. Asked each time.
   std::function<bool()> MayReopen;
   // A lost port was opened again; may be empty.
-  std::function<void()> Reopened;
+  Event<> Reopened;
   // The line was given up: it takes nothing, or its modem has lost its power. May be empty.
-  std::function<void()> GivenUp;
+  Event<> GivenUp;
   // Bytes have come; may be empty.
-  std::function<void()> DataArrived;
+  Event<> DataArrived;
   // What the modem printed besides while it was asked; may be empty.
-  std::function<void(const std::string&)> HeardMeanwhile;
+  Event<const std::string&> HeardMeanwhile;
   ConverseMemory Memory;
 
  private:
@@ -101,6 +105,7 @@ class SerialModem {
 
   ModemSections Sections() const { return {identity_, radio_, transmission_}; }
   bool Run(const ModemScript& script, const ScriptProgress& progress = {});
+  void TakePort();
   void EnterConverse();
   bool FindAgain();
   bool LeaveConverse();

@@ -12,6 +12,7 @@
 #include "core/state/radio.h"
 #include "core/timer.h"
 #include "platform/dialogs.h"
+#include "platform/event.h"
 #include "platform/serial_port.h"
 
 namespace zepril {
@@ -46,7 +47,7 @@ class Terminal {
   // The port has received something. Left alone while the terminal is closed.
   void DataArrived();
   // It was opened or closed; may be empty.
-  Event Changed;
+  Event<> Changed;
 
  private:
   void KeyTyped(char character);

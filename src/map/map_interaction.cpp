@@ -78,9 +78,15 @@ void MapInteraction::BindMap() {
     tools_.ReadoutTexts.CursorReadout(at.X, at.Y);
     if (tools_.Panels.Sun) tools_.Panels.Sun->MoveSunCurve();
   };
-  map.MouseDown = [this](const MousePress& press) { PressMap(press); };
+  map.MouseDown = [this](const MousePress& press) {
+    Touched();
+    PressMap(press);
+  };
   map.MouseUp = [this](const MousePress&) { ReleaseMap(); };
-  map.KeyDown = [this](const KeyPress& key) { KeyOnMap(key); };
+  map.KeyDown = [this](const KeyPress& key) {
+    Touched();
+    KeyOnMap(key);
+  };
 }
 
 void MapInteraction::BindFolders() {

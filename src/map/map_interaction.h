@@ -21,6 +21,7 @@
 #include "map/map_panels.h"
 #include "map/readouts.h"
 #include "platform/desktop_actions.h"
+#include "platform/event.h"
 
 namespace zepril {
 
@@ -70,7 +71,9 @@ class MapInteraction {
   MapInteraction& operator=(const MapInteraction&) = delete;
 
   // A station's record was picked: `SelectedStationCall` and `SelectedRecordIndex` name it.
-  Event RecordPicked;
+  Event<> RecordPicked;
+  // The operator presses button or key on the map; told before it acts.
+  Event<> Touched;
   // Brings level, class boxes, brightness, layers and follow options into the controls, after the
   // state was loaded.
   void ShowState();

@@ -7,6 +7,7 @@
 
 #include <string>
 
+#include "core/actions/map_actions.h"
 #include "core/controls/chat_controls.h"
 #include "core/controls/map_controls.h"
 #include "core/controls/moni1_controls.h"
@@ -21,7 +22,6 @@
 #include "core/state/map_view.h"
 #include "core/state/stores.h"
 #include "core/state/transmission.h"
-#include "core/actions/map_actions.h"
 #include "core/symbol_table.h"
 #include "core/timer.h"
 #include "map/map_library.h"
@@ -31,6 +31,7 @@
 #include "map/tile_cache.h"
 #include "platform/clock.h"
 #include "platform/drawing_surface.h"
+#include "platform/event.h"
 
 namespace zepril {
 
@@ -77,7 +78,7 @@ class MapRedrawer final : public MapActions {
   void MapRedraw() override;
   void MapRefresh() override { ++controls_.Map.Picture1.Revision; }
   // The map, or the picture in its place, was drawn; may be empty.
-  Event Redrawn;
+  Event<> Redrawn;
 
  private:
   void ReadZone();

@@ -14,18 +14,6 @@ void ShowPlaceLevel(Button& button, int level) {
   if (level > 0) button.BackColour = state_colours::kLayerOn;
 }
 
-// Whoever moves the map while the panel is open points out his place.
-void BeginWithPresses(QthSetup& qth, PictureBox& map) {
-  map.MouseDown = [&qth, press = map.MouseDown](const MousePress& at) {
-    qth.Begin();
-    press(at);
-  };
-  map.KeyDown = [&qth, press = map.KeyDown](const KeyPress& key) {
-    qth.Begin();
-    press(key);
-  };
-}
-
 }  // namespace
 
 MapRoom::MapRoom(MapRoomSections sections, MapRoomControls controls, MapRoomTools tools)
@@ -59,7 +47,8 @@ MapRoom::MapRoom(MapRoomSections sections, MapRoomControls controls, MapRoomTool
     Redrawn(view, followed);
   };
   controls.Map.Command59.Click = [this] { Saver.SaveMapWindow(); };
-  BeginWithPresses(Qth, controls.Map.Picture1);
+  // Whoever moves the map while the panel is open points out his place.
+  Interaction.Touched = [this] { Qth.Begin(); };
 }
 
 void MapRoom::Redrawn(const MapViewState& view, const FollowedStationState& followed) {

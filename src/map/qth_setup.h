@@ -14,6 +14,7 @@
 #include "core/controls/qth_setup_controls.h"
 #include "core/state/map_view.h"
 #include "core/timer.h"
+#include "platform/event.h"
 
 namespace zepril {
 
@@ -39,7 +40,7 @@ class QthSetup {
   // Brings the centre into the fields; what was typed and not entered stays until the map moves.
   void ShowFields();
   // The own position is another one.
-  Event PositionTaken;
+  Event<> PositionTaken;
 
  private:
   bool Typed() const;

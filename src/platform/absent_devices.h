@@ -3,6 +3,7 @@
 
 #include "platform/monitor_engine.h"
 #include "platform/serial_port.h"
+#include "platform/tcp_socket.h"
 
 namespace zepril {
 
@@ -14,6 +15,16 @@ class AbsentSerialPort final : public SerialPort {
   void Write(std::string_view) override {}
   std::string ReadAll() override { return {}; }
   std::size_t BytesToWrite() const override { return 0; }
+};
+
+class AbsentSocket final : public TcpSocket {
+ public:
+  void Connect(const std::string&, int) override {}
+  void Close() override {}
+  void Drop() override {}
+  SocketState State() const override { return SocketState::Closed; }
+  bool Send(std::string_view) override { return false; }
+  std::size_t UnsentBytes() const override { return 0; }
 };
 
 class AbsentEngine final : public MonitorEngine {

@@ -2,9 +2,10 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <string_view>
+
+#include "platform/event.h"
 
 namespace zepril {
 
@@ -23,7 +24,7 @@ class MonitorEngine {
   // What has not left yet never leaves.
   virtual void DropUnsent() = 0;
   // The link was lost, or is back; may be empty.
-  std::function<void()> LinkChanged;
+  Event<> LinkChanged;
 };
 
 }  // namespace zepril

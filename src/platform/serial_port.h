@@ -4,10 +4,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "platform/event.h"
 
 namespace zepril {
 
@@ -40,7 +41,7 @@ class SerialPort {
   virtual std::string Trouble() const { return {}; }
 
   // Bytes have come into the buffer; may be empty.
-  std::function<void()> DataArrived;
+  Event<> DataArrived;
 };
 
 }  // namespace zepril

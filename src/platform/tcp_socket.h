@@ -3,9 +3,10 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <string_view>
+
+#include "platform/event.h"
 
 namespace zepril {
 
@@ -28,8 +29,8 @@ class TcpSocket {
   virtual std::size_t UnsentBytes() const = 0;
 
   // The connection stands; may be empty.
-  std::function<void()> Connected;
-  std::function<void(std::string_view bytes)> DataArrived;
+  Event<> Connected;
+  Event<std::string_view> DataArrived;
 };
 
 }  // namespace zepril

@@ -1,12 +1,14 @@
 // Hands every call on to the rooms.
 #include "station/station_program.h"
 
+#include <utility>
+
 #include "station/station_rooms.h"
 
 namespace zepril {
 
-StationProgram::StationProgram(StationPlatform platform)
-    : rooms_(std::make_unique<StationRooms>(platform)) {}
+StationProgram::StationProgram(const Machine& machine, std::shared_ptr<SerialPort> modem)
+    : rooms_(std::make_unique<StationRooms>(machine, std::move(modem))) {}
 
 StationProgram::~StationProgram() = default;
 
@@ -38,6 +40,10 @@ MainWindowControls& StationProgram::Controls() {
   return rooms_->Controls;
 }
 
+const StationSurfaces& StationProgram::Surfaces() const {
+  return rooms_->Surfaces;
+}
+
 Timer& StationProgram::Timer1() {
   return rooms_->Timer1;
 }
@@ -46,8 +52,11 @@ Timer& StationProgram::Timer2() {
   return rooms_->Timer2;
 }
 
-Timer& StationProgram::ReopenTimer() {
-  return rooms_->Links.ReopenTimer;
+std::vector<DrivenTimer> StationProgram::Timers() {
+  std::vector<DrivenTimer> timers{{&rooms_->Timer1, false}, {&rooms_->Timer2, true}};
+  for (const DrivenTimer& timer : rooms_->Links.Timers())
+    timers.push_back(timer);
+  return timers;
 }
 
 bool StationProgram::InTick() const {

@@ -1,48 +1,30 @@
 // One running program: builds every room, joins them, owns the one state. No toolkit.
 //
-// The desktop gives it a platform and two surfaces, binds its controls to widgets and drives its
-// timers; tests give it doubles and a virtual clock. All the rest happens in here.
+// The desktop gives it a machine, binds its controls to widgets and drives its timers; tests give
+// it doubles and a virtual clock. All the rest happens in here.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "core/controls/main_window_controls.h"
 #include "core/link_lamp.h"
 #include "core/runtime_state.h"
 #include "core/timer.h"
-#include "platform/clock.h"
-#include "platform/desktop_actions.h"
-#include "platform/dialogs.h"
-#include "platform/drawing_surface.h"
-#include "platform/files.h"
+#include "platform/machine.h"
 #include "platform/serial_port.h"
-#include "platform/tcp_socket.h"
 
 namespace zepril {
 
-// What the machine gives to one running program.
-struct StationPlatform {
-  Files& FileSystem;
-  Clock& LocalClock;
-  Dialogs& Boxes;
-  DesktopActions& Desktop;
-  TcpSocket& Winsock1;                  // the packet engine
-  SerialPort& MSComm1;                  // the modem
-  DrawingSurface& MapSurface;           // `Picture1`
-  DrawingSurface& BaseSurface;          // the second map window under it
-  DrawingSurface& SunSurface;           // plot of the sun's path
-  DrawingSurface& TxSymbolSurface;      // the symbol in TX SETUP
-  DrawingSurface& ObjectSymbolSurface;  // and in OBJECT SETUP, each of one cell
-};
-
 class StationRooms;
 struct ReceptionCounts;
+struct StationSurfaces;
 
 class StationProgram {
  public:
-  explicit StationProgram(StationPlatform platform);
+  // `modem`: the line on which START has set the modem up; null: the machine makes one.
+  explicit StationProgram(const Machine& machine, std::shared_ptr<SerialPort> modem = nullptr);
   ~StationProgram();
   StationProgram(const StationProgram&) = delete;
   StationProgram& operator=(const StationProgram&) = delete;
@@ -61,9 +43,11 @@ class StationProgram {
 
   RuntimeState& State();
   MainWindowControls& Controls();
+  const StationSurfaces& Surfaces() const;
   Timer& Timer1();
   Timer& Timer2();
-  Timer& ReopenTimer();
+  // All that are to be driven as long as the program is there.
+  std::vector<DrivenTimer> Timers();
   bool InTick() const;
 
   LinkLamp Lamp() const;

@@ -1,6 +1,8 @@
 // What each step of tick, start and stop calls in the rooms, and how the rooms are joined.
 #include "station/station_rooms.h"
 
+#include <utility>
+
 #include "config/main_window_settings.h"
 #include "config/window_file.h"
 #include "core/main_window_resize.h"
@@ -16,19 +18,22 @@
 
 namespace zepril {
 
-StationRooms::StationRooms(StationPlatform machine)
+StationRooms::StationRooms(const Machine& machine, std::shared_ptr<SerialPort> modem)
     : machine_(machine),
+      winsock1_(machine.MakeSocket()),
+      mscomm1_(modem ? std::move(modem) : machine.MakeSerialPort()),
+      Surfaces(machine.MakeSurface),
       Settings(State, machine.FileSystem, Timer1),
       LongWork(machine.LocalClock, Controls.Progress),
       Map({State.Map, State.Stores, State.Followed, State.Gps, State.Transmission, State.Identity,
            State.Places, State.Internet, State.Settings},
           {Controls.Window, Controls.Map, Controls.Readouts, Controls.Scales, Controls.Palette,
            Controls.Moni1, Controls.MoniAll, Controls.Record, Controls.Chat, Controls.Qth},
-          {machine.FileSystem, machine.LocalClock, machine.Boxes, machine.Desktop,
-           machine.MapSurface, machine.BaseSurface, Settings, Timer1, Timer2}),
+          {machine.FileSystem, machine.LocalClock, machine.Boxes, machine.Desktop, *Surfaces.Map,
+           *Surfaces.Base, Settings, Timer1, Timer2}),
       Links({State.Identity, State.Radio, State.Reception, State.Transmission},
             {Controls.Terminal, Controls.Raw, Controls.Status},
-            {machine.Winsock1, machine.MSComm1, machine.LocalClock, machine.Boxes, End,
+            {*winsock1_, *mscomm1_, machine.LocalClock, machine.Steps, machine.Boxes, End,
              Map.Redrawer, LongWork, Timer1, Timer2}),
       Gps({State.Identity, State.Map, State.Settings, State.Places},
           {Controls.Tracks, Controls.Map},
@@ -36,7 +41,7 @@ StationRooms::StationRooms(StationPlatform machine)
       Viewers({State.Identity, State.Map, State.Settings, State.Places},
               {Controls.Places, Controls.Picture, Controls.Sun, Controls.Map},
               {machine.FileSystem, machine.LocalClock, machine.Boxes, machine.Desktop,
-               machine.SunSurface, Map.Redrawer, Settings, LongWork, Timer1},
+               *Surfaces.Sun, Map.Redrawer, Settings, LongWork, Timer1},
               Map.Panels),
       Internet({State.Internet, State.Map}, {Controls.Iono, Controls.Map},
                {machine.Boxes, Map.Redrawer, Settings}),
@@ -51,22 +56,21 @@ StationRooms::StationRooms(StationPlatform machine)
                 State.Settings, State.Chat, State.Internet, State.Reception},
                {Controls.Window, Controls.Map, Controls.Transmit, Controls.Chat, Controls.Gate,
                 Controls.Record, Controls.TxSetup, Controls.ObjectSetup},
-               {machine.FileSystem, machine.LocalClock, machine.Boxes, machine.TxSymbolSurface,
-                machine.ObjectSymbolSurface, Links, Map.Sheets, Map.Symbols, LongWork, Map.Redrawer,
+               {machine.FileSystem, machine.LocalClock, machine.Boxes, *Surfaces.TxSymbol,
+                *Surfaces.ObjectSymbol, Links, Map.Sheets, Map.Symbols, LongWork, Map.Redrawer,
                 Settings, Timer1, Timer2}),
       RawSearch(Controls.Raw, State.Settings, Timer1),
       Cycle(State, Controls, machine.LocalClock, machine.Desktop, Timer1, Timer2, Map.Redrawer) {
   SetInitialControls(Controls);
   SetFirstView(State.Map);
-  State.Map.ViewWidthPx = machine_.MapSurface.Width();
-  State.Map.ViewHeightPx = machine_.MapSurface.Height();
+  State.Map.ViewWidthPx = Surfaces.Map->Width();
+  State.Map.ViewHeightPx = Surfaces.Map->Height();
   Timer1.Elapsed = [this] { Tick(); };
   Timer1.FollowClock(machine_.LocalClock);
   Timer2.Elapsed = [this] { Cycle.Timer2Elapsed(); };
   JoinTick();
   JoinRooms();
-  Links.Modem.Memory =
-      MemoryInFile(machine_.FileSystem, State.Identity, State.Radio, machine_.MSComm1);
+  Links.Modem.Memory = MemoryInFile(machine_.FileSystem, State.Identity, State.Radio, *mscomm1_);
 }
 
 bool StationRooms::Start(const std::string& program_folder, int colour_depth_bits) {

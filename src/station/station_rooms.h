@@ -2,6 +2,7 @@
 // floor.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "config/settings_writer.h"
@@ -15,13 +16,14 @@
 #include "internet/internet_room.h"
 #include "links/links_room.h"
 #include "map/map_room.h"
+#include "platform/machine.h"
 #include "reception/emergency_display.h"
 #include "reception/reception_room.h"
 #include "station/main_cycle.h"
 #include "station/main_window_start.h"
 #include "station/main_window_stop.h"
 #include "station/raw_list_search.h"
-#include "station/station_program.h"
+#include "station/station_surfaces.h"
 #include "transmit/transmit_room.h"
 #include "viewers/viewers_room.h"
 
@@ -35,7 +37,8 @@ struct ProgramEnd final : ProgramActions {
 
 class StationRooms {
  public:
-  explicit StationRooms(StationPlatform machine);
+  // `modem`: as StationProgram takes it.
+  StationRooms(const Machine& machine, std::shared_ptr<SerialPort> modem);
   StationRooms(const StationRooms&) = delete;
   StationRooms& operator=(const StationRooms&) = delete;
 
@@ -67,9 +70,12 @@ class StationRooms {
 
   void JoinRooms();
 
-  StationPlatform machine_;
+  Machine machine_;
+  std::shared_ptr<TcpSocket> winsock1_;  // the packet engine
+  std::shared_ptr<SerialPort> mscomm1_;  // the modem
 
  public:
+  StationSurfaces Surfaces;
   SettingsWriter Settings;
   ProgressPanel LongWork;
   MapRoom Map;

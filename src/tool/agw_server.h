@@ -8,11 +8,12 @@
 // One thread; everything happens in `Serve`.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "platform/event.h"
 
 namespace zepril {
 
@@ -54,7 +55,7 @@ class AgwServer {
   void Broadcast(std::string_view frame);
 
   // A client has handed over text to be sent.
-  std::function<void(const AgwUnproto&)> Sent;
+  Event<const AgwUnproto&> Sent;
 
  private:
   struct Client {

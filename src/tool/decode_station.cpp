@@ -9,8 +9,8 @@
 #include "core/state/gps.h"
 #include "core/text_fields.h"
 #include "geodesy/conversions.h"
-#include "platform/quiet_machine.h"
 #include "reception/reception_room.h"
+#include "tool/tool_machine.h"
 
 namespace zepril {
 namespace {
@@ -105,7 +105,8 @@ struct DecodeStation::Station {
         Room({Identity, Radio, Reception, Stores, Followed, Map, Gps, Alarms, Settings, Internet},
              {Controls.Window, Controls.Map, Controls.Moni1, Controls.MoniAll, Controls.Record,
               Controls.Status},
-             {Logs, TheClock, Boxes, Heard, Symbols, Actions, Actions, Actions, Timer1}) {
+             {Given.FileSystem, Given.LocalClock, Given.Boxes, Heard, Symbols, Actions, Actions,
+              Actions, Timer1}) {
     constexpr int kTickMilliseconds = 6000;
     Timer1.Arm(kTickMilliseconds);
     Identity.MyCallFull = settings.MyCallFull;
@@ -161,7 +162,8 @@ struct DecodeStation::Station {
   HeardTexts Heard{Radio, Reception, Engine, Modem, TheClock};
   LogKeeper Logs;
   QuietActions Actions;
-  QuietDialogs Boxes;
+  ToolMachine Tool;
+  Machine Given{Tool.Given(Logs, TheClock)};
   ReceptionRoom Room;
 };
 

@@ -3,12 +3,12 @@
 // and tells what it was asked to transmit. Nothing goes on the air, and no time passes.
 #pragma once
 
-#include <functional>
 #include <map>
 #include <span>
 #include <string>
 #include <string_view>
 
+#include "platform/event.h"
 #include "tool/air_script.h"
 
 namespace zepril {
@@ -61,8 +61,8 @@ class ModemModel {
   int Aired(const std::string& call) const;
 
   // A line that was taken for a command, without its end.
-  std::function<void(const std::string& command)> CommandCame;
-  std::function<void(const ModemSending&)> Sent;
+  Event<const std::string&> CommandCame;
+  Event<const ModemSending&> Sent;
 
  protected:
   // As it comes from the shop: the values of its settings, and where its lines go.

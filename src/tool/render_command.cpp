@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdio>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -27,9 +28,9 @@
 #include "platform/native/system_clock.h"
 #include "platform/qt/map_fonts.h"
 #include "platform/qt/qt_surface.h"
-#include "platform/quiet_machine.h"
 #include "reception/newest_values.h"
 #include "tool/arguments.h"
+#include "tool/tool_machine.h"
 
 namespace zepril {
 namespace {
@@ -270,9 +271,13 @@ int Paint(const Arguments& arguments, Files& files, RuntimeState& state, const R
   fonts.LoadFonts(fonts_at);
   const int width = static_cast<int>(state.Map.ViewWidthPx);
   const int height = static_cast<int>(state.Map.ViewHeightPx);
-  QtSurface map(width, height, fonts);
-  QtSurface base(width, height, fonts);
   RenderClock clock(wish.At);
+  ToolMachine tool;
+  const Machine machine = tool.Given(files, clock, [&fonts](int wide, int high) {
+    return std::make_shared<QtSurface>(wide, high, fonts);
+  });
+  const std::shared_ptr<DrawingSurface> map = machine.MakeSurface(width, height);
+  const std::shared_ptr<DrawingSurface> base = machine.MakeSurface(width, height);
   const CoordinateValues strips = StripsOfCentre(state);
   const MapPanels no_panels;
   MapOverlays layers({state.Places, state.Internet, state.Settings}, strips, clock, no_panels);
@@ -280,20 +285,21 @@ int Paint(const Arguments& arguments, Files& files, RuntimeState& state, const R
   Timer timer1(6000);
   Timer timer2(6000);
   QuietActions actions;
-  QuietDialogs boxes;
-  QuietDesktop desktop;
   MainWindowControls controls;
   controls.Record.Frame1.Visible = false;
   MapRoom room({state.Map, state.Stores, state.Followed, state.Gps, state.Transmission,
                 state.Identity, state.Places, state.Internet, state.Settings},
                {controls.Window, controls.Map, controls.Readouts, controls.Scales, controls.Palette,
                 controls.Moni1, controls.MoniAll, controls.Record, controls.Chat, controls.Qth},
-               {files, clock, boxes, desktop, map, base, actions, timer1, timer2, &overlays});
+               {machine.FileSystem, machine.LocalClock, machine.Boxes, machine.Desktop, *map, *base,
+                actions, timer1, timer2, &overlays});
   room.Library.MapLibraryScan();
   for (CheckBox& box : controls.Scales.FrameBox)
     box.Value = arguments.Has("--frames") ? 1 : 0;
   room.Redrawer.MapRedraw();
-  if (map.Picture().save(QString::fromStdString(TextOf(arguments, "-o", "")))) return 0;
+  if (static_cast<QtSurface&>(*map).Picture().save(
+          QString::fromStdString(TextOf(arguments, "-o", ""))))
+    return 0;
   std::fputs("zepril-tool render: can't write the picture\n", stderr);
   return 1;
 }

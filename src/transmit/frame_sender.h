@@ -8,6 +8,7 @@
 
 #include "links/radio_links.h"
 #include "platform/clock.h"
+#include "platform/event.h"
 
 namespace zepril {
 
@@ -38,9 +39,9 @@ class FrameSender {
   // True while the operator talks to the modem himself: nothing is sent. May be empty.
   std::function<bool()> HeldBack;
   // A frame begins to leave; may be empty.
-  std::function<void()> Leaving;
+  Event<> Leaving;
   // What became of it; may be empty.
-  std::function<void(Delivery)> Left;
+  Event<Delivery> Left;
 
  private:
   Delivery HandOver(std::string_view text, SecondMode second_mode);

@@ -25,9 +25,9 @@ namespace zepril {
 
 // What TX SETUP asks of the rest of the program when it is confirmed.
 struct TxSetupJoins {
-  Event RefreshStatusLine;  // the speed's label in the status line
-  Event ShowTitleMarkers;
-  Event SetLabels;
+  std::function<void()> RefreshStatusLine;  // the speed's label in the status line
+  std::function<void()> ShowTitleMarkers;
+  std::function<void()> SetLabels;
 };
 
 struct TxSetupSections {

@@ -11,6 +11,7 @@
 #include "core/state/chat.h"
 #include "core/state/gps.h"
 #include "core/state/transmission.h"
+#include "platform/event.h"
 #include "transmit/position_beacon.h"
 
 namespace zepril {
@@ -41,10 +42,10 @@ class TxSwitches {
   // Takes the object off the air.
   void ObjectOff();
   // The operator wants to transmit and has not said from where yet; may be empty.
-  Event PositionMissing;
+  Event<> PositionMissing;
   // TX has gone off, by hand or because it can't be on: nothing that waits may leave any more. May
   // be empty.
-  Event TurnedOff;
+  Event<> TurnedOff;
 
  private:
   void TxClicked();

@@ -160,9 +160,8 @@ TEST_F(AccessibleNamesTest, ASwitchOfThreeStatesTellsItsThird) {
 }
 
 TEST_F(AccessibleNamesTest, NoControlOfTheStartWindowIsNameless) {
-  StartPanel panel(
-      StartPanelPlatform{files, loop, dialogs, modem, [] { return std::vector<SerialDevice>(); }},
-      "C:\\ZEPRIL", "");
+  StartPanel panel(MachineOf(files, loop, loop, dialogs, desktop, {{}, {&modem}, {}}), "C:\\ZEPRIL",
+                   "");
   StartWindow start(panel, loop, fonts);
   start.show();
   start.ShowMapProgress(1, 5);

@@ -26,7 +26,7 @@ class BinderTest : public ::testing::Test {
     window.activateWindow();
     ASSERT_TRUE(PumpUntil([this] { return QApplication::activeWindow() == &window; }));
   }
-  Event Counted(int& count) {
+  std::function<void()> Counted(int& count) {
     return [&count] { ++count; };
   }
 

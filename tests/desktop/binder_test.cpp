@@ -130,8 +130,10 @@ TEST_F(BinderTest, AssignmentsRaiseNothing) {
   TextBox text;
   ComboBox list;
   ListBox rows;
-  box.Click = option.Click = text.Change = list.Change = list.Click = rows.Click = Counted(raised);
-  rows.DoubleClick = Counted(raised);
+  for (Event<>* event : {&box.Click, &option.Click, &text.Change, &list.Change, &list.Click,
+                         &rows.Click, &rows.DoubleClick}) {
+    *event = Counted(raised);
+  }
   QStringListModel model;
   binder.Bind(Place(new QPushButton), box);
   binder.Bind(Place(new QPushButton), option);

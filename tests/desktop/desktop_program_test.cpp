@@ -452,7 +452,7 @@ TEST_F(DesktopProgramTest, TheTimersStandStillWhileABoxIsOpen) {
   Timer timer{1};
   int fired = 0;
   timer.Elapsed = [&] { ++fired; };
-  loop.Drive(timer, true);
+  loop.Drive({&timer, true});
   timer.Arm(1);
   int fired_in_box = -1;
   int witnessed = 0;

@@ -17,7 +17,7 @@
 #include "platform/native/native_files.h"
 #include "tests/desktop/desktop_support.h"
 #include "tests/desktop/loopback_engine.h"
-#include "tests/doubles/fake_socket.h"
+#include "tests/doubles/machine.h"
 #include "tests/doubles/recorded_desktop.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/temp_folder.h"
@@ -42,9 +42,11 @@ class MainWindowTest : public ::testing::Test {
                 "UUN=5830\r\nUUE=380\r\n");
     socket.OnConnect = [this] { socket.SetState(SocketState::Connected); };
     EXPECT_TRUE(fonts.LoadFonts(QStringLiteral(ZEPRIL_SOURCE_DIR "/data/fonts")));
-    program = std::make_unique<StationProgram>(
-        StationPlatform{files, loop, dialogs, desktop, socket, modem, map_surface, base_surface,
-                        sun_surface, tx_symbol_surface, object_symbol_surface});
+    program = std::make_unique<StationProgram>(MachineOf(
+        files, loop, loop, dialogs, desktop,
+        {{&socket},
+         {&modem},
+         {&map_surface, &base_surface, &sun_surface, &tx_symbol_surface, &object_symbol_surface}}));
     loop.RunStep([this] { EXPECT_TRUE(program->Start("C:\\ZEPRIL", 32)); });
     State().Map.MapTileKm = 50.0;
     State().Map.ZoomFactor = 1.0;

@@ -20,6 +20,8 @@
 #include "platform/qt/qt_serial_port.h"
 #include "tests/desktop/desktop_support.h"
 #include "tests/doubles/hurried_clock.h"
+#include "tests/doubles/machine.h"
+#include "tests/doubles/recorded_desktop.h"
 #include "tests/doubles/pseudo_terminal.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/temp_folder.h"
@@ -39,8 +41,9 @@ class StartWindowTest : public ::testing::Test {
   void Show(const std::string& settings) {
     files.MakeFolder("C:\\Z");
     files.Write("C:\\Z\\ZEPRIL.INI", "USER=QX7KB\r\nTEMP=C:\\T\r\n" + settings);
-    panel = std::make_unique<StartPanel>(
-        StartPanelPlatform{files, clock, dialogs, modem, [this] { return devices; }}, "C:\\Z", "");
+    panel = std::make_unique<StartPanel>(MachineOf(files, clock, loop, dialogs, desktop,
+                                                   {{}, {&modem}, {}}, [this] { return devices; }),
+                                         "C:\\Z", "");
     panel->Started = [this] { ++starts; };
     window = std::make_unique<StartWindow>(*panel, loop, fonts);
     window->Closed = [this] { ++closed; };
@@ -61,6 +64,7 @@ class StartWindowTest : public ::testing::Test {
   TempFolder folder;
   NativeFiles files{folder.Path()};
   ScriptedDialogs dialogs;
+  RecordedDesktop desktop;
   MapFonts fonts;
   QtLoop loop;
   HurriedClock clock{loop, kHurry};

@@ -174,9 +174,8 @@ TEST_F(WindowsFitTest, TheDimButtonLooksOnOnlyWhileTheMapIsDimmed) {
 // ---- The start window -----------------------------------------------------------------------
 
 TEST_F(WindowsFitTest, OnALowScreenTheStartWindowScrollsAndStartStaysInSight) {
-  StartPanel panel(
-      StartPanelPlatform{files, loop, dialogs, modem, [] { return std::vector<SerialDevice>(); }},
-      "C:\\ZEPRIL", "");
+  StartPanel panel(MachineOf(files, loop, loop, dialogs, desktop, {{}, {&modem}, {}}), "C:\\ZEPRIL",
+                   "");
   StartWindow start(panel, loop, fonts);
   start.resize(600, 360);
   start.show();

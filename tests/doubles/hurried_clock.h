@@ -52,10 +52,11 @@ class HurriedClock final : public Clock {
   std::int64_t LoopsPerSecond() override { return world_.LoopsPerSecond(); }
 
   // A timer of the program; `pumped` ones also fire while control is handed over inside a routine.
-  void Drive(Timer& timer, bool pumped) {
-    driven_.push_back(std::make_unique<Driven>(Driven{&timer, pumped, MonotonicSeconds()}));
+  void Drive(const DrivenTimer& timer) {
+    driven_.push_back(
+        std::make_unique<Driven>(Driven{timer.Subject, timer.Pumped, MonotonicSeconds()}));
     Driven& driven = *driven_.back();
-    timer.Changed = [this, &driven] { driven.Since = MonotonicSeconds(); };
+    timer.Subject->Changed = [this, &driven] { driven.Since = MonotonicSeconds(); };
   }
   void ForgetTimers() {
     for (const auto& driven : driven_)

@@ -1,6 +1,8 @@
 // All that a station paints on, each writing down what is drawn.
 #pragma once
 
+#include <vector>
+
 #include "tests/doubles/recorder_surface.h"
 
 namespace zepril {
@@ -11,6 +13,10 @@ struct RecordedSurfaces {
   RecorderSurface sun_surface{361, 91};
   RecorderSurface tx_symbol_surface{22, 22};
   RecorderSurface object_symbol_surface{22, 22};
+
+  std::vector<DrawingSurface*> Surfaces() {
+    return {&map_surface, &base_surface, &sun_surface, &tx_symbol_surface, &object_symbol_surface};
+  }
 };
 
 }  // namespace zepril

@@ -2,6 +2,7 @@
 // events fire in order. A year of operation is simulated in minutes.
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <map>
 #include <string>
@@ -9,10 +10,11 @@
 
 #include "core/timer.h"
 #include "platform/clock.h"
+#include "platform/loop.h"
 
 namespace zepril {
 
-class VirtualClock final : public Clock {
+class VirtualClock final : public Clock, public Loop {
  public:
   explicit VirtualClock(LocalTime start = {2024, 1, 15, 12, 34, 0}) : start_(SecondsOf(start)) {}
 
@@ -53,16 +55,22 @@ class VirtualClock final : public Clock {
   }
 
   // A timer of the program; `pumped` ones also fire while control is handed over inside a routine.
-  void Drive(Timer& timer, bool pumped) {
-    driven_.push_back({&timer, pumped, timer.Generation(), elapsed_});
+  void Drive(Timer& timer, bool pumped) { Drive({&timer, pumped}); }
+  void Drive(const DrivenTimer& timer) {
+    driven_.push_back({timer.Subject, timer.Pumped, timer.Subject->Generation(), elapsed_});
   }
 
   void ForgetTimers() { driven_.clear(); }
+
+  void RunStep(const std::function<void()>& step) override { step(); }
+  using Loop::RunStep;
+  void Post(std::function<void()> work) override { posted_.push_back(std::move(work)); }
 
   // Lets the program run: timers fire as they fall due, events arrive.
   void Run(double seconds) {
     const double end = elapsed_ + seconds;
     for (;;) {
+      RunPosted();
       Follow();
       Driven* next = NextTimer(false);
       const double timer_due = next ? next->Due() : end + 1.0;
@@ -117,6 +125,14 @@ class VirtualClock final : public Clock {
     if (timer.Subject->Elapsed) timer.Subject->Elapsed();
   }
 
+  void RunPosted() {
+    while (!posted_.empty()) {
+      const std::function<void()> work = posted_.front();
+      posted_.pop_front();
+      work();
+    }
+  }
+
   void FireEvent() {
     const auto first = events_.begin();
     const std::function<void()> event = first->second;
@@ -145,6 +161,7 @@ class VirtualClock final : public Clock {
   double elapsed_ = 0.0;
   std::multimap<double, std::function<void()>> events_;
   std::vector<Driven> driven_;
+  std::deque<std::function<void()>> posted_;
 };
 
 }  // namespace zepril

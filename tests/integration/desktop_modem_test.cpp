@@ -125,8 +125,8 @@ TEST_F(DesktopModemTest, AnScsTncFromStartToTheEnd) {
   QTest::mouseClick(opens, Qt::LeftButton);
   ASSERT_TRUE(station.Controls().Terminal.Frame19.Visible);
   QCoreApplication::processEvents();  // the map has its new size
-  station.Timer1().Stop();
-  station.ReopenTimer().Stop();
+  for (const DrivenTimer& timer : station.Timers())
+    timer.Subject->Stop();
   EXPECT_TRUE(Comes([&] { return printed->toPlainText().contains(QStringLiteral("fm ")); }));
   auto* const closes = whole.Window()->findChild<QAbstractButton*>(QStringLiteral("Command66"));
   QTest::mouseClick(closes, Qt::LeftButton);

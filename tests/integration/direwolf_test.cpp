@@ -22,6 +22,7 @@
 #include "platform/quiet_machine.h"
 #include "station/station_program.h"
 #include "tests/doubles/hurried_clock.h"
+#include "tests/doubles/machine.h"
 #include "tests/doubles/noted_end.h"
 #include "tests/doubles/recorded_progress.h"
 #include "tests/doubles/recorded_surfaces.h"
@@ -122,8 +123,7 @@ class DirewolfTest : public EngineTest, protected RecordedSurfaces {
             "TXI4A=0\r\nTXI5A=0\r\nTXI6A=0\r\nONAM=WORKS\r\nOTXT=one lane\r\nOSYM=82\r\n"
             "OUTN=5817.860\r\nOUTE=391.394\r\n");
     program = std::make_unique<StationProgram>(
-        StationPlatform{files, loop, dialogs, desktop, socket, modem, map_surface, base_surface,
-                        sun_surface, tx_symbol_surface, object_symbol_surface});
+        MachineOf(files, loop, loop, dialogs, desktop, {{&socket}, {&modem}, Surfaces()}));
   }
 
   // The tick comes when the test says so, not every six seconds.
@@ -305,16 +305,14 @@ class SendingTest : public EngineTest {
     state.Radio.BaudMode = baud_mode;
     state.Radio.AgwHost = "127.0.0.1";
     state.Radio.AgwTcpPort = WholeNumber(engine->Port);
-    remote.emplace(state.Radio, state.Identity, state.Transmission, socket, loop, dialogs, nobody,
-                   reopen);
+    remote.emplace(state.Radio, state.Identity, state.Transmission, socket, loop, dialogs, nobody);
     ASSERT_TRUE(remote->ConnectAgw()) << engine->Log();
     MakeBeacon();
   }
   void ConnectLocal(const std::string& baud_mode) {
     state.Radio.RadioMode = static_cast<int>(RadioMode::AgwLocal);
     state.Radio.BaudMode = baud_mode;
-    remote.emplace(state.Radio, state.Identity, state.Transmission, unused, loop, dialogs, nobody,
-                   unused_timer);
+    remote.emplace(state.Radio, state.Identity, state.Transmission, unused, loop, dialogs, nobody);
     ASSERT_TRUE(local.AGWStartPoll("ZEPRIL", state.Identity.MyCallFull)) << engine->Log();
     MakeBeacon();
   }
@@ -336,13 +334,10 @@ class SendingTest : public EngineTest {
   AbsentSerialPort modem;
   HurriedClock hurried{loop, 20.0};  // for the pause behind each frame
   QtSocket unused;
-  Timer reopen{kReopenMilliseconds};
-  Timer unused_timer{kReopenMilliseconds};
-  AgwLocal local{state.Radio, socket, loop, reopen};
+  AgwLocal local{state.Radio, socket, loop};
   std::optional<AgwLink> remote;
   RecordedProgress work;
-  SerialModem no_modem{
-      state.Identity, state.Radio, state.Transmission, {modem, loop, unused_timer, work}};
+  SerialModem no_modem{state.Identity, state.Radio, state.Transmission, {modem, loop, work}};
   std::optional<RadioLinks> links;
   std::optional<FrameSender> sender;
   std::optional<PositionBeacon> beacon;

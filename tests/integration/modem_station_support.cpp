@@ -48,11 +48,9 @@ ModemStation::ModemStation(RadioMode mode, const std::string& extra_settings, do
 
 void ModemStation::Make() {
   program = std::make_unique<StationProgram>(
-      StationPlatform{files, clock, dialogs, desktop, socket, port, map_surface, base_surface,
-                      sun_surface, tx_symbol_surface, object_symbol_surface});
-  clock.Drive(program->Timer1(), false);
-  clock.Drive(program->Timer2(), true);
-  clock.Drive(program->ReopenTimer(), true);
+      MachineOf(files, clock, loop, dialogs, desktop, {{&socket}, {&port}, Surfaces()}));
+  for (const DrivenTimer& timer : program->Timers())
+    clock.Drive(timer);
 }
 
 ModemStation::~ModemStation() {
@@ -91,7 +89,7 @@ ModemScript ModemStation::Opening() const {
 }
 
 bool ModemStation::PressStart() {
-  StartPanel panel({files, clock, dialogs, port, {}}, kFolder, "");
+  StartPanel panel(MachineOf(files, clock, loop, dialogs, desktop, {{}, {&port}, {}}), kFolder, "");
   bool started = false;
   panel.Started = [&] { started = true; };
   panel.Controls.Command1.Click();

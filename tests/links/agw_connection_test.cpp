@@ -60,8 +60,8 @@ class WatchedLink : public ::testing::Test {
   VirtualClock clock;
   ScriptedDialogs dialogs;
   NotedEnd program;
-  Timer looks{kLookMilliseconds};
-  AgwLink link{radio, identity, transmission, socket, clock, dialogs, program, looks};
+  AgwLink link{radio, identity, transmission, socket, clock, dialogs, program};
+  Timer& looks = link.LookTimer();
   std::vector<bool> changes;
 };
 
@@ -260,9 +260,8 @@ class StartedLink : public ::testing::Test {
   VirtualClock clock;
   ScriptedDialogs dialogs;
   NotedEnd program;
-  Timer looks{kLookMilliseconds};
-  AgwLink link{radio, identity, transmission, socket, clock, dialogs, program, looks};
-  AgwLocal local{radio, socket, clock, looks};
+  AgwLink link{radio, identity, transmission, socket, clock, dialogs, program};
+  AgwLocal local{radio, socket, clock};
 };
 
 TEST_F(StartedLink, ASilentHostDoesNotKeepTheProgramFromItsEnd) {
@@ -286,7 +285,7 @@ TEST_F(StartedLink, ALocalEngineDoesNotKeepTheProgramFromItsEnd) {
 }
 
 TEST_F(StartedLink, AStalledLocalEngineGetsNoFrameAndIsLost) {
-  clock.Drive(looks, true);
+  clock.Drive(local.LookTimer(), true);
   socket.OnConnect = [this] { socket.SetState(SocketState::Connected); };
   socket.AnswersVersion = false;
   ASSERT_TRUE(local.AGWStartPoll("ZEPRIL", "QX7KB"));

@@ -202,8 +202,8 @@ class AgwLinkTest : public ::testing::Test {
   VirtualClock clock;
   ScriptedDialogs dialogs;
   NotedEnd program;
-  Timer reopen{kReopenMilliseconds};
-  AgwLink link{radio, identity, transmission, socket, clock, dialogs, program, reopen};
+  AgwLink link{radio, identity, transmission, socket, clock, dialogs, program};
+  Timer& reopen = link.LookTimer();
 };
 
 TEST_F(AgwLinkTest, ConnectsRegistersAndMonitors) {
@@ -420,8 +420,8 @@ class AgwLocalTest : public ::testing::Test {
   RadioState radio;
   FakeSocket socket;
   VirtualClock clock;
-  Timer reopen{kReopenMilliseconds};
-  AgwLocal engine{radio, socket, clock, reopen};
+  AgwLocal engine{radio, socket, clock};
+  Timer& reopen = engine.LookTimer();
 };
 
 TEST_F(AgwLocalTest, StartRegistersAndMonitorsOnThisComputer) {

@@ -64,7 +64,7 @@ class RadioLinksTest : public ::testing::Test {
   Timer timer2{3000};
   LinksRoom room{{identity, radio, received, transmission},
                  {talk, raw, status},
-                 {socket, port, clock, boxes, actions, actions, work, timer1, timer2}};
+                 {socket, port, clock, clock, boxes, actions, actions, work, timer1, timer2}};
 };
 
 TEST_F(RadioLinksTest, TheEngineOnThisComputerIsStartedAndClosed) {

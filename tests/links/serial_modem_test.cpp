@@ -56,9 +56,9 @@ class SerialModemTest : public ::testing::Test {
   TransmissionState transmission;
   FakeSerial port;
   VirtualClock clock;
-  Timer reopen{kReopenMilliseconds};
   RecordedProgress progress;
-  SerialModem modem{identity, radio, transmission, {port, clock, reopen, progress}};
+  SerialModem modem{identity, radio, transmission, {port, clock, progress}};
+  Timer& reopen = modem.ReopenTimer;
 };
 
 TEST_F(SerialModemTest, ItOpensThePortOfTheMode) {

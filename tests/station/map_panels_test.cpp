@@ -119,7 +119,7 @@ TEST(PicturePanel, StepsThroughThePicturesAndCloses) {
 TEST(PicturePanel, CentreButtonAndFollowOptionsCloseIt) {
   PictureStation station;
   MapControls& map = station.Controls().Map;
-  for (const Event& closes : {map.Command12.Click, map.Option1.Click, map.Option2.Click}) {
+  for (const Event<>* closes : {&map.Command12.Click, &map.Option1.Click, &map.Option2.Click}) {
     station.State().Map.CentreNorthKm = 5800.0;
     station.State().Map.CentreEastKm = 400.0;
     station.State().Map.CentreFollow = Following::Nobody;
@@ -127,7 +127,7 @@ TEST(PicturePanel, CentreButtonAndFollowOptionsCloseIt) {
     station.Controls().Map.Command9.Click();
     station.OpenPicture();
     ASSERT_TRUE(station.Controls().Picture.Frame8.Visible);
-    closes();
+    (*closes)();
     EXPECT_EQ(station.State().Map.PictureMode, MapShows::Map);
     EXPECT_FALSE(station.Controls().Picture.Frame8.Visible);
   }

@@ -64,7 +64,7 @@ class RestlessOperator : public OnAirStation {
     box.Click();
   }
   void Click(Control& control, bool right = false) {
-    const Event& event = right ? control.RightClick : control.Click;
+    const Event<>& event = right ? control.RightClick : control.Click;
     if (control.Visible && control.Enabled && event) event();
   }
 

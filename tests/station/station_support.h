@@ -8,8 +8,7 @@
 #include "links/agw_frame.h"
 #include "platform/native/native_files.h"
 #include "station/station_program.h"
-#include "tests/doubles/fake_serial.h"
-#include "tests/doubles/fake_socket.h"
+#include "tests/doubles/machine.h"
 #include "tests/doubles/recorded_desktop.h"
 #include "tests/doubles/recorded_surfaces.h"
 #include "tests/doubles/scripted_dialogs.h"
@@ -91,12 +90,10 @@ class StationHarness : public RecordedSurfaces {
   void Make() {
     program.reset();
     program = std::make_unique<StationProgram>(
-        StationPlatform{files, clock, dialogs, desktop, socket, modem, map_surface, base_surface,
-                        sun_surface, tx_symbol_surface, object_symbol_surface});
+        MachineOf(files, clock, clock, dialogs, desktop, {{&socket}, {&modem}, Surfaces()}));
     clock.ForgetTimers();
-    clock.Drive(program->Timer1(), false);
-    clock.Drive(program->Timer2(), true);
-    clock.Drive(program->ReopenTimer(), true);
+    for (const DrivenTimer& timer : program->Timers())
+      clock.Drive(timer);
   }
 };
 

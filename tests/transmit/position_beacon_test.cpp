@@ -48,13 +48,12 @@ class BeaconTest : public ::testing::Test {
   VirtualClock clock{{2024, 6, 1, 1, 30, 0}};
   ScriptedDialogs boxes;
   NotedEnd program;
-  Timer reopen{kReopenMilliseconds};
   MemoryFiles files;
   SymbolTable symbols;
-  AgwLink link{radio, identity, transmission, socket, clock, boxes, program, reopen};
+  AgwLink link{radio, identity, transmission, socket, clock, boxes, program};
   ReceptionState received;
   RecordedProgress work;
-  SerialModem modem{identity, radio, transmission, {port, clock, reopen, work}};
+  SerialModem modem{identity, radio, transmission, {port, clock, work}};
   RadioLinks links{{identity, radio, received, transmission}, {engine, link, modem, port, clock}};
   FrameSender sender{links, clock};
   PositionBeacon beacon{{identity, transmission, view, gps, settings},

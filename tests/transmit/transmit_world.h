@@ -104,17 +104,14 @@ struct TransmitWorld {
   CountedActions Actions;
   Timer Timer1{6000};
   Timer Timer2{3000};
-  Timer Reopen{kReopenMilliseconds};
   MemoryFiles Disk;
   SymbolTable Symbols;
   std::string ProgramFolder = "C:\\ZEPRIL";
   SymbolSheets Sheets{Disk, ProgramFolder};
   RecorderSurface Cell{kSymbolCellPixels, kSymbolCellPixels};
   RecordedProgress LongWork;
-  SerialModem Modem{
-      State.Identity, State.Radio, State.Transmission, {Port, Clock, Reopen, LongWork}};
-  AgwLink Link{State.Radio, State.Identity, State.Transmission, Socket, Clock, Boxes,
-               Actions,     Reopen};
+  SerialModem Modem{State.Identity, State.Radio, State.Transmission, {Port, Clock, LongWork}};
+  AgwLink Link{State.Radio, State.Identity, State.Transmission, Socket, Clock, Boxes, Actions};
   RadioLinks Links{{State.Identity, State.Radio, State.Reception, State.Transmission},
                    {Engine, Link, Modem, Port, Clock}};
   FrameSender Sender{Links, Clock};

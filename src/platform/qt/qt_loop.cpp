@@ -6,6 +6,7 @@
 #include <QEventLoop>
 
 #include <algorithm>
+#include <utility>
 
 namespace zepril {
 namespace {
@@ -26,11 +27,11 @@ void QtLoop::ForgetTimers() {
   driven_.clear();
 }
 
-void QtLoop::Drive(Timer& timer, bool pumped) {
+void QtLoop::Drive(const DrivenTimer& timer) {
   driven_.push_back(std::make_unique<Driven>());
   Driven& driven = *driven_.back();
-  driven.Subject = &timer;
-  driven.Pumped = pumped;
+  driven.Subject = timer.Subject;
+  driven.Pumped = timer.Pumped;
   driven.Clockwork = std::make_unique<QTimer>();
   driven.Clockwork->setTimerType(Qt::CoarseTimer);
   QObject::connect(driven.Clockwork.get(), &QTimer::timeout, [this, &driven] { Fire(driven); });
@@ -42,7 +43,7 @@ void QtLoop::Drive(Timer& timer, bool pumped) {
       driven.Clockwork->stop();
     }
   };
-  timer.Changed = follow;
+  timer.Subject->Changed = follow;
   follow();
 }
 
@@ -85,17 +86,35 @@ void QtLoop::RunStep(const std::function<void()>& step) {
 }
 
 void QtLoop::StepsAreOver() {
-  // A copy: the end of a step may replace what follows it.
-  if (const auto ended = StepEnded) ended();
+  StepEnded();
+  RunPosted();
   // What fell due meanwhile comes from the loop, not from inside this step.
   QTimer::singleShot(0, &alive_, [this] { CatchUp(); });
 }
 
 void QtLoop::CatchUp() {
   if (InStep()) return;  // it comes again behind that
+  RunPosted();
   if (late_) TakeLatePresses();
   RunKeptPress();
   FireDue();
+}
+
+void QtLoop::Post(std::function<void()> work) {
+  posted_.push_back(std::move(work));
+  // Inside a step its end looks for it.
+  if (!InStep()) QTimer::singleShot(0, &alive_, [this] { CatchUp(); });
+}
+
+void QtLoop::RunPosted() {
+  if (in_posted_ || InStep()) return;
+  in_posted_ = true;
+  while (!posted_.empty()) {
+    const std::function<void()> work = std::move(posted_.front());
+    posted_.pop_front();
+    RunStep(work);
+  }
+  in_posted_ = false;
 }
 
 // Everything that came during a wait is looked at before any of it acts.

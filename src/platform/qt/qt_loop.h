@@ -16,18 +16,21 @@
 #include <QObject>
 #include <QTimer>
 
+#include <deque>
 #include <functional>
 #include <memory>
 #include <vector>
 
 #include "core/controls.h"
 #include "core/timer.h"
+#include "platform/event.h"
+#include "platform/loop.h"
 #include "platform/native/system_clock.h"
 #include "platform/qt/input_hold.h"
 
 namespace zepril {
 
-class QtLoop final : public SystemClock {
+class QtLoop final : public SystemClock, public Loop {
  public:
   // Plain waits that make a step a long one: more than the pause behind a frame.
   static constexpr double kLongStepSeconds = 1.0;
@@ -39,13 +42,15 @@ class QtLoop final : public SystemClock {
   void WaitPumping(double seconds) override;
   void HandOver() override;
 
-  // Drives `timer` from now on; a pumped one also fires in pumping waits and hand-overs. The timer
-  // must outlive the loop or be forgotten before it goes.
-  void Drive(Timer& timer, bool pumped);
+  // Drives the timer from now on; a pumped one also fires in pumping waits and hand-overs. It must
+  // outlive the loop or be forgotten before it goes.
+  void Drive(const DrivenTimer& timer);
   void ForgetTimers();
 
   // Runs a step of the program: an event, a timer. Afterwards the controls go out.
-  void RunStep(const std::function<void()>& step);
+  void RunStep(const std::function<void()>& step) override;
+  using Loop::RunStep;
+  void Post(std::function<void()> work) override;
   bool InStep() const { return depth_ > 0 || catching_up_; }
   // The operator has pressed `control`, which the step acts on. Null: every one of them acts.
   void Press(const void* control, Presses in_waits, const std::function<void()>& step);
@@ -59,9 +64,9 @@ class QtLoop final : public SystemClock {
   void Hold(const std::function<void()>& step);
 
   // Brings the controls to the window.
-  std::function<void()> ControlsOut;
+  Event<> ControlsOut;
   // The outermost step has ended.
-  std::function<void()> StepEnded;
+  Event<> StepEnded;
 
  private:
   struct Driven {
@@ -81,6 +86,7 @@ class QtLoop final : public SystemClock {
   void StepsAreOver();
   void CatchUp();
   void TakeLatePresses();
+  void RunPosted();
   void RunKeptPress();
   bool MayFire(const Driven& driven) const;
   void PumpFor(double seconds, bool user_events);
@@ -94,6 +100,8 @@ class QtLoop final : public SystemClock {
   double waited_ = 0.0;  // seconds of plain waits in this outermost step
   InputHold hold_;
   std::vector<KeptPress> kept_;
+  std::deque<std::function<void()>> posted_;
+  bool in_posted_ = false;
   bool late_ = false;  // a step has waited: what the operator did meanwhile has not all arrived
   bool catching_up_ = false;
   bool end_asked_ = false;

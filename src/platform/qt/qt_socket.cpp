@@ -21,8 +21,7 @@ QtSocket::QtSocket() {
     patience_.stop();
     state_ = SocketState::Connected;
     KeepAlive();
-    // A copy: the answer to the event may replace it.
-    if (const auto connected = Connected) connected();
+    Connected();
   });
   QObject::connect(&socket_, &QTcpSocket::disconnected, [this] {
     if (state_ == SocketState::Connected) state_ = SocketState::PeerClosed;

@@ -1,12 +1,11 @@
 // START: stores what stands in the fields and sets a serial modem up, and shows how far it is.
 #pragma once
 
-#include <functional>
-
 #include "config/start_panel_settings.h"
 #include "core/controls/start_panel_controls.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
+#include "platform/event.h"
 #include "platform/serial_port.h"
 #include "station/start/field_store.h"
 #include "station/start/port_fields.h"
@@ -35,7 +34,7 @@ class StartButton {
   StartButton& operator=(const StartButton&) = delete;
 
   // Told when the settings are stored and the modem is set up.
-  std::function<void()> Started;
+  Event<> Started;
 
   bool ModemIsSetUp() const { return modem_is_set_up_; }
   bool Starting() const { return starting_; }

@@ -9,18 +9,18 @@
 
 namespace zepril {
 
-StartPanel::StartPanel(StartPanelPlatform platform, std::string program_folder,
-                       const std::string& temp)
-    : files_(platform.FileSystem),
+StartPanel::StartPanel(const Machine& machine, std::string program_folder, const std::string& temp)
+    : files_(machine.FileSystem),
+      modem_(machine.MakeSerialPort()),
       program_folder_(std::move(program_folder)),
       settings_(DefaultStartPanelSettings(program_folder_, temp)),
       interfaces_(Controls),
-      devices_(std::move(platform.Devices), Controls.Text3),
+      devices_(machine.Devices, Controls.Text3),
       ports_(Controls, interfaces_, devices_),
       fields_(Controls, interfaces_, ports_, devices_, {settings_, program_folder_, files_},
-              platform.Boxes),
+              machine.Boxes),
       start_(Controls, {interfaces_, ports_, fields_}, {settings_, program_folder_, files_},
-             {platform.LocalClock, platform.Boxes, platform.Modem}) {
+             {machine.LocalClock, machine.Boxes, *modem_}) {
   NameStartPanel(Controls);
   for (const RadioInterface& one : interfaces_.All())
     one.Option->Click = [this, &one] { ChooseInterface(one); };

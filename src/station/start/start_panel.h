@@ -2,15 +2,14 @@
 // serial modem.
 #pragma once
 
-#include <functional>
+#include <memory>
 #include <string>
 
 #include "config/start_panel_settings.h"
 #include "core/controls/start_panel_controls.h"
-#include "platform/clock.h"
-#include "platform/dialogs.h"
+#include "platform/event.h"
 #include "platform/files.h"
-#include "platform/serial_device.h"
+#include "platform/machine.h"
 #include "platform/serial_port.h"
 #include "station/start/device_list.h"
 #include "station/start/field_store.h"
@@ -20,29 +19,22 @@
 
 namespace zepril {
 
-// What the machine gives to the start panel.
-struct StartPanelPlatform {
-  Files& FileSystem;
-  Clock& LocalClock;
-  Dialogs& Boxes;
-  SerialPort& Modem;         // closed before and after
-  SerialDeviceList Devices;  // for the list of the port field; may be empty
-};
-
 class StartPanel {
  public:
   // `temp`: the environment's TEMP, empty when there is none.
-  StartPanel(StartPanelPlatform platform, std::string program_folder, const std::string& temp);
+  StartPanel(const Machine& machine, std::string program_folder, const std::string& temp);
   StartPanel(const StartPanel&) = delete;
   StartPanel& operator=(const StartPanel&) = delete;
 
   StartPanelControls Controls;
   // Told when START has stored the settings and set up the modem: the main window may open.
-  std::function<void()> Started;
+  Event<> Started;
 
   const StartPanelSettings& Settings() const { return settings_; }
   // START has told the modem everything; true without a modem.
   bool ModemIsSetUp() const { return start_.ModemIsSetUp(); }
+  // The line of the modem, closed before START and after.
+  std::shared_ptr<SerialPort> Modem() const { return modem_; }
   // START is under way or has come to its end; what is asked for meanwhile comes afterwards.
   bool Starting() const { return start_.Starting(); }
 
@@ -60,6 +52,7 @@ class StartPanel {
   void FallBackToSlowSpeed();
 
   Files& files_;
+  std::shared_ptr<SerialPort> modem_;
   std::string program_folder_;
   StartPanelSettings settings_;
   RadioInterfaces interfaces_;

@@ -57,8 +57,8 @@ class QtLoopTest : public ::testing::Test {
     Timer1.Elapsed = [this] { ++ticks; };
     Timer2.Elapsed = [this] { ++pumped; };
     loop = std::make_unique<QtLoop>();
-    loop->Drive(Timer1, false);
-    loop->Drive(Timer2, true);
+    loop->Drive({&Timer1, false});
+    loop->Drive({&Timer2, true});
   }
   void Arm() {
     Timer1.Arm(1);
@@ -385,6 +385,33 @@ TEST_F(QtLoopTest, ControlsGoOutAfterEveryStepAndBeforeEveryWait) {
   EXPECT_GE(out, 3);
   EXPECT_EQ(ended, 1);
   EXPECT_FALSE(loop->InStep());
+}
+
+TEST_F(QtLoopTest, WhatIsPostedFollowsTheStepAsOneOfItsOwn) {
+  std::string order;
+  loop->StepEnded = [&] { order += "|"; };
+  loop->RunStep([&] {
+    loop->Post([&] {
+      EXPECT_TRUE(loop->InStep());
+      order += "b";
+      loop->Post([&] { order += "d"; });
+    });
+    loop->Post([&] { order += "c"; });
+    loop->WaitPumping(kShort);
+    order += "a";
+  });
+  EXPECT_EQ(order, "a|b|c|d|");
+}
+
+TEST_F(QtLoopTest, WhatIsPostedOutsideOfStepsComesBeforeKeptPresses) {
+  std::string order;
+  const int control = 0;
+  loop->RunStep([&] { loop->Wait(kShort); });
+  loop->Press(&control, Presses::OneKept, [&] { order += "p"; });
+  loop->Post([&] { order += "w"; });
+  EXPECT_EQ(order, "");
+  PumpUntil([&] { return order.size() >= 2; });
+  EXPECT_EQ(order, "wp");
 }
 
 TEST_F(QtLoopTest, TheEndOfAStepMayReplaceWhatFollows) {

@@ -12,6 +12,8 @@
 #include "core/text_fields.h"
 #include "platform/native/native_files.h"
 #include "station/start/start_panel.h"
+#include "tests/doubles/machine.h"
+#include "tests/doubles/recorded_desktop.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/temp_folder.h"
 #include "tests/doubles/virtual_clock.h"
@@ -58,8 +60,10 @@ class StartPanelWorld : public ::testing::Test {
     };
   }
   std::unique_ptr<StartPanel> MakePanel() {
-    auto panel = std::make_unique<StartPanel>(
-        StartPanelPlatform{files, clock, dialogs, modem, [this] { return devices; }}, "C:\\Z", "");
+    auto panel =
+        std::make_unique<StartPanel>(MachineOf(files, clock, clock, dialogs, desktop,
+                                               {{}, {&modem}, {}}, [this] { return devices; }),
+                                     "C:\\Z", "");
     panel->Started = [this] { ++starts; };
     return panel;
   }
@@ -91,6 +95,7 @@ class StartPanelWorld : public ::testing::Test {
   TempFolder folder;
   NativeFiles files{folder.Path()};
   ScriptedDialogs dialogs;
+  RecordedDesktop desktop;
   VirtualClock clock;
   NotedPort modem;
   std::vector<SerialDevice> devices{
