@@ -22,6 +22,15 @@ const ModemRow kModems[] = {
     {RadioMode::ScsPtc, &kScsPtc},
 };
 
+// Which of three the interface of `mode` is; null without a radio.
+template <class Interface>
+Interface* Choose(RadioMode mode, Interface& engine_here, Interface& engine_elsewhere,
+                  Interface& modem) {
+  if (mode == RadioMode::AgwLocal) return &engine_here;
+  if (mode == RadioMode::AgwRemote) return &engine_elsewhere;
+  return ModemKindOf(mode) ? &modem : nullptr;
+}
+
 }  // namespace
 
 const ModemKind* ModemKindOf(RadioMode mode) {
@@ -32,10 +41,7 @@ const ModemKind* ModemKindOf(RadioMode mode) {
 }
 
 HeardText* HeardTexts::Active() {
-  const RadioMode mode = ModeOf(radio_);
-  if (mode == RadioMode::AgwLocal) return &local_;
-  if (mode == RadioMode::AgwRemote) return &remote_;
-  return ModemKindOf(mode) ? &modem_ : nullptr;
+  return Choose<HeardText>(ModeOf(radio_), local_, remote_, modem_);
 }
 
 RadioLinks::RadioLinks(RadioLinksSections sections, RadioLinksTools tools)
@@ -52,10 +58,7 @@ RadioLinks::RadioLinks(RadioLinksSections sections, RadioLinksTools tools)
 }
 
 RadioLink* RadioLinks::Active() {
-  const RadioMode mode = ModeOf(radio_);
-  if (mode == RadioMode::AgwLocal) return &local_;
-  if (mode == RadioMode::AgwRemote) return &remote_;
-  return ModemKindOf(mode) ? &serial_ : nullptr;
+  return Choose<RadioLink>(ModeOf(radio_), local_, remote_, serial_);
 }
 
 }  // namespace zepril

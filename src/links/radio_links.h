@@ -42,7 +42,6 @@ class RadioLinks {
 
   // None without a radio.
   RadioLink* Active();
-  const RadioLink* Active() const { return const_cast<RadioLinks*>(this)->Active(); }
   // The active link was lost, or is back; may be empty.
   Event<> Changed;
 
