@@ -45,11 +45,6 @@ ModemScript ConverseScript(const RadioState& radio) {
   return script;
 }
 
-ModemScript OpenModemScript(const ModemSections& sections) {
-  ModemScript script = PrepareModemScript(sections);
-  return script.Append(ConverseScript(sections.Radio));
-}
-
 std::string WipeLineBytes(const RadioState& radio) {
   const ModemKind* kind = KindOf(radio);
   return kind ? std::string(kind->WipeLine) : std::string();

@@ -24,8 +24,6 @@ ModemScript TncSetupScript(const ModemSections& sections);
 // converse, where each line is a packet. From the second part on it has to be left in order.
 ModemScript PrepareModemScript(const ModemSections& sections);
 ModemScript ConverseScript(const RadioState& radio);
-// Both.
-ModemScript OpenModemScript(const ModemSections& sections);
 
 // Out of converse, in which a modem may have stayed whose port was lost or whose program was
 // killed: it would put every command on the air. Half a line that it holds does not leave either.

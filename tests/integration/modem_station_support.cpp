@@ -6,8 +6,8 @@
 
 #include "config/main_window_settings.h"
 #include "core/text_fields.h"
-#include "links/setup_sequences.h"
 #include "station/start/start_panel.h"
+#include "tests/links/open_modem_script.h"
 #include "tool/pk232_model.h"
 #include "tool/scs_ptc_model.h"
 #include "tool/scs_tnc_model.h"

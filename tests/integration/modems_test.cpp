@@ -35,6 +35,7 @@
 #include "tests/doubles/served_modem.h"
 #include "tests/doubles/temp_folder.h"
 #include "tests/integration/child_process_support.h"
+#include "tests/links/open_modem_script.h"
 #include "tool/pk232_model.h"
 #include "tool/scs_ptc_model.h"
 #include "tool/scs_tnc_model.h"

@@ -12,6 +12,7 @@
 #include "platform/code_page.h"
 #include "tests/doubles/fake_serial.h"
 #include "tests/doubles/virtual_clock.h"
+#include "tests/links/open_modem_script.h"
 
 namespace zepril {
 namespace {
