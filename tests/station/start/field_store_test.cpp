@@ -13,41 +13,38 @@ namespace {
 using FieldStoreTest = StartPanelWorld;
 
 TEST_F(FieldStoreTest, TheInterfaceDecidesWhichFieldsAreTaken) {
-  const auto held = MakePanel();
-  StartPanel& panel = *held;
-  EXPECT_TRUE(panel.Controls.Option2.Value);
-  EXPECT_FALSE(panel.Controls.Text3.Visible);
-  panel.Controls.Option9.Click();
-  EXPECT_TRUE(panel.Controls.Text3.Visible);
-  EXPECT_FALSE(panel.Controls.Option2.Value);
-  panel.Controls.Text8.Text = "QX7KB";
-  panel.Controls.Text3.Text = " radio.local ";
-  panel.Controls.Text4.Text = "";
-  panel.Controls.Command1.Click();
+  const auto panel = MakePanel();
+  EXPECT_TRUE(panel->Controls.Option2.Value);
+  EXPECT_FALSE(panel->Controls.Text3.Visible);
+  panel->Controls.Option9.Click();
+  EXPECT_TRUE(panel->Controls.Text3.Visible);
+  EXPECT_FALSE(panel->Controls.Option2.Value);
+  panel->Controls.Text8.Text = "QX7KB";
+  panel->Controls.Text3.Text = " radio.local ";
+  panel->Controls.Text4.Text = "";
+  panel->Controls.Command1.Click();
   EXPECT_TRUE(Has("MODEM=3"));
   EXPECT_TRUE(Has("HOSTC=radio.local"));
   EXPECT_TRUE(Has("HOSTP=8000"));
 }
 
 TEST_F(FieldStoreTest, MapsPathGivesTheMapSystem) {
-  const auto held = MakePanel();
-  StartPanel& panel = *held;
-  panel.Controls.Text8.Text = "QX7KB";
-  panel.Controls.Text1.Text = "c:\\zepril\\u08\\";
-  panel.Controls.Command1.Click();
+  const auto panel = MakePanel();
+  panel->Controls.Text8.Text = "QX7KB";
+  panel->Controls.Text1.Text = "c:\\zepril\\u08\\";
+  panel->Controls.Command1.Click();
   EXPECT_TRUE(Has("UMAPS=C:\\ZEPRIL\\U08"));
   EXPECT_TRUE(Has("MSYS=U08"));
 }
 
 TEST_F(FieldStoreTest, AFileThatCantBeWrittenIsSaidAndNothingIsLost) {
-  const auto held = MakePanel();
-  StartPanel& panel = *held;
+  const auto panel = MakePanel();
   files.MakeFolder("C:\\Z\\ZEPRIL.INI.new~");
-  panel.Controls.Text8.Text = "QX7KB";
+  panel->Controls.Text8.Text = "QX7KB";
   dialogs.Expect("ZEP RIL  START", "CAN'T WRITE  C:\\Z\\ZEPRIL.INI");
-  panel.Controls.Command1.Click();
-  EXPECT_EQ(panel.Controls.Command1.Caption, "START");
-  EXPECT_EQ(panel.Controls.Text8.Text, "QX7KB");
+  panel->Controls.Command1.Click();
+  EXPECT_EQ(panel->Controls.Command1.Caption, "START");
+  EXPECT_EQ(panel->Controls.Text8.Text, "QX7KB");
 }
 
 TEST_F(FieldStoreTest, AnEmptyFieldLeavesTheHeldPort) {

@@ -15,29 +15,27 @@ namespace {
 using StartButtonTest = StartPanelWorld;
 
 TEST_F(StartButtonTest, StartNeedsACallOfThreeCharacters) {
-  const auto held = MakePanel();
-  StartPanel& panel = *held;
-  panel.Controls.Text8.Text = " QX ";
+  const auto panel = MakePanel();
+  panel->Controls.Text8.Text = " QX ";
   dialogs.Expect("ZEP RIL  START", "SET USER CALL !");
-  panel.Controls.Command1.Click();
+  panel->Controls.Command1.Click();
   EXPECT_EQ(starts, 0);
-  EXPECT_FALSE(panel.Controls.Fault.Caption.empty());
-  EXPECT_TRUE(panel.Controls.Text8.FocusWanted);
-  panel.Controls.Text8.Text = "qx7kb";
-  panel.Controls.Text8.Change();
-  EXPECT_TRUE(panel.Controls.Fault.Caption.empty());
-  panel.Controls.Command1.Click();
+  EXPECT_FALSE(panel->Controls.Fault.Caption.empty());
+  EXPECT_TRUE(panel->Controls.Text8.FocusWanted);
+  panel->Controls.Text8.Text = "qx7kb";
+  panel->Controls.Text8.Change();
+  EXPECT_TRUE(panel->Controls.Fault.Caption.empty());
+  panel->Controls.Command1.Click();
   EXPECT_EQ(starts, 1);
   EXPECT_TRUE(Has("USER=QX7KB"));
-  EXPECT_EQ(panel.Controls.Command1.Caption, "...");
+  EXPECT_EQ(panel->Controls.Command1.Caption, "...");
 }
 
 TEST_F(StartButtonTest, ASecondPressIsIgnored) {
-  const auto held = MakePanel();
-  StartPanel& panel = *held;
-  panel.Controls.Text8.Text = "QX7KB";
-  panel.Controls.Command1.Click();
-  panel.Controls.Command1.Click();
+  const auto panel = MakePanel();
+  panel->Controls.Text8.Text = "QX7KB";
+  panel->Controls.Command1.Click();
+  panel->Controls.Command1.Click();
   EXPECT_EQ(starts, 1);
 }
 
