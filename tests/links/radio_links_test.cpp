@@ -6,26 +6,17 @@
 #include <string>
 #include <vector>
 
-#include "core/actions/map_actions.h"
-#include "core/actions/program_actions.h"
 #include "core/progress.h"
 #include "links/links_room.h"
 #include "tests/doubles/fake_serial.h"
 #include "tests/doubles/fake_socket.h"
+#include "tests/doubles/recorded_actions.h"
 #include "tests/doubles/recorded_progress.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/virtual_clock.h"
 
 namespace zepril {
 namespace {
-
-class NoActions final : public MapActions, public ProgramActions {
- public:
-  void MapRedraw() override {}
-  void MapRefresh() override {}
-  void EndProgram() override { Ended = true; }
-  bool Ended = false;
-};
 
 class RadioLinksTest : public ::testing::Test {
  protected:
@@ -58,7 +49,7 @@ class RadioLinksTest : public ::testing::Test {
   FakeSerial port;
   VirtualClock clock;
   ScriptedDialogs boxes;
-  NoActions actions;
+  RecordedActions actions;
   RecordedProgress work;
   Timer timer1{6000};
   Timer timer2{3000};
@@ -89,7 +80,7 @@ TEST_F(RadioLinksTest, AnEngineThatIsNotThereIsTriedTwiceAndEndsNothing) {
   EXPECT_TRUE(room.Open());
   EXPECT_EQ(socket.Connects, 2);
   EXPECT_NEAR(clock.MonotonicSeconds(), 2.0, 0.1);
-  EXPECT_FALSE(actions.Ended);
+  EXPECT_EQ(actions.CountOf("end"), 0);
   EXPECT_FALSE(room.Radios.Active()->Send("Test", SecondMode::SwitchOff));
 }
 
@@ -112,7 +103,7 @@ TEST_F(RadioLinksTest, AnEngineElsewhereThatIsNotFoundEndsTheProgram) {
   EXPECT_FALSE(room.Open());
   EXPECT_EQ(socket.Host, "engine.example");
   EXPECT_EQ(socket.Port, 8001);
-  EXPECT_TRUE(actions.Ended);
+  EXPECT_EQ(actions.CountOf("end"), 1);
 }
 
 TEST_F(RadioLinksTest, EachModemIsOpenedLeftAndSentToOnItsLine) {

@@ -8,17 +8,11 @@
 #include <vector>
 
 #include "tests/doubles/fake_serial.h"
+#include "tests/doubles/recorded_actions.h"
 #include "tests/doubles/scripted_dialogs.h"
 
 namespace zepril {
 namespace {
-
-class CountedMap final : public MapActions {
- public:
-  void MapRedraw() override {}
-  void MapRefresh() override { ++Refreshed; }
-  int Refreshed = 0;
-};
 
 class TerminalTest : public ::testing::Test {
  protected:
@@ -37,7 +31,7 @@ class TerminalTest : public ::testing::Test {
   }
 
   FakeSerial port;
-  CountedMap map;
+  RecordedActions map;
   TerminalControls panel;
   Timer Timer1{6000};
   Timer Timer2{3000};
@@ -118,7 +112,7 @@ TEST_F(TerminalTest, ClosingBringsBothTimersBackAndTellsOfIt) {
   EXPECT_FALSE(panel.Frame19.Visible);
   EXPECT_TRUE(Timer1.Enabled());
   EXPECT_TRUE(Timer2.Enabled());
-  EXPECT_EQ(map.Refreshed, 1);
+  EXPECT_EQ(map.CountOf("refresh"), 1);
 }
 
 // ---- Half a line -------------------------------------------------------------------------------

@@ -40,7 +40,7 @@ TEST_F(ObjectSetupTest, ItOpensWithTheTimersStopped) {
   EXPECT_EQ(Panel().SymbolIndex, 82);
   // With no object there is nothing to go to.
   EXPECT_FALSE(world.State.Map.ObjectCenterPending);
-  EXPECT_EQ(world.Actions.Redraws, 0);
+  EXPECT_EQ(world.Actions.CountOf("redraw"), 0);
 }
 
 TEST_F(ObjectSetupTest, ASecondRightClickLeavesWhatWasTyped) {
@@ -61,7 +61,7 @@ TEST_F(ObjectSetupTest, TheMapGoesToAnObjectThatIsThere) {
   EXPECT_EQ(world.State.Map.CentreFollow, Following::Nobody);
   EXPECT_FALSE(world.Controls.Map.Option1.Value);
   EXPECT_FALSE(world.Controls.Map.Option2.Value);
-  EXPECT_EQ(world.Actions.Redraws, 1);
+  EXPECT_EQ(world.Actions.CountOf("redraw"), 1);
   EXPECT_EQ(Panel().ObjectNameField.Text, "ABC");
 }
 
@@ -81,8 +81,8 @@ TEST_F(ObjectSetupTest, OkTakesFieldsAndTheMapsCentre) {
   EXPECT_EQ(Own().ObjectEast, 412.345);
   // It is not on the air: its rhythm is left alone.
   EXPECT_EQ(Own().LastObjectTime, 12345);
-  EXPECT_EQ(world.Actions.Saves, 1);
-  EXPECT_EQ(world.Actions.Redraws, 1);
+  EXPECT_EQ(world.Actions.CountOf("save"), 1);
+  EXPECT_EQ(world.Actions.CountOf("redraw"), 1);
   EXPECT_FALSE(Panel().Frame11.Visible);
   EXPECT_TRUE(world.Timer1.Enabled());
 }
@@ -122,7 +122,7 @@ TEST_F(ObjectSetupTest, DeletingSendsNothing) {
   Open();
   Panel().ObjectTextField.Text = "gone";
   Own().LastObjectTime = 12345;
-  const int redraws = world.Actions.Redraws;
+  const int redraws = world.Actions.CountOf("redraw");
   Panel().Command31.Click();
   EXPECT_EQ(Own().ObjectName, "");
   EXPECT_EQ(Own().ObjectTxOn, 0);
@@ -131,8 +131,8 @@ TEST_F(ObjectSetupTest, DeletingSendsNothing) {
   EXPECT_EQ(Own().ObjectNorth, 5378.123);
   EXPECT_TRUE(world.Engine.Sent.empty());
   EXPECT_EQ(Own().LastObjectTime, 12345);
-  EXPECT_EQ(world.Actions.Saves, 1);
-  EXPECT_EQ(world.Actions.Redraws, redraws + 1);
+  EXPECT_EQ(world.Actions.CountOf("save"), 1);
+  EXPECT_EQ(world.Actions.CountOf("redraw"), redraws + 1);
   EXPECT_FALSE(Panel().Frame11.Visible);
   EXPECT_TRUE(world.Timer1.Enabled());
 }
@@ -158,7 +158,7 @@ TEST_F(ObjectSetupTest, CancelLeavesTheObject) {
   EXPECT_EQ(Panel().SymbolIndex, 82);
   EXPECT_FALSE(Panel().Frame11.Visible);
   EXPECT_TRUE(world.Timer1.Enabled());
-  EXPECT_EQ(world.Actions.Saves, 0);
+  EXPECT_EQ(world.Actions.CountOf("save"), 0);
 }
 
 TEST_F(ObjectSetupTest, TheOverlayIsSeenWhileItIsTyped) {

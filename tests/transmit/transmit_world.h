@@ -16,9 +16,6 @@
 #include "core/controls/transmit_controls.h"
 #include "core/controls/tx_setup_controls.h"
 #include "core/controls/window_controls.h"
-#include "core/actions/map_actions.h"
-#include "core/actions/program_actions.h"
-#include "core/actions/settings_actions.h"
 #include "core/runtime_state.h"
 #include "links/radio_links.h"
 #include "links/serial_modem.h"
@@ -26,6 +23,7 @@
 #include "tests/doubles/fake_serial.h"
 #include "tests/doubles/fake_socket.h"
 #include "tests/doubles/memory_files.h"
+#include "tests/doubles/recorded_actions.h"
 #include "tests/doubles/recorded_progress.h"
 #include "tests/doubles/recorder_surface.h"
 #include "tests/doubles/scripted_dialogs.h"
@@ -51,21 +49,6 @@ class RecordingEngine final : public MonitorEngine {
   void DropUnsent() override {}
   std::vector<std::string> Sent;
   std::function<void(const std::string& call)> OnStart;
-};
-
-class CountedActions final : public MapActions, public SettingsActions, public ProgramActions {
- public:
-  void MapRedraw() override { ++Redraws; }
-  void MapRefresh() override {}
-  void WriteConfigFromMainWindow() override {
-    ++Saves;
-    if (OnSave) OnSave();
-  }
-  void ReplaceConfigLine(const std::string&, const std::string&) override {}
-  void EndProgram() override {}
-  int Redraws = 0;
-  int Saves = 0;
-  std::function<void()> OnSave;
 };
 
 // The groups of controls that transmission handles.
@@ -101,7 +84,7 @@ struct TransmitWorld {
   FakeSerial Port;
   VirtualClock Clock{{2024, 5, 14, 14, 30, 0}};
   ScriptedDialogs Boxes;
-  CountedActions Actions;
+  RecordedActions Actions;
   Timer Timer1{6000};
   Timer Timer2{3000};
   MemoryFiles Disk;

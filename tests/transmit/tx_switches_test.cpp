@@ -96,7 +96,7 @@ TEST_F(TxSwitchesTest, SwitchedOffEverythingGoesOffWithIt) {
   ClickObject(1);
   Chat().Check7.Value = 1;
   Chat().Frame3.Visible = true;
-  const int redraws = world.Actions.Redraws;
+  const int redraws = world.Actions.CountOf("redraw");
   ClickTx(0);
   EXPECT_EQ(Transmit().Check18.Value, 0);
   EXPECT_EQ(world.State.Transmission.ObjectTxOn, 0);
@@ -104,7 +104,7 @@ TEST_F(TxSwitchesTest, SwitchedOffEverythingGoesOffWithIt) {
   EXPECT_FALSE(Chat().Frame3.Visible);
   EXPECT_FALSE(world.Controls.Record.Command10.Enabled);
   EXPECT_EQ(Transmit().Check18.BackColour, state_colours::kOwnObjectDimmed);
-  EXPECT_EQ(world.Actions.Redraws, redraws + 1);
+  EXPECT_EQ(world.Actions.CountOf("redraw"), redraws + 1);
 }
 
 TEST_F(TxSwitchesTest, WithTheSwitchTheObjectGoesOffWhenThePositionIsLost) {
@@ -170,10 +170,10 @@ TEST_F(TxSwitchesTest, TheObjectGoesOnTheAirOnlyWithTxAndAName) {
   EXPECT_EQ(world.State.Transmission.ObjectTxOn, 1);
   EXPECT_EQ(world.State.Transmission.LastObjectTime, 0);
   // The map shows whether it is on the air.
-  EXPECT_EQ(world.Actions.Redraws, 1);
+  EXPECT_EQ(world.Actions.CountOf("redraw"), 1);
   ClickObject(0);
   EXPECT_EQ(world.State.Transmission.ObjectTxOn, 0);
-  EXPECT_EQ(world.Actions.Redraws, 2);
+  EXPECT_EQ(world.Actions.CountOf("redraw"), 2);
 }
 
 }  // namespace
