@@ -1,5 +1,5 @@
 // A packet engine that stalls, dies without a word, or cuts its frames: what is noticed, and that
-// nothing meant for the air is kept for later
+// nothing meant for the air is kept for later.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -8,18 +8,14 @@
 #include "core/text_fields.h"
 #include "links/agw_connection.h"
 #include "links/agw_frame.h"
-#include "links/agw_link.h"
 #include "links/agw_local.h"
-#include "tests/doubles/fake_socket.h"
-#include "tests/doubles/noted_end.h"
-#include "tests/doubles/scripted_dialogs.h"
-#include "tests/doubles/virtual_clock.h"
+#include "tests/links/agw_support.h"
 
 namespace zepril {
 namespace {
 
 // A link to another computer's engine that stands.
-class WatchedLink : public ::testing::Test {
+class WatchedLink : public RemoteLinkTest {
  protected:
   WatchedLink() {
     identity.MyCallFull = "QX7KB";
@@ -53,15 +49,6 @@ class WatchedLink : public ::testing::Test {
     return frames;
   }
 
-  RadioState radio;
-  IdentityState identity;
-  TransmissionState transmission;
-  FakeSocket socket;
-  VirtualClock clock;
-  ScriptedDialogs dialogs;
-  NotedEnd program;
-  AgwLink link{radio, identity, transmission, socket, clock, dialogs, program};
-  Timer& looks = link.LookTimer();
   std::vector<bool> changes;
 };
 
@@ -248,19 +235,11 @@ TEST_F(WatchedLink, AsksNoMoreWhenItIsClosed) {
 
 // ---- The start -------------------------------------------------------------------------------
 
-class StartedLink : public ::testing::Test {
+class StartedLink : public RemoteLinkTest {
  protected:
   void EndsAt(double seconds) {
     clock.Schedule(seconds, [this] { clock.EndIsAsked = true; });
   }
-  RadioState radio;
-  IdentityState identity;
-  TransmissionState transmission;
-  FakeSocket socket;
-  VirtualClock clock;
-  ScriptedDialogs dialogs;
-  NotedEnd program;
-  AgwLink link{radio, identity, transmission, socket, clock, dialogs, program};
   AgwLocal local{radio, socket, clock};
 };
 
