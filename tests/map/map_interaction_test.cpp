@@ -1,12 +1,15 @@
-// What each button, press, key and box of the map does.
+// What each button, key and box of the map does.
 #include "map/map_interaction.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "map/map_view.h"
-#include "map/station_lookup.h"
-#include "tests/map/map_world.h"
+#include "tests/map/map_interaction_support.h"
 
 namespace zepril {
 namespace {
@@ -14,78 +17,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// The joins of the map, written down.
-class Joins final : public MapActions,
-                    public MapLookups,
-                    public SunPanel,
-                    public PicturePanel,
-                    public DesktopActions {
- public:
-  explicit Joins(MapWorld& world) : world_(world) {}
-
-  void MapRedraw() override {
-    timer1_ran_while_redrawing_ = world_.Timer1.Enabled();
-    Calls.push_back("redraw");
-    world_.Redraw();
-  }
-  void MapRefresh() override { Calls.push_back("refresh"); }
-  bool LookupPicture() override { return Look("PIC"); }
-  bool LookupTrackPoint() override { return Look("TRK"); }
-  bool LookupPlace() override { return Look("POI"); }
-  void ShowSunCurve() override { Calls.push_back("SUN"); }
-  void MoveSunCurve() override {}
-  void ShowPicture(int) override {}
-  void MapRedrawn() override {}
-  void HideSunCurve() override { Calls.push_back("hide SUN"); }
-  void ClosePicture() override { Calls.push_back("close picture"); }
-  bool MainWindowActive() const override { return true; }
-  bool WindowExists(const std::string&) const override { return false; }
-  void Open(const std::string&) override {}
-  bool MovePointerOnMap(int x, int y) override {
-    Pointer.push_back({x, y});
-    return PointerMoves;
-  }
-
-  std::vector<std::string> Calls;
-  std::vector<PixelPoint> Pointer;
-  std::string Finds;  // the lookup that finds something
-  bool PointerMoves = true;
-  bool timer1_ran_while_redrawing_ = false;
-  std::vector<std::string> TimersAtLookups;  // what ran when each began
-
- private:
-  bool Look(const std::string& name) {
-    Calls.push_back(name);
-    TimersAtLookups.push_back(name + (world_.Timer1.Enabled() ? " Timer1" : "") +
-                              (world_.Timer2.Enabled() ? " Timer2" : ""));
-    // The next one has to arm it anew.
-    world_.Timer2.Arm(1);
-    world_.Timer1.Enable();
-    return Finds == name;
-  }
-  MapWorld& world_;
-};
-
-struct InteractionWorld : MapWorld {
-  InteractionWorld()
-      : Join(*this),
-        Hands(State.Map, State.Stores, State.Followed,
-              {Controls.Window, Controls.Map, Controls.Readouts, Controls.Scales, Controls.Palette,
-               Controls.Moni1, Controls.MoniAll, Controls.Record},
-              {Join, Room.Library, Room.ReadoutTexts, Quiet, Join, Shown, Join, Timer1, Timer2}) {
-    Hands.RecordPicked = [this] { Join.Calls.push_back("record panel"); };
-    Redraw();
-    Timer1.Enable();
-  }
-  void Press(int button, double x, double y) { Controls.Map.Picture1.MouseDown({button, 0, x, y}); }
-  void Key(int code, int shift = 0) { Controls.Map.Picture1.KeyDown({code, shift}); }
-
-  Joins Join;
-  MapPanels Shown{&Join, nullptr, &Join};
-  MapInteraction Hands;
-};
-
-// ---- Scale and zoom -------------------------------------------------------------------------
+// ---- Scale and zoom -----------------------------------------------------------------------------
 
 TEST(ScaleButtons, StepAlongTheChainAndStopAtItsEnds) {
   InteractionWorld world;
@@ -197,233 +129,7 @@ TEST(ScalePanel, AllBoxesOnAndOffAndANewScan) {
   EXPECT_EQ(world.Join.Calls.size(), 3u);
 }
 
-// ---- Presses --------------------------------------------------------------------------------
-
-TEST(LeftPress, CentresTheMapAndEndsFollowing) {
-  InteractionWorld world;
-  world.View().CentreFollow = Following::Station;
-  world.Controls.Map.Option2.Value = true;
-  world.View().MapLockedOnRecord = 1;
-  world.Press(1, 100, 50);
-  EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, 5837.45);
-  EXPECT_DOUBLE_EQ(world.View().CentreEastKm, 410.0);
-  EXPECT_EQ(world.View().CentreFollow, Following::Nobody);
-  EXPECT_FALSE(world.Controls.Map.Option1.Value);
-  EXPECT_FALSE(world.Controls.Map.Option2.Value);
-  EXPECT_TRUE(world.View().ManualMapMove);
-  EXPECT_EQ(world.Controls.Map.Command12.Caption, "MAP");
-}
-
-TEST(LeftPress, OnAPictureGoesToWhereItWasTaken) {
-  InteractionWorld world;
-  world.View().PictureNames = {"57000400.JPG", "A123@050.JPG"};
-  world.View().SelectedPicture = 2;
-  world.View().PictureMode = MapShows::Picture;
-  world.Press(1, 100, 50);
-  EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, -1122.501);
-  EXPECT_DOUBLE_EQ(world.View().CentreEastKm, -49.501);
-  EXPECT_EQ(world.View().PictureMode, MapShows::Map);
-  EXPECT_FALSE(world.View().ManualMapMove);
-  EXPECT_THAT(world.Join.Calls, ElementsAre("close picture", "redraw"));
-}
-
-TEST(LeftPress, OnAPictureThatHasLeftTheListOnlyClosesIt) {
-  InteractionWorld world;
-  world.View().SelectedPicture = 2;
-  world.View().PictureMode = MapShows::Picture;
-  world.View().CentreFollow = Following::OwnPosition;
-  world.Press(1, 100, 50);
-  EXPECT_EQ(world.View().CentreNorthKm, 5825.0);
-  EXPECT_EQ(world.View().PictureMode, MapShows::Map);
-  EXPECT_EQ(world.View().CentreFollow, Following::Nobody);
-}
-
-TEST(LeftPress, AShortPictureNameReadsWhatIsThere) {
-  InteractionWorld world;
-  world.View().PictureNames = {"62.JPG"};
-  world.View().SelectedPicture = 1;
-  world.View().PictureMode = MapShows::Picture;
-  world.Press(1, 100, 50);
-  EXPECT_DOUBLE_EQ(world.View().CentreNorthKm, 62.499);
-  EXPECT_DOUBLE_EQ(world.View().CentreEastKm, 0.499);
-}
-
-TEST(RightPress, LookupsStopAtTheFirstHit) {
-  InteractionWorld world;
-  world.View().StationLabelLevel = LabelLevel::MarksAndLines;
-  world.View().PicturesOn = world.View().TracksOn = true;
-  world.View().PoiLevel = 1;
-  world.Join.Finds = "TRK";
-  world.Press(2, 400, 299);
-  EXPECT_THAT(world.Join.Calls, ElementsAre("PIC", "TRK"));
-  EXPECT_TRUE(world.View().LookupHit);
-  EXPECT_DOUBLE_EQ(world.View().ClickNorthKm, 5825.0);
-  EXPECT_DOUBLE_EQ(world.View().ClickEastKm, 425.0);
-  world.Join.Calls.clear();
-  world.Join.Finds.clear();
-  world.Press(2, 400, 299);
-  EXPECT_THAT(world.Join.Calls, ElementsAre("PIC", "TRK", "POI", "SUN"));
-}
-
-TEST(RightPress, EachLookupStopsTheCycleForThreeSeconds) {
-  InteractionWorld world;
-  world.View().PicturesOn = world.View().TracksOn = true;
-  world.View().PoiLevel = 1;
-  world.Press(2, 400, 299);
-  EXPECT_THAT(world.Join.TimersAtLookups, ElementsAre("PIC Timer2", "TRK Timer2", "POI Timer2"));
-}
-
-TEST(RightPress, ALookupForStationsAloneStopsTheCycleToo) {
-  InteractionWorld world;
-  world.View().StationLabelLevel = LabelLevel::Marks;
-  world.Press(2, 400, 299);
-  EXPECT_THAT(world.Join.Calls, ElementsAre("SUN"));
-  EXPECT_FALSE(world.Timer1.Enabled());
-  EXPECT_TRUE(world.Timer2.Enabled());
-  EXPECT_EQ(world.Timer2.IntervalMs(), 3000);
-}
-
-TEST(RightPress, RunsOnlyTheLookupsOfWhatIsShown) {
-  InteractionWorld world;
-  world.View().PicturesOn = true;
-  world.Press(2, 400, 299);
-  EXPECT_THAT(world.Join.Calls, ElementsAre("PIC", "SUN"));
-  world.Join.Calls.clear();
-  world.View().PicturesOn = false;
-  world.View().TracksOn = true;
-  world.Press(2, 400, 299);
-  EXPECT_THAT(world.Join.Calls, ElementsAre("TRK", "SUN"));
-  world.Join.Calls.clear();
-  world.View().TracksOn = false;
-  world.View().PoiLevel = 2;
-  world.Join.Finds = "POI";
-  world.Press(2, 400, 299);
-  EXPECT_THAT(world.Join.Calls, ElementsAre("POI"));
-}
-
-TEST(RightPress, AHitUnderAMapTypeLeavesTheMapShown) {
-  InteractionWorld world;
-  world.View().ActiveFolderPath = "C:\\Z\\U33\\M0050TOPO";
-  world.View().PicturesOn = true;
-  world.Join.Finds = "PIC";
-  world.Press(2, 400, 299);
-  EXPECT_TRUE(world.Controls.Map.Picture1.Visible);
-}
-
-TEST(RightPress, AStationComesFirst) {
-  InteractionWorld world;
-  world.View().StationLabelLevel = LabelLevel::MarksAndLines;
-  world.View().PicturesOn = true;
-  world.Hear({});
-  world.Press(2, 400, 299);
-  EXPECT_THAT(world.Join.Calls, ElementsAre("record panel"));
-  EXPECT_EQ(world.State.Stores.SelectedStationCall, "N0CALL");
-  EXPECT_EQ(world.State.Stores.SelectedRecordIndex, 1);
-}
-
-TEST(RightPress, InANarrowWindowNothingIsLookedUp) {
-  InteractionWorld world;
-  world.Controls.Window.WidthPx = 629;
-  world.View().StationLabelLevel = LabelLevel::MarksAndLines;
-  world.Hear({});
-  world.Press(2, 400, 299);
-  EXPECT_THAT(world.Join.Calls, ElementsAre("SUN"));
-  EXPECT_TRUE(world.Timer1.Enabled());
-  world.Controls.Window.WidthPx = 630;
-  world.Press(2, 400, 299);
-  EXPECT_EQ(world.Join.Calls.back(), "record panel");
-}
-
-TEST(RightPress, WithAllLookupsOffOpensTheSunCurve) {
-  InteractionWorld world;
-  world.Press(2, 400, 299);
-  EXPECT_THAT(world.Join.Calls, ElementsAre("SUN"));
-  world.Controls.Map.Picture1.MouseUp({2, 0, 400, 299});
-  EXPECT_EQ(world.Join.Calls.back(), "hide SUN");
-}
-
-TEST(RightPress, ShowsThePlainMapUnderAMapTypeUntilTheRelease) {
-  InteractionWorld world;
-  world.AddTile("M0050TOPO", "58000400.BMP", FourBitTile());
-  world.AddTile("M0050", "58000400.BMP", FourBitTile());
-  world.View().StoredVariants[3] = "TOPO";
-  world.Scan();
-  world.Redraw();
-  world.Press(2, 400, 299);
-  EXPECT_FALSE(world.Controls.Map.Picture1.Visible);
-  EXPECT_THAT(world.Join.Calls, IsEmpty());
-  // Whatever is heard meanwhile.
-  world.Redraw();
-  EXPECT_FALSE(world.Controls.Map.Picture1.Visible);
-  world.Controls.Map.Picture1.MouseUp({2, 0, 400, 299});
-  EXPECT_TRUE(world.Controls.Map.Picture1.Visible);
-}
-
-TEST(MouseMove, ShowsTheCursorsPosition) {
-  InteractionWorld world;
-  world.Controls.Map.Picture1.MouseMove({0, 0, 100, 50});
-  EXPECT_EQ(world.Controls.Readouts.Label3.Caption, "UTMcrs 5837.450");
-}
-
-// Stations around 5825 / 425, seen at two metres a pixel or at another scale.
-struct LookupWorld {
-  explicit LookupWorld(double metres_per_pixel = 2.0) {
-    View.MetresPerPixel = metres_per_pixel;
-    View.PixelsPerKm = 1000.0 / metres_per_pixel;
-  }
-  void Hear(StationStore& store, const std::string& call, double east_px) {
-    RecordMaker maker;
-    maker.Call = call;
-    maker.EastKm += east_px * View.MetresPerPixel / 1000.0;
-    store.Append(maker.Make());
-  }
-  std::string At(double east_px, const std::string& followed = "QX7KB") const {
-    const double east_km = 425.0 + east_px * View.MetresPerPixel / 1000.0;
-    const auto found = FindStationNear(View, All, History, followed, 5825.0, east_km);
-    return found ? found->Call + " " + WholeNumber(found->RecordIndex) : "nothing";
-  }
-  MapViewState View;
-  StationStore All{100};
-  StationStore History{100};
-};
-
-TEST(StationLookup, ReachesTwelvePixelsAtEveryScale) {
-  for (double metres_per_pixel : {2.0, 50.0, 200.0, 5000.0}) {
-    LookupWorld world(metres_per_pixel);
-    world.Hear(world.All, "QX1AB", 0);
-    EXPECT_EQ(world.At(11.5), "QX1AB 1") << metres_per_pixel;
-    EXPECT_EQ(world.At(-11.5), "QX1AB 1") << metres_per_pixel;
-    EXPECT_EQ(world.At(12.6), "nothing") << metres_per_pixel;
-  }
-}
-
-TEST(StationLookup, TakesTheNearestAndOfEqualOnesTheNewest) {
-  LookupWorld world;
-  world.Hear(world.All, "NEAR", 3);
-  world.Hear(world.All, "TWIN", 3);
-  world.Hear(world.All, "FARTHER", -5);
-  EXPECT_EQ(world.At(0), "TWIN 2");
-  EXPECT_EQ(world.At(-2), "FARTHER 3");
-}
-
-TEST(StationLookup, AllStationsComeBeforeTheFollowedOne) {
-  LookupWorld world;
-  world.Hear(world.History, "QX7KB", 0);
-  EXPECT_EQ(world.At(0), "QX7KB 1");
-  world.Hear(world.All, "QX1AB", 10);
-  EXPECT_EQ(world.At(0), "QX1AB 1");
-  EXPECT_EQ(world.At(-3), "QX7KB 1");
-}
-
-TEST(StationLookup, ARecordOfTheFollowedStationLeadsToItsHistory) {
-  LookupWorld world;
-  world.Hear(world.History, "QX7KB", 0);
-  world.Hear(world.History, "QX7KB", 0);
-  world.Hear(world.All, "QX7KB", 0);
-  EXPECT_EQ(world.At(0, "qx7kb"), "qx7kb 2");
-}
-
-// ---- Keys -----------------------------------------------------------------------------------
+// ---- Keys ---------------------------------------------------------------------------------------
 
 TEST(MapKeys, ArrowsMoveThePointerByOneAndByTenWithShift) {
   InteractionWorld world;
@@ -456,7 +162,7 @@ TEST(MapKeys, WhereThePointerCannotBeMovedAVirtualOneIsKept) {
   EXPECT_DOUBLE_EQ(world.View().CentreEastKm, 410.0);
 }
 
-// ---- Centre button and follow options -------------------------------------------------------
+// ---- Centre button and follow options -----------------------------------------------------------
 
 TEST(CentreButton, GoesToTheRecordInThePanelAndLocks) {
   InteractionWorld world;
@@ -520,7 +226,7 @@ TEST(FollowOptions, ChooseWhatTheCentreFollowsAndCloseThePicture) {
   EXPECT_FALSE(world.Controls.Map.Option1.Value);
 }
 
-// ---- What is shown --------------------------------------------------------------------------
+// ---- What is shown ------------------------------------------------------------------------------
 
 TEST(LayerBoxes, SwitchGridCirclesAndPictures) {
   InteractionWorld world;
