@@ -45,17 +45,27 @@ std::string PositionBeacon::NextComment() {
 // station takes messages.
 std::string PositionBeacon::Prefix() const {
   if (sections_.Transmission.TxTimestamp != 1 || sections_.Gps.GpsTimeValid != 1) return "=";
-  return "@" + UtcStamp(tools_.LocalClock.Now(), sections_.Settings.UtcOffsetHours);
+  return "@" + TimeStamp();
+}
+
+std::string PositionBeacon::TimeStamp() const {
+  return UtcStamp(tools_.LocalClock.Now(), sections_.Settings.UtcOffsetHours);
+}
+
+std::string PositionBeacon::PositionField(double north_km, double east_km, int symbol,
+                                          const std::string& overlay) const {
+  const MapViewState& view = sections_.View;
+  const DegreeTexts texts =
+      DegreeTextsOf(north_km, east_km, view.MapCentralMeridian, view.MapFalseEasting);
+  return PositionFieldOfRow(texts, tools_.Symbols, symbol, overlay);
 }
 
 void PositionBeacon::Send(const std::string& comment) {
   const TransmissionState& own = sections_.Transmission;
   const MapViewState& view = sections_.View;
   ShowBusy(true);
-  const DegreeTexts texts =
-      DegreeTextsOf(view.OwnNorthKm, view.OwnEastKm, view.MapCentralMeridian, view.MapFalseEasting);
   const std::string position =
-      PositionFieldOfRow(texts, tools_.Symbols, own.TxSymbolIndex, own.TxOverlay);
+      PositionField(view.OwnNorthKm, view.OwnEastKm, own.TxSymbolIndex, own.TxOverlay);
   // An engine would put control bytes on the air as they are.
   const std::string text = Prefix() + position + CommentField(comment, tools_.Disk);
   tools_.Sender.SendFrame(WithoutControlCharacters(text));
@@ -65,15 +75,11 @@ void PositionBeacon::Send(const std::string& comment) {
 void PositionBeacon::SendObjectReport() {
   if (!MaySend()) return;
   const TransmissionState& own = sections_.Transmission;
-  const MapViewState& view = sections_.View;
   ShowBusy(true);
-  const DegreeTexts texts =
-      DegreeTextsOf(own.ObjectNorth, own.ObjectEast, view.MapCentralMeridian, view.MapFalseEasting);
   const std::string position =
-      PositionFieldOfRow(texts, tools_.Symbols, own.ObjectSymbol, own.ObjectOverlay);
-  const std::string stamp = UtcStamp(tools_.LocalClock.Now(), sections_.Settings.UtcOffsetHours);
-  tools_.Sender.SendFrame(
-      WithoutControlCharacters(ObjectReport(own.ObjectName, stamp, position, own.ObjectText)));
+      PositionField(own.ObjectNorth, own.ObjectEast, own.ObjectSymbol, own.ObjectOverlay);
+  tools_.Sender.SendFrame(WithoutControlCharacters(
+      ObjectReport(own.ObjectName, TimeStamp(), position, own.ObjectText)));
   ShowBusy(false);
 }
 

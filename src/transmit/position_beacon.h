@@ -54,6 +54,10 @@ class PositionBeacon {
   bool MaySend() const;
   std::string NextComment();
   std::string Prefix() const;
+  std::string TimeStamp() const;
+  // The position field of a place in the map's kilometres with a row of the symbol table.
+  std::string PositionField(double north_km, double east_km, int symbol,
+                            const std::string& overlay) const;
   void Send(const std::string& comment);
   void ShowBusy(bool busy);
 
