@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "core/state_colours.h"
 #include "platform/event.h"
 
 namespace zepril {
@@ -124,7 +125,7 @@ struct Frame : Control {
 struct FillBar : Control {
   int FilledPx = 0;
   int FullWidthPx = 120;
-  std::uint32_t Colour = 0xC0C078;
+  std::uint32_t Colour = state_colours::kBar;
 };
 
 struct PictureBox : Control {

@@ -24,7 +24,8 @@ inline constexpr std::uint32_t kNotCovered = 0x808080;
 inline constexpr std::uint32_t kCovered = 0xC0C0A0;
 inline constexpr std::uint32_t kScaleText = 0xC0C0C0;  // beside the scale bar
 
-// How full a list is.
+// How full a list is, and how far a work is that takes time.
+inline constexpr std::uint32_t kBar = 0xC0C078;
 inline constexpr std::uint32_t kBarOverLimit = 0x0080D0;
 inline constexpr std::uint32_t kBarFarOverLimit = 0x0040FF;
 

@@ -24,7 +24,7 @@ void ShowMoniAllBar(FillBar& bar, int count, int limit) {
 
 void ShowMoni1Bar(FillBar& bar, int count, int limit) {
   bar.FilledPx = std::min(BarPixels(count, limit), static_cast<int>(kFullBarPx));
-  bar.Colour = FillBar().Colour;
+  bar.Colour = state_colours::kBar;
   if (count > limit) bar.Colour = state_colours::kBarOverLimit;
   if (count > 1.2 * limit) bar.Colour = state_colours::kBarFarOverLimit;
 }
