@@ -3,12 +3,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <vector>
 
 #include "core/position_text.h"
 #include "core/text_fields.h"
 #include "geodesy/conversions.h"
 #include "map/grid_lines.h"
+#include "map/lattice_part.h"
 #include "map/map_colours.h"
 #include "map/map_view.h"
 #include "map/scale_text.h"
@@ -70,34 +72,35 @@ void DrawMapGrid(DrawingSurface& surface, const MapViewState& view, PixelPoint l
 // Points in rows of equal north or latitude, and columns of equal east or longitude.
 class GridLattice {
  public:
+  // `part`: the rows and columns that are converted; they keep their numbers.
   template <typename Convert>
-  GridLattice(int rows, int columns, const Convert& convert) : rows_(rows), columns_(columns) {
-    points_.reserve(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns));
-    for (int row = 0; row < rows; ++row) {
-      for (int column = 0; column < columns; ++column)
+  GridLattice(const LatticePart& part, const Convert& convert) : part_(part) {
+    points_.reserve(static_cast<std::size_t>(part.Rows.Count()) *
+                    static_cast<std::size_t>(part.Columns.Count()));
+    for (int row = part.Rows.First; row <= part.Rows.Last; ++row) {
+      for (int column = part.Columns.First; column <= part.Columns.Last; ++column)
         points_.push_back(convert(row, column));
     }
   }
-  int Rows() const { return rows_; }
-  int Columns() const { return columns_; }
   std::span<const GridPoint> Row(int row) const {
-    return std::span(points_).subspan(Index(row, 0), static_cast<std::size_t>(columns_));
+    return std::span(points_).subspan(Index(row, part_.Columns.First),
+                                      static_cast<std::size_t>(part_.Columns.Count()));
   }
   std::vector<GridPoint> Column(int column) const {
     std::vector<GridPoint> points;
-    points.reserve(static_cast<std::size_t>(rows_));
-    for (int row = 0; row < rows_; ++row)
+    points.reserve(static_cast<std::size_t>(part_.Rows.Count()));
+    for (int row = part_.Rows.First; row <= part_.Rows.Last; ++row)
       points.push_back(points_[Index(row, column)]);
     return points;
   }
 
  private:
   std::size_t Index(int row, int column) const {
-    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
-           static_cast<std::size_t>(column);
+    return static_cast<std::size_t>(row - part_.Rows.First) *
+               static_cast<std::size_t>(part_.Columns.Count()) +
+           static_cast<std::size_t>(column - part_.Columns.First);
   }
-  int rows_;
-  int columns_;
+  LatticePart part_;
   std::vector<GridPoint> points_;
 };
 
@@ -118,18 +121,24 @@ void DrawGeographicGrid(DrawingSurface& surface, const MapViewState& view, GridL
   const int first_lat = std::max(middle_lat - kGeographicSteps * step, -limit);
   const int last_lat = std::min(middle_lat + kGeographicSteps * step, limit);
   if (last_lat < first_lat) return;
-  const GridLattice lattice((last_lat - first_lat) / step + 1, 2 * kGeographicSteps + 1,
-                            [&](int row, int column) {
-                              return GridPointOf(view, (first_lon + column * step) / 60.0,
-                                                 (first_lat + row * step) / 60.0);
-                            });
+  const LatticeAxis rows{1.0 * first_lat, 1.0 * step, (last_lat - first_lat) / step + 1};
+  const LatticeAxis columns{1.0 * first_lon, 1.0 * step, 2 * kGeographicSteps + 1};
+  const LatticePart part =
+      PartInWindow(view, rows, columns, [&](const Geodetic& place) -> std::optional<LatticePlace> {
+        // On the side of the date line where the columns are.
+        const double lon = centre.Lon + std::remainder(place.Lon - centre.Lon, 360.0);
+        return LatticePlace{place.Lat * 60.0, lon * 60.0};
+      });
+  const GridLattice lattice(part, [&](int row, int column) {
+    return GridPointOf(view, (first_lon + column * step) / 60.0, (first_lat + row * step) / 60.0);
+  });
   GridPainter painter(surface, view, kGeographicGridColour, taken);
   const bool with_minutes = view.MetresPerPixel < kMinutesShownBelow;
-  for (int column = 0; column < lattice.Columns(); ++column) {
+  for (int column = part.Columns.First; column <= part.Columns.Last; ++column) {
     painter.Line(lattice.Column(column), GridJoin::Unbroken, GridEdge::Bottom,
                  DegreeLabel(first_lon + column * step, with_minutes));
   }
-  for (int row = 0; row < lattice.Rows(); ++row) {
+  for (int row = part.Rows.First; row <= part.Rows.Last; ++row) {
     painter.Line(lattice.Row(row), GridJoin::Unbroken, GridEdge::Right,
                  DegreeLabel(first_lat + row * step, with_minutes));
   }
@@ -149,22 +158,32 @@ struct MetricGrid {
   GridReach East;
 };
 
-// `to_wgs84`: the way from the system's metres, easting and northing.
-template <typename ToWgs84>
+LatticeAxis AxisOf(const GridReach& reach) {
+  return {reach.First, reach.Step, reach.Count()};
+}
+
+// `to_wgs84`: the way from the system's metres, easting and northing; `from_wgs84`: the way there.
+template <typename ToWgs84, typename FromWgs84>
 void DrawMetricGrid(DrawingSurface& surface, const MapViewState& view, const MetricGrid& grid,
-                    const ToWgs84& to_wgs84) {
+                    const ToWgs84& to_wgs84, const FromWgs84& from_wgs84) {
   const GridReach& north = grid.North;
   const GridReach& east = grid.East;
-  const GridLattice lattice(north.Count(), east.Count(), [&](int row, int column) {
+  const LatticePart part = PartInWindow(
+      view, AxisOf(north), AxisOf(east), [&](const Geodetic& place) -> std::optional<LatticePlace> {
+        const GridMetres there = from_wgs84(place.Lon, place.Lat);
+        if (!SamePlace(to_wgs84(there.East, there.North), place)) return std::nullopt;
+        return LatticePlace{there.North / 1000.0, there.East / 1000.0};
+      });
+  const GridLattice lattice(part, [&](int row, int column) {
     const Geodetic place = to_wgs84(east.At(column) * 1000.0, north.At(row) * 1000.0);
     return GridPointOf(view, place.Lon, place.Lat);
   });
   GridPainter painter(surface, view, grid.Ink, grid.Edges.Taken, grid.Edges.Slots);
-  for (int column = 0; column < lattice.Columns(); ++column) {
+  for (int column = part.Columns.First; column <= part.Columns.Last; ++column) {
     painter.Line(lattice.Column(column), GridJoin::Near, GridEdge::Top,
                  KilometreLabel(east.At(column)));
   }
-  for (int row = 0; row < lattice.Rows(); ++row) {
+  for (int row = part.Rows.First; row <= part.Rows.Last; ++row) {
     painter.Line(lattice.Row(row), GridJoin::Near, GridEdge::Left, KilometreLabel(north.At(row)));
   }
 }
@@ -187,22 +206,28 @@ void DrawGaussKruegerGrid(DrawingSurface& surface, const MapViewState& view,
   const GridReach east =
       GridReachOf(PositionTextKm(centre.GkEastText), view.MetresPerPixel,
                   WidthsIn(view, kGaussKruegerEastWidths), kGaussKruegerEastLimitKm);
-  DrawMetricGrid(surface, view,
-                 {edges, kGaussKruegerGridColour, ReachOfText(view, centre.GkNorthText), east},
-                 [&](double easting, double northing) {
-                   return GaussKruegerToWgs84(easting, northing, centre.GkCentralMeridian);
-                 });
+  DrawMetricGrid(
+      surface, view, {edges, kGaussKruegerGridColour, ReachOfText(view, centre.GkNorthText), east},
+      [&](double easting, double northing) {
+        return GaussKruegerToWgs84(easting, northing, centre.GkCentralMeridian);
+      },
+      [&](double lon, double lat) {
+        return Wgs84ToGaussKrueger(lon, lat, centre.GkCentralMeridian);
+      });
 }
 
 void DrawUtmGrid(DrawingSurface& surface, const MapViewState& view, const CoordinateValues& centre,
                  GridEdges edges) {
-  DrawMetricGrid(surface, view,
-                 {edges, kUtmGridColour, ReachOfText(view, centre.UtmNorthText),
-                  ReachOfText(view, centre.UtmEastText)},
-                 [&](double easting, double northing) {
-                   return UtmToGeodetic(centre.UtmCentralMeridian, easting, northing,
-                                        kUtmFalseEasting);
-                 });
+  DrawMetricGrid(
+      surface, view,
+      {edges, kUtmGridColour, ReachOfText(view, centre.UtmNorthText),
+       ReachOfText(view, centre.UtmEastText)},
+      [&](double easting, double northing) {
+        return UtmToGeodetic(centre.UtmCentralMeridian, easting, northing, kUtmFalseEasting);
+      },
+      [&](double lon, double lat) {
+        return GeodeticToUtm(lon, lat, centre.UtmCentralMeridian, kUtmFalseEasting);
+      });
 }
 
 void DrawRt90Grid(DrawingSurface& surface, const MapViewState& view, const CoordinateValues& centre,
@@ -210,7 +235,7 @@ void DrawRt90Grid(DrawingSurface& surface, const MapViewState& view, const Coord
   DrawMetricGrid(surface, view,
                  {edges, kRt90GridColour, ReachOfText(view, centre.RtNorthText),
                   ReachOfText(view, centre.RtEastText)},
-                 Rt90ToWgs84);
+                 Rt90ToWgs84, Wgs84ToRt90);
 }
 
 }  // namespace

@@ -9,7 +9,8 @@
 //   RT 90             0x00F000
 //
 // No two labels of a grid overlap: of two in each other's way the later one is left out. A redraw
-// of one grid converts at most about 1300 points.
+// of one grid converts at most about 1300 points, and in most views only those that the window may
+// show (`map/lattice_part`).
 #pragma once
 
 #include <array>
