@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The installed tree, moved away from where it was installed: the tool runs, the program starts and
-# lives in its own folder.
+# lives in its own folder, also where no file may grow.
 #
 #   installed_test.sh CMAKE BUILD_FOLDER
 set -euo pipefail
@@ -67,4 +67,15 @@ program=
 
 [ -s "$folder/WINDOW.TXT" ] || fail "the program did not keep its windows in its folder"
 [ -z "$(ls -A "$work/drive")" ] || fail "the program wrote outside of its folder: $(ls -A "$work/drive")"
+# ---- Started again where no file may grow: one that can't be written is not the program's end.
+find "$folder" -name 'NEW~*' -prune -exec rm -rf {} +
+(ulimit -f 0; exec "$folder/zepril") >/dev/null 2>&1 </dev/null &
+program=$!
+has_begun() { [ -n "$(find "$folder" -name 'NEW~*' -print -quit)" ]; }
+until_true 60 has_begun_or_gone || fail "the program did not begin where no file may grow"
+kill -TERM "$program" 2>/dev/null || true
+until_true 30 gone || fail "the program did not end where no file may grow"
+wait "$program" || fail "where no file may grow the program ended with status $?"
+program=
+
 echo "installed: fine"
