@@ -8,12 +8,12 @@
 namespace zepril {
 
 RadioInterfaces::RadioInterfaces(StartPanelControls& controls)
-    : all_{{{&controls.Option1, RadioMode::Pk232, &Pk232, status_texts::kStartPk232},
-            {&controls.Option2, RadioMode::AgwLocal, nullptr, status_texts::kWorking},
-            {&controls.Option9, RadioMode::AgwRemote, &Host, status_texts::kWorking},
-            {&controls.Option10, RadioMode::None, nullptr, status_texts::kWorking},
-            {&controls.Option11, RadioMode::ScsTnc, &Scs, status_texts::kStartScsTnc},
-            {&controls.Option13, RadioMode::ScsPtc, &Scs, status_texts::kStartScsPtc}}} {}
+    : all_{{&controls.Option1, RadioMode::Pk232, &Pk232, status_texts::kStartPk232},
+           {&controls.Option2, RadioMode::AgwLocal, nullptr, status_texts::kWorking},
+           {&controls.Option9, RadioMode::AgwRemote, &Host, status_texts::kWorking},
+           {&controls.Option10, RadioMode::None, nullptr, status_texts::kWorking},
+           {&controls.Option11, RadioMode::ScsTnc, &Scs, status_texts::kStartScsTnc},
+           {&controls.Option13, RadioMode::ScsPtc, &Scs, status_texts::kStartScsPtc}} {}
 
 const RadioInterface& RadioInterfaces::Chosen() const {
   const auto found = std::find_if(all_.begin(), all_.end(),

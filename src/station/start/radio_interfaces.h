@@ -1,8 +1,8 @@
 // The radio interfaces of the start panel: an option button each, of which one is chosen.
 #pragma once
 
-#include <array>
 #include <string>
+#include <vector>
 
 #include "core/controls/start_panel_controls.h"
 #include "core/radio_rules.h"
@@ -32,7 +32,7 @@ class RadioInterfaces {
   RadioInterfaces(const RadioInterfaces&) = delete;
   RadioInterfaces& operator=(const RadioInterfaces&) = delete;
 
-  const std::array<RadioInterface, 6>& All() const { return all_; }
+  const std::vector<RadioInterface>& All() const { return all_; }
   // The packet engine on this computer where nothing else is chosen.
   const RadioInterface& Chosen() const;
   // The one of these settings; of a mode that has none here the chosen one.
@@ -45,7 +45,7 @@ class RadioInterfaces {
   PortTexts Scs;  // of both SCS modems
 
  private:
-  std::array<RadioInterface, 6> all_;
+  const std::vector<RadioInterface> all_;
 };
 
 }  // namespace zepril
