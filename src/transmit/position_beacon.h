@@ -11,9 +11,9 @@
 #include "core/state/settings.h"
 #include "core/state/transmission.h"
 #include "core/symbol_table.h"
+#include "links/frame_sender.h"
 #include "platform/clock.h"
 #include "platform/files.h"
-#include "transmit/frame_sender.h"
 
 namespace zepril {
 

@@ -6,9 +6,9 @@
 #include "core/state/map_view.h"
 #include "core/state/radio.h"
 #include "core/timer.h"
+#include "links/frame_sender.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
-#include "transmit/frame_sender.h"
 
 namespace zepril {
 

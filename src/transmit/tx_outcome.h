@@ -7,8 +7,8 @@
 #include <string>
 
 #include "core/controls/transmit_controls.h"
+#include "links/frame_sender.h"
 #include "platform/clock.h"
-#include "transmit/frame_sender.h"
 
 namespace zepril {
 

@@ -1,5 +1,5 @@
 // Hands a text over, unless the link is held back, and tells what became of it.
-#include "transmit/frame_sender.h"
+#include "links/frame_sender.h"
 
 namespace zepril {
 
