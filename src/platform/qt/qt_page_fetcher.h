@@ -1,0 +1,45 @@
+// Pages by Qt's network access: http and https, redirects, packed answers, no cache, no cookies.
+#pragma once
+
+#include <QNetworkAccessManager>
+#include <QObject>
+#include <QPointer>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "platform/loop.h"
+#include "platform/page_fetcher.h"
+
+class QNetworkReply;
+
+namespace zepril {
+
+// Who asked is told in a step of his own, never within another one.
+class QtPageFetcher final : public PageFetcher {
+ public:
+  static constexpr int kMostRedirects = 10;
+
+  // `version` of the program: the servers are told both.
+  QtPageFetcher(Loop& loop, const std::string& version);
+  ~QtPageFetcher() override;
+
+ private:
+  void Begin(const std::string& url) override;
+  void Abandon() override;
+  void TakeBytes();
+  void Ended();
+  void TellAfterThisStep();
+
+  Loop& loop_;
+  std::string program_;
+  QNetworkAccessManager manager_;
+  QPointer<QNetworkReply> reply_;
+  Page page_;        // under way, or not yet told
+  QObject context_;  // of what Qt tells
+  // Rises with each page that was begun or given up; shared with what was posted.
+  std::shared_ptr<std::int64_t> turn_ = std::make_shared<std::int64_t>(0);
+};
+
+}  // namespace zepril
