@@ -119,7 +119,8 @@ std::optional<FrameLevel> ReceivePass::Decode() {
   reception_.TimestampStale = packet_.TimestampStale ? 1 : 0;
   if (packet_.IsMessage) {
     if (messages_)
-      messages_->MessageReceived(packet_.PacketCall, packet_.PacketInfo, frame_.Header);
+      messages_->MessageReceived(
+          {packet_.PacketCall, packet_.PacketInfo, frame_.Header, packet_.PacketDestination});
   }
   if (result.Outcome == DecodeOutcome::Dropped) return Drop(result.Reason);
   reception_.SymbolIndex = packet_.SymbolIndex;

@@ -327,6 +327,7 @@ TEST(ReceivePass, MessageGoesToTheChatWithItsHeader) {
   EXPECT_EQ(station.Actions.Messages[0].From, "N0CALL");
   EXPECT_EQ(station.Actions.Messages[0].Info, ":QX7KB    :Hello{07");
   EXPECT_EQ(station.Actions.Messages[0].Header, "n0call>WIDE1-1*>APRS <UI>");
+  EXPECT_EQ(station.Actions.Messages[0].Destination, "APRS");
   EXPECT_EQ(station.Heard(), 0);
 }
 

@@ -53,9 +53,9 @@ class RecordingActions final : public MapActions,
     if (OnRedraw) OnRedraw();
   }
   void MapRefresh() override { ++Refreshes; }
-  void MessageReceived(std::string_view from, std::string_view info,
-                       std::string_view header) override {
-    Messages.push_back({std::string(from), std::string(info), std::string(header)});
+  void MessageReceived(const HeardMessage& message) override {
+    Messages.push_back({std::string(message.From), std::string(message.Info),
+                        std::string(message.Header), std::string(message.Destination)});
   }
   void ShowEmergency() override { ++Emergencies; }
   void GateMonitorBlock(std::string_view text) override { Gated.emplace_back(text); }
@@ -68,6 +68,7 @@ class RecordingActions final : public MapActions,
     std::string From;
     std::string Info;
     std::string Header;
+    std::string Destination;
   };
   int Redraws = 0;
   int Refreshes = 0;

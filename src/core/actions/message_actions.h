@@ -5,12 +5,19 @@
 
 namespace zepril {
 
+// A message as it was heard.
+struct HeardMessage {
+  std::string_view From;         // the sender
+  std::string_view Info;         // information, from its first ":" on
+  std::string_view Header;       // header line of the frame
+  std::string_view Destination;  // of the header
+};
+
 class MessageActions {
  public:
   virtual ~MessageActions() = default;
-  // A received message: sender, information from its first ":" on, header line of the frame.
-  virtual void MessageReceived(std::string_view from, std::string_view info,
-                               std::string_view header) = 0;
+  // May hand control to the window system once.
+  virtual void MessageReceived(const HeardMessage& message) = 0;
 };
 
 }  // namespace zepril
