@@ -26,30 +26,13 @@
 #include "tests/doubles/recorded_actions.h"
 #include "tests/doubles/recorded_progress.h"
 #include "tests/doubles/recorder_surface.h"
+#include "tests/doubles/recording_engine.h"
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/virtual_clock.h"
 #include "transmit/position_beacon.h"
 #include "transmit/tx_switches.h"
 
 namespace zepril {
-
-class RecordingEngine final : public MonitorEngine {
- public:
-  bool AGWStartPoll(std::string_view, std::string_view call) override {
-    if (OnStart) OnStart(std::string(call));
-    return true;
-  }
-  std::string AGWGetData() override { return {}; }
-  bool AGWPutData(std::string_view header, std::string_view text) override {
-    Sent.push_back(std::string(header) + " | " + std::string(text));
-    return true;
-  }
-  void AGWClose() override {}
-  bool LinkIsUp() const override { return true; }
-  void DropUnsent() override {}
-  std::vector<std::string> Sent;
-  std::function<void(const std::string& call)> OnStart;
-};
 
 // The groups of controls that transmission handles.
 struct TransmitWorldControls {
