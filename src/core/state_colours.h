@@ -32,6 +32,7 @@ inline constexpr std::uint32_t kBarFarOverLimit = 0x0040FF;
 // The status line while data comes from the internet.
 inline constexpr std::uint32_t kCollectingMoni1 = 0x00C000;
 inline constexpr std::uint32_t kCollectingMoniAll = 0xFF80E0;
+inline constexpr std::uint32_t kSendingMessage = 0x00C0C0;
 
 // The distance alarm.
 inline constexpr std::uint32_t kAlarmGround = 0x00FFFF;

@@ -1,0 +1,58 @@
+// What of the chat leaves, and how often: a line that is typed, the pass that sends every line with
+// sends left, and a single frame like an acknowledgement.
+#pragma once
+
+#include <string>
+
+#include "core/controls/chat_controls.h"
+#include "core/state/chat.h"
+#include "core/state/identity.h"
+#include "core/state/radio.h"
+#include "core/timer.h"
+#include "links/frame_sender.h"
+#include "messages/chat_lines.h"
+#include "messages/chat_log.h"
+#include "messages/web_messages.h"
+
+namespace zepril {
+
+struct ChatSenderSections {
+  const IdentityState& Identity;
+  const RadioState& Radio;
+  ChatState& Chat;
+};
+
+struct ChatSenderTools {
+  ChatLines& Lines;
+  ChatLog& Log;
+  FrameSender& Frames;
+  WebMessages& Web;
+  Timer& Timer1;
+  Timer& Timer2;
+};
+
+class ChatSender {
+ public:
+  // No frame carries more of a text.
+  static constexpr std::size_t kLongestFrameText = 256;
+
+  ChatSender(ChatSenderSections sections, ChatControls& controls, ChatSenderTools tools)
+      : sections_(sections), controls_(controls), tools_(tools) {}
+
+  // Takes addressee and text from the fields and puts the line at the bottom of the chat; the next
+  // tick sends it. What the operator is to know of that, in words; mostly nothing.
+  std::string SendChatLine();
+  // Every line with sends left, once.
+  void RetryPass();
+  // Sends `ChatTxText` once and empties it. Why it did not leave, in words; else an empty text.
+  std::string SendChatFrame();
+
+ private:
+  void SendOnce(ChatLine& line);
+
+  ChatSenderSections sections_;
+  ChatControls& controls_;
+  ChatSenderTools tools_;
+};
+
+}  // namespace zepril

@@ -1,0 +1,88 @@
+// Asks for the form's address, and brings banner, pointer and timers back.
+#include "messages/web_messages.h"
+
+#include <utility>
+
+#include "core/state_colours.h"
+#include "core/text_fields.h"
+#include "core/texts/chat_texts.h"
+#include "messages/message_texts.h"
+
+namespace zepril {
+
+WebMessages::WebMessages(const IdentityState& identity, const ServicesState& services,
+                         WebMessagesControls controls, WebMessagesTools tools, Failure failed)
+    : identity_(identity),
+      services_(services),
+      controls_(controls),
+      tools_(tools),
+      failed_(std::move(failed)) {}
+
+WebMessages::~WebMessages() {
+  for (const Sending& sending : under_way_)
+    tools_.Pages.Drop(sending.Number);
+}
+
+std::string WebMessages::Send(const std::string& frame_text) {
+  if (services_.AprsCgiService.empty()) return chat_texts::kServiceOff;
+  const std::int64_t number =
+      tools_.Pages.Fetch(WebMessageUrl(services_.AprsCgiService, identity_.MyCallFull, frame_text),
+                         [this](const Page& page) { PageCame(page); });
+  if (number == PageFetcher::kNone) return chat_texts::kServiceFull;
+  if (under_way_.empty()) since_ = tools_.LocalClock.MonotonicSeconds();
+  under_way_.push_back({number, frame_text});
+  ShowBanner();
+  return {};
+}
+
+void WebMessages::ShowBanner() {
+  controls_.Window.Pointer = PointerShape::Hourglass;
+  controls_.Map.Picture1.Pointer = PointerShape::Hourglass;
+  tools_.Timer1.Stop();
+  // Nothing else would bring the cycle back from a form that never answers.
+  tools_.Timer2.Arm(kPatienceMilliseconds);
+  Label& banner = controls_.Status.Text10;
+  banner.Caption = chat_texts::kSendingOverInternet;
+  banner.BackColour = state_colours::kSendingMessage;
+  banner.Visible = true;
+}
+
+void WebMessages::PageCame(const Page& page) {
+  if (page.Outcome == PageOutcome::Loaded) {
+    tools_.LocalClock.Wait(kPauseSeconds);
+    FirstIsDone(page.IsGood() ? std::string()
+                              : chat_texts::kServiceRefused.With({WholeNumber(page.Status)}));
+    if (under_way_.empty()) Rest();
+    return;
+  }
+  FirstIsDone(chat_texts::kServiceSilent);
+  // The banner stays until `Timer2` takes it away, or the next page does.
+  if (under_way_.empty()) tools_.Timer2.Arm(kFailureMilliseconds);
+}
+
+void WebMessages::FirstIsDone(const std::string& trouble) {
+  since_ = tools_.LocalClock.MonotonicSeconds();
+  const Sending first = std::move(under_way_.front());
+  under_way_.pop_front();
+  if (!trouble.empty() && failed_) failed_(first.FrameText, trouble);
+}
+
+void WebMessages::Rest() {
+  controls_.Status.Text10.Visible = false;
+  controls_.Status.Text10.BackColour = state_colours::kCollectingMoni1;
+  controls_.Window.Pointer = PointerShape::Default;
+  controls_.Map.Picture1.Pointer = PointerShape::Default;
+  tools_.Timer1.Enable();
+}
+
+void WebMessages::SecondPassed() {
+  if (under_way_.empty()) return;
+  const double waited = tools_.LocalClock.MonotonicSeconds() - since_;
+  if (waited * 1000.0 < kPatienceMilliseconds) return;
+  const std::int64_t number = under_way_.front().Number;
+  FirstIsDone(chat_texts::kServiceSilent);
+  tools_.Pages.Drop(number);
+  if (under_way_.empty()) Rest();
+}
+
+}  // namespace zepril
