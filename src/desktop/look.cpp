@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/state/chat.h"
 #include "core/state_colours.h"
 
 namespace zepril {
@@ -132,6 +133,29 @@ QColor StateShade(std::uint32_t state_colour, const Look& look) {
 QColor StateInk(std::uint32_t state_colour, const Look& look) {
   return state_colour == state_colours::kOwnObjectDimmed ? look.Dim
                                                          : TextOn(StateShade(state_colour, look));
+}
+
+std::optional<QColor> ChatInk(std::uint32_t state_colour, const Look& look) {
+  const bool night = look.Window.lightness() < 128;
+  const auto ink = [night](const QColor& by_night, const QColor& by_day) {
+    return night ? by_night : by_day;
+  };
+  if (chat_colours::HasSendsLeft(state_colour))
+    return ink(QColor(0xFF, 0xA0, 0xA0), QColor(0xB3, 0x26, 0x1E));
+  switch (state_colour) {
+    case chat_colours::kGivenUp:
+      return ink(QColor(0xF0, 0xB0, 0x70), QColor(0x8A, 0x4B, 0x00));
+    case chat_colours::kAcknowledged:
+      return ink(QColor(0xBC, 0x9A, 0x9A), QColor(0x70, 0x48, 0x48));
+    case chat_colours::kPingAnswer:
+      return ink(QColor(0xD5, 0xA6, 0xC4), QColor(0x7B, 0x2F, 0x62));
+    case chat_colours::kForMe:
+      return ink(QColor(0x8C, 0xE0, 0x8C), QColor(0x1B, 0x6B, 0x2E));
+    case chat_colours::kBetweenOthers:
+      return look.Dim;
+    default:
+      return std::nullopt;
+  }
 }
 
 double ContrastOf(const QColor& one, const QColor& other) {

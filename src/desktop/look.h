@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 namespace zepril {
 
@@ -33,6 +34,8 @@ QColor StateShade(std::uint32_t state_colour, const Look& look);
 QColor StateInk(std::uint32_t state_colour, const Look& look);
 // The colour itself, for fill bars and inks.
 QColor PlainColour(std::uint32_t state_colour);
+// The letters of a chat line in the colour of its state; nothing for any other colour.
+std::optional<QColor> ChatInk(std::uint32_t state_colour, const Look& look);
 // Contrast of two colours, 1 to 21; text wants kReadable on its ground.
 double ContrastOf(const QColor& one, const QColor& other);
 inline constexpr double kReadable = 4.5;

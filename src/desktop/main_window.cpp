@@ -17,6 +17,7 @@
 
 #include "core/text_fields.h"
 #include "core/texts/window_texts.h"
+#include "desktop/chat_page.h"
 #include "desktop/fitted_label.h"
 #include "desktop/keys.h"
 #include "desktop/map_bar.h"
@@ -133,7 +134,8 @@ QWidget* MainWindow::MakeDrawer() {
   drawer_->setMinimumHeight(kLowestDrawer);
   raw_page_ = MakeRawPage();
   terminal_page_ = MakeTerminalPage(parts_, controls_.Terminal);
-  for (QWidget* page : {raw_page_, terminal_page_}) {
+  chat_page_ = MakeChatPage(parts_, controls_.Chat);
+  for (QWidget* page : {raw_page_, terminal_page_, chat_page_}) {
     page->setParent(this);
     page->hide();
   }
@@ -199,13 +201,14 @@ void MainWindow::ShowDrawer() {
   const bool terminal = controls_.Terminal.Frame19.Visible;
   const bool terminal_changes = terminal != (drawer_->indexOf(terminal_page_) >= 0);
   ShowPage(raw_page_, controls_.Raw.RawList.Visible, window_texts::kRaw);
+  ShowPage(chat_page_, controls_.Chat.Frame3.Visible, window_texts::kMessages);
   ShowPage(terminal_page_, terminal, window_texts::kTerminal);
   drawer_->setVisible(drawer_->count() > 0);
   if (!was_open && !drawer_->isHidden()) ShareHeight();
   if (terminal_changes) MakeRoomForTerminal(terminal);
 }
 
-// A page that comes is the one that is seen.
+// A page that comes is the one that is seen, but for one that comes under typing hands.
 void MainWindow::ShowPage(QWidget* page, bool shown, Text title) {
   const int at = drawer_->indexOf(page);
   if (shown == (at >= 0)) return;
@@ -213,8 +216,9 @@ void MainWindow::ShowPage(QWidget* page, bool shown, Text title) {
     if (page->isAncestorOf(focusWidget())) map_->setFocus();
     return drawer_->removeTab(at);
   }
+  const bool typing = drawer_->isAncestorOf(focusWidget()) && IsTypedIn(focusWidget());
   drawer_->insertTab(0, page, ToQt(title));
-  drawer_->setCurrentWidget(page);
+  if (!typing) drawer_->setCurrentWidget(page);
 }
 
 void MainWindow::MakeRoomForTerminal(bool open) {
@@ -317,6 +321,13 @@ void MainWindow::OpenStations() {
   if (controls_.MoniAll.HeardPanel.Visible) FocusOn(controls_.MoniAll.HeardList);
 }
 
+void MainWindow::OpenMessageField() {
+  ChatControls& chat = controls_.Chat;
+  if (!chat.Check7.Enabled || !chat.Check7.Visible) return;
+  if (!chat.Frame3.Visible) Switch(chat.Check7);
+  if (chat.Text3.Visible) FocusOn(chat.Text3);
+}
+
 // The field may lie on a page of the drawer that is not the shown one.
 void MainWindow::FocusOn(const Control& control) {
   auto* widget = findChild<QWidget*>(ToQt(control.Name));
@@ -351,6 +362,8 @@ void MainWindow::PressControlKey(const QKeyEvent& event) {
       return FocusOn(controls_.MoniAll.Text15);
     case Qt::Key_L:
       return OpenStations();
+    case Qt::Key_M:
+      return OpenMessageField();
     case Qt::Key_R:
       return Press(controls_.Raw.Command57);
     case Qt::Key_S:

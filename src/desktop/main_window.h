@@ -70,6 +70,7 @@ class MainWindow final : public QWidget {
   void MakeRoomForTerminal(bool open);
   void ShareHeight();
   void OpenStations();
+  void OpenMessageField();
   void FocusOn(const Control& control);
   void Press(const Button& control);
   void Switch(CheckBox& control);
@@ -97,6 +98,7 @@ class MainWindow final : public QWidget {
   QSplitter* split_ = nullptr;
   QWidget* raw_page_ = nullptr;
   QWidget* terminal_page_ = nullptr;
+  QWidget* chat_page_ = nullptr;
   QList<int> sizes_without_terminal_;
   QLabel* link_words_ = nullptr;  // "LOST 34 s", "paused"
   LampWidget* lamp_ = nullptr;

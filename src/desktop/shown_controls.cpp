@@ -21,7 +21,10 @@ void ShowColours(QWidget* widget, const Control& control, const Look& look) {
   const QColor back = control.BackColour ? StateShade(*control.BackColour, look) : look.Window;
   const QColor usual = control.BackColour ? StateInk(*control.BackColour, look) : look.Text;
   if (control.BackColour) sheet += QStringLiteral("background: %1;").arg(back.name());
-  const QColor ink = control.ForeColour ? InkOn(*control.ForeColour, back, usual) : usual;
+  QColor ink = usual;
+  if (control.ForeColour) {
+    ink = ChatInk(*control.ForeColour, look).value_or(InkOn(*control.ForeColour, back, usual));
+  }
   sheet += QStringLiteral("color: %1;").arg(ink.name());
   widget->setStyleSheet(sheet);
 }

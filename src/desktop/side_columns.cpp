@@ -272,6 +272,7 @@ QWidget* SideColumns::MakeTransmit() {
   switches->addWidget(tx, 1);
   switches->addWidget(object, 1);
   box->addLayout(switches);
+  box->addWidget(parts_.BoundButton(controls_.Chat.Check7));
   QLabel* outcome = parts_.FixedLabel();
   outcome->setMinimumWidth(0);
   outcome->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

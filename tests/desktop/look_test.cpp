@@ -48,6 +48,22 @@ TEST_P(LookTest, TextIsReadableOnEveryGround) {
             kReadable);
 }
 
+TEST_P(LookTest, EveryStateOfAChatLineIsReadableAndOneOfItsOwn) {
+  const std::vector<std::uint32_t> states = {250, 0x5FF0, 128, 160, 0x6000, 0x505050};
+  for (const std::uint32_t state : states) {
+    const auto ink = ChatInk(state, look);
+    ASSERT_TRUE(ink) << state;
+    for (const QColor& ground : {look.Window, look.Panel})
+      EXPECT_GE(ContrastOf(*ink, ground), kReadable) << state << ground.name().toStdString();
+    for (const std::uint32_t other : states)
+      EXPECT_EQ(*ink == *ChatInk(other, look), other == state) << state << " " << other;
+  }
+  for (std::uint32_t tries = 250; tries <= 254; ++tries)
+    EXPECT_EQ(ChatInk(tries, look), ChatInk(250, look));
+  for (const std::uint32_t other : {249U, 255U, 0U, 0xC0C0C0U})
+    EXPECT_FALSE(ChatInk(other, look)) << other;
+}
+
 TEST_P(LookTest, TextIsReadableOnEveryStateColour) {
   for (const auto& [state, colour] : kStateColours) {
     const QColor shade = StateShade(colour, look);

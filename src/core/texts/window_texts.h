@@ -16,6 +16,7 @@ inline constexpr Text kStations{"STATIONS"};
 inline constexpr Text kPosition{"POSITION"};
 inline constexpr Text kRaw{"RAW"};
 inline constexpr Text kTerminal{"TERMINAL"};
+inline constexpr Text kMessages{"CHAT"};
 inline constexpr Text kScales{"SCALES"};
 inline constexpr Text kFiles{"FILES"};
 inline constexpr Text kMoni1{"MONI 1"};
