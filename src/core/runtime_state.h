@@ -12,6 +12,7 @@
 #include "core/state/places.h"
 #include "core/state/radio.h"
 #include "core/state/reception.h"
+#include "core/state/services.h"
 #include "core/state/settings.h"
 #include "core/state/stores.h"
 #include "core/state/transmission.h"
@@ -32,6 +33,7 @@ struct RuntimeState {
   InternetState Internet;
   AlarmState Alarms;
   SettingsState Settings;
+  ServicesState Services;
 };
 
 }  // namespace zepril

@@ -2,6 +2,8 @@
 #include "desktop/qt_machine.h"
 
 #include "config/ports_file.h"
+#include "core/state/identity.h"
+#include "platform/qt/qt_page_fetcher.h"
 #include "platform/qt/qt_serial_port.h"
 #include "platform/qt/qt_socket.h"
 #include "platform/qt/serial_devices.h"
@@ -24,6 +26,7 @@ Machine QtMachine::Given(Files& files, const std::string& program_folder) {
         return port;
       },
       [this](int width, int height) { return std::make_shared<QtSurface>(width, height, Fonts); },
+      std::make_shared<QtPageFetcher>(Loop, IdentityState().ProgramVersion),
       PresentSerialDevices};
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/monitor_engine.h"
+#include "platform/page_fetcher.h"
 #include "platform/serial_port.h"
 #include "platform/tcp_socket.h"
 
@@ -35,6 +36,13 @@ class AbsentEngine final : public MonitorEngine {
   void AGWClose() override {}
   bool LinkIsUp() const override { return false; }
   void DropUnsent() override {}
+};
+
+// Nothing is ever fetched.
+class AbsentPages final : public PageFetcher {
+ private:
+  void Begin(const std::string&) override {}
+  void Abandon() override {}
 };
 
 }  // namespace zepril

@@ -10,6 +10,7 @@
 #include "platform/drawing_surface.h"
 #include "platform/files.h"
 #include "platform/loop.h"
+#include "platform/page_fetcher.h"
 #include "platform/serial_device.h"
 #include "platform/serial_port.h"
 #include "platform/tcp_socket.h"
@@ -32,7 +33,8 @@ struct Machine {
   SocketFactory MakeSocket;
   SerialPortFactory MakeSerialPort;
   SurfaceFactory MakeSurface;
-  SerialDeviceList Devices;  // for the lists of port fields; may be empty
+  std::shared_ptr<PageFetcher> Pages;  // one for all who ask web services
+  SerialDeviceList Devices;            // for the lists of port fields; may be empty
 };
 
 }  // namespace zepril

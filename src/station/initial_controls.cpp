@@ -25,10 +25,9 @@ void HidePanels(MainWindowControls& c) {
 
 // What a later capability brings has its place in the logic already, and none on the window yet.
 void HideWhatIsNotThereYet(MainWindowControls& c) {
-  for (Control* control : std::initializer_list<Control*>{
-           &c.Moni1.Check22, &c.Moni1.Check27, &c.MoniAll.Check23, &c.Record.Command10,
-           &c.Record.Command41, &c.Record.Command40, &c.Chat.Check7, &c.Chat.Check8,
-           &c.Chat.Check16, &c.Chat.Text2, &c.Chat.Text3, &c.Status.IonoLabel}) {
+  for (Control* control :
+       std::initializer_list<Control*>{&c.Moni1.Check22, &c.Moni1.Check27, &c.MoniAll.Check23,
+                                       &c.Record.Command40, &c.Status.IonoLabel}) {
     control->Visible = false;
   }
 }

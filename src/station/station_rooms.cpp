@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "config/main_window_settings.h"
+#include "config/services_file.h"
 #include "config/window_file.h"
 #include "core/main_window_resize.h"
 #include "core/position_text.h"
@@ -45,13 +46,6 @@ StationRooms::StationRooms(const Machine& machine, std::shared_ptr<SerialPort> m
               Map.Panels),
       Internet({State.Internet, State.Map}, {Controls.Iono, Controls.Map},
                {machine.Boxes, Map.Redrawer, Settings}),
-      Emergencies(Map.Redrawer),
-      Reception({State.Identity, State.Radio, State.Reception, State.Stores, State.Followed,
-                 State.Map, State.Gps, State.Alarms, State.Settings, State.Internet},
-                {Controls.Window, Controls.Map, Controls.Moni1, Controls.MoniAll, Controls.Record,
-                 Controls.Status, &Controls.Raw.RawList},
-                {machine.FileSystem, machine.LocalClock, machine.Boxes, Links.Heard, Map.Symbols,
-                 Map.Redrawer, Settings, Emergencies, Timer1}),
       Transmit({State.Identity, State.Radio, State.Transmission, State.Map, State.Gps,
                 State.Settings, State.Chat, State.Internet, State.Reception},
                {Controls.Window, Controls.Map, Controls.Transmit, Controls.Chat, Controls.Gate,
@@ -59,6 +53,18 @@ StationRooms::StationRooms(const Machine& machine, std::shared_ptr<SerialPort> m
                {machine.FileSystem, machine.LocalClock, machine.Boxes, *Surfaces.TxSymbol,
                 *Surfaces.ObjectSymbol, Links, Map.Sheets, Map.Symbols, LongWork, Map.Redrawer,
                 Settings, Timer1, Timer2}),
+      Messages({State.Identity, State.Radio, State.Chat, State.Stores, State.Internet,
+                State.Settings, State.Services},
+               {Controls.Chat, Controls.Record, Controls.Window, Controls.Map, Controls.Status},
+               {machine.FileSystem, machine.LocalClock, *machine.Pages, Transmit.Sender,
+                Links.Radios, Timer1, Timer2}),
+      Emergencies(Map.Redrawer),
+      Reception({State.Identity, State.Radio, State.Reception, State.Stores, State.Followed,
+                 State.Map, State.Gps, State.Alarms, State.Settings, State.Internet},
+                {Controls.Window, Controls.Map, Controls.Moni1, Controls.MoniAll, Controls.Record,
+                 Controls.Status, &Controls.Raw.RawList},
+                {machine.FileSystem, machine.LocalClock, machine.Boxes, Links.Heard, Map.Symbols,
+                 Map.Redrawer, Settings, Emergencies, Timer1, nullptr, &Messages.Heard}),
       RawSearch(Controls.Raw, State.Settings, Timer1),
       Cycle(State, Controls, machine.LocalClock, machine.Desktop, Timer1, Timer2, Map.Redrawer) {
   SetInitialControls(Controls);
@@ -96,6 +102,7 @@ void StationRooms::MapResized(int width, int height) {
 void StationRooms::SecondPassed() {
   Links.Watch.Renew();
   Transmit.Outcome.Renew();
+  Messages.SecondPassed();
 }
 
 // ---- Tick -----------------------------------------------------------------------------------
@@ -106,6 +113,7 @@ void StationRooms::Tick() {
   Reception.Heard.TickBegins();
   Cycle.Tick();
   Transmit.ShowNextBeacon();
+  Messages.Panel.Renew();
 }
 
 bool StationRooms::CycleIsHeld() const {
@@ -117,7 +125,11 @@ void StationRooms::JoinTick() {
   tick.KeepSecondModeMonitored = [this] { Links.KeepSecondModeMonitored(); };
   tick.ChangeFollowedStation = [this] { Reception.Choice.FollowTyped(); };
   tick.SendIdentification = [this] { Transmit.SendIdentification(); };
-  tick.RunReceivePass = [this] { Reception.Receive(); };
+  tick.RunReceivePass = [this] {
+    Messages.Heard.PassBegins();
+    Reception.Receive();
+  };
+  tick.RunChatPass = [this] { Messages.Sender.RetryPass(); };
   tick.SendObjectReport = [this] { Transmit.Beacon.SendObjectReport(); };
   tick.SendBeacon = [this] { Transmit.Beacon.SendPositionBeacon(); };
 }
@@ -137,6 +149,7 @@ StartSteps StationRooms::StartOrder() {
   start.RestoreTracksPlacesAndChat = [this] {
     Gps.Tracks.RestoreAtStart();
     Viewers.Places.RestoreAtStart();
+    Messages.RestoreAtStart();
   };
   start.ShowTitleMarkers = [this] { ShowTitle(); };
   start.SetLabels = [this] { SetLabels(); };
@@ -151,6 +164,7 @@ StartSteps StationRooms::StartOrder() {
 void StationRooms::ReadConfig() {
   ReadConfigForMainWindow(machine_.FileSystem, State);
   ApplyViewValues(ReadWindowFile(machine_.FileSystem, State.Identity.ProgramFolder), State);
+  State.Services = ReadServicesFile(machine_.FileSystem, State.Identity.ProgramFolder);
   Controls.Moni1.Check1.Value = State.Followed.Moni1AlarmOn;
   TakeZone(State.Identity, State.Map);
 }

@@ -16,6 +16,7 @@
 #include "internet/internet_room.h"
 #include "links/links_room.h"
 #include "map/map_room.h"
+#include "messages/messages_room.h"
 #include "platform/machine.h"
 #include "reception/emergency_display.h"
 #include "reception/reception_room.h"
@@ -83,9 +84,10 @@ class StationRooms {
   GpsRoom Gps;
   ViewersRoom Viewers;
   InternetRoom Internet;
+  TransmitRoom Transmit;
+  MessagesRoom Messages;
   EmergencyDisplay Emergencies;
   ReceptionRoom Reception;
-  TransmitRoom Transmit;
   RawListSearch RawSearch;
   MainCycle Cycle;
 };

@@ -44,6 +44,7 @@ struct ToolMachine {
             [] { return std::make_shared<AbsentSocket>(); },
             [] { return std::make_shared<AbsentSerialPort>(); },
             std::move(surfaces),
+            std::make_shared<AbsentPages>(),
             {}};
   }
 

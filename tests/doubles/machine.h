@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/machine.h"
+#include "tests/doubles/fake_pages.h"
 #include "tests/doubles/fake_serial.h"
 #include "tests/doubles/fake_socket.h"
 #include "tests/doubles/recorder_surface.h"
@@ -32,6 +33,7 @@ struct PlayedParts {
   std::vector<TcpSocket*> Sockets;
   std::vector<SerialPort*> Ports;
   std::vector<DrawingSurface*> Surfaces;
+  std::shared_ptr<PageFetcher> Pages = std::make_shared<FakePages>();
 };
 
 inline Machine MachineOf(Files& files, Clock& clock, Loop& loop, Dialogs& boxes,
@@ -48,6 +50,7 @@ inline Machine MachineOf(Files& files, Clock& clock, Loop& loop, Dialogs& boxes,
                     [](int width, int height) {
                       return std::make_shared<RecorderSurface>(width, height);
                     }),
+          std::move(parts.Pages),
           std::move(devices)};
 }
 

@@ -77,7 +77,9 @@ TEST(InitialControls, TheTransmittersPanelsWaitUntilTheyAreAskedFor) {
        {&c.Transmit.Check6, &c.Transmit.Check18, &c.Transmit.Check2, &c.Gate.Check15}) {
     EXPECT_TRUE(box->Visible);
   }
-  EXPECT_FALSE(c.Chat.Check7.Visible);
+  for (const Control* chat : std::initializer_list<const Control*>{
+           &c.Chat.Check7, &c.Chat.Text2, &c.Chat.Text3, &c.Record.Command10})
+    EXPECT_TRUE(chat->Visible);
 }
 
 TEST(InitialControls, TheMemoriesToolTipsAreLeftToTheirTexts) {

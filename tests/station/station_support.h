@@ -84,13 +84,14 @@ class StationHarness : public RecordedSurfaces {
   RecordedDesktop desktop;
   FakeSocket socket;
   FakeSerial modem;
+  std::shared_ptr<FakePages> pages = std::make_shared<FakePages>();
   std::unique_ptr<StationProgram> program;
 
  private:
   void Make() {
     program.reset();
     program = std::make_unique<StationProgram>(
-        MachineOf(files, clock, clock, dialogs, desktop, {{&socket}, {&modem}, Surfaces()}));
+        MachineOf(files, clock, clock, dialogs, desktop, {{&socket}, {&modem}, Surfaces(), pages}));
     clock.ForgetTimers();
     for (const DrivenTimer& timer : program->Timers())
       clock.Drive(timer);
