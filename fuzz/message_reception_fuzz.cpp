@@ -55,19 +55,17 @@ struct World {
   NotedEnd End;
   Timer Timer1{6000};
   Timer Timer2{3000};
-  Timer Reopen{10000};
   RecordedProgress LongWork;
-  SerialModem Modem{
-      State.Identity, State.Radio, State.Transmission, {Port, Clock, Reopen, LongWork}};
-  AgwLink Link{State.Radio, State.Identity, State.Transmission, Socket, Clock, Boxes, End, Reopen};
+  SerialModem Modem{State.Identity, State.Radio, State.Transmission, {Port, Clock, LongWork}};
+  AgwLink Link{State.Radio, State.Identity, State.Transmission, Socket, Clock, Boxes, End};
   RadioLinks Links{{State.Identity, State.Radio, State.Reception, State.Transmission},
                    {Engine, Link, Modem, Port, Clock}};
   FrameSender Frames{Links, Clock};
-  MessagesRoom Room{{State.Identity, State.Radio, State.Chat, State.Stores, State.Internet,
-                     State.Settings, Services},
-                    {Controls.Chat, Controls.Record, Controls.Transmit, Controls.Window,
-                     Controls.Map, Controls.Status},
-                    {Disk, Clock, Pages, Frames, Links, Timer1, Timer2}};
+  MessagesRoom Room{
+      {State.Identity, State.Radio, State.Chat, State.Stores, State.Internet, State.Settings,
+       Services},
+      {Controls.Chat, Controls.Record, Controls.Window, Controls.Map, Controls.Status},
+      {Disk, Clock, Pages, Frames, Links, Timer1, Timer2}};
 };
 
 // The front of `rest` up to `end`, which is taken off.

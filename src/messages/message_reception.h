@@ -27,9 +27,9 @@ struct MessageReceptionTools {
 
 class MessageReception final : public MessageActions {
  public:
-  // So many frames answer messages in one receive pass: each takes its time on the air, and the
-  // cycle must go on. Who is not acknowledged repeats his message.
-  static constexpr int kMostAnswers = 10;
+  // So many frames answer messages in one receive pass: each takes 0.8 s, and together they are to
+  // take less than a tick. Who is not acknowledged repeats his message.
+  static constexpr int kMostAnswers = 6;
 
   MessageReception(const IdentityState& identity, ChatState& chat, ChatControls& controls,
                    MessageReceptionTools tools)
