@@ -1,56 +1,21 @@
 // Accepts clients, reads their frames, and drops those that are slow or make no sense.
 #include "tool/agw_server.h"
 
-#include <arpa/inet.h>
-#include <fcntl.h>
-#include <netinet/in.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 #include <array>
-#include <cerrno>
 
 #include "core/text_fields.h"
 #include "links/agw_frame.h"
+#include "tool/loopback_listener.h"
 
 namespace zepril {
 namespace {
 
-constexpr int kWaitingConnections = 8;
 constexpr std::size_t kBlock = 4096;
 constexpr std::size_t kCallField = 10;
-
-sockaddr_in LoopbackAddress(int port) {
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_port = htons(static_cast<std::uint16_t>(port));
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  return address;
-}
-
-bool MakeNonBlocking(int descriptor) {
-  const int flags = ::fcntl(descriptor, F_GETFL, 0);
-  return flags >= 0 && ::fcntl(descriptor, F_SETFL, flags | O_NONBLOCK) == 0 &&
-         ::fcntl(descriptor, F_SETFD, FD_CLOEXEC) == 0;
-}
-
-// Binds `listener` and tells the port it got; 0 when that failed.
-int Listen(int listener, int port) {
-  const int yes = 1;
-  ::setsockopt(listener, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
-  sockaddr_in address = LoopbackAddress(port);
-  socklen_t length = sizeof address;
-  auto* plain = reinterpret_cast<sockaddr*>(&address);
-  if (::bind(listener, plain, sizeof address) != 0) return 0;
-  if (::listen(listener, kWaitingConnections) != 0) return 0;
-  if (::getsockname(listener, plain, &length) != 0) return 0;
-  return ntohs(address.sin_port);
-}
-
-bool WouldWait() {
-  return errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR;
-}
 
 }  // namespace
 
@@ -69,14 +34,9 @@ bool ReadAgwUnproto(std::string_view data, std::string& path, std::string& text)
 }
 
 std::unique_ptr<AgwServer> AgwServer::Open(int port) {
-  const int listener = ::socket(AF_INET, SOCK_STREAM, 0);
-  if (listener < 0) return nullptr;
-  const int bound = MakeNonBlocking(listener) ? Listen(listener, port) : 0;
-  if (bound == 0) {
-    ::close(listener);
-    return nullptr;
-  }
-  return std::make_unique<AgwServer>(listener, bound);
+  const Listener listener = ListenOnLoopback(port);
+  if (listener.Descriptor < 0) return nullptr;
+  return std::make_unique<AgwServer>(listener.Descriptor, listener.Port);
 }
 
 AgwServer::~AgwServer() {
@@ -109,9 +69,9 @@ void AgwServer::Serve(int milliseconds) {
 }
 
 void AgwServer::Accept() {
-  const int descriptor = ::accept(listener_, nullptr, nullptr);
+  const int descriptor = AcceptClient(listener_);
   if (descriptor < 0) return;
-  if (clients_.size() >= kMostClients || !MakeNonBlocking(descriptor)) {
+  if (clients_.size() >= kMostClients) {
     ::close(descriptor);
     return;
   }

@@ -1,0 +1,67 @@
+// Opens listening sockets and takes clients from them.
+#include "tool/loopback_listener.h"
+
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdint>
+
+namespace zepril {
+namespace {
+
+constexpr int kWaitingConnections = 8;
+
+sockaddr_in LoopbackAddress(int port) {
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_port = htons(static_cast<std::uint16_t>(port));
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  return address;
+}
+
+bool MakeNonBlocking(int descriptor) {
+  const int flags = ::fcntl(descriptor, F_GETFL, 0);
+  return flags >= 0 && ::fcntl(descriptor, F_SETFL, flags | O_NONBLOCK) == 0 &&
+         ::fcntl(descriptor, F_SETFD, FD_CLOEXEC) == 0;
+}
+
+// Binds `listener` and tells the port it got; 0 when that failed.
+int Listen(int listener, int port) {
+  const int yes = 1;
+  ::setsockopt(listener, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
+  sockaddr_in address = LoopbackAddress(port);
+  socklen_t length = sizeof address;
+  auto* plain = reinterpret_cast<sockaddr*>(&address);
+  if (::bind(listener, plain, sizeof address) != 0) return 0;
+  if (::listen(listener, kWaitingConnections) != 0) return 0;
+  if (::getsockname(listener, plain, &length) != 0) return 0;
+  return ntohs(address.sin_port);
+}
+
+}  // namespace
+
+Listener ListenOnLoopback(int port) {
+  const int descriptor = ::socket(AF_INET, SOCK_STREAM, 0);
+  if (descriptor < 0) return {};
+  const int bound = MakeNonBlocking(descriptor) ? Listen(descriptor, port) : 0;
+  if (bound != 0) return {descriptor, bound};
+  ::close(descriptor);
+  return {};
+}
+
+int AcceptClient(int listener) {
+  const int descriptor = ::accept(listener, nullptr, nullptr);
+  if (descriptor < 0 || MakeNonBlocking(descriptor)) return descriptor;
+  ::close(descriptor);
+  return -1;
+}
+
+bool WouldWait() {
+  return errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR;
+}
+
+}  // namespace zepril
