@@ -21,10 +21,11 @@
 namespace zepril {
 namespace {
 
-constexpr std::array<ArgumentRule, 7> kRules{{{"--agw", true},
+constexpr std::array<ArgumentRule, 8> kRules{{{"--agw", true},
                                               {"--pk232", true},
                                               {"--scs-tnc", true},
                                               {"--scs-ptc", true},
+                                              {"--web", true},
                                               {"--play", true},
                                               {"--rate", true},
                                               {"--repeat", false}}};
@@ -126,6 +127,10 @@ AirDevices OpenDevices(Arguments& arguments, double rate, const ReportLine& repo
     devices.push_back(OpenEngineDevice(arguments.Whole("--agw", 0, 65535, -1), report));
     if (!devices.back()) arguments.Fail("can't listen on that port");
   }
+  if (arguments.Has("--web")) {
+    devices.push_back(OpenWebDevice(arguments.Whole("--web", 0, 65535, -1), report));
+    if (!devices.back()) arguments.Fail("can't listen on that port");
+  }
   const auto add_modem = [&](std::string_view name, std::unique_ptr<ModemModel> model) {
     const auto link = arguments.Value(name);
     if (!link) return;
@@ -140,7 +145,7 @@ AirDevices OpenDevices(Arguments& arguments, double rate, const ReportLine& repo
 
 bool NamesADevice(const Arguments& arguments) {
   return arguments.Has("--agw") || arguments.Has("--pk232") || arguments.Has("--scs-tnc") ||
-         arguments.Has("--scs-ptc");
+         arguments.Has("--scs-ptc") || arguments.Has("--web");
 }
 
 // The packets to be played, none without a file; nothing when the file can't be read.
@@ -191,10 +196,11 @@ double AirPlay::SecondsToNext(double now, double otherwise) const {
 int RunAir(std::span<const std::string_view> args) {
   Arguments arguments(args, kRules);
   arguments.Whole("--agw", 0, 65535, -1);
+  arguments.Whole("--web", 0, 65535, -1);
   const std::string_view rate_text = arguments.Value("--rate").value_or("1");
   const double rate = Val(rate_text);
   if (!NamesADevice(arguments))
-    arguments.Fail("--agw, --pk232, --scs-tnc or --scs-ptc must be given");
+    arguments.Fail("--agw, --pk232, --scs-tnc, --scs-ptc or --web must be given");
   if (!IsNumericField(rate_text) || rate <= 0 || rate > kHighestRate) {
     arguments.Fail("--rate must be a number over 0, at most 1000");
   }

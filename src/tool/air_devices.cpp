@@ -1,4 +1,4 @@
-// The two kinds of device, and the line that tells what was sent to one.
+// The kinds of device, and the lines that tell what was sent to one.
 #include "tool/air_devices.h"
 
 #include <utility>
@@ -48,6 +48,29 @@ class EngineDevice final : public AirDevice {
   std::unique_ptr<AgwServer> server_;
 };
 
+// It hears nothing of the air.
+class WebDevice final : public AirDevice {
+ public:
+  WebDevice(std::unique_ptr<WebServer> server, const ReportLine& report)
+      : server_(std::move(server)) {
+    server_->Asked = [report](std::string_view target) {
+      const auto message = ReadWebForm(target);
+      if (!message) return WebAnswer{};
+      report(WebMessageLine(*message));
+      return WebAnswer{200, "<html><body>Message taken</body></html>"};
+    };
+  }
+  std::string ReadyLine() const override {
+    return "READY web " + WholeNumber(server_->Port()) + '\n';
+  }
+  void Serve(int milliseconds) override { server_->Serve(milliseconds); }
+  bool IsListenedTo(double) override { return false; }
+  void Hear(const AirPacket&, const LocalTime&) override {}
+
+ private:
+  std::unique_ptr<WebServer> server_;
+};
+
 class ModemDevice final : public AirDevice {
  public:
   ModemDevice(std::unique_ptr<PtyModem> modem, double rate, const ReportLine& report)
@@ -88,6 +111,12 @@ std::unique_ptr<AirDevice> OpenEngineDevice(int port, const ReportLine& report) 
   return std::make_unique<EngineDevice>(std::move(server), report);
 }
 
+std::unique_ptr<AirDevice> OpenWebDevice(int port, const ReportLine& report) {
+  auto server = WebServer::Open(port);
+  if (!server) return nullptr;
+  return std::make_unique<WebDevice>(std::move(server), report);
+}
+
 std::unique_ptr<AirDevice> OpenModemDevice(const std::string& link,
                                            std::unique_ptr<ModemModel> model, double rate,
                                            const ReportLine& report) {
@@ -108,6 +137,10 @@ std::string ModemSentLine(std::string_view modem, const ModemSending& sending) {
 
 std::string CommandLine(std::string_view modem, std::string_view command) {
   return "COMMAND " + std::string(modem) + ' ' + Printable(command) + '\n';
+}
+
+std::string WebMessageLine(const WebFormMessage& message) {
+  return "MESSAGE web " + Printable(message.From + ' ' + message.To + ' ' + message.Text) + '\n';
 }
 
 }  // namespace zepril

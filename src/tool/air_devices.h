@@ -9,6 +9,7 @@
 #include "tool/agw_server.h"
 #include "tool/air_script.h"
 #include "tool/modem_model.h"
+#include "tool/web_server.h"
 
 namespace zepril {
 
@@ -30,6 +31,10 @@ using ReportLine = std::function<void(const std::string& line)>;
 // A packet engine on 127.0.0.1, `port` 0 for any free one. Nothing when that is not possible.
 std::unique_ptr<AirDevice> OpenEngineDevice(int port, const ReportLine& report);
 
+// Web services on 127.0.0.1, `port` 0 for any free one: the form for messages. Nothing when that is
+// not possible.
+std::unique_ptr<AirDevice> OpenWebDevice(int port, const ReportLine& report);
+
 // `model` behind `link`. A program listens to it when it has set it up and left it in peace for
 // 3 s, `rate` times less in a faster play. Nothing when the link can't be made.
 std::unique_ptr<AirDevice> OpenModemDevice(const std::string& link,
@@ -43,5 +48,7 @@ std::string SentLine(const AgwUnproto& unproto);
 std::string ModemSentLine(std::string_view modem, const ModemSending& sending);
 //   "COMMAND pk232 MYCALL QX7KB-9"
 std::string CommandLine(std::string_view modem, std::string_view command);
+//   "MESSAGE web QX7KB-9 AB1CD Hello{07"
+std::string WebMessageLine(const WebFormMessage& message);
 
 }  // namespace zepril

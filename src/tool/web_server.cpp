@@ -1,0 +1,144 @@
+// Reads heads of requests, answers with a page, and closes.
+#include "tool/web_server.h"
+
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <array>
+
+#include "core/text_fields.h"
+#include "tool/loopback_listener.h"
+
+namespace zepril {
+namespace {
+
+constexpr std::size_t kBlock = 4096;
+constexpr std::string_view kHeadEnd = "\r\n\r\n";
+
+int HexValue(char c) {
+  const std::size_t value = std::string_view("0123456789ABCDEF").find(UpperChar(c));
+  return value == std::string_view::npos ? -1 : static_cast<int>(value);
+}
+
+std::string FormValue(std::string_view text) {
+  std::string value;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const bool coded = text[at] == '%' && at + 2 < text.size() && HexValue(text[at + 1]) >= 0 &&
+                       HexValue(text[at + 2]) >= 0;
+    if (coded) {
+      value += Chr(16 * HexValue(text[at + 1]) + HexValue(text[at + 2]));
+      at += 2;
+    } else {
+      value += text[at] == '+' ? ' ' : text[at];
+    }
+  }
+  return value;
+}
+
+std::string PageOf(const WebAnswer& answer) {
+  const char* word = answer.Status == 200 ? "OK" : "Not Found";
+  return "HTTP/1.1 " + WholeNumber(answer.Status) + " " + word +
+         "\r\nContent-Type: text/html\r\nConnection: close\r\nContent-Length: " +
+         WholeNumber(static_cast<std::int64_t>(answer.Body.size())) + "\r\n\r\n" + answer.Body;
+}
+
+}  // namespace
+
+std::optional<WebFormMessage> ReadWebForm(std::string_view target) {
+  constexpr std::string_view kForm = "/cgi-bin/sendmsg.cgi?";
+  if (!target.starts_with(kForm)) return std::nullopt;
+  WebFormMessage message;
+  for (const std::string_view field : Split(target.substr(kForm.size()), '&')) {
+    const std::size_t equals = field.find('=');
+    if (equals == std::string_view::npos) continue;
+    const std::string value = FormValue(field.substr(equals + 1));
+    const std::string_view name = field.substr(0, equals);
+    if (name == "fromcall") message.From = value;
+    if (name == "tocall") message.To = value;
+    if (name == "msg") message.Text = value;
+  }
+  return message;
+}
+
+std::unique_ptr<WebServer> WebServer::Open(int port) {
+  const Listener listener = ListenOnLoopback(port);
+  if (listener.Descriptor < 0) return nullptr;
+  return std::make_unique<WebServer>(listener.Descriptor, listener.Port);
+}
+
+WebServer::~WebServer() {
+  for (const Client& client : clients_)
+    ::close(client.Descriptor);
+  ::close(listener_);
+}
+
+void WebServer::Serve(int milliseconds) {
+  std::vector<pollfd> waits{{listener_, POLLIN, 0}};
+  for (const Client& client : clients_) {
+    const int events = client.Unsent.empty() ? POLLIN : POLLOUT;
+    waits.push_back({client.Descriptor, static_cast<short>(events), 0});
+  }
+  if (::poll(waits.data(), waits.size(), milliseconds) <= 0) return;
+  for (std::size_t at = 0; at < clients_.size(); ++at) {
+    const int ready = waits[at + 1].revents;
+    if ((ready & (POLLIN | POLLHUP | POLLERR)) != 0) Read(clients_[at]);
+    if ((ready & POLLOUT) != 0) Write(clients_[at]);
+  }
+  RemoveCut();
+  if ((waits[0].revents & POLLIN) == 0) return;
+  const int descriptor = AcceptClient(listener_);
+  if (descriptor < 0) return;
+  if (clients_.size() >= kMostClients) {
+    ::close(descriptor);
+  } else {
+    clients_.emplace_back().Descriptor = descriptor;
+  }
+}
+
+void WebServer::Read(Client& client) {
+  std::array<char, kBlock> block;
+  const ssize_t length = ::recv(client.Descriptor, block.data(), block.size(), 0);
+  if (length <= 0) {
+    client.Cut = length == 0 || !WouldWait();
+    return;
+  }
+  if (client.Answered) return;
+  client.Head.append(block.data(), static_cast<std::size_t>(length));
+  if (client.Head.find(kHeadEnd) != std::string::npos) return Answer(client);
+  client.Cut = client.Head.size() > kLongestHead;
+}
+
+// "GET target HTTP/1.1"
+void WebServer::Answer(Client& client) {
+  const std::string_view line = std::string_view(client.Head).substr(0, client.Head.find("\r\n"));
+  const std::vector<std::string_view> words = Split(line, ' ');
+  if (words.size() != 3 || words[0] != "GET") {
+    client.Cut = true;
+    return;
+  }
+  client.Answered = true;
+  client.Unsent = PageOf(Asked ? Asked(words[1]) : WebAnswer{});
+  Write(client);
+}
+
+void WebServer::Write(Client& client) {
+  if (client.Cut || client.Unsent.empty()) return;
+  const ssize_t length =
+      ::send(client.Descriptor, client.Unsent.data(), client.Unsent.size(), MSG_NOSIGNAL);
+  if (length < 0) {
+    client.Cut = !WouldWait();
+    return;
+  }
+  client.Unsent.erase(0, static_cast<std::size_t>(length));
+  client.Cut = client.Unsent.empty();
+}
+
+void WebServer::RemoveCut() {
+  std::erase_if(clients_, [](const Client& client) {
+    if (client.Cut) ::close(client.Descriptor);
+    return client.Cut;
+  });
+}
+
+}  // namespace zepril

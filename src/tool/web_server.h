@@ -1,0 +1,74 @@
+// Web services on 127.0.0.1 as far as the program asks them: one page a connection.
+//
+// Nobody can hold it up: who sends a head that is none, or too long a one, does not read his page,
+// or comes when all places are taken, is cut off. One thread; everything happens in `Serve`.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zepril {
+
+struct WebAnswer {
+  int Status = 404;
+  std::string Body;  // HTML
+};
+
+// What came in by the form for messages.
+struct WebFormMessage {
+  std::string From;
+  std::string To;
+  std::string Text;
+};
+
+// A request "/cgi-bin/sendmsg.cgi?fromcall=QX7KB&tocall=AB1CD&msg=Hello%7B07", its values decoded
+// as forms do; nothing for any other.
+std::optional<WebFormMessage> ReadWebForm(std::string_view target);
+
+class WebServer {
+ public:
+  static constexpr std::size_t kMostClients = 16;
+  static constexpr std::size_t kLongestHead = 16384;  // bytes
+
+  // Listens on `port`, 0 for any free one. Nothing when that is not possible.
+  static std::unique_ptr<WebServer> Open(int port);
+  // Takes over `listener`, which listens on `port` and does not block.
+  WebServer(int listener, int port) : listener_(listener), port_(port) {}
+  ~WebServer();
+  WebServer(const WebServer&) = delete;
+  WebServer& operator=(const WebServer&) = delete;
+
+  int Port() const { return port_; }
+  std::size_t Clients() const { return clients_.size(); }
+
+  // Takes and gives what is there; waits for at most `milliseconds` when there is nothing.
+  void Serve(int milliseconds);
+
+  // A page was asked for: path and query. Without an answer it is not there.
+  std::function<WebAnswer(std::string_view target)> Asked;
+
+ private:
+  struct Client {
+    int Descriptor = -1;
+    bool Cut = false;
+    bool Answered = false;
+    std::string Head;
+    std::string Unsent;
+  };
+
+  void Read(Client& client);
+  void Write(Client& client);
+  void Answer(Client& client);
+  void RemoveCut();
+
+  int listener_;
+  int port_;
+  std::vector<Client> clients_;
+};
+
+}  // namespace zepril
