@@ -102,7 +102,8 @@ const std::set<std::string>& KnownOfWindows() {
 bool SpeaksToOthers(const std::string& path) {
   static const std::regex others(
       "^src/config/|/"
-      "(pk232|scs_tnc|scs_ptc|dialects|identification|symbol_table|packet_decoder|picture_viewer)"
+      "(pk232|scs_tnc|scs_ptc|dialects|identification|symbol_table|packet_decoder|picture_viewer|"
+      "gate_forms|aprs_is_login)"
       "\\.cpp$");
   return std::regex_search(path, others);
 }
