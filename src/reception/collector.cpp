@@ -21,7 +21,7 @@ void Collector::Collect(std::string& collected) {
     const std::string_view raw = heard->Next();
     if (raw.empty()) return;
     const Brought brought = dialect->Bring(raw, collected);
-    HandToGate(brought.ForGate);
+    HandToGate(brought.ForGate, dialect->Name);
     heard->Taken(brought.Taken);
     if (!brought.More) return;
   }
@@ -32,10 +32,10 @@ std::size_t Collector::Waiting() const {
   return heard ? heard->Waiting() : 0;
 }
 
-void Collector::HandToGate(std::string_view text) {
+void Collector::HandToGate(std::string_view text, std::string_view dialect) {
   constexpr std::size_t kShortestForGate = 11;
   const bool logged_in = internet_.IGateConnected == GateLink::Up && GateIsPossible(radio_);
-  if (gate_ && logged_in && text.size() >= kShortestForGate) gate_->GateMonitorBlock(text);
+  if (gate_ && logged_in && text.size() >= kShortestForGate) gate_->GateMonitorBlock(text, dialect);
 }
 
 }  // namespace zepril

@@ -27,7 +27,7 @@ class Collector {
   std::size_t Waiting() const;
 
  private:
-  void HandToGate(std::string_view text);
+  void HandToGate(std::string_view text, std::string_view dialect);
 
   const RadioState& radio_;
   const InternetState& internet_;

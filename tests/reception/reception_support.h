@@ -58,7 +58,10 @@ class RecordingActions final : public MapActions,
                         std::string(message.Header), std::string(message.Destination)});
   }
   void ShowEmergency() override { ++Emergencies; }
-  void GateMonitorBlock(std::string_view text) override { Gated.emplace_back(text); }
+  void GateMonitorBlock(std::string_view text, std::string_view dialect) override {
+    Gated.emplace_back(text);
+    GatedDialect = dialect;
+  }
   void WriteConfigFromMainWindow() override {}
   void ReplaceConfigLine(const std::string& key, const std::string& value) override {
     ConfigLines.emplace_back(key, value);
@@ -75,6 +78,7 @@ class RecordingActions final : public MapActions,
   int Emergencies = 0;
   std::vector<Message> Messages;
   std::vector<std::string> Gated;
+  std::string GatedDialect;
   std::vector<std::pair<std::string, std::string>> ConfigLines;
   std::function<void()> OnRedraw;
 };
