@@ -112,7 +112,9 @@ namespace {
 
 Brought BringScsText(std::string_view raw, ScsDialect dialect, std::string& normal) {
   const std::size_t taken = TakeScsFrames(raw, dialect, normal);
-  return {taken, normal.empty() ? std::string_view() : raw.substr(0, taken)};
+  // The last frame's line end, which opens what comes next, ends that frame for the gate.
+  const std::string_view whole = raw.substr(0, taken + kLineEnd.size());
+  return {taken, normal.empty() ? std::string_view() : whole};
 }
 
 }  // namespace

@@ -42,6 +42,7 @@ TEST(Collector, GateGetsTheRawTextWhileLoggedIn) {
   station.Engine.Texts = {kAgw, "1234567890"};
   CollectIn(station, 0);
   EXPECT_EQ(station.Actions.Gated, std::vector<std::string>{kAgw});
+  EXPECT_EQ(station.Actions.GatedDialect, "AGW");
 }
 
 TEST(Collector, RemoteEngineIsNeverGated) {
@@ -110,6 +111,7 @@ TEST(Collector, Pk232TextGoesToTheGateAsItIsKept) {
   station.Modem.Reads = {"torn line\r\n" + kNormal};
   EXPECT_EQ(CollectIn(station, 1), kNormal);
   EXPECT_EQ(station.Actions.Gated, std::vector<std::string>{kNormal});
+  EXPECT_EQ(station.Actions.GatedDialect, "PK-232");
 }
 
 // What the passes of a PK-232 give that delivers `reads`, one a tick.
@@ -264,6 +266,21 @@ TEST(Collector, UnfinishedScsFrameIsKeptForTheNextPass) {
   EXPECT_EQ(CollectIn(station, 6), "N0CALL>APRS <UI>:\r\n!tst\r\n");
   ASSERT_EQ(station.Actions.Gated.size(), 2u);
   EXPECT_EQ(station.Actions.Gated[1].find("N0CALL"), station.Actions.Gated[1].rfind("N0CALL"));
+}
+
+TEST(Collector, TheGateGetsFramesOfScsModemsWithTheirLineEnds) {
+  for (const int mode : {5, 6}) {
+    Reception station;
+    station.Internet.IGateConnected = GateLink::Up;
+    station.Modem.Reads = {kScs + kScs, "", kScs};
+    CollectIn(station, mode);
+    EXPECT_EQ(station.Actions.Gated, std::vector<std::string>{kScs + kScs}) << mode;
+    EXPECT_EQ(station.Actions.GatedDialect, mode == 5 ? "SCS TNC" : "SCS PTC");
+    // What comes next begins with that end once more.
+    CollectIn(station, mode);
+    ASSERT_EQ(station.Actions.Gated.size(), 2u) << mode;
+    EXPECT_EQ(station.Actions.Gated[1], "\r\n" + kScs) << mode;
+  }
 }
 
 TEST(Collector, OverlongScsTextIsThrownAway) {
