@@ -24,7 +24,9 @@ struct InternetState {
   Gate IGateOn = Gate::Off;
   GateLink IGateConnected = GateLink::Down;
   std::string AprsIsPasscode = "0";
+  std::string AprsIsRxBuffer;              // what the server has sent since the last connect
   std::array<GatedLine, 5> RecentlyGated;  // newest last
+  int UiDigiWindow = 0;  // process of the digipeater program beside the engine; 0: none runs
 
   double InetSwitchTime = 0.0;  // timer value of the last operation of an internet switch
   double InetMaxOnSeconds = 900.0;
