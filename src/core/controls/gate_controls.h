@@ -7,6 +7,7 @@ namespace zepril {
 
 struct GateControls {
   CheckBox Check15;  // IGATE
+  Label GateWords;   // where the gate stands, or why there is none
 };
 
 }  // namespace zepril

@@ -294,6 +294,7 @@ constexpr ControlRow<MainWindowControls> kTable[] = {
     // The controls of the gate between radio and internet.
     {"Check15", On<&GateControls::Check15>(), Own("IGATE"),
      {"Hand received packets to the internet"}},
+    {"GateWords", On<&GateControls::GateWords>()},
 
     // The controls of TX SETUP: what the station is on the air.
     {"Frame4", On<&TxSetupControls::Frame4>(), Own("TX SETUP / APRS PARAMETERS")},
