@@ -21,7 +21,10 @@ NotGated WhyNot(const std::optional<GateFrame>& frame) {
   if (!frame) return NotGated::NoFrame;
   if (ForbidsTheGate(frame->Watched)) return NotGated::ForbiddenPath;
   const bool others = frame->Data.starts_with('}') || frame->Data.starts_with('?');
-  return others ? NotGated::ForwardedOrQuery : NotGated::Nothing;
+  if (others) return NotGated::ForwardedOrQuery;
+  // An engine hands such data on; the server would take what follows for a packet of its own.
+  const bool several = frame->Data.find("\r\n") != std::string_view::npos;
+  return several ? NotGated::SeveralLines : NotGated::Nothing;
 }
 
 std::string LineOf(const GateFrame& frame, std::string_view call) {

@@ -15,6 +15,7 @@ enum class NotGated {
   NoFrame,           // a part of a frame is missing
   ForbiddenPath,     // NOGATE, RFONLY, TCPIP or TCPXX in its header
   ForwardedOrQuery,  // data that begins with "}" or "?"
+  SeveralLines,      // data with a line end in it: a line can't hold that
   Repeat,            // like a line of the last seconds
   NotTaken,          // the link has not taken the line
 };

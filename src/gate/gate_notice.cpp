@@ -25,6 +25,8 @@ Text ReasonText(NotGated why) {
       return gate_texts::kForbiddenPath;
     case NotGated::ForwardedOrQuery:
       return gate_texts::kForwardedOrQuery;
+    case NotGated::SeveralLines:
+      return gate_texts::kSeveralLines;
     case NotGated::Repeat:
       return gate_texts::kRepeat;
     case NotGated::NotTaken:

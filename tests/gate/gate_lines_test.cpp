@@ -237,6 +237,14 @@ TEST(GateLines, TheBytesOfTheDataAreThoseHeard) {
   }
 }
 
+// Behind its first line end the server would read a packet that nobody has sent.
+TEST(GateLines, DataOfSeveralLinesStays) {
+  ExpectEnded("AGW", EngineText({.Data = "one\r\nN0CALL>ZEPR,TCPIP*:two"}), NotGated::SeveralLines);
+  // Where line ends are the form's own, the data ends there.
+  ExpectEnded("PK-232", Pk232Text({.Data = "one\r\ntwo"}), NotGated::Nothing,
+              {"QX7AB>ZEPR,qAR,QX7KB:one\r\n"});
+}
+
 TEST(GateLines, WordsOfTheDataAreNoMarkers) {
   EXPECT_EQ(Gated("AGW", EngineText({.Data = "car To Via x <UI >]"})).Lines,
             Lines{"QX7AB>ZEPR,qAR,QX7KB:car To Via x <UI >]\r\n"});

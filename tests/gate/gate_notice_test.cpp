@@ -97,6 +97,7 @@ TEST(GateNotice, EveryReasonHasItsWords) {
       {NotGated::NoFrame, "last not gated 09:05: no whole frame"},
       {NotGated::ForbiddenPath, "last not gated 09:05: NOGATE, RFONLY or TCPIP in its header"},
       {NotGated::ForwardedOrQuery, "last not gated 09:05: forwarded, or a query"},
+      {NotGated::SeveralLines, "last not gated 09:05: more than one line"},
       {NotGated::Repeat, "last not gated 09:05: like one of the last half minute"},
       {NotGated::NotTaken, "last not gated 09:05: the server takes nothing"},
   };

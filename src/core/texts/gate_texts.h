@@ -24,6 +24,7 @@ inline constexpr Text kLastNotGated{"last not gated %1: %2"};
 inline constexpr Text kNoFrame{"no whole frame"};
 inline constexpr Text kForbiddenPath{"NOGATE, RFONLY or TCPIP in its header"};
 inline constexpr Text kForwardedOrQuery{"forwarded, or a query"};
+inline constexpr Text kSeveralLines{"more than one line"};
 inline constexpr Text kRepeat{"like one of the last half minute"};
 inline constexpr Text kNotTaken{"the server takes nothing"};
 
