@@ -21,14 +21,16 @@
 namespace zepril {
 namespace {
 
-constexpr std::array<ArgumentRule, 8> kRules{{{"--agw", true},
-                                              {"--pk232", true},
-                                              {"--scs-tnc", true},
-                                              {"--scs-ptc", true},
-                                              {"--web", true},
-                                              {"--play", true},
-                                              {"--rate", true},
-                                              {"--repeat", false}}};
+constexpr std::array<ArgumentRule, 10> kRules{{{"--agw", true},
+                                               {"--aprs-is", true},
+                                               {"--aprs-is-manner", true},
+                                               {"--pk232", true},
+                                               {"--scs-tnc", true},
+                                               {"--scs-ptc", true},
+                                               {"--web", true},
+                                               {"--play", true},
+                                               {"--rate", true},
+                                               {"--repeat", false}}};
 
 constexpr int kFailure = 1;
 constexpr std::size_t kLargestScript = 64u << 20;
@@ -121,7 +123,8 @@ void PlayUntilEnd(const AirDevices& devices, AirPlay& play, const Clock& clock) 
 }
 
 // What the arguments name; nothing when one of them can't be had, which is told.
-AirDevices OpenDevices(Arguments& arguments, double rate, const ReportLine& report) {
+AirDevices OpenDevices(Arguments& arguments, double rate, const ReportLine& report,
+                       const Clock& clock) {
   AirDevices devices;
   if (arguments.Has("--agw")) {
     devices.push_back(OpenEngineDevice(arguments.Whole("--agw", 0, 65535, -1), report));
@@ -129,6 +132,11 @@ AirDevices OpenDevices(Arguments& arguments, double rate, const ReportLine& repo
   }
   if (arguments.Has("--web")) {
     devices.push_back(OpenWebDevice(arguments.Whole("--web", 0, 65535, -1), report));
+  }
+  if (arguments.Has("--aprs-is")) {
+    const auto manners = AprsIsMannersNamed(arguments.Value("--aprs-is-manner").value_or(""));
+    devices.push_back(OpenAprsIsDevice(arguments.Whole("--aprs-is", 0, 65535, -1),
+                                       manners.value_or(AprsIsManners{}), report, clock));
     if (!devices.back()) arguments.Fail("can't listen on that port");
   }
   const auto add_modem = [&](std::string_view name, std::unique_ptr<ModemModel> model) {
@@ -144,8 +152,8 @@ AirDevices OpenDevices(Arguments& arguments, double rate, const ReportLine& repo
 }
 
 bool NamesADevice(const Arguments& arguments) {
-  return arguments.Has("--agw") || arguments.Has("--pk232") || arguments.Has("--scs-tnc") ||
-         arguments.Has("--scs-ptc") || arguments.Has("--web");
+  return arguments.Has("--agw") || arguments.Has("--aprs-is") || arguments.Has("--pk232") ||
+         arguments.Has("--scs-tnc") || arguments.Has("--scs-ptc") || arguments.Has("--web");
 }
 
 // The packets to be played, none without a file; nothing when the file can't be read.
@@ -195,14 +203,18 @@ double AirPlay::SecondsToNext(double now, double otherwise) const {
 
 int RunAir(std::span<const std::string_view> args) {
   Arguments arguments(args, kRules);
-  arguments.Whole("--agw", 0, 65535, -1);
-  arguments.Whole("--web", 0, 65535, -1);
+  for (const char* port : {"--agw", "--aprs-is", "--web"})
+    arguments.Whole(port, 0, 65535, -1);
   const std::string_view rate_text = arguments.Value("--rate").value_or("1");
   const double rate = Val(rate_text);
   if (!NamesADevice(arguments))
-    arguments.Fail("--agw, --pk232, --scs-tnc, --scs-ptc or --web must be given");
+    arguments.Fail("--agw, --pk232, --scs-tnc, --scs-ptc, --aprs-is or --web must be given");
   if (!IsNumericField(rate_text) || rate <= 0 || rate > kHighestRate) {
     arguments.Fail("--rate must be a number over 0, at most 1000");
+  }
+  if (const auto manner = arguments.Value("--aprs-is-manner");
+      manner && !AprsIsMannersNamed(*manner)) {
+    arguments.Fail("no such manner of a server: " + std::string(*manner));
   }
   if (arguments.Failed()) return arguments.Report("air");
 
@@ -212,7 +224,8 @@ int RunAir(std::span<const std::string_view> args) {
     std::fwrite(line.data(), 1, line.size(), stdout);
     std::fflush(stdout);
   };
-  const AirDevices devices = script ? OpenDevices(arguments, rate, print) : AirDevices{};
+  const SystemClock clock;
+  const AirDevices devices = script ? OpenDevices(arguments, rate, print, clock) : AirDevices{};
   if (devices.empty()) {
     arguments.Report("air");
     return kFailure;
@@ -220,7 +233,7 @@ int RunAir(std::span<const std::string_view> args) {
   for (const auto& device : devices)
     print(device->ReadyLine());
   AirPlay play(*std::move(script), rate, arguments.Has("--repeat"));
-  PlayUntilEnd(devices, play, SystemClock());
+  PlayUntilEnd(devices, play, clock);
   return 0;
 }
 

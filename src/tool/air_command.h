@@ -1,5 +1,5 @@
-// zepril-tool air: stand-ins for the outside world that play a file of packets: a packet engine on
-// this computer, modems on pseudo-terminals, and web services.
+// zepril-tool air: stand-ins for the outside world: a packet engine on this computer and modems on
+// pseudo-terminals, which play a file of packets, an APRS-IS server, and web services.
 //
 // For demonstrations and tests of the whole program without a receiver. It prints a line as soon as
 // a device can be used ("READY port" of the engine, "READY pk232 LINK" of a modem), begins to play
@@ -8,6 +8,7 @@
 //   SENT 1 QX7KB-9>ZEPR,WIDE1-1:text           handed to the engine's port 1 to be sent
 //   SENT pk232 300 QX7KB-9>ZEPR,WIDE1-1:text   handed to a modem at 300 Bd
 //   COMMAND pk232 MYCALL QX7KB-9               a command of a modem
+//   LINE aprs-is QX7AB>ZEPR,qAR,QX7KB:!tst     a line that came to the server
 //   MESSAGE web QX7KB-9 AB1CD Hello{07         handed to the web form for messages
 //
 // Nothing goes on the air. It ends on SIGTERM or SIGINT.
@@ -24,8 +25,9 @@ namespace zepril {
 
 inline constexpr std::string_view kAirHelp =
     "stand in for the outside world: --agw PORT (engine on 127.0.0.1) --pk232|--scs-tnc|--scs-ptc "
-    "LINK (modems on pseudo-terminals) --web PORT (web services on 127.0.0.1) [--play FILE [--rate "
-    "X] [--repeat]]";
+    "LINK (modems on pseudo-terminals) --aprs-is PORT [--aprs-is-manner "
+    "silent|slow:SECONDS|babbles|deaf|closes:BYTES] --web PORT (web services on 127.0.0.1) [--play "
+    "FILE [--rate X] [--repeat]]";
 
 // The packets of a script as they fall due.
 class AirPlay {

@@ -71,6 +71,24 @@ class WebDevice final : public AirDevice {
   std::unique_ptr<WebServer> server_;
 };
 
+class AprsIsDevice final : public AirDevice {
+ public:
+  AprsIsDevice(std::unique_ptr<AprsIsServer> server, const ReportLine& report)
+      : server_(std::move(server)) {
+    server_->Line = [report](std::string_view line) { report(ServerLine(line)); };
+  }
+  std::string ReadyLine() const override {
+    return "READY aprs-is " + WholeNumber(server_->Port()) + '\n';
+  }
+  void Serve(int milliseconds) override { server_->Serve(milliseconds); }
+  // It hears nothing of the air.
+  bool IsListenedTo(double) override { return false; }
+  void Hear(const AirPacket&, const LocalTime&) override {}
+
+ private:
+  std::unique_ptr<AprsIsServer> server_;
+};
+
 class ModemDevice final : public AirDevice {
  public:
   ModemDevice(std::unique_ptr<PtyModem> modem, double rate, const ReportLine& report)
@@ -117,6 +135,13 @@ std::unique_ptr<AirDevice> OpenWebDevice(int port, const ReportLine& report) {
   return std::make_unique<WebDevice>(std::move(server), report);
 }
 
+std::unique_ptr<AirDevice> OpenAprsIsDevice(int port, const AprsIsManners& manners,
+                                            const ReportLine& report, const Clock& clock) {
+  auto server = AprsIsServer::Open(port, manners, clock);
+  if (!server) return nullptr;
+  return std::make_unique<AprsIsDevice>(std::move(server), report);
+}
+
 std::unique_ptr<AirDevice> OpenModemDevice(const std::string& link,
                                            std::unique_ptr<ModemModel> model, double rate,
                                            const ReportLine& report) {
@@ -133,6 +158,10 @@ std::string SentLine(const AgwUnproto& unproto) {
 std::string ModemSentLine(std::string_view modem, const ModemSending& sending) {
   return "SENT " + std::string(modem) + ' ' + Printable(sending.Mode) + ' ' +
          Packet(sending.From, sending.To, sending.Path, sending.Text);
+}
+
+std::string ServerLine(std::string_view line) {
+  return "LINE aprs-is " + Printable(line) + '\n';
 }
 
 std::string CommandLine(std::string_view modem, std::string_view command) {

@@ -8,6 +8,7 @@
 #include "platform/clock.h"
 #include "tool/agw_server.h"
 #include "tool/air_script.h"
+#include "tool/aprs_is_server.h"
 #include "tool/modem_model.h"
 #include "tool/web_server.h"
 
@@ -35,6 +36,10 @@ std::unique_ptr<AirDevice> OpenEngineDevice(int port, const ReportLine& report);
 // not possible.
 std::unique_ptr<AirDevice> OpenWebDevice(int port, const ReportLine& report);
 
+// An APRS-IS server on 127.0.0.1, `port` 0 for any free one. Nothing when that is not possible.
+std::unique_ptr<AirDevice> OpenAprsIsDevice(int port, const AprsIsManners& manners,
+                                            const ReportLine& report, const Clock& clock);
+
 // `model` behind `link`. A program listens to it when it has set it up and left it in peace for
 // 3 s, `rate` times less in a faster play. Nothing when the link can't be made.
 std::unique_ptr<AirDevice> OpenModemDevice(const std::string& link,
@@ -48,6 +53,8 @@ std::string SentLine(const AgwUnproto& unproto);
 std::string ModemSentLine(std::string_view modem, const ModemSending& sending);
 //   "COMMAND pk232 MYCALL QX7KB-9"
 std::string CommandLine(std::string_view modem, std::string_view command);
+//   "LINE aprs-is QX7AB>ZEPR,qAR,QX7KB:!tst\x0D\x0A"
+std::string ServerLine(std::string_view line);
 //   "MESSAGE web QX7KB-9 AB1CD Hello{07"
 std::string WebMessageLine(const WebFormMessage& message);
 

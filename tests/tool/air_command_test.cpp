@@ -72,6 +72,8 @@ TEST(RunAirTest, NeedsADeviceAndASensibleRate) {
   EXPECT_EQ(Air({"--agw", "70000"}), Arguments::kUsageError);
   EXPECT_EQ(Air({"--agw", "0", "--rate", "0"}), Arguments::kUsageError);
   EXPECT_EQ(Air({"--pk232"}), Arguments::kUsageError);
+  EXPECT_EQ(Air({"--aprs-is", "70000"}), Arguments::kUsageError);
+  EXPECT_EQ(Air({"--aprs-is", "0", "--aprs-is-manner", "loud"}), Arguments::kUsageError);
 }
 
 TEST(RunAirTest, EndsWhenAFileOrALinkCannotBeHad) {
