@@ -11,8 +11,12 @@ bool IsSerialModem(RadioMode mode) {
   return mode == RadioMode::Pk232 || mode == RadioMode::ScsTnc || mode == RadioMode::ScsPtc;
 }
 
+bool GateIsPossible(RadioMode mode) {
+  return mode == RadioMode::AgwLocal || IsSerialModem(mode);
+}
+
 bool GateIsPossible(const RadioState& radio) {
-  return ModeOf(radio) == RadioMode::AgwLocal || IsSerialModem(ModeOf(radio));
+  return GateIsPossible(ModeOf(radio));
 }
 
 bool MayHaveCompanion(const RadioState& radio) {

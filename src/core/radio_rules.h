@@ -14,6 +14,7 @@ bool IsSerialModem(RadioMode mode);
 
 // A gate to the internet and a digipeater are possible: the link hands on what it hears as it came.
 // Not with an engine on another computer, which may have its own.
+bool GateIsPossible(RadioMode mode);
 bool GateIsPossible(const RadioState& radio);
 
 // A digipeater of its own may run beside the engine on this computer.

@@ -117,8 +117,36 @@ QBoxLayout* StartWindow::StationColumn() {
   column->addSpacing(12);
   QGridLayout* maps = AddGroup(column, window_texts::kMaps);
   AddField(maps, 0, c.Text1);
+  column->addSpacing(12);
+  auto* server = new QPushButton;
+  server->setAutoDefault(false);
+  server->setFixedHeight(kControlHeight);
+  binder_.Bind(server, c.Command14);
+  column->addWidget(server, 0, Qt::AlignLeft);
+  column->addWidget(AprsIsPanel());
   column->addStretch(1);
   return column;
+}
+
+QWidget* StartWindow::AprsIsPanel() {
+  StartPanelControls& c = panel_.Controls;
+  auto* panel = new QFrame;
+  auto* fields = new QGridLayout(panel);
+  fields->setContentsMargins(0, 0, 0, 0);
+  fields->setVerticalSpacing(8);
+  fields->setHorizontalSpacing(12);
+  QLabel* words = BoundLabel(c.AprsIsWords);
+  words->setWordWrap(true);
+  fields->addWidget(words, 0, 0, 1, 2);
+  AddField(fields, 1, c.AprsIsServerField);
+  AddField(fields, 2, c.AprsIsPortField);
+  auto* ok = new QPushButton;
+  ok->setAutoDefault(false);
+  ok->setFixedHeight(kControlHeight);
+  binder_.Bind(ok, c.Command15);
+  fields->addWidget(ok, 3, 1, Qt::AlignRight);
+  binder_.Bind(panel, c.AprsIsPanel);
+  return panel;
 }
 
 QBoxLayout* StartWindow::RadioColumn() {

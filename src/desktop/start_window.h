@@ -35,6 +35,7 @@ class StartWindow final : public QWidget {
  private:
   QBoxLayout* StationColumn();
   QBoxLayout* RadioColumn();
+  QWidget* AprsIsPanel();
   QBoxLayout* BottomLine();
   QLineEdit* Field(TextBox& control);
   void AddField(QGridLayout* grid, int row, TextBox& control);

@@ -76,6 +76,27 @@ class StartWindowTest : public ::testing::Test {
   int closed = 0;
 };
 
+TEST_F(StartWindowTest, TheServerOfTheGateHasItsPanelAndStartWaits) {
+  Show("MODEM=0\r\nAISRV=igate.example\r\n");
+  const QSize size = window->size();
+  EXPECT_FALSE(Find<>(*window, "AprsIsPanel")->isVisible());
+  Press("Command14");
+  EXPECT_TRUE(Find<>(*window, "AprsIsPanel")->isVisible());
+  EXPECT_FALSE(Start()->isEnabled());
+  auto* server = Find<QLineEdit>(*window, "AprsIsServerField");
+  EXPECT_EQ(server->text(), "igate.example");
+  EXPECT_TRUE(server->hasFocus());
+  EXPECT_EQ(window->size(), size);
+  server->selectAll();
+  QTest::keyClicks(server, "rotate.example");
+  QTest::keyClick(server, Qt::Key_Return);
+  EXPECT_EQ(starts, 0);
+  Press("Command15");
+  EXPECT_FALSE(Find<>(*window, "AprsIsPanel")->isVisible());
+  EXPECT_TRUE(Start()->isEnabled());
+  EXPECT_EQ(panel->Settings().Internet.AprsIsServer, "rotate.example");
+}
+
 TEST_F(StartWindowTest, EachInterfaceShowsItsFieldsAndNothingMoves) {
   Show("MODEM=0\r\nCOM=4\r\nTBAUD=2400\r\nHOSTC=radio\r\nHOSTP=8123\r\n");
   EXPECT_FALSE(Port()->isVisible());

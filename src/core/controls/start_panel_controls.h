@@ -20,10 +20,16 @@ struct StartPanelControls {
   Label PortFault;        // what is wrong with the port, beside its fields
   TextBox Text5;          // MONI CALL
   TextBox Text1;          // MAPS PATH
-  Button Command1;        // START
-  Label SetupText;        // what the set-up of a modem is doing
-  FillBar SetupBar;       // how far it is
-  Label Fault;            // what is missing or wrong, beside its field
+  Button Command14;       // IGATE APRS-IS SETUP
+  Frame AprsIsPanel;
+  Label AprsIsWords;          // what it is for
+  TextBox AprsIsServerField;  // APRS-IS SERVER
+  TextBox AprsIsPortField;    // SERVER PORT
+  Button Command15;           // its OK
+  Button Command1;            // START
+  Label SetupText;            // what the set-up of a modem is doing
+  FillBar SetupBar;           // how far it is
+  Label Fault;                // what is missing or wrong, beside its field
 };
 
 }  // namespace zepril

@@ -31,6 +31,20 @@ constexpr ControlRow<C> kTable[] = {
     {"SpeedLabel", On<&C::SpeedLabel>()},
     {"Text4", On<&C::Text4>()},
     {"PortFault", On<&C::PortFault>()},
+    {"Command14",
+     On<&C::Command14>(),
+     Own("IGATE APRS-IS SETUP"),
+     {"Server of the gate from radio to internet"}},
+    {"AprsIsPanel", On<&C::AprsIsPanel>()},
+    {"AprsIsWords",
+     On<&C::AprsIsWords>(),
+     {{"If you use a radio interface at this computer and IGATE is activated in the TX SETUP, plus "
+       "there is a connection to the internet, a simple IGATE (RF>INET) will be working. Down "
+       "below you can change the chosen APRS-IS server address and port. The needed passcode will "
+       "be generated automatically."}}},
+    {"AprsIsServerField", On<&C::AprsIsServerField>(), {}, {}, {"APRS-IS SERVER"}},
+    {"AprsIsPortField", On<&C::AprsIsPortField>(), {}, {}, {"SERVER PORT"}},
+    {"Command15", On<&C::Command15>()},
     {"SetupText", On<&C::SetupText>()},
     {"SetupBar", On<&C::SetupBar>(), {}, {}, {"set-up of the modem"}},
     {"Command1", On<&C::Command1>(), Own("START")},

@@ -31,6 +31,10 @@ FieldStore::FieldStore(const StartPanelControls& controls, RadioInterfaces& inte
 bool FieldStore::Store() {
   TakeFields();
   if (!TakeInterface()) return CantWrite("PORTS.TXT");
+  return StoreHeld();
+}
+
+bool FieldStore::StoreHeld() {
   return WriteConfigFromStartPanel(files_, program_folder_, settings_) || CantWrite("ZEPRIL.INI");
 }
 
@@ -44,6 +48,9 @@ void FieldStore::TakeFields() {
   TakeMapsPath();
   if (!Trim(controls_.Text5.Text).empty())
     settings_.Followed.Moni1Call = Trim(controls_.Text5.Text);
+  InternetState& server = settings_.Internet;
+  server.AprsIsServer = std::string(Trim(server.AprsIsServer));
+  server.AprsIsPort = std::string(Trim(server.AprsIsPort));
 }
 
 void FieldStore::TakeMapsPath() {

@@ -27,6 +27,8 @@ class FieldStore {
 
   // False when a file can't be written, which is told by a box.
   bool Store();
+  // The settings as they are held, whatever stands in the fields. False likewise.
+  bool StoreHeld();
 
  private:
   void TakeFields();

@@ -24,6 +24,7 @@ struct RadioInterface {
   PortTexts* Texts;  // null: it has no port
   Text Starting;     // START while it is under way: with a modem, how long its set-up takes
   bool Serial() const { return IsSerialModem(Mode); }
+  bool MayGate() const { return GateIsPossible(Mode); }
 };
 
 class RadioInterfaces {

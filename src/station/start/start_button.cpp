@@ -63,6 +63,7 @@ void StartButton::EnableFields(bool enabled) {
   for (TextBox* field : {&controls_.Text8, &controls_.Text5, &controls_.Text1, &controls_.Text4})
     field->Enabled = enabled;
   controls_.Text3.Enabled = enabled;
+  controls_.Command14.Enabled = enabled && parts_.Interfaces.Chosen().MayGate();
   controls_.Command1.Enabled = enabled;
 }
 

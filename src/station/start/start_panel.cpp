@@ -19,6 +19,7 @@ StartPanel::StartPanel(const Machine& machine, std::string program_folder, const
       ports_(Controls, interfaces_, devices_),
       fields_(Controls, interfaces_, ports_, devices_, {settings_, program_folder_, files_},
               machine.Boxes),
+      server_(Controls, interfaces_, settings_, fields_),
       start_(Controls, {interfaces_, ports_, fields_}, {settings_, program_folder_, files_},
              {machine.LocalClock, machine.Boxes, *modem_}) {
   NameStartPanel(Controls);
@@ -61,6 +62,7 @@ void StartPanel::ShowSettings() {
   ShowPorts();
   ChooseInterface(interfaces_.OfMode(mode));
   Controls.Text5.Text = settings_.Followed.Moni1Call;
+  server_.Show();
   (settings_.Identity.MyCall.empty() ? Controls.Text8.FocusWanted : Controls.Command1.FocusWanted) =
       true;
 }
@@ -78,6 +80,7 @@ void StartPanel::ChooseInterface(const RadioInterface& chosen) {
   ports_.Keep();
   interfaces_.Choose(chosen);
   FallBackToSlowSpeed();
+  server_.Follow();
   ports_.Show();
 }
 

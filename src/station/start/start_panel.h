@@ -11,6 +11,7 @@
 #include "platform/files.h"
 #include "platform/machine.h"
 #include "platform/serial_port.h"
+#include "station/start/aprs_is_setup.h"
 #include "station/start/device_list.h"
 #include "station/start/field_store.h"
 #include "station/start/port_fields.h"
@@ -59,6 +60,7 @@ class StartPanel {
   DeviceList devices_;
   PortFields ports_;
   FieldStore fields_;
+  AprsIsSetup server_;
   StartButton start_;
 };
 
