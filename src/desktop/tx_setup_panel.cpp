@@ -164,6 +164,13 @@ void TxSetupPanel::MakeRadio(QBoxLayout* box) {
   speeds->addStretch(1);
   speeds->addWidget(parts_.BoundButton(controls_.DigiBox));
   speeds->addWidget(parts_.BoundButton(gate_.Check15));
+  // Where the gate stands, right under its switch.
+  auto* gate_words = new QLabel;
+  gate_words->setProperty("dim", true);
+  gate_words->setAlignment(Qt::AlignRight);
+  gate_words->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  parts_.Binding.Bind(gate_words, gate_.GateWords);
+  box->addWidget(gate_words);
 
   auto* second = TightBox(QBoxLayout::LeftToRight);
   box->addLayout(second);

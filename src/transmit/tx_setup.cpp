@@ -278,7 +278,8 @@ void TxSetup::TakeStation() {
   own.TxSymbolIndex = controls_.SymbolIndex;
   own.TxOverlay = OverlayOf(controls_.TxOverlayField.Text);
   own.TxTimestamp = controls_.TxTimestampBox.Value;
-  sections_.Internet.IGateOn = static_cast<Gate>(gate_.Check15.Value);
+  // A hidden switch changes nothing.
+  if (gate_.Check15.Visible) sections_.Internet.IGateOn = static_cast<Gate>(gate_.Check15.Value);
 }
 
 void TxSetup::TakeLines() {
