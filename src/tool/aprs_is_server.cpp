@@ -83,7 +83,12 @@ void AprsIsServer::Serve(int milliseconds) {
   ::poll(waits.data(), waits.size(), milliseconds);
   for (std::size_t at = 0; at < clients_.size(); ++at) {
     const int ready = waits[at + 1].revents;
-    if ((ready & (POLLIN | POLLHUP | POLLERR)) != 0) Read(clients_[at]);
+    const bool gone = (ready & (POLLHUP | POLLERR)) != 0;
+    if (manners_.NeverReads) {
+      clients_[at].Cut = gone;
+    } else if (gone || (ready & POLLIN) != 0) {
+      Read(clients_[at]);
+    }
     Write(clients_[at]);
   }
   RemoveCut();
