@@ -15,11 +15,6 @@ bool QtDesktopActions::MainWindowActive() const {
   return main_window_ != nullptr && QApplication::activeWindow() == main_window_;
 }
 
-// Windows of other programs can't be asked for on every system: none is found.
-bool QtDesktopActions::WindowExists(const std::string&) const {
-  return false;
-}
-
 void QtDesktopActions::Open(const std::string& path_or_address) {
   QDesktopServices::openUrl(QUrl::fromUserInput(ToQt(path_or_address)));
 }

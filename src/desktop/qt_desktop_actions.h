@@ -14,7 +14,6 @@ class QtDesktopActions final : public DesktopActions {
     map_ = map;
   }
   bool MainWindowActive() const override;
-  bool WindowExists(const std::string& title) const override;
   void Open(const std::string& path_or_address) override;
   bool MovePointerOnMap(int x, int y) override;
 

@@ -27,6 +27,7 @@ Machine QtMachine::Given(Files& files, const std::string& program_folder) {
       },
       [this](int width, int height) { return std::make_shared<QtSurface>(width, height, Fonts); },
       std::make_shared<QtPageFetcher>(Loop, IdentityState().ProgramVersion),
+      Programs,
       PresentSerialDevices};
 }
 

@@ -7,6 +7,7 @@
 #include "desktop/qt_desktop_actions.h"
 #include "desktop/qt_dialogs.h"
 #include "platform/machine.h"
+#include "platform/native/companion_processes.h"
 #include "platform/qt/map_fonts.h"
 #include "platform/qt/qt_loop.h"
 #include "platform/qt/qt_surface.h"
@@ -29,6 +30,7 @@ class QtMachine {
   QtLoop Loop;
   QtDialogs Boxes{Loop};
   QtDesktopActions Desktop;
+  CompanionProcesses Programs;
   MapFonts Fonts;
 };
 

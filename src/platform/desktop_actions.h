@@ -10,8 +10,6 @@ class DesktopActions {
   virtual ~DesktopActions() = default;
   // True when the main window is the active window of the system.
   virtual bool MainWindowActive() const = 0;
-  // True when a top-level window of this title is there.
-  virtual bool WindowExists(const std::string& title) const = 0;
   // Opens a file or address with the program the desktop has for it.
   virtual void Open(const std::string& path_or_address) = 0;
   // Moves the mouse pointer to pixel (x, y) of the map; false when the system does not allow it.

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "platform/clock.h"
+#include "platform/companion_programs.h"
 #include "platform/desktop_actions.h"
 #include "platform/dialogs.h"
 #include "platform/drawing_surface.h"
@@ -34,6 +35,7 @@ struct Machine {
   SerialPortFactory MakeSerialPort;
   SurfaceFactory MakeSurface;
   std::shared_ptr<PageFetcher> Pages;  // one for all who ask web services
+  CompanionPrograms& Programs;         // beside this one
   SerialDeviceList Devices;            // for the lists of port fields; may be empty
 };
 

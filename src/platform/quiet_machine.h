@@ -19,7 +19,6 @@ class QuietDialogs final : public Dialogs {
 class QuietDesktop final : public DesktopActions {
  public:
   bool MainWindowActive() const override { return false; }
-  bool WindowExists(const std::string&) const override { return false; }
   void Open(const std::string&) override {}
   bool MovePointerOnMap(int, int) override { return false; }
 };

@@ -8,6 +8,7 @@
 #include "core/text_fields.h"
 #include "core/texts/status_texts.h"
 #include "core/title_line.h"
+#include "gate/recent_lines.h"
 
 namespace zepril {
 namespace {
@@ -97,19 +98,14 @@ void MainCycle::RenewTitle() {
     PutInTitle(
         title, 76,
         internet.IGateOn == Gate::On ? status_texts::kGateConnected : status_texts::kConnected);
-    // Recently gated lines age by one place.
-    auto& lines = internet.RecentlyGated;
-    for (std::size_t at = 0; at + 1 < lines.size(); ++at)
-      lines[at] = lines[at + 1];
-    lines.back() = {};
+    Age(internet.RecentlyGated);
   }
 }
 
 void MainCycle::LookForCompanion() {
   if (MayHaveCompanion(state_.Radio)) {
-    const bool found = desktop_.WindowExists("AGWuidigi");
-    state_.Radio.DigiOn = found ? Digipeater::On : Digipeater::Off;
-    if (found) {
+    RunStep(Steps.WatchCompanion);
+    if (state_.Radio.DigiOn == Digipeater::On) {
       PutInTitle(state_.Settings.TitleText, 61, status_texts::kDigiOutside);
     } else {
       BlankInTitle(state_.Settings.TitleText, 61, 71);

@@ -10,6 +10,7 @@
 #include "core/position_text.h"
 #include "core/text_fields.h"
 #include "core/texts/form1_texts.h"
+#include "gate/aprs_is_login.h"
 #include "station/data_folders.h"
 #include "station/initial_controls.h"
 #include "station/modem_memory.h"
@@ -22,6 +23,7 @@ namespace zepril {
 StationRooms::StationRooms(const Machine& machine, std::shared_ptr<SerialPort> modem)
     : machine_(machine),
       winsock1_(machine.MakeSocket()),
+      winsock2_(machine.MakeSocket()),
       mscomm1_(modem ? std::move(modem) : machine.MakeSerialPort()),
       Surfaces(machine.MakeSurface),
       Settings(State, machine.FileSystem, Timer1),
@@ -46,6 +48,8 @@ StationRooms::StationRooms(const Machine& machine, std::shared_ptr<SerialPort> m
               Map.Panels),
       Internet({State.Internet, State.Map}, {Controls.Iono, Controls.Map},
                {machine.Boxes, Map.Redrawer, Settings}),
+      Gateway({State.Identity, State.Radio, State.Internet}, Controls.Gate,
+              {*winsock2_, machine.Programs, machine.FileSystem, machine.LocalClock}),
       Transmit({State.Identity, State.Radio, State.Transmission, State.Map, State.Gps,
                 State.Settings, State.Chat, State.Internet, State.Reception},
                {Controls.Window, Controls.Map, Controls.Transmit, Controls.Chat, Controls.Gate,
@@ -64,7 +68,7 @@ StationRooms::StationRooms(const Machine& machine, std::shared_ptr<SerialPort> m
                 {Controls.Window, Controls.Map, Controls.Moni1, Controls.MoniAll, Controls.Record,
                  Controls.Status, &Controls.Raw.RawList},
                 {machine.FileSystem, machine.LocalClock, machine.Boxes, Links.Heard, Map.Symbols,
-                 Map.Redrawer, Settings, Emergencies, Timer1, nullptr, &Messages.Heard}),
+                 Map.Redrawer, Settings, Emergencies, Timer1, &Gateway.Radio, &Messages.Heard}),
       RawSearch(Controls.Raw, State.Settings, Timer1),
       Cycle(State, Controls, machine.LocalClock, machine.Desktop, Timer1, Timer2, Map.Redrawer) {
   SetInitialControls(Controls);
@@ -103,6 +107,7 @@ void StationRooms::SecondPassed() {
   Links.Watch.Renew();
   Transmit.Outcome.Renew();
   Messages.SecondPassed();
+  Gateway.SecondPassed();
 }
 
 // ---- Tick -----------------------------------------------------------------------------------
@@ -122,6 +127,8 @@ bool StationRooms::CycleIsHeld() const {
 
 void StationRooms::JoinTick() {
   TickSteps& tick = Cycle.Steps;
+  tick.PollAprsIsLink = [this] { Gateway.Link.IGateTick(); };
+  tick.WatchCompanion = [this] { Gateway.Digipeater.Watch(); };
   tick.KeepSecondModeMonitored = [this] { Links.KeepSecondModeMonitored(); };
   tick.ChangeFollowedStation = [this] { Reception.Choice.FollowTyped(); };
   tick.SendIdentification = [this] { Transmit.SendIdentification(); };
@@ -145,7 +152,11 @@ StartSteps StationRooms::StartOrder() {
     Map.Library.MapLibraryScan();
   };
   start.LoadHistory = [this] { Reception.Choice.LoadAtStart(); };
-  start.OpenLink = [this] { return Links.Open(); };
+  start.OpenLink = [this] {
+    const bool open = Links.Open();
+    if (open) Gateway.Digipeater.Begin();
+    return open;
+  };
   start.RestoreTracksPlacesAndChat = [this] {
     Gps.Tracks.RestoreAtStart();
     Viewers.Places.RestoreAtStart();
@@ -163,7 +174,10 @@ StartSteps StationRooms::StartOrder() {
 
 void StationRooms::ReadConfig() {
   ReadConfigForMainWindow(machine_.FileSystem, State);
-  ApplyViewValues(ReadWindowFile(machine_.FileSystem, State.Identity.ProgramFolder), State);
+  const WindowValues own = ReadWindowFile(machine_.FileSystem, State.Identity.ProgramFolder);
+  ApplyViewValues(own, State);
+  const auto digipeater = own.find("UIDIGI");
+  Gateway.Digipeater.Program = digipeater != own.end() ? digipeater->second : std::string();
   State.Services = ReadServicesFile(machine_.FileSystem, State.Identity.ProgramFolder);
   Controls.Moni1.Check1.Value = State.Followed.Moni1AlarmOn;
   TakeZone(State.Identity, State.Map);
@@ -176,6 +190,10 @@ void StationRooms::SetOwnNames() {
           ? std::string()
           : OwnHeaderPatternOf(State.Identity.MyCallFull, State.Transmission.TxPath,
                                State.Transmission.TxDestination);
+  // A station that takes no part in the gate has no passcode.
+  State.Internet.AprsIsPasscode = TxAllowedOf(State.Identity.MyCall) == 1
+                                      ? PasscodeOf(State.Identity.MyCall)
+                                      : std::string(kNoPasscode);
 }
 
 void StationRooms::ShowTitle() {
@@ -193,8 +211,14 @@ void StationRooms::SetLabels() {
 StopSteps StationRooms::StopOrder() {
   StopSteps stop;
   stop.StopPicturePanel = [this] { Viewers.Pictures.ClosePicture(); };
-  stop.LeaveLink = [this] { Links.Leave(); };
-  stop.ClosePorts = [this] { Links.ClosePort(); };
+  stop.LeaveLink = [this] {
+    Gateway.Digipeater.End();
+    Links.Leave();
+  };
+  stop.ClosePorts = [this] {
+    Links.ClosePort();
+    Gateway.Link.Close();
+  };
   stop.MergeConfigAtExit = [this] { MergeConfigAtExit(); };
   stop.DeleteRunFiles = [this] { Map.Library.DeleteIndexFiles(); };
   return stop;
@@ -213,7 +237,7 @@ void StationRooms::JoinRooms() {
   Map.Qth.PositionTaken = [this] { Transmit.Switches.ShowInterval(); };
   Transmit.Switches.PositionMissing = [this] { Map.Qth.Open(); };
   Transmit.SetupJoins = {[this] { Cycle.RenewStatusLine(); }, [this] { ShowTitle(); },
-                         [this] { SetLabels(); }};
+                         [this] { SetLabels(); }, [this] { Gateway.Digipeater.Follow(); }};
   Links.CycleIsHeld = [this] { return CycleIsHeld(); };
   Links.InTick = [this] { return Cycle.InTick(); };
   Links.TerminalChanged = [this] {

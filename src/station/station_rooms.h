@@ -12,6 +12,7 @@
 #include "core/progress_panel.h"
 #include "core/runtime_state.h"
 #include "core/timer.h"
+#include "gate/gate_room.h"
 #include "gps/gps_room.h"
 #include "internet/internet_room.h"
 #include "links/links_room.h"
@@ -73,6 +74,7 @@ class StationRooms {
 
   Machine machine_;
   std::shared_ptr<TcpSocket> winsock1_;  // the packet engine
+  std::shared_ptr<TcpSocket> winsock2_;  // the APRS-IS server
   std::shared_ptr<SerialPort> mscomm1_;  // the modem
 
  public:
@@ -84,6 +86,7 @@ class StationRooms {
   GpsRoom Gps;
   ViewersRoom Viewers;
   InternetRoom Internet;
+  GateRoom Gateway;
   TransmitRoom Transmit;
   MessagesRoom Messages;
   EmergencyDisplay Emergencies;

@@ -15,6 +15,7 @@ inline void RunStep(const Step& step) {
 
 struct TickSteps {
   Step PollAprsIsLink;           // connect, log in, verify or close
+  Step WatchCompanion;           // is the digipeater program beside the engine there
   Step RunScanSwitchHandler;     // next station of the internet scan
   Step KeepSecondModeMonitored;  // SCS TNC with HF-DUAL
   Step ChangeFollowedStation;    // as Enter in the MONI 1 call field

@@ -45,12 +45,14 @@ struct ToolMachine {
             [] { return std::make_shared<AbsentSerialPort>(); },
             std::move(surfaces),
             std::make_shared<AbsentPages>(),
+            Programs,
             {}};
   }
 
   ToolLoop Steps;
   QuietDialogs Boxes;
   QuietDesktop Desktop;
+  NoCompanionPrograms Programs;
 };
 
 }  // namespace zepril

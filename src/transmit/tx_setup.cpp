@@ -293,6 +293,7 @@ void TxSetup::TakeLines() {
 
 void TxSetup::ProgramRadio() {
   if (RadioLink* link = tools_.Links.Active()) link->TakeNewSettings(tools_.LongWork);
+  if (tools_.Joins.CompanionFollows) tools_.Joins.CompanionFollows();
 }
 
 }  // namespace zepril

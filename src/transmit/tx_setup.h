@@ -28,6 +28,7 @@ struct TxSetupJoins {
   std::function<void()> RefreshStatusLine;  // the speed's label in the status line
   std::function<void()> ShowTitleMarkers;
   std::function<void()> SetLabels;
+  std::function<void()> CompanionFollows;  // the digipeater program beside an engine; may be empty
 };
 
 struct TxSetupSections {

@@ -34,7 +34,14 @@ struct PlayedParts {
   std::vector<SerialPort*> Ports;
   std::vector<DrawingSurface*> Surfaces;
   std::shared_ptr<PageFetcher> Pages = std::make_shared<FakePages>();
+  CompanionPrograms* Programs = nullptr;
 };
+
+// For a test without programs beside the one under test.
+inline CompanionPrograms& NoPrograms() {
+  static NoCompanionPrograms none;
+  return none;
+}
 
 inline Machine MachineOf(Files& files, Clock& clock, Loop& loop, Dialogs& boxes,
                          DesktopActions& desktop, PlayedParts parts,
@@ -51,6 +58,7 @@ inline Machine MachineOf(Files& files, Clock& clock, Loop& loop, Dialogs& boxes,
                       return std::make_shared<RecorderSurface>(width, height);
                     }),
           std::move(parts.Pages),
+          parts.Programs != nullptr ? *parts.Programs : NoPrograms(),
           std::move(devices)};
 }
 

@@ -29,7 +29,6 @@ class RecordedActions final : public MapActions,
   }
   void EndProgram() override { Calls.emplace_back("end"); }
   bool MainWindowActive() const override { return true; }
-  bool WindowExists(const std::string&) const override { return false; }
   void Open(const std::string& what) override { Calls.push_back("open " + what); }
   bool MovePointerOnMap(int, int) override { return false; }
 

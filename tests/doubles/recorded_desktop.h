@@ -11,7 +11,6 @@ namespace zepril {
 class RecordedDesktop final : public DesktopActions {
  public:
   bool MainWindowActive() const override { return true; }
-  bool WindowExists(const std::string&) const override { return false; }
   void Open(const std::string& what) override { Opened.push_back(what); }
   bool MovePointerOnMap(int, int) override { return false; }
 

@@ -34,7 +34,6 @@ class Joins final : public MapActions,
   void HideSunCurve() override { Calls.push_back("hide SUN"); }
   void ClosePicture() override { Calls.push_back("close picture"); }
   bool MainWindowActive() const override { return true; }
-  bool WindowExists(const std::string&) const override { return false; }
   void Open(const std::string&) override {}
   bool MovePointerOnMap(int x, int y) override {
     Pointer.push_back({x, y});

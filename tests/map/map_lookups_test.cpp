@@ -40,7 +40,6 @@ struct LookupWorld : MapWorld, PlacePanel, SunPanel, MapActions, DesktopActions 
   void MapRedraw() override { Calls.push_back("redraw"); }
   void MapRefresh() override {}
   bool MainWindowActive() const override { return true; }
-  bool WindowExists(const std::string&) const override { return false; }
   void Open(const std::string&) override {}
   bool MovePointerOnMap(int, int) override { return true; }
 

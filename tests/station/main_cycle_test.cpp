@@ -19,6 +19,9 @@ class Recorder final : public MapActions, public DesktopActions {
   TickSteps Steps() {
     TickSteps steps;
     steps.PollAprsIsLink = [this] { Done.push_back("aprs-is"); };
+    steps.WatchCompanion = [this] {
+      if (Watched) Watched();
+    };
     steps.RunScanSwitchHandler = [this] { Done.push_back("scan"); };
     steps.KeepSecondModeMonitored = [this] { Done.push_back("second mode"); };
     steps.ChangeFollowedStation = [this] { Done.push_back("follow"); };
@@ -43,7 +46,6 @@ class Recorder final : public MapActions, public DesktopActions {
   }
   void MapRefresh() override { Done.push_back("refresh"); }
   bool MainWindowActive() const override { return Active; }
-  bool WindowExists(const std::string& title) const override { return title == Window; }
   void Open(const std::string&) override {}
   bool MovePointerOnMap(int, int) override { return false; }
 
@@ -54,7 +56,7 @@ class Recorder final : public MapActions, public DesktopActions {
   }
   Names Done;
   bool Active = true;
-  std::string Window;
+  std::function<void()> Watched;
   std::function<void()> WhileReceiving;
   std::function<void()> WhileRedrawing;
 };
@@ -186,14 +188,15 @@ TEST_F(MainCycleTest, GatedLinesAgeWhileTheGateIsConnected) {
 }
 
 TEST_F(MainCycleTest, CompanionIsLookedForInTheLocalEngineModeOnly) {
-  recorder.Window = "AGWuidigi";
+  bool runs = true;
+  recorder.Watched = [&] { state.Radio.DigiOn = runs ? Digipeater::On : Digipeater::Off; };
   Tick();
   EXPECT_EQ(state.Radio.DigiOn, Digipeater::Off);
   state.Radio.RadioMode = static_cast<int>(RadioMode::AgwLocal);
   Tick();
   EXPECT_EQ(state.Radio.DigiOn, Digipeater::On);
   EXPECT_EQ(state.Settings.TitleText.substr(60, 11), "Digi: AGWUI");
-  recorder.Window.clear();
+  runs = false;
   Tick();
   EXPECT_EQ(state.Radio.DigiOn, Digipeater::Off);
   EXPECT_EQ(state.Settings.TitleText.substr(60, 11), std::string(11, ' '));

@@ -9,6 +9,7 @@
 #include "platform/native/native_files.h"
 #include "station/station_program.h"
 #include "tests/doubles/machine.h"
+#include "tests/doubles/played_programs.h"
 #include "tests/doubles/recorded_desktop.h"
 #include "tests/doubles/recorded_surfaces.h"
 #include "tests/doubles/scripted_dialogs.h"
@@ -83,15 +84,18 @@ class StationHarness : public RecordedSurfaces {
   ScriptedDialogs dialogs;
   RecordedDesktop desktop;
   FakeSocket socket;
+  FakeSocket server_socket;  // to the APRS-IS server
   FakeSerial modem;
   std::shared_ptr<FakePages> pages = std::make_shared<FakePages>();
+  PlayedPrograms programs;
   std::unique_ptr<StationProgram> program;
 
  private:
   void Make() {
     program.reset();
     program = std::make_unique<StationProgram>(
-        MachineOf(files, clock, clock, dialogs, desktop, {{&socket}, {&modem}, Surfaces(), pages}));
+        MachineOf(files, clock, clock, dialogs, desktop,
+                  {{&socket, &server_socket}, {&modem}, Surfaces(), pages, &programs}));
     clock.ForgetTimers();
     for (const DrivenTimer& timer : program->Timers())
       clock.Drive(timer);

@@ -43,7 +43,6 @@ struct ViewerWorld : DesktopActions, MapActions {
   }
 
   bool MainWindowActive() const override { return true; }
-  bool WindowExists(const std::string&) const override { return false; }
   void Open(const std::string& address) override { Opened.push_back(address); }
   bool MovePointerOnMap(int, int) override { return false; }
   void MapRedraw() override {
