@@ -29,6 +29,7 @@
 #include "tests/doubles/scripted_dialogs.h"
 #include "tests/doubles/temp_folder.h"
 #include "tests/integration/engine_support.h"
+#include "tool/aprs_is_server.h"
 #include "transmit/position_beacon.h"
 
 namespace zepril {
@@ -109,7 +110,7 @@ class DirewolfTest : public EngineTest, protected RecordedSurfaces {
     if (IsSkipped() || HasFatalFailure()) return;
     MakeStation(RadioMode::AgwRemote);
   }
-  void MakeStation(RadioMode mode) {
+  void MakeStation(RadioMode mode, const std::string& more_settings = {}) {
     files.MakeFolder(kFolder);
     files.Write(
         std::string(kFolder) + "\\ZEPRIL.INI",
@@ -121,9 +122,10 @@ class DirewolfTest : public EngineTest, protected RecordedSurfaces {
             "UUN=5395.276\r\nUUE=-10.523\r\nTXON=10\r\nTXTO=ZEPR\r\n"
             "TXPA=WIDE1-1,WIDE2-1\r\nTXSY=30\r\nTXI1=Test\r\nTXI1A=1\r\nTXI2A=0\r\nTXI3A=0\r\n"
             "TXI4A=0\r\nTXI5A=0\r\nTXI6A=0\r\nONAM=WORKS\r\nOTXT=one lane\r\nOSYM=82\r\n"
-            "OUTN=5817.860\r\nOUTE=391.394\r\n");
-    program = std::make_unique<StationProgram>(
-        MachineOf(files, loop, loop, dialogs, desktop, {{&socket}, {&modem}, Surfaces()}));
+            "OUTN=5817.860\r\nOUTE=391.394\r\n" +
+            more_settings);
+    program = std::make_unique<StationProgram>(MachineOf(
+        files, loop, loop, dialogs, desktop, {{&socket, &server_socket}, {&modem}, Surfaces()}));
   }
 
   // The tick comes when the test says so, not every six seconds.
@@ -196,6 +198,7 @@ class DirewolfTest : public EngineTest, protected RecordedSurfaces {
   }
 
   QuietDesktop desktop;
+  QtSocket server_socket;  // to the APRS-IS server
   AbsentSerialPort modem;
   std::unique_ptr<StationProgram> program;
 };
@@ -251,6 +254,90 @@ TEST_F(DirewolfTest, ASessionOnTheAirThroughALocalEngine) {
   ASSERT_TRUE(program->Start(kFolder, 32)) << engine->Log();
   ExpectASessionOnTheAir();
   program->Stop(true);
+}
+
+// ---- Gate ------------------------------------------------------------------------------------
+
+// The station between the engine that hears and a server that writes down what it gets.
+class GateTest : public DirewolfTest {
+ protected:
+  void SetUp() override {
+    DirewolfTest::SetUp();
+    if (IsSkipped() || HasFatalFailure()) return;
+    server = AprsIsServer::Open(0, {}, loop);
+    ASSERT_NE(server, nullptr);
+    server->Line = [this](std::string_view line) { lines.emplace_back(line); };
+    MakeStation(RadioMode::AgwLocal,
+                "IGATE=1\r\nAISRV=127.0.0.1\r\nAIPRT=" + WholeNumber(server->Port()) + "\r\n");
+  }
+  template <typename Condition>
+  bool Served(Condition reached) {
+    return Until([&] {
+      server->Serve(0);
+      return reached();
+    });
+  }
+  InternetState& Internet() { return program->State().Internet; }
+  void LogIn() {
+    ASSERT_TRUE(program->Start(kFolder, 32)) << engine->Log();
+    Tick();
+    ASSERT_TRUE(Served([this] { return server_socket.State() == SocketState::Connected; }));
+    Tick();
+    ASSERT_TRUE(Served(
+        [this] { return Internet().AprsIsRxBuffer.find(" verified") != std::string::npos; }));
+    Tick();
+    ASSERT_EQ(Internet().IGateConnected, GateLink::Up);
+    lines.clear();
+  }
+  // What the operator is told of the last that stayed behind, without its time.
+  std::string LastReason() {
+    program->SecondPassed();
+    const std::string& words = program->Controls().Gate.GateWords.ToolTip;
+    const std::size_t colon = words.find(": ");
+    return colon == std::string::npos ? words : words.substr(colon + 2);
+  }
+
+  std::unique_ptr<AprsIsServer> server;
+  std::vector<std::string> lines;
+};
+
+TEST_F(GateTest, WhatTheEngineHearsReachesTheServerOrStaysForItsReason) {
+  const struct {
+    const char* Heard;
+    const char* Line;  // without its end; empty: stays
+    const char* Why;
+  } kRows[] = {
+      {"QX2CD-7>APRS:!5232.00N/01324.00E[on foot",
+       "QX2CD-7>APRS,qAR,QX7KB-10:!5232.00N/01324.00E[on foot", ""},
+      {"QX2CD-7>APRS:!5232.00N/01324.00E[on foot", "", "like one of the last half minute"},
+      {"QX3EF>APRS,WIDE1-1,WIDE2-1:=5234.00N/01324.00E>by way of",
+       "QX3EF>APRS,WIDE1-1,WIDE2-1,qAR,QX7KB-10:=5234.00N/01324.00E>by way of", ""},
+      {"QX4GH-9>UR3P00:`)4bl\"O>/>mobile", "QX4GH-9>UR3P00,qAR,QX7KB-10:`)4bl\"O>/>mobile", ""},
+      {"QX5IJ>APRS,NOGATE:>not for the internet", "", "NOGATE, RFONLY or TCPIP in its header"},
+      {"QX5IJ>APRS,RFONLY:>nor this", "", "NOGATE, RFONLY or TCPIP in its header"},
+      {"QX5IJ>APRS,TCPIP:>nor this", "", "NOGATE, RFONLY or TCPIP in its header"},
+      {"QX5IJ>APRS:}QX6KL>APRS,NET:>forwarded", "", "forwarded, or a query"},
+      {"QX5IJ>APRS:?APRS?", "", "forwarded, or a query"},
+      {"QX7KB-10>ZEPR,WIDE1-1:=4830.15N/00805.20E> Test",
+       "QX7KB-10>ZEPR,WIDE1-1,qAR,TCPIP:=4830.15N/00805.20E> Test", ""},
+      {"QX8MN>APRS:>caf\xE9 <0xe4><0xfe><0x1c><0x1d><0x7f><0x07> end<0x20><0x20>",
+       "QX8MN>APRS,qAR,QX7KB-10:>caf\xE9 \xE4\xFE\x1C\x1D\x7F\x07 end  ", ""},
+      {"QX9OP>APRS::QX7KB-10 :Hello{01", "QX9OP>APRS,qAR,QX7KB-10::QX7KB-10 :Hello{01", ""},
+  };
+  LogIn();
+  std::vector<std::string> expected;
+  for (const auto& row : kRows) {
+    Hear(row.Heard);
+    const std::string line = row.Line;
+    if (!line.empty()) expected.push_back(line + "\r\n");
+    ASSERT_TRUE(Served([&] { return lines.size() >= expected.size(); })) << row.Heard;
+    if (line.empty()) {
+      EXPECT_EQ(LastReason(), row.Why) << row.Heard;
+    }
+  }
+  EXPECT_EQ(lines, expected) << engine->Log();
+  program->Stop(true);
+  EXPECT_TRUE(Served([this] { return server->Clients() == 0; }));
 }
 
 // As an operator runs it: the start window, Enter, ticks, the records in the log.
