@@ -3,12 +3,14 @@
 
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "platform/qt/qt_loop.h"
 #include "tests/platform/qt/application_support.h"
 
 namespace zepril {
