@@ -1,27 +1,22 @@
-// What each step of tick, start and stop calls in the rooms, and how the rooms are joined.
+// How the rooms are built and joined, and when their tick, start and stop run.
 #include "station/station_rooms.h"
 
 #include <utility>
 
-#include "config/main_window_settings.h"
-#include "config/services_file.h"
-#include "config/window_file.h"
 #include "core/main_window_resize.h"
-#include "core/position_text.h"
-#include "core/text_fields.h"
 #include "core/texts/form1_texts.h"
-#include "gate/aprs_is_login.h"
-#include "station/data_folders.h"
 #include "station/initial_controls.h"
+#include "station/main_window_start.h"
+#include "station/main_window_stop.h"
 #include "station/modem_memory.h"
+#include "station/station_steps.h"
 #include "station/title_markers.h"
 #include "station/view_memory.h"
-#include "transmit/tx_setup_rules.h"
 
 namespace zepril {
 
 StationRooms::StationRooms(const Machine& machine, std::shared_ptr<SerialPort> modem)
-    : machine_(machine),
+    : Given(machine),
       winsock1_(machine.MakeSocket()),
       winsock2_(machine.MakeSocket()),
       mscomm1_(modem ? std::move(modem) : machine.MakeSerialPort()),
@@ -76,23 +71,23 @@ StationRooms::StationRooms(const Machine& machine, std::shared_ptr<SerialPort> m
   State.Map.ViewWidthPx = Surfaces.Map->Width();
   State.Map.ViewHeightPx = Surfaces.Map->Height();
   Timer1.Elapsed = [this] { Tick(); };
-  Timer1.FollowClock(machine_.LocalClock);
+  Timer1.FollowClock(Given.LocalClock);
   Timer2.Elapsed = [this] { Cycle.Timer2Elapsed(); };
-  JoinTick();
+  Cycle.Steps = TickOrder(*this);
   JoinRooms();
-  Links.Modem.Memory = MemoryInFile(machine_.FileSystem, State.Identity, State.Radio, *mscomm1_);
+  Links.Modem.Memory = MemoryInFile(Given.FileSystem, State.Identity, State.Radio, *mscomm1_);
 }
 
 bool StationRooms::Start(const std::string& program_folder, int colour_depth_bits) {
-  const StartSteps steps = StartOrder();
-  const bool started = MainWindowStart(State, Controls, machine_.LocalClock, Timer1, steps)
+  const StartSteps steps = StartOrder(*this);
+  const bool started = MainWindowStart(State, Controls, Given.LocalClock, Timer1, steps)
                            .Run(program_folder, colour_depth_bits);
   Links.Watch.Started();
   return started;
 }
 
 void StationRooms::Stop(bool by_operator) {
-  const StopSteps steps = StopOrder();
+  const StopSteps steps = StopOrder(*this);
   MainWindowStop(Controls, Timer1, Timer2, steps).Run(by_operator);
 }
 
@@ -125,77 +120,6 @@ bool StationRooms::CycleIsHeld() const {
   return Links.Talk.IsOpen() || Transmit.HoldsTheCycle() || Map.Qth.HoldsTheCycle();
 }
 
-void StationRooms::JoinTick() {
-  TickSteps& tick = Cycle.Steps;
-  tick.PollAprsIsLink = [this] { Gateway.Link.IGateTick(); };
-  tick.WatchCompanion = [this] { Gateway.Digipeater.Watch(); };
-  tick.KeepSecondModeMonitored = [this] { Links.KeepSecondModeMonitored(); };
-  tick.ChangeFollowedStation = [this] { Reception.Choice.FollowTyped(); };
-  tick.SendIdentification = [this] { Transmit.SendIdentification(); };
-  tick.RunReceivePass = [this] {
-    Messages.Heard.PassBegins();
-    Reception.Receive();
-  };
-  tick.RunChatPass = [this] { Messages.Sender.RetryPass(); };
-  tick.SendObjectReport = [this] { Transmit.Beacon.SendObjectReport(); };
-  tick.SendBeacon = [this] { Transmit.Beacon.SendPositionBeacon(); };
-}
-
-// ---- Start ----------------------------------------------------------------------------------
-
-StartSteps StationRooms::StartOrder() {
-  StartSteps start;
-  start.ReadConfig = [this] { ReadConfig(); };
-  start.SetOwnNames = [this] { SetOwnNames(); };
-  start.ScanMapLibrary = [this] {
-    MakeDataFolders(machine_.FileSystem, State.Identity);
-    Map.Library.MapLibraryScan();
-  };
-  start.LoadHistory = [this] { Reception.Choice.LoadAtStart(); };
-  start.OpenLink = [this] {
-    const bool open = Links.Open();
-    if (open) Gateway.Digipeater.Begin();
-    return open;
-  };
-  start.RestoreTracksPlacesAndChat = [this] {
-    Gps.Tracks.RestoreAtStart();
-    Viewers.Places.RestoreAtStart();
-    Messages.RestoreAtStart();
-  };
-  start.ShowTitleMarkers = [this] { ShowTitle(); };
-  start.SetLabels = [this] { SetLabels(); };
-  start.ShowAndDrawMap = [this] {
-    Controls.Map.Picture1.Visible = true;
-    Map.Redrawer.MapRedraw();
-  };
-  start.RunTerminalHandler = [this] { Links.RunTerminalHandler(); };
-  return start;
-}
-
-void StationRooms::ReadConfig() {
-  ReadConfigForMainWindow(machine_.FileSystem, State);
-  const WindowValues own = ReadWindowFile(machine_.FileSystem, State.Identity.ProgramFolder);
-  ApplyViewValues(own, State);
-  const auto digipeater = own.find("UIDIGI");
-  Gateway.Digipeater.Program = digipeater != own.end() ? digipeater->second : std::string();
-  State.Services = ReadServicesFile(machine_.FileSystem, State.Identity.ProgramFolder);
-  Controls.Moni1.Check1.Value = State.Followed.Moni1AlarmOn;
-  TakeZone(State.Identity, State.Map);
-}
-
-void StationRooms::SetOwnNames() {
-  // The beginning of what this station transmits, as it comes back through a digipeater.
-  State.Reception.OwnHeaderPattern =
-      State.Identity.MyCallFull.empty()
-          ? std::string()
-          : OwnHeaderPatternOf(State.Identity.MyCallFull, State.Transmission.TxPath,
-                               State.Transmission.TxDestination);
-  // A station that takes no part in the gate has no passcode.
-  State.Internet.AprsIsPasscode = TxAllowedOf(State.Identity.MyCall) == 1
-                                      ? PasscodeOf(State.Identity.MyCall)
-                                      : std::string(kNoPasscode);
-}
-
 void StationRooms::ShowTitle() {
   ShowTitleMarkers(State.Identity, State.Radio, State.Internet, State.Settings, Controls.Window);
 }
@@ -204,30 +128,6 @@ void StationRooms::SetLabels() {
   SetMainWindowLabels(Controls, State.Settings.Language);
   Map.Interaction.ShowState();
   Transmit.Switches.ShowInterval();
-}
-
-// ---- Stop -----------------------------------------------------------------------------------
-
-StopSteps StationRooms::StopOrder() {
-  StopSteps stop;
-  stop.StopPicturePanel = [this] { Viewers.Pictures.ClosePicture(); };
-  stop.LeaveLink = [this] {
-    Gateway.Digipeater.End();
-    Links.Leave();
-  };
-  stop.ClosePorts = [this] {
-    Links.ClosePort();
-    Gateway.Link.Close();
-  };
-  stop.MergeConfigAtExit = [this] { MergeConfigAtExit(); };
-  stop.DeleteRunFiles = [this] { Map.Library.DeleteIndexFiles(); };
-  return stop;
-}
-
-void StationRooms::MergeConfigAtExit() {
-  zepril::MergeConfigAtExit(machine_.FileSystem, State.Identity.ProgramFolder,
-                            LastValuesOf(State.Map, Controls.Scales));
-  WriteWindowFile(machine_.FileSystem, State.Identity.ProgramFolder, ViewValues(State));
 }
 
 // ---- Joins ----------------------------------------------------------------------------------

@@ -22,8 +22,6 @@
 #include "reception/emergency_display.h"
 #include "reception/reception_room.h"
 #include "station/main_cycle.h"
-#include "station/main_window_start.h"
-#include "station/main_window_stop.h"
 #include "station/raw_list_search.h"
 #include "station/station_surfaces.h"
 #include "transmit/transmit_room.h"
@@ -49,6 +47,10 @@ class StationRooms {
   void MapResized(int width, int height);
   // Once a second.
   void SecondPassed();
+  void ShowTitle();
+  void SetLabels();
+
+  const Machine Given;
 
   RuntimeState State;
   MainWindowControls Controls;
@@ -61,18 +63,8 @@ class StationRooms {
   // A panel is open that the main cycle would disturb.
   bool CycleIsHeld() const;
 
-  void JoinTick();
-  StartSteps StartOrder();
-  void ReadConfig();
-  void SetOwnNames();
-  void ShowTitle();
-  void SetLabels();
-  StopSteps StopOrder();
-  void MergeConfigAtExit();
-
   void JoinRooms();
 
-  Machine machine_;
   std::shared_ptr<TcpSocket> winsock1_;  // the packet engine
   std::shared_ptr<TcpSocket> winsock2_;  // the APRS-IS server
   std::shared_ptr<SerialPort> mscomm1_;  // the modem

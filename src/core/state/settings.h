@@ -16,6 +16,7 @@ struct SettingsState {
   std::string TrackFile;
   std::string TitleText;  // window title, kept at 90 columns or more
   int PanelWidthUnit = 15;
+  std::string DigipeaterProgram;  // beside the engine; empty for the usual one
 };
 
 }  // namespace zepril
