@@ -311,6 +311,12 @@ TEST_F(MainCycleTest, IdentificationFallsOnTheMinutesOfTheCall) {
   EXPECT_EQ(minutes_of("AB1CD"), (std::vector<int>{1, 21, 41}));
   EXPECT_EQ(minutes_of("DLXYZ"), (std::vector<int>{0, 20, 40}));
   EXPECT_EQ(minutes_of("AB5CD"), (std::vector<int>{5, 25, 45}));
+  EXPECT_EQ(minutes_of("AB9CD"), (std::vector<int>{9, 29, 49}));
+  // The gate alone has something to tell too; neither of them has not.
+  state.Radio.DigiOn = Digipeater::Off;
+  EXPECT_EQ(minutes_of("QX7KB"), std::vector<int>{});
+  state.Internet.IGateConnected = GateLink::Up;
+  EXPECT_EQ(minutes_of("QX7KB"), (std::vector<int>{7, 27, 47}));
 }
 
 TEST_F(MainCycleTest, IdentificationIsSentOnceAMinuteAndNeverOverTheRemoteEngine) {
