@@ -8,6 +8,8 @@
 #include "config/window_file.h"
 #include "core/position_text.h"
 #include "gate/aprs_is_login.h"
+#include "map/coordinate_values.h"
+#include "station/main_window_start.h"
 #include "station/view_memory.h"
 #include "transmit/tx_setup_rules.h"
 
