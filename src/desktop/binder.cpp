@@ -7,6 +7,7 @@
 #include "desktop/corner_mark.h"
 #include "desktop/fill_bar_widget.h"
 #include "desktop/shown_controls.h"
+#include "platform/qt/text.h"
 
 namespace zepril {
 
@@ -49,7 +50,7 @@ void Binder::Bind(QLabel* widget, Label& control) {
     if (caption == control.Caption) return;
     caption = control.Caption;
     widget->setText(CaptionText(caption));
-    widget->setAccessibleName(widget->text());
+    widget->setAccessibleName(caption.empty() ? ToQt(control.Called) : widget->text());
   });
 }
 

@@ -269,7 +269,7 @@ constexpr ControlRow<MainWindowControls> kTable[] = {
      {"Listen on RPR 300 and FSK 300 in turn"}},
 
     // The controls of the chat: switches, fields of the message line, panels.
-    {"Text1_", All<&ChatControls::Text1, 0>()},
+    {"Text1_", All<&ChatControls::Text1, 0>(), {}, {}, {"chat line %1"}},
     {"Check7", On<&ChatControls::Check7>(), Own("CHAT")},
     {"Check8", On<&ChatControls::Check8>(), {{"FROM/TO ME ONLY"}},
      {"Show messages from/to me only"}},
