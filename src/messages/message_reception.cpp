@@ -23,12 +23,10 @@ void MessageReception::MessageReceived(const HeardMessage& heard) {
   AnswerPing(message);
 }
 
-// Kept: a line without a number is compared with the newest one only, and the ninth of old traffic
-// counts as new.
-bool MessageReception::IsRepeat(const Message& message, const std::string& line,
-                                bool never_in_all) const {
-  if (tools_.Lines.IsNewest(line)) return true;
-  return message.HasNumber && !never_in_all && tools_.Lines.Holds(line);
+// Kept: a line without a number, as that of a ping, is compared with the newest one only, and the
+// ninth of old traffic counts as new.
+bool MessageReception::IsRepeat(const Message& message, const std::string& line) const {
+  return tools_.Lines.IsNewest(line) || (message.HasNumber && tools_.Lines.Holds(line));
 }
 
 void MessageReception::Enter(const std::string& line, std::uint32_t colour) {
@@ -39,7 +37,7 @@ void MessageReception::Enter(const std::string& line, std::uint32_t colour) {
 void MessageReception::ShowTrafficOfOthers(const Message& message) {
   if (BeginsLikeAck(message.Text) || controls_.Check8.Value == 1) return;
   const std::string line = ReceivedLine(message.From, message.Info);
-  if (!IsRepeat(message, line, false)) Enter(line, chat_colours::kBetweenOthers);
+  if (!IsRepeat(message, line)) Enter(line, chat_colours::kBetweenOthers);
 }
 
 void MessageReception::TakeAck(const Message& message) {
@@ -56,7 +54,7 @@ void MessageReception::TakeAck(const Message& message) {
 
 bool MessageReception::ShowForMe(const Message& message) {
   const std::string line = ReceivedLine(message.From, message.Info);
-  if (IsRepeat(message, line, IsPing(message.Text))) return false;
+  if (IsRepeat(message, line)) return false;
   Enter(line, chat_colours::kForMe);
   if (tools_.Panel.OpenForMessage()) tools_.LocalClock.HandOver();
   return true;

@@ -57,7 +57,7 @@ class MessageReception final : public MessageActions {
   void AnswerForTheOperator(const Message& message);
   void MarkAnsweredPings(const Message& message);
   void AnswerPing(const Message& message);
-  bool IsRepeat(const Message& message, const std::string& line, bool never_in_all) const;
+  bool IsRepeat(const Message& message, const std::string& line) const;
   void Enter(const std::string& line, std::uint32_t colour);
   bool MayAnswer();
 
