@@ -81,6 +81,8 @@ TEST(Ping, IsAnsweredWithThePathOfItsHeader) {
             ":N0CALL   :PATH = N0CALL VIA WIDE1-1* TO APRS");
   EXPECT_EQ(PingAnswerText("N0CALL", "N0CALL>A>B*>APRS <UI>", "APRS"),
             ":N0CALL   :PATH = N0CALL VIA A>B* TO APRS");
+  EXPECT_EQ(PingAnswerText("N0CALL", "N0CALL>APRS1*>APRS <UI>", "APRS"),
+            ":N0CALL   :PATH = N0CALL VIA APRS1* TO APRS");
   EXPECT_EQ(PingAnswerText("N0CALL", "N0CALL*>APRS <UI>", "APRS"),
             ":N0CALL   :PATH = N0CALL VIA  TO APRS");
   // One that a gateway has packed names its destination first.
