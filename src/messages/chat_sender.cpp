@@ -31,7 +31,8 @@ std::string ReasonOf(Delivery delivery) {
 std::string ChatSender::SendChatLine() {
   ChatState& chat = sections_.Chat;
   if (sections_.Identity.TxAllowed != 1) return {};
-  if (Trim(controls_.Text2.Text).empty() || Trim(controls_.Text3.Text).empty()) return {};
+  if (Trim(controls_.Text3.Text).empty()) return {};
+  if (Trim(controls_.Text2.Text).empty()) return chat_texts::kNoAddressee;
   const int serial = chat.ChatSerial < kHighestSerial ? chat.ChatSerial + 1 : 0;
   const TypedMessage message = MessageToSend(controls_.Text2.Text, controls_.Text3.Text, serial);
   if (message.FrameText.empty()) return chat_texts::kCallTooLong;

@@ -42,6 +42,8 @@ TEST_F(ChatSenderTest, ATypedLineStandsAtTheBottomAndWaits) {
 
 TEST_F(ChatSenderTest, WithoutAddresseeOrTextNothingHappens) {
   world.Type("", "Hello");
+  EXPECT_EQ(Chat().ChatNote.Caption, "TO WHOM? The call at the left of the message is empty");
+  EXPECT_EQ(Chat().Text3.Text, "Hello");
   world.Type("AB1CD", "  ");
   EXPECT_EQ(world.Newest().Text, "");
   EXPECT_EQ(world.State.Chat.ChatSerial, 0);
