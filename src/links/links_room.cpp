@@ -24,9 +24,7 @@ LinksRoom::LinksRoom(LinksSections sections, LinksControls controls, LinksTools 
       controls_(controls),
       tools_(tools) {
   BindModem();
-  controls_.Talk.Command65.Click = [this] {
-    if (!Modem.IsBusy()) Talk.Open();
-  };
+  Talk.MayOpen = [this] { return !Modem.IsBusy(); };
   Talk.Changed = [this] { TerminalOpenedOrClosed(); };
 }
 

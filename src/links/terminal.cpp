@@ -24,7 +24,9 @@ Terminal::Terminal(const RadioState& radio, TerminalControls& controls, Terminal
     : radio_(radio), controls_(controls), tools_(tools) {
   controls_.Frame19.Visible = false;
   controls_.Command65.Enabled = false;
-  controls_.Command65.Click = [this] { Open(); };
+  controls_.Command65.Click = [this] {
+    if (!MayOpen || MayOpen()) Open();
+  };
   controls_.Command66.Click = [this] { Close(); };
   controls_.Text19.KeyTyped = [this](char character) { KeyTyped(character); };
   // Typing goes on wherever the operator has clicked.

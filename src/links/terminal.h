@@ -5,6 +5,7 @@
 // modem, which would put the next report behind it.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "core/actions/map_actions.h"
@@ -46,6 +47,8 @@ class Terminal {
   bool IsOpen() const { return controls_.Frame19.Visible; }
   // The port has received something. Left alone while the terminal is closed.
   void DataArrived();
+  // Whether the operator may open it just now; may be empty. Asked each time.
+  std::function<bool()> MayOpen;
   // It was opened or closed; may be empty.
   Event<> Changed;
 

@@ -110,6 +110,7 @@ TEST_F(FocusTest, WhatIsOpenedLastLiesOnTop) {
 
 TEST_F(FocusTest, TheMenuKeyInAPanelLooksUpNothingOnTheMap) {
   int presses = 0;
+  Controls().Map.Picture1.MouseDown = nullptr;
   Controls().Map.Picture1.MouseDown = [&](MousePress) { ++presses; };
   loop.RunStep([this] { Controls().MoniAll.HeardPanel.Visible = true; });
   auto* list = Find<>(*window, "HeardList");
@@ -261,6 +262,7 @@ TEST_F(FileFieldTest, PassingByWithTheTabKeyChoosesNothing) {
   auto* call = Find<QComboBox>(*window, "Combo9");
   TabTo(call);
   int chosen = 0;
+  Controls().Moni1.Combo9.Click = nullptr;
   Controls().Moni1.Combo9.Click = [&] { ++chosen; };
   QTest::keyClick(call, Qt::Key_Tab);
   EXPECT_EQ(chosen, 0);
@@ -371,6 +373,7 @@ TEST_F(KeyPointerTest, ShiftF10LooksUpThereAndNotAtTheMouse) {
   Map()->setFocus();
   QTest::keyClick(Map(), Qt::Key_Right, Qt::ShiftModifier);
   MousePress last;
+  Controls().Map.Picture1.MouseDown = nullptr;
   Controls().Map.Picture1.MouseDown = [&](MousePress press) { last = press; };
   QTest::keyClick(Map(), Qt::Key_F10, Qt::ShiftModifier);
   EXPECT_EQ(last.Button, 2);

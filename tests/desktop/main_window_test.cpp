@@ -127,6 +127,7 @@ TEST_F(MainWindowTest, ARightPressOnAStationOpensItsRecord) {
 
 TEST_F(MainWindowTest, ShiftF10OnTheMapIsARightPressAtThePointer) {
   int presses = 0;
+  Controls().Map.Picture1.MouseDown = nullptr;
   Controls().Map.Picture1.MouseDown = [&](MousePress press) {
     EXPECT_EQ(press.Button, 2);
     ++presses;

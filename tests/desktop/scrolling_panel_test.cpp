@@ -80,6 +80,7 @@ TEST_F(ScrollingPanelTest, WhereItIsTooLowTxSetupScrollsToTheFieldThatIsTabbedTo
 
 TEST_F(ScrollingPanelTest, APressOnAPanelIsNoneOnTheMap) {
   int presses = 0;
+  Controls().Map.Picture1.MouseDown = nullptr;
   Controls().Map.Picture1.MouseDown = [&](MousePress) { ++presses; };
   loop.RunStep([this] {
     Controls().Record.Frame1.Visible = true;
@@ -101,10 +102,12 @@ TEST_F(ScrollingPanelTest, APressOnAPanelIsNoneOnTheMap) {
 
 TEST_F(ScrollingPanelTest, EscClosesWhatLiesOnTopByItsHarmlessButton) {
   std::string pressed;
+  Tx().TxAbort.Click = nullptr;
   Tx().TxAbort.Click = [&] {
     pressed += "abort ";
     Tx().Frame4.Visible = false;
   };
+  Object().Command32.Click = nullptr;
   Object().Command32.Click = [&] {
     pressed += "cancel ";
     Object().Frame11.Visible = false;
@@ -122,6 +125,7 @@ TEST_F(ScrollingPanelTest, EscClosesWhatLiesOnTopByItsHarmlessButton) {
 
 TEST_F(ScrollingPanelTest, EscPressesNoButtonThatIsDisabled) {
   int aborted = 0;
+  Tx().TxAbort.Click = nullptr;
   Tx().TxAbort.Click = [&] { ++aborted; };
   OpenTxSetup();
   // As while the modem is programmed.
@@ -134,6 +138,7 @@ TEST_F(ScrollingPanelTest, EscPressesNoButtonThatIsDisabled) {
 
 TEST_F(ScrollingPanelTest, EscInAFieldLeavesItFirst) {
   int aborted = 0;
+  Tx().TxAbort.Click = nullptr;
   Tx().TxAbort.Click = [&] { ++aborted; };
   OpenTxSetup();
   Find<>(*window, "TxPathField")->setFocus();
@@ -155,6 +160,7 @@ TEST_F(ScrollingPanelTest, AnOpenedPanelIsReadyToBeTypedInAndAClosedOneLeavesThe
 
 TEST_F(ScrollingPanelTest, ControlTOpensTxSetupAsTheRightClickDoes) {
   int opened = 0;
+  Controls().Transmit.Check6.RightClick = nullptr;
   Controls().Transmit.Check6.RightClick = [&] { ++opened; };
   Map()->setFocus();
   QTest::keyClick(Map(), Qt::Key_T, Qt::ControlModifier);

@@ -41,7 +41,9 @@ TEST_F(TerminalPageTest, TheDrawerHasItsHeightAgainAfterTheTerminal) {
 
 TEST_F(TerminalPageTest, AllKeysInTheTerminalGoToTheModem) {
   int pressed = 0;
+  Terminal().Command66.Click = nullptr;
   Terminal().Command66.Click = [&] { ++pressed; };
+  Controls().Transmit.Check6.RightClick = nullptr;
   Controls().Transmit.Check6.RightClick = [&] { ++pressed; };
   OpenTerminal();
   auto* field = Find<>(*window, "Text19");
@@ -70,6 +72,7 @@ TEST_F(TerminalPageTest, ARedrawLeavesTheTerminalTheFocus) {
 
 TEST_F(TerminalPageTest, TheTerminalIsLeftByAltCAndByEscFromElsewhere) {
   int closes = 0;
+  Terminal().Command66.Click = nullptr;
   Terminal().Command66.Click = [&] { ++closes; };
   OpenTerminal();
   QTest::keyClick(Find<>(*window, "Text19"), Qt::Key_C, Qt::AltModifier);
@@ -87,6 +90,7 @@ TEST_F(TerminalPageTest, TheTerminalIsLeftByAltCAndByEscFromElsewhere) {
 
 TEST_F(TerminalPageTest, AClickIntoWhatTheModemPrintsIsTold) {
   int clicks = 0;
+  Terminal().Text20.Click = nullptr;
   Terminal().Text20.Click = [&] {
     ++clicks;
     Terminal().Text19.FocusWanted = true;
@@ -126,6 +130,7 @@ TEST_F(TerminalPageTest, TheTerminalFitsAtEverySize) {
 
 TEST_F(TerminalPageTest, TheTerminalIsAskedForByItsButton) {
   int asked = 0;
+  Terminal().Command65.Click = nullptr;
   Terminal().Command65.Click = [&] { ++asked; };
   loop.RunStep([this] { Terminal().Command65.Enabled = true; });
   Click("Command65");

@@ -76,6 +76,7 @@ TEST_F(TransmitGroupTest, EveryPanelThatHoldsTheCycleSaysSo) {
 // ---- Notices --------------------------------------------------------------------------------
 
 TEST_F(TransmitGroupTest, TheNoticeOfTheLinkStandsOverTheMapUntilItIsClicked) {
+  Controls().Status.LinkNotice.Click = nullptr;
   Controls().Status.LinkNotice.Click = [this] { Controls().Status.LinkNotice.Visible = false; };
   loop.RunStep([this] {
     Controls().Status.LinkNotice.Visible = true;
@@ -98,6 +99,7 @@ TEST_F(TransmitGroupTest, TheNoticeOfTheLinkStandsOverTheMapUntilItIsClicked) {
 
 TEST_F(TransmitGroupTest, TheNoticeOfAFileStandsBelowThatOfTheLinkUntilItIsClicked) {
   StatusControls& status = Controls().Status;
+  status.FileNotice.Click = nullptr;
   status.FileNotice.Click = [&status] { status.FileNotice.Visible = false; };
   loop.RunStep([&status] {
     status.LinkNotice.Visible = status.FileNotice.Visible = true;
@@ -135,6 +137,7 @@ TEST_F(TransmitGroupTest, TheNoticeOfTheTemporaryModeStandsOverTheMap) {
 
 TEST_F(TransmitGroupTest, TheLineOfARecordIsPressedAlsoByTheKeyboard) {
   int pressed = 0;
+  Controls().Record.Label20.Click = nullptr;
   Controls().Record.Label20.Click = [&] { ++pressed; };
   loop.RunStep([this] { Controls().Record.Frame1.Visible = true; });
   Click("Label20");
@@ -146,7 +149,9 @@ TEST_F(TransmitGroupTest, TheLineOfARecordIsPressedAlsoByTheKeyboard) {
 
 TEST_F(TransmitGroupTest, TheHeldRightButtonOfTheRawListIsTold) {
   std::string told;
+  Controls().Raw.RawList.RightDown = nullptr;
   Controls().Raw.RawList.RightDown = [&] { told += "down "; };
+  Controls().Raw.RawList.RightUp = nullptr;
   Controls().Raw.RawList.RightUp = [&] { told += "up "; };
   loop.RunStep([this] { Controls().Raw.RawList.Visible = true; });
   auto* list = Find<QListView>(*window, "RawList");

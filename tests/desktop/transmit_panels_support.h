@@ -44,6 +44,7 @@ class TransmitPanelsTest : public MainWindowTest {
     Pump();
   }
   void OpenTerminal() {
+    Terminal().Text19.KeyTyped = nullptr;
     Terminal().Text19.KeyTyped = [this](char byte) { typed += byte; };
     loop.RunStep([this] {
       Terminal().Frame19.Visible = true;

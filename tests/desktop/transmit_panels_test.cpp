@@ -32,7 +32,9 @@ TEST_F(TransmitPanelsTest, EveryButtonOfTxSetupReachesItsEvent) {
   for (const auto& [name, control] : ButtonsOf(Tx())) {
     int left = 0;
     int right = 0;
+    control->Click = nullptr;
     control->Click = [&left] { ++left; };
+    control->RightClick = nullptr;
     control->RightClick = [&right] { ++right; };
     QWidget* widget = Find<>(*window, name.c_str());
     EXPECT_TRUE(widget->isVisible()) << name;
@@ -55,6 +57,7 @@ TEST_F(TransmitPanelsTest, EveryButtonOfObjectSetupReachesItsEvent) {
                                       {"Command31", &Object().Command31},
                                       {"Command32", &Object().Command32}}) {
     int clicks = 0;
+    control->Click = nullptr;
     control->Click = [&clicks] { ++clicks; };
     QWidget* widget = Find<>(*window, name.c_str());
     EXPECT_TRUE(widget->isVisible()) << name;
@@ -81,7 +84,9 @@ TEST_F(TransmitPanelsTest, EveryFieldTakesTypingAndTellsOfIt) {
   for (const auto& [name, control] : fields) {
     int changes = 0;
     int focused = 0;
+    control->Change = nullptr;
     control->Change = [&changes] { ++changes; };
+    control->GotFocus = nullptr;
     control->GotFocus = [&focused] { ++focused; };
     control->Text.clear();
     auto* field = Find<QLineEdit>(*window, name.c_str());
@@ -106,6 +111,7 @@ TEST_F(TransmitPanelsTest, EverySwitchAndSpeedReachesItsEvent) {
     switches[std::string("fr4ta") + static_cast<char>('1' + line)] = &Tx().fr4ta[line];
   for (const auto& [name, control] : switches) {
     int clicks = 0;
+    control->Click = nullptr;
     control->Click = [&clicks] { ++clicks; };
     const int before = control->Value;
     Click(name.c_str());
@@ -115,6 +121,7 @@ TEST_F(TransmitPanelsTest, EverySwitchAndSpeedReachesItsEvent) {
   }
   for (std::size_t at = 0; at < Tx().Speeds.size(); ++at) {
     int clicks = 0;
+    Tx().Speeds[at].Click = nullptr;
     Tx().Speeds[at].Click = [&clicks] { ++clicks; };
     Click((std::string("Option") + static_cast<char>('3' + at)).c_str());
     EXPECT_EQ(clicks, 1) << at;

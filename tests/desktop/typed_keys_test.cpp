@@ -17,6 +17,7 @@ namespace {
 class TypedKeysTest : public BinderTest {
  protected:
   TypedKeysTest() {
+    control.KeyTyped = nullptr;
     control.KeyTyped = [this](char byte) {
       EXPECT_TRUE(loop.InStep());
       typed += byte;

@@ -64,8 +64,8 @@ struct InteractionWorld : MapWorld {
   InteractionWorld()
       : Join(*this),
         Hands(State.Map, State.Stores, State.Followed,
-              {Controls.Window, Controls.Map, Controls.Readouts, Controls.Scales, Controls.Palette,
-               Controls.Moni1, Controls.MoniAll, Controls.Record},
+              {ControlsAnew().Window, Controls.Map, Controls.Readouts, Controls.Scales,
+               Controls.Palette, Controls.Moni1, Controls.MoniAll, Controls.Record},
               {Join, Room.Library, Room.ReadoutTexts, Quiet, Join, Shown, Join, Timer1, Timer2}) {
     Hands.RecordPicked = [this] { Join.Calls.push_back("record panel"); };
     Redraw();

@@ -23,7 +23,7 @@ struct LookupWorld : MapWorld, PlacePanel, SunPanel, MapActions, DesktopActions 
   LookupWorld()
       : Lookups(State.Map, State.Places, Controls.Map, {Surface, Shown, Timer1}),
         Interaction(State.Map, State.Stores, State.Followed,
-                    {Controls.Window, Controls.Map, Controls.Readouts, Controls.Scales,
+                    {ControlsAnew().Window, Controls.Map, Controls.Readouts, Controls.Scales,
                      Controls.Palette, Controls.Moni1, Controls.MoniAll, Controls.Record},
                     {*this, Room.Library, Room.ReadoutTexts, Quiet, Lookups, Shown, *this, Timer1,
                      Timer2}) {

@@ -121,6 +121,14 @@ struct MapWorld {
     State.Followed.MonitorNorthKm = maker.NorthKm;
     State.Followed.MonitorEastKm = maker.EastKm;
   }
+  // The controls as if nobody listened to them: for another interaction than the room's own.
+  MapWorldControls& ControlsAnew() {
+    std::destroy_at(&Controls);
+    std::construct_at(&Controls);
+    Controls.Record.Frame1.Visible = false;
+    Controls.Palette.PalettePanel.Visible = false;
+    return Controls;
+  }
   void Scan() { Room.Library.MapLibraryScan(); }
   void Redraw() {
     Surface.Operations.clear();

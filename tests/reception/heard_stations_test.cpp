@@ -46,7 +46,7 @@ struct HeardList : Reception {
   void Order(HeardColumn column) { All().HeardOrder[static_cast<std::size_t>(column)].Click(); }
   using Rows = std::vector<std::string>;
 
-  HeardStationsPanel Panel{Stores, Map, Controls.MoniAll, Browser, Time};
+  HeardStationsPanel& Panel = Room.Heard;
 };
 
 TEST(HeardStations, RowOpensTheRecordOfItsStation) {

@@ -121,6 +121,7 @@ TEST_F(QtLoopTest, InAPumpingWaitTimer2FiresAndTimer1DoesNot) {
 
 TEST_F(QtLoopTest, APlainWaitInsideAPumpingOneHoldsTheTimers) {
   std::vector<int> seen;
+  Timer2.Elapsed = nullptr;
   Timer2.Elapsed = [&] {
     Timer2.Stop();
     Timer1.Arm(1);
@@ -154,6 +155,7 @@ TEST_F(QtLoopTest, ManyTimesDueIsFiredOnceAfterTheStep) {
   loop->StepEnded = [&] {
     if (at_end == 0) at_end = ++order;
   };
+  Timer1.Elapsed = nullptr;
   Timer1.Elapsed = [&] {
     ++ticks;
     Timer1.Stop();
@@ -419,6 +421,7 @@ TEST_F(QtLoopTest, TheEndOfAStepMayReplaceWhatFollows) {
   int second = 0;
   loop->StepEnded = [&] {
     ++first;
+    loop->StepEnded = nullptr;
     loop->StepEnded = [&] { ++second; };
   };
   loop->RunStep([] {});
