@@ -17,14 +17,19 @@ bool ForbidsTheGate(const std::string& watched) {
   });
 }
 
+// An end within the data: the server would take what follows for a packet of its own. Ends behind
+// it, which widespread radios send, do no harm.
+bool HasSeveralLines(std::string_view data) {
+  const std::size_t last = data.find_last_not_of("\r\n");
+  return last != std::string_view::npos && data.find_first_of("\r\n") < last;
+}
+
 NotGated WhyNot(const std::optional<GateFrame>& frame) {
   if (!frame) return NotGated::NoFrame;
   if (ForbidsTheGate(frame->Watched)) return NotGated::ForbiddenPath;
   const bool others = frame->Data.starts_with('}') || frame->Data.starts_with('?');
   if (others) return NotGated::ForwardedOrQuery;
-  // An engine hands such data on; the server would take what follows for a packet of its own.
-  const bool several = frame->Data.find("\r\n") != std::string_view::npos;
-  return several ? NotGated::SeveralLines : NotGated::Nothing;
+  return HasSeveralLines(frame->Data) ? NotGated::SeveralLines : NotGated::Nothing;
 }
 
 std::string LineOf(const GateFrame& frame, std::string_view call) {

@@ -226,8 +226,7 @@ TEST(GateLines, TheBytesOfTheDataAreThoseHeard) {
   for (const Dialect& dialect : kDialects) {
     for (const std::string& data :
          {all, std::string("trailing   "), std::string("\x1D\x1E\x1F\x7F`x"),
-          std::string("\0\0", 2), std::string("half\rline"), std::string("half\nline"),
-          std::string(" ")}) {
+          std::string("\0\0", 2), std::string("ends\n"), std::string(" ")}) {
       const GateLines gated = Gated(dialect.Name, dialect.Text({.Data = data}));
       EXPECT_EQ(gated.Lines, Lines{"QX7AB>ZEPR,qAR,QX7KB:" + data + "\r\n"}) << dialect.Name;
     }
@@ -239,6 +238,11 @@ TEST(GateLines, TheBytesOfTheDataAreThoseHeard) {
 
 // Behind its first line end the server would read a packet that nobody has sent.
 TEST(GateLines, DataOfSeveralLinesStays) {
+  for (const char* data :
+       {"one\nN0CALL>ZEPR,TCPIP*:two", "one\rN0CALL>ZEPR,TCPIP*:two", "one\n\rtwo"})
+    ExpectEnded("AGW", EngineText({.Data = data}), NotGated::SeveralLines);
+  ExpectEnded("PK-232", "QX7AB>ZEPR <UI>:\r\none\nN0CALL>ZEPR,TCPIP*:two\r\n",
+              NotGated::SeveralLines);
   ExpectEnded("AGW", EngineText({.Data = "one\r\nN0CALL>ZEPR,TCPIP*:two"}), NotGated::SeveralLines);
   // Where line ends are the form's own, the data ends there.
   ExpectEnded("PK-232", Pk232Text({.Data = "one\r\ntwo"}), NotGated::Nothing,
