@@ -8,6 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <climits>
 #include <cstdlib>
@@ -47,17 +48,43 @@ std::string ProgramOf(const std::string& process) {
   return {target.data(), length > 0 ? static_cast<std::size_t>(length) : 0};
 }
 
-bool RunsProgram(const std::string& process, const std::string& path, const std::string& real) {
-  if (ProgramOf(process) == real) return true;
-  const std::string command = CommandOf(process);
-  std::string_view rest = command;
-  for (int word = 0; word < 2 && !rest.empty(); ++word) {
-    const std::size_t end = rest.find('\0');
-    const std::string_view one = rest.substr(0, end);
-    if (one == path || one == real) return true;
-    rest = end == std::string_view::npos ? std::string_view() : rest.substr(end + 1);
+// The names of the programs that a script's first line calls: "#!/usr/bin/env bash" gives "env" and
+// "bash". Empty for what is no script.
+std::vector<std::string> InterpretersOf(const std::string& script) {
+  constexpr std::size_t kLongestLine = 256;
+  const int file = ::open(script.c_str(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return {};
+  std::string line(kLongestLine, '\0');
+  const ssize_t length = ::read(file, line.data(), line.size());
+  ::close(file);
+  line.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+  line.resize(std::min(line.find('\n'), line.size()));
+  std::vector<std::string> names;
+  if (!line.starts_with("#!")) return names;
+  for (std::size_t at = 2; at < line.size();) {
+    const std::size_t end = std::min(line.find_first_of(" \t\r", at), line.size());
+    const std::string word = line.substr(at, end - at);
+    if (!word.empty()) names.push_back(word.substr(word.rfind('/') + 1));
+    at = end + 1;
   }
-  return false;
+  return names;
+}
+
+// Its interpreter has the script as its first argument. An editor with the script open has not.
+bool InterpretsScript(const std::string& process, const std::string& path,
+                      const std::string& real) {
+  const std::string command = CommandOf(process);
+  const std::size_t first_end = command.find('\0');
+  if (first_end == std::string::npos) return false;
+  const std::string second = command.c_str() + first_end + 1;
+  if (second != path && second != real) return false;
+  const std::string first = command.substr(0, first_end);
+  const std::vector<std::string> names = InterpretersOf(real);
+  return std::find(names.begin(), names.end(), first.substr(first.rfind('/') + 1)) != names.end();
+}
+
+bool RunsProgram(const std::string& process, const std::string& path, const std::string& real) {
+  return ProgramOf(process) == real || InterpretsScript(process, path, real);
 }
 
 int NumberOf(const std::string& digits) {

@@ -77,6 +77,23 @@ TEST_F(CompanionProcessesTest, OneStartedByAnotherIsFoundAndLeftAlone) {
   EXPECT_EQ(programs.ProcessOf(path), 0);
 }
 
+TEST_F(CompanionProcessesTest, AnotherProgramWithTheFileOpenIsNotIt) {
+  const std::string path = Script("digi.sh", kForever);
+  const std::string reader = folder.Sub("reader.sh");
+  std::ofstream(reader) << "#!/bin/sh\nexec 3>pipe\necho reads >&3\nexec tail -f " << path << "\n";
+  ::chmod(reader.c_str(), 0755);
+  ASSERT_TRUE(programs.Start(reader));
+  EXPECT_EQ(Told(), "reads");
+  const int process = programs.ProcessOf(reader);
+  const std::string name = "/proc/" + std::to_string(process) + "/comm";
+  std::string runs;
+  while (runs != "tail")
+    std::getline(std::ifstream(name), runs);
+  EXPECT_EQ(programs.ProcessOf(path), 0);
+  programs.AskToClose(reader);
+  EXPECT_TRUE(Ends(programs, reader));
+}
+
 TEST_F(CompanionProcessesTest, WhatIsNoProgramIsNotStarted) {
   EXPECT_FALSE(programs.Start(folder.Sub("missing")));
   EXPECT_FALSE(programs.Start(folder.Path()));
