@@ -60,9 +60,12 @@ void QtPageFetcher::Abandon() {
   page_ = {};
   if (!reply_) return;
   reply_->disconnect();
+  // What the reply holds back would keep its connection open.
+  reply_->setReadBufferSize(0);
   reply_->abort();
   reply_->deleteLater();
   reply_ = nullptr;
+  manager_.clearConnectionCache();
 }
 
 void QtPageFetcher::TakeBytes() {

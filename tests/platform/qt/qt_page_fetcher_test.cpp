@@ -192,7 +192,13 @@ TEST_F(QtPageFetcherTest, AnEndlessPageIsGivenUp) {
   ASSERT_TRUE(Comes(1));
   EXPECT_EQ(told[0].Outcome, PageOutcome::TooLarge);
   EXPECT_EQ(told[0].Body, "");
-  // The next one is not held up by it.
+  // The next ones are not held up by it, nor by as many as a host is asked at once.
+  constexpr std::size_t kAtOnce = 7;
+  for (std::size_t page = 2; page <= kAtOnce; ++page) {
+    Ask(Url("/"));
+    ASSERT_TRUE(Comes(page));
+  }
+  told.resize(1);
   answer = [](QTcpSocket& peer) { Say(peer, Whole("next")); };
   Ask(Url("/"));
   ASSERT_TRUE(Comes(2));
