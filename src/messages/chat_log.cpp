@@ -5,6 +5,8 @@
 
 #include "core/radio_rules.h"
 #include "core/text_fields.h"
+#include "core/texts/chat_texts.h"
+#include "core/texts/file_troubles.h"
 #include "messages/message_texts.h"
 
 namespace zepril {
@@ -44,7 +46,12 @@ std::string ChatLog::DayAndTime(char between) const {
 void ChatLog::Append(std::string_view chat_line) {
   std::string line = LogLine(DayAndTime(' '), chat_line);
   line += kLineEnd;
-  tools_.Disk.Append(Path(), line);
+  NoteTrouble(tools_.Disk.Append(Path(), line));
+}
+
+void ChatLog::NoteTrouble(bool written) {
+  sections_.Chat.LogTrouble =
+      written ? std::string() : chat_texts::kLogNotWritten.With({WordsOf(tools_.Disk.Trouble())});
 }
 
 void ChatLog::MakeSureOfFile() {
@@ -79,7 +86,7 @@ void ChatLog::Clear() {
   if (lines.empty()) {
     tools_.Disk.Remove(Path());
   } else {
-    tools_.Disk.Replace(Path(), Joined(lines));
+    NoteTrouble(tools_.Disk.Replace(Path(), Joined(lines)));
   }
   Close();
 }

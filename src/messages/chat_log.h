@@ -19,7 +19,7 @@ namespace zepril {
 struct ChatLogSections {
   const IdentityState& Identity;
   const RadioState& Radio;
-  const ChatState& Chat;
+  ChatState& Chat;
 };
 
 struct ChatLogTools {
@@ -42,12 +42,13 @@ class ChatLog {
   ChatLog(const ChatLog&) = delete;
   ChatLog& operator=(const ChatLog&) = delete;
 
-  // A log that can't be written is passed over.
+  // A log that can't be written is passed over; the panel says so.
   void Append(std::string_view chat_line);
   // The file is there afterwards.
   void MakeSureOfFile();
 
  private:
+  void NoteTrouble(bool written);
   void OpenOrClose();
   void Open();
   void Close();

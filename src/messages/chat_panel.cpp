@@ -100,9 +100,12 @@ void ChatPanel::Entered() {
 }
 
 void ChatPanel::SendLine() {
-  const std::string told = tools_.Sender.SendChatLine();
-  if (!told.empty()) {
-    told_ = told;
+  Tell(tools_.Sender.SendChatLine());
+}
+
+void ChatPanel::Tell(const std::string& words) {
+  if (!words.empty()) {
+    told_ = words;
     told_until_ = tools_.LocalClock.MonotonicSeconds() + kToldSeconds;
   }
   Renew();
@@ -215,6 +218,7 @@ void ChatPanel::ShowNote() {
   } else if (link == nullptr || !link->IsUp()) {
     note = chat_texts::kNoLink;
   }
+  if (note.empty()) note = sections_.Chat.LogTrouble;
   controls_.Chat.ChatNote.Caption = note;
   controls_.Chat.ChatNote.Visible = !note.empty();
 }

@@ -60,6 +60,8 @@ class ChatPanel {
   // A message for the operator has come in. The panel opens when it was closed, which is told.
   bool OpenForMessage();
   // Answers `to` with the automatic answer.
+  // Says for some seconds what became of a line.
+  void Tell(const std::string& words);
   void SendAutoAnswer(const std::string& to);
   // Captions, tool tips and words that follow the state; once a second and after each tick.
   void Renew();

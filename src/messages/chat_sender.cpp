@@ -60,6 +60,8 @@ void ChatSender::RetryPass() {
   if (controls_.Check7.Value != 1) return;
   tools_.Timer1.Hold();
   for (ChatLine& line : sections_.Chat.Lines) {
+    // The end of the program waits for no more of them.
+    if (tools_.LocalClock.EndAsked()) break;
     if (chat_colours::HasSendsLeft(line.Colour)) SendOnce(line);
   }
   tools_.Lines.Show();

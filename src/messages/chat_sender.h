@@ -13,6 +13,7 @@
 #include "messages/chat_lines.h"
 #include "messages/chat_log.h"
 #include "messages/web_messages.h"
+#include "platform/clock.h"
 
 namespace zepril {
 
@@ -27,6 +28,7 @@ struct ChatSenderTools {
   ChatLog& Log;
   FrameSender& Frames;
   WebMessages& Web;
+  const Clock& LocalClock;
   Timer& Timer1;
   Timer& Timer2;
 };

@@ -61,6 +61,7 @@ bool MessageReception::ShowForMe(const Message& message) {
 }
 
 bool MessageReception::MayAnswer() {
+  if (tools_.LocalClock.EndAsked()) return false;
   return identity_.TxAllowed == 1 && ++answers_ <= kMostAnswers;
 }
 

@@ -1,6 +1,7 @@
 // How the parts of the chat are built, and what the web form tells of a line.
 #include "messages/messages_room.h"
 
+#include "core/texts/chat_texts.h"
 #include "messages/message_texts.h"
 
 namespace zepril {
@@ -16,7 +17,7 @@ MessagesRoom::MessagesRoom(MessagesSections sections, MessagesRoomControls contr
             WebFailed(frame_text, reason);
           }),
       Sender({sections.Identity, sections.Radio, sections.Chat}, controls.Chat,
-             {Lines, Log, tools.Frames, Web, tools.Timer1, tools.Timer2}),
+             {Lines, Log, tools.Frames, Web, tools.LocalClock, tools.Timer1, tools.Timer2}),
       Panel({sections.Identity, sections.Radio, sections.Chat, sections.Stores, sections.Internet,
              sections.Settings, sections.Services},
             {controls.Chat, controls.Record, controls.Window},
@@ -40,6 +41,7 @@ void MessagesRoom::WebFailed(const std::string& frame_text, const std::string& r
     if (FrameTextOfLine(line.Text) == frame_text) line.Trouble = reason;
   }
   Lines.Show();
+  Panel.Tell(chat_texts::kNotSentByWeb.With({reason}));
 }
 
 }  // namespace zepril

@@ -19,8 +19,9 @@ WebMessages::WebMessages(const IdentityState& identity, const ServicesState& ser
       failed_(std::move(failed)) {}
 
 WebMessages::~WebMessages() {
-  for (const Sending& sending : under_way_)
-    tools_.Pages.Drop(sending.Number);
+  // Those that wait first, so that none of them is begun.
+  for (auto sending = under_way_.rbegin(); sending != under_way_.rend(); ++sending)
+    tools_.Pages.Drop(sending->Number);
 }
 
 std::string WebMessages::Send(const std::string& frame_text) {

@@ -100,6 +100,17 @@ TEST_F(ChatLogTest, ADiskThatIsFullKeepsTheWholeLog) {
   EXPECT_TRUE(Chat().Text5.Text.starts_with("line 401\r\n"));
 }
 
+TEST_F(ChatLogTest, ALogThatIsNotWrittenIsTold) {
+  world.Disk.RefusedEnding = "_CHATLOG.TXT";
+  world.Hear("N0CALL", ":QX7KB    :Hello");
+  world.Room.SecondPassed();
+  EXPECT_EQ(Chat().ChatNote.Caption.substr(0, 21), "CHAT LOG NOT WRITTEN:");
+  world.Disk.RefusedEnding.clear();
+  world.Hear("N0CALL", ":QX7KB    :Hello again");
+  world.Room.SecondPassed();
+  EXPECT_EQ(Chat().ChatNote.Caption, "");
+}
+
 TEST_F(ChatLogTest, ClearedItBeginsWithTheLinesThatAreShown) {
   Fill(3);
   world.PutLine(2, "N0CALL   :QX7KB    :Hello{07", 0x6000);

@@ -50,6 +50,17 @@ TEST_F(ChatSenderTest, WithoutAddresseeOrTextNothingHappens) {
   EXPECT_EQ(world.State.Chat.ChatTxText, "");
 }
 
+TEST_F(ChatSenderTest, BehindTheWishToEndNoMoreLinesOfThePassLeave) {
+  for (std::size_t at = 4; at < 8; ++at)
+    world.PutLine(at, " QX7KB-10:AB1CD    :Hello{0" + std::to_string(at), 250);
+  world.Clock.OnWait = [this](double, bool) { world.Clock.EndIsAsked = true; };
+  world.Room.Sender.RetryPass();
+  EXPECT_EQ(world.Sent().size(), 1U);
+  EXPECT_EQ(world.Line(5).Colour, 250U);
+  world.Hear("AB1CD", ":QX7KB-10 :Are you there?{11");
+  EXPECT_EQ(world.Sent().size(), 1U);
+}
+
 TEST_F(ChatSenderTest, TheNumberBehind99Is00) {
   world.State.Chat.ChatSerial = 98;
   world.Type("AB1CD", "a");

@@ -93,6 +93,14 @@ TEST_F(WebMessagesTest, AFormThatRefusesIsTold) {
   EXPECT_FALSE(Banner().Visible);
 }
 
+TEST_F(WebMessagesTest, WhatDidNotArriveIsSaidInThePanel) {
+  world.Type("AB1CD", "Hello");
+  world.Room.Sender.RetryPass();
+  world.Pages.Fail();
+  EXPECT_TRUE(world.Controls.Chat.ChatNote.Caption.starts_with("NOT SENT: "));
+  EXPECT_TRUE(world.Controls.Chat.ChatNote.Visible);
+}
+
 TEST_F(WebMessagesTest, AFormThatNeverAnswersIsGivenUpAfterAMinute) {
   world.Type("AB1CD", "a");
   world.Type("AB1CD", "b");
@@ -136,6 +144,19 @@ TEST_F(WebMessagesTest, AServiceWithoutAHostIsOffAndSaysSo) {
   EXPECT_EQ(world.Controls.Chat.Text1[7].ToolTip,
             "given up: no host of the message service in SERVICES.TXT");
   EXPECT_TRUE(world.Controls.Chat.ChatNote.Caption.starts_with("NO MESSAGE SERVICE"));
+}
+
+TEST_F(WebMessagesTest, WhatWaitsAtTheEndIsNeverAskedFor) {
+  FakePages pages;
+  {
+    WebMessages web(world.State.Identity, world.Services,
+                    {world.Controls.Window, world.Controls.Map, world.Controls.Status},
+                    {pages, world.Clock, world.Timer1, world.Timer2}, {});
+    for (const char* text : {":AB1CD    :one{01", ":AB1CD    :two{02", ":AB1CD    :three{03"})
+      EXPECT_EQ(web.Send(text), "");
+  }
+  EXPECT_EQ(pages.Asked.size(), 1U);
+  EXPECT_EQ(pages.Abandoned, 1);
 }
 
 TEST_F(WebMessagesTest, TooManyThatWaitAreRefused) {

@@ -54,6 +54,7 @@ struct ChatState {
   std::string AutoAnswerText;
   std::string ChatTxText;     // the message line under transmission
   int ChatPollCountdown = 0;  // ticks to the next pass of repeats
+  std::string LogTrouble;     // why the log was not written, in words; empty when it was
   int Unseen = 0;             // messages for me that came while nobody looked
 };
 

@@ -34,6 +34,8 @@ inline constexpr Text kServiceFull{"too many messages wait for the message servi
 inline constexpr Text kListener{"LISTENER: a call without a digit in third place sends no message"};
 inline constexpr Text kNoLink{"RADIO LINK LOST: nothing leaves, tries count all the same"};
 inline constexpr Text kNoService{"NO MESSAGE SERVICE: its host is missing in SERVICES.TXT"};
+inline constexpr Text kNotSentByWeb{"NOT SENT: %1"};
+inline constexpr Text kLogNotWritten{"CHAT LOG NOT WRITTEN: %1"};
 inline constexpr Text kNoAddressee{"TO WHOM? The call at the left of the message is empty"};
 inline constexpr Text kTextCut{"THE TEXT WAS CUT: a line holds %1 characters"};
 inline constexpr Text kCallTooLong{"NOT SENT: the addressee leaves no room for a text"};
