@@ -116,6 +116,7 @@ TEST_F(StartButtonTest, TheOperatorIsHeardBeforeInAndBehindTheSetUp) {
     longest_deaf = std::max(longest_deaf, now - heard_at);
   };
   int before_the_end = 0;
+  panel->Started = nullptr;
   panel->Started = [&] { before_the_end = clock.HandOvers - hand_overs; };
   panel->Controls.Command1.Click();
   EXPECT_EQ(notes, std::vector<std::size_t>{0});
