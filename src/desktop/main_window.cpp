@@ -34,6 +34,7 @@ constexpr int kFoldRightBelow = 790;
 constexpr int kFoldLeftBelow = 700;
 constexpr int kLowestMap = 120;
 constexpr int kLowestDrawer = 140;
+constexpr int kRoomForChat = 220;  // its fields and some lines
 
 }  // namespace
 
@@ -190,21 +191,28 @@ void MainWindow::Arrange() {
 }
 
 // The map keeps two thirds of the height, and half of it beside the terminal, while it stands
-// still.
+// still. In a low window the chat has up to half of it too.
 void MainWindow::ShareHeight() {
-  const int drawer = split_->height() / (controls_.Terminal.Frame19.Visible ? 2 : 3);
+  int drawer = split_->height() / (controls_.Terminal.Frame19.Visible ? 2 : 3);
+  if (controls_.Chat.Frame3.Visible) drawer = std::max(drawer, RoomForChat());
   split_->setSizes({split_->height() - drawer, drawer});
+}
+
+int MainWindow::RoomForChat() const {
+  return std::min(kRoomForChat, split_->height() / 2);
 }
 
 void MainWindow::ShowDrawer() {
   const bool was_open = !drawer_->isHidden();
   const bool terminal = controls_.Terminal.Frame19.Visible;
   const bool terminal_changes = terminal != (drawer_->indexOf(terminal_page_) >= 0);
+  const bool chat_comes = controls_.Chat.Frame3.Visible && drawer_->indexOf(chat_page_) < 0;
   ShowPage(raw_page_, controls_.Raw.RawList.Visible, window_texts::kRaw);
   ShowPage(chat_page_, controls_.Chat.Frame3.Visible, window_texts::kMessages);
   ShowPage(terminal_page_, terminal, window_texts::kTerminal);
   drawer_->setVisible(drawer_->count() > 0);
-  if (!was_open && !drawer_->isHidden()) ShareHeight();
+  const bool opens = !was_open && !drawer_->isHidden();
+  if (opens || (chat_comes && drawer_->height() < RoomForChat())) ShareHeight();
   if (terminal_changes) MakeRoomForTerminal(terminal);
 }
 

@@ -69,6 +69,7 @@ class MainWindow final : public QWidget {
   void ShowPage(QWidget* page, bool shown, Text title);
   void MakeRoomForTerminal(bool open);
   void ShareHeight();
+  int RoomForChat() const;
   void OpenStations();
   void OpenMessageField();
   void FocusOn(const Control& control);

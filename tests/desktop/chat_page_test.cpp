@@ -102,6 +102,16 @@ TEST_F(ChatPageTest, TheLogStandsInThePlaceOfTheLines) {
   EXPECT_TRUE(Find<>(*window, "Text1_7")->isVisible());
 }
 
+TEST_F(ChatPageTest, InALowWindowFourLinesAreSeen) {
+  Resize(640, 480);
+  OpenChat();
+  Pump();
+  const auto* newest = Find<QWidget>(*window, "Text1_7");
+  const auto* fourth = Find<QWidget>(*window, "Text1_4");
+  EXPECT_FALSE(newest->visibleRegion().isEmpty());
+  EXPECT_FALSE(fourth->visibleRegion().isEmpty());
+}
+
 TEST_F(ChatPageTest, AllOfItFitsIntoTheLeastWindow) {
   for (const QSize& size : {QSize(1280, 800), QSize(640, 480)}) {
     Resize(size.width(), size.height());
