@@ -71,8 +71,10 @@ LatticePart PartInWindow(
   Span column;
   for (int i = 0; i < kPlaces * kPlaces; ++i) {
     constexpr double kPieces = kPlaces - 1.0;
-    const auto place = PlaceAt(view, view.ViewWidthPx * (i % kPlaces) / kPieces,
-                               view.ViewHeightPx * (i / kPlaces) / kPieces);
+    const int across = i % kPlaces;
+    const int down = i / kPlaces;
+    const auto place =
+        PlaceAt(view, view.ViewWidthPx * across / kPieces, view.ViewHeightPx * down / kPieces);
     const auto there = place ? place_of(*place) : std::nullopt;
     if (!there) return whole;
     row.Take(there->Row);

@@ -37,7 +37,7 @@ class MessageReception final : public MessageActions {
 
   // A receive pass begins.
   void PassBegins() { answers_ = 0; }
-  void MessageReceived(const HeardMessage& message) override;
+  void MessageReceived(const HeardMessage& heard) override;
 
  private:
   // Its own copy: control may go to the window system on the way.

@@ -40,13 +40,11 @@ std::optional<AprsIsManners> AprsIsMannersNamed(std::string_view name) {
     manners.AnswerAfterSeconds = Val(value);
   } else if (word == "closes" && number) {
     manners.ClosesAtByte = static_cast<std::size_t>(WholeVal(value, 0, kMost).value_or(0));
-  } else if (colon != std::string_view::npos) {
-    return std::nullopt;
-  } else if (word == "silent") {
+  } else if (name == "silent") {
     manners.Silent = true;
-  } else if (word == "babbles") {
+  } else if (name == "babbles") {
     manners.Babbles = true;
-  } else if (word == "deaf") {
+  } else if (name == "deaf") {
     manners.NeverReads = true;
   } else {
     return std::nullopt;

@@ -17,8 +17,6 @@
 #include <string_view>
 #include <vector>
 
-extern char** environ;
-
 namespace zepril {
 namespace {
 
@@ -31,7 +29,7 @@ std::optional<std::string> RealPath(const std::string& path) {
 
 // The first two words of a process's command, with NUL behind each.
 std::string CommandOf(const std::string& process) {
-  constexpr std::size_t kLongest = 2 * PATH_MAX;
+  constexpr std::size_t kLongest = std::size_t{2} * PATH_MAX;
   const int file = ::open(("/proc/" + process + "/cmdline").c_str(), O_RDONLY | O_CLOEXEC);
   if (file < 0) return {};
   std::string words(kLongest, '\0');
