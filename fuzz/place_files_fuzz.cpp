@@ -30,7 +30,6 @@ class Answers final : public zepril::Dialogs,
     return zepril::DialogAnswer::Ok;
   }
   bool MainWindowActive() const override { return true; }
-  bool WindowExists(const std::string&) const override { return false; }
   void Open(const std::string& link) override { Require(!link.empty()); }
   bool MovePointerOnMap(int, int) override { return false; }
   void Report(std::string_view, double share) override { Require(share >= 0.0); }
