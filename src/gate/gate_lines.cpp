@@ -19,9 +19,12 @@ bool ForbidsTheGate(const std::string& watched) {
 
 // An end within the data: the server would take what follows for a packet of its own. Ends behind
 // it, which widespread radios send, do no harm.
-bool HasSeveralLines(std::string_view data) {
+bool HasSeveralLines(const GateFrame& frame) {
+  const std::string_view data = frame.Data;
   const std::size_t last = data.find_last_not_of("\r\n");
-  return last != std::string_view::npos && data.find_first_of("\r\n") < last;
+  const bool within = last != std::string_view::npos && data.find_first_of("\r\n") < last;
+  return within || data.find("\r\n") != std::string_view::npos ||
+         frame.Header.find_first_of("\r\n") != std::string::npos;
 }
 
 NotGated WhyNot(const std::optional<GateFrame>& frame) {
@@ -29,7 +32,7 @@ NotGated WhyNot(const std::optional<GateFrame>& frame) {
   if (ForbidsTheGate(frame->Watched)) return NotGated::ForbiddenPath;
   const bool others = frame->Data.starts_with('}') || frame->Data.starts_with('?');
   if (others) return NotGated::ForwardedOrQuery;
-  return HasSeveralLines(frame->Data) ? NotGated::SeveralLines : NotGated::Nothing;
+  return HasSeveralLines(*frame) ? NotGated::SeveralLines : NotGated::Nothing;
 }
 
 std::string LineOf(const GateFrame& frame, std::string_view call) {

@@ -239,7 +239,7 @@ TEST(GateLines, TheBytesOfTheDataAreThoseHeard) {
 // Behind its first line end the server would read a packet that nobody has sent.
 TEST(GateLines, DataOfSeveralLinesStays) {
   for (const char* data :
-       {"one\nN0CALL>ZEPR,TCPIP*:two", "one\rN0CALL>ZEPR,TCPIP*:two", "one\n\rtwo"})
+       {"one\nN0CALL>ZEPR,TCPIP*:two", "one\rN0CALL>ZEPR,TCPIP*:two", "one\n\rtwo", "one\r\n"})
     ExpectEnded("AGW", EngineText({.Data = data}), NotGated::SeveralLines);
   ExpectEnded("PK-232", "QX7AB>ZEPR <UI>:\r\none\nN0CALL>ZEPR,TCPIP*:two\r\n",
               NotGated::SeveralLines);
