@@ -5,8 +5,6 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <array>
-
 #include "core/text_fields.h"
 #include "links/agw_frame.h"
 #include "tool/loopback_listener.h"
@@ -64,7 +62,7 @@ void AgwServer::Serve(int milliseconds) {
     if ((ready & (POLLIN | POLLHUP | POLLERR)) != 0) Read(clients_[at]);
     if ((ready & POLLOUT) != 0) Write(clients_[at]);
   }
-  RemoveCut();
+  RemoveCut(clients_);
   if ((waits[0].revents & POLLIN) != 0) Accept();
 }
 
@@ -79,25 +77,12 @@ void AgwServer::Accept() {
 }
 
 void AgwServer::Read(Client& client) {
-  std::array<char, kBlock> block;
-  const ssize_t length = ::recv(client.Descriptor, block.data(), block.size(), 0);
-  if (length <= 0) {
-    client.Cut = length == 0 || !WouldWait();
-    return;
-  }
-  client.Received.append(block.data(), static_cast<std::size_t>(length));
+  client.Cut = !ReceiveSome(client.Descriptor, kBlock, client.Received);
   TakeFrames(client);
 }
 
 void AgwServer::Write(Client& client) {
-  if (client.Cut || client.Unsent.empty()) return;
-  const ssize_t length =
-      ::send(client.Descriptor, client.Unsent.data(), client.Unsent.size(), MSG_NOSIGNAL);
-  if (length < 0) {
-    client.Cut = !WouldWait();
-    return;
-  }
-  client.Unsent.erase(0, static_cast<std::size_t>(length));
+  if (!client.Cut) client.Cut = !SendSome(client.Descriptor, client.Unsent);
 }
 
 void AgwServer::TakeFrames(Client& client) {
@@ -151,14 +136,7 @@ void AgwServer::Broadcast(std::string_view frame) {
     if (client.Unsent.size() > kMostUnsent) client.Cut = true;
     Write(client);
   }
-  RemoveCut();
-}
-
-void AgwServer::RemoveCut() {
-  std::erase_if(clients_, [](const Client& client) {
-    if (client.Cut) ::close(client.Descriptor);
-    return client.Cut;
-  });
+  RemoveCut(clients_);
 }
 
 }  // namespace zepril

@@ -71,7 +71,6 @@ class AgwServer {
   void Write(Client& client);
   void TakeFrames(Client& client);
   void TakeFrame(Client& client, std::string_view frame);
-  void RemoveCut();
 
   int listener_;
   int port_;

@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 
 #include "core/text_fields.h"
 #include "gate/aprs_is_login.h"
@@ -89,7 +88,7 @@ void AprsIsServer::Serve(int milliseconds) {
     }
     Write(clients_[at]);
   }
-  RemoveCut();
+  RemoveCut(clients_);
   if ((waits[0].revents & POLLIN) != 0) Accept();
 }
 
@@ -106,21 +105,16 @@ void AprsIsServer::Accept() {
   client.Unsent = kGreeting;
   client.Cut = manners_.ClosesAtByte == std::size_t{0};
   Write(client);
-  RemoveCut();
+  RemoveCut(clients_);
 }
 
 void AprsIsServer::Read(Client& client) {
-  std::array<char, kBlock> block;
   // One that hangs up takes no byte more than it says.
   const std::size_t most =
       manners_.ClosesAtByte ? std::min(*manners_.ClosesAtByte - client.BytesCame, kBlock) : kBlock;
-  const ssize_t length = ::recv(client.Descriptor, block.data(), most, 0);
-  if (length <= 0) {
-    client.Cut = length == 0 || !WouldWait();
-    return;
-  }
-  client.BytesCame += static_cast<std::size_t>(length);
-  client.Received.append(block.data(), static_cast<std::size_t>(length));
+  const std::size_t before = client.Received.size();
+  client.Cut = !ReceiveSome(client.Descriptor, most, client.Received);
+  client.BytesCame += client.Received.size() - before;
   TakeLines(client);
   if (client.BytesCame == manners_.ClosesAtByte) client.Cut = true;
 }
@@ -154,22 +148,10 @@ void AprsIsServer::Write(Client& client) {
     client.Answer.clear();
   }
   if (manners_.Babbles && client.Unsent.empty()) client.Unsent.assign(kBlock, 'x');
-  if (client.Cut || client.Unsent.empty()) return;
-  const ssize_t length =
-      ::send(client.Descriptor, client.Unsent.data(), client.Unsent.size(), MSG_NOSIGNAL);
-  if (length < 0) {
-    client.Cut = !WouldWait();
-    return;
-  }
-  bytes_sent_ += static_cast<std::size_t>(length);
-  client.Unsent.erase(0, static_cast<std::size_t>(length));
-}
-
-void AprsIsServer::RemoveCut() {
-  std::erase_if(clients_, [](const Client& client) {
-    if (client.Cut) ::close(client.Descriptor);
-    return client.Cut;
-  });
+  if (client.Cut) return;
+  const std::size_t before = client.Unsent.size();
+  client.Cut = !SendSome(client.Descriptor, client.Unsent);
+  bytes_sent_ += before - client.Unsent.size();
 }
 
 }  // namespace zepril

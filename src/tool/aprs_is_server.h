@@ -73,7 +73,6 @@ class AprsIsServer {
   void TakeLines(Client& client);
   void TakeLogin(Client& client, std::string_view line);
   void Write(Client& client);
-  void RemoveCut();
 
   int listener_;
   int port_;

@@ -42,6 +42,11 @@ int Listen(int listener, int port) {
   return ntohs(address.sin_port);
 }
 
+// The last read or write could not go on at once: nothing is wrong.
+bool WouldWait() {
+  return errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR;
+}
+
 }  // namespace
 
 Listener ListenOnLoopback(int port) {
@@ -60,8 +65,19 @@ int AcceptClient(int listener) {
   return -1;
 }
 
-bool WouldWait() {
-  return errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR;
+bool ReceiveSome(int descriptor, std::size_t most, std::string& received) {
+  const std::size_t before = received.size();
+  received.resize(before + most);
+  const ssize_t length = ::recv(descriptor, received.data() + before, most, 0);
+  received.resize(before + (length > 0 ? static_cast<std::size_t>(length) : 0));
+  return length > 0 || (length < 0 && WouldWait());
+}
+
+bool SendSome(int descriptor, std::string& unsent) {
+  if (unsent.empty()) return true;
+  const ssize_t length = ::send(descriptor, unsent.data(), unsent.size(), MSG_NOSIGNAL);
+  if (length > 0) unsent.erase(0, static_cast<std::size_t>(length));
+  return length >= 0 || WouldWait();
 }
 
 }  // namespace zepril

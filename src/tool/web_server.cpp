@@ -5,8 +5,6 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <array>
-
 #include "core/text_fields.h"
 #include "tool/loopback_listener.h"
 
@@ -85,7 +83,7 @@ void WebServer::Serve(int milliseconds) {
     if ((ready & (POLLIN | POLLHUP | POLLERR)) != 0) Read(clients_[at]);
     if ((ready & POLLOUT) != 0) Write(clients_[at]);
   }
-  RemoveCut();
+  RemoveCut(clients_);
   if ((waits[0].revents & POLLIN) == 0) return;
   const int descriptor = AcceptClient(listener_);
   if (descriptor < 0) return;
@@ -97,14 +95,10 @@ void WebServer::Serve(int milliseconds) {
 }
 
 void WebServer::Read(Client& client) {
-  std::array<char, kBlock> block;
-  const ssize_t length = ::recv(client.Descriptor, block.data(), block.size(), 0);
-  if (length <= 0) {
-    client.Cut = length == 0 || !WouldWait();
-    return;
-  }
-  if (client.Answered) return;
-  client.Head.append(block.data(), static_cast<std::size_t>(length));
+  client.Cut = !ReceiveSome(client.Descriptor, kBlock, client.Head);
+  // What comes behind its question is passed over.
+  if (client.Answered) client.Head.clear();
+  if (client.Cut || client.Answered) return;
   if (client.Head.find(kHeadEnd) != std::string::npos) return Answer(client);
   client.Cut = client.Head.size() > kLongestHead;
 }
@@ -124,21 +118,7 @@ void WebServer::Answer(Client& client) {
 
 void WebServer::Write(Client& client) {
   if (client.Cut || client.Unsent.empty()) return;
-  const ssize_t length =
-      ::send(client.Descriptor, client.Unsent.data(), client.Unsent.size(), MSG_NOSIGNAL);
-  if (length < 0) {
-    client.Cut = !WouldWait();
-    return;
-  }
-  client.Unsent.erase(0, static_cast<std::size_t>(length));
-  client.Cut = client.Unsent.empty();
-}
-
-void WebServer::RemoveCut() {
-  std::erase_if(clients_, [](const Client& client) {
-    if (client.Cut) ::close(client.Descriptor);
-    return client.Cut;
-  });
+  client.Cut = !SendSome(client.Descriptor, client.Unsent) || client.Unsent.empty();
 }
 
 }  // namespace zepril

@@ -64,7 +64,6 @@ class WebServer {
   void Read(Client& client);
   void Write(Client& client);
   void Answer(Client& client);
-  void RemoveCut();
 
   int listener_;
   int port_;
