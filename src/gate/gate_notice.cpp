@@ -1,6 +1,7 @@
 // Tells the stages apart and words them.
 #include "gate/gate_notice.h"
 
+#include "core/clock_text.h"
 #include "core/radio_rules.h"
 #include "core/text_fields.h"
 #include "core/texts/gate_texts.h"
@@ -8,15 +9,11 @@
 namespace zepril {
 namespace {
 
-std::string TimeText(const LocalTime& time) {
-  return ZeroPadded(time.Hour, 2) + ":" + ZeroPadded(time.Minute, 2);
-}
-
 std::string GatedWords(const LocalTime& since, const GateTally& tally) {
-  if (tally.Lines == 0) return gate_texts::kConnected.With({TimeText(since)});
+  if (tally.Lines == 0) return gate_texts::kConnected.With({ClockText(since)});
   const std::string lines = tally.Lines == 1 ? std::string(gate_texts::kOneLine)
                                              : gate_texts::kLines.With({WholeNumber(tally.Lines)});
-  return gate_texts::kGated.With({TimeText(since), lines, TimeText(tally.FirstAt)});
+  return gate_texts::kGated.With({ClockText(since), lines, ClockText(tally.FirstAt)});
 }
 
 Text ReasonText(NotGated why) {
@@ -63,11 +60,11 @@ std::string GateStageWords(GateStage stage, const std::string& server, const Loc
     case GateStage::NoServer:
       return std::string(gate_texts::kNoServer);
     case GateStage::Connecting:
-      return gate_texts::kConnecting.With({server, TimeText(since)});
+      return gate_texts::kConnecting.With({server, ClockText(since)});
     case GateStage::LoggingIn:
-      return gate_texts::kLoggingIn.With({server, TimeText(since)});
+      return gate_texts::kLoggingIn.With({server, ClockText(since)});
     case GateStage::Refused:
-      return gate_texts::kRefused.With({server, TimeText(since)});
+      return gate_texts::kRefused.With({server, ClockText(since)});
     case GateStage::LoggedIn:
       break;
   }
@@ -77,7 +74,7 @@ std::string GateStageWords(GateStage stage, const std::string& server, const Loc
 std::string LastNotGatedWords(const GateTally& tally) {
   if (tally.NotGated == 0) return {};
   return gate_texts::kLastNotGated.With(
-      {TimeText(tally.LastNotAt), std::string(ReasonText(tally.LastWhy))});
+      {ClockText(tally.LastNotAt), std::string(ReasonText(tally.LastWhy))});
 }
 
 void GateNotice::Renew() {

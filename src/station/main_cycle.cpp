@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "core/clock_text.h"
 #include "core/radio_rules.h"
 #include "core/state_colours.h"
 #include "core/text_fields.h"
@@ -124,7 +125,7 @@ MainCycle::Outcome MainCycle::CountScan() {
 }
 
 void MainCycle::RenewStatusLine() {
-  std::string line = " " + ClockText();
+  std::string line = " " + ClockText(clock_.Now());
   if (!HasNoRadio(state_.Radio)) {
     line = state_.Radio.BaudModeLabel + "  " + line;
   }
@@ -174,7 +175,7 @@ MainCycle::Outcome MainCycle::Identify() {
   if (!GateIsPossible(state_.Radio)) return Outcome::GoOn;
   // The third character spreads the stations over the hour; a letter reads as 0.
   const int offset = static_cast<int>(Val(Mid(state_.Identity.MyCall, 3, 1)));
-  const std::string time = ClockText();
+  const std::string time = ClockText(clock_.Now());
   const int minute = clock_.Now().Minute;
   if ((minute - offset) % 20 != 0 || time == state_.Transmission.LastIdBeaconTime) {
     return Outcome::GoOn;
@@ -297,11 +298,6 @@ void MainCycle::KeepPanelWidths() {
 int MainCycle::ClockHhMm() const {
   const LocalTime now = clock_.Now();
   return now.Hour * 100 + now.Minute;
-}
-
-std::string MainCycle::ClockText() const {
-  const LocalTime now = clock_.Now();
-  return ZeroPadded(now.Hour, 2) + ":" + ZeroPadded(now.Minute, 2);
 }
 
 void MainCycle::Timer2Elapsed() {

@@ -60,7 +60,6 @@ class MainCycle {
   void KeepPanelWidths();
 
   int ClockHhMm() const;
-  std::string ClockText() const;
 
   RuntimeState& state_;
   MainWindowControls& controls_;

@@ -1,8 +1,8 @@
 // Words each outcome, and takes it away after its time.
 #include "transmit/tx_outcome.h"
 
+#include "core/clock_text.h"
 #include "core/state_colours.h"
-#include "core/text_fields.h"
 #include "core/texts/status_texts.h"
 
 namespace zepril {
@@ -32,7 +32,7 @@ Text Reason(Delivery delivery) {
 
 std::string OutcomeWords(Delivery delivery, const LocalTime& now) {
   if (delivery != Delivery::Sent) return status_texts::kNotSent.With({Reason(delivery)});
-  return status_texts::kSent.With({ZeroPadded(now.Hour, 2) + ":" + ZeroPadded(now.Minute, 2)});
+  return status_texts::kSent.With({ClockText(now)});
 }
 
 TxOutcome::TxOutcome(TransmitControls& controls, const Clock& clock)
