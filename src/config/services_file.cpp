@@ -19,7 +19,12 @@ struct ServiceRow {
   std::string ServicesState::*Host;
 };
 
-constexpr std::array<ServiceRow, 1> kServices{{{"APRSCGISERVICE", &ServicesState::AprsCgiService}}};
+constexpr std::array<ServiceRow, 4> kServices{{
+    {"APRSCGISERVICE", &ServicesState::AprsCgiService},
+    {"APRSRESTSERVICE", &ServicesState::AprsRestService},
+    {"IONOPAGEA", &ServicesState::IonoPageA},
+    {"IONOPAGEB", &ServicesState::IonoPageB},
+}};
 
 bool IsPlain(std::string_view value) {
   return value.find(' ') == std::string_view::npos &&

@@ -47,11 +47,30 @@ TEST(ServicesFile, NeitherLongLinesNorManyAreBelieved) {
   EXPECT_EQ(ServiceIn(many + "APRSCGISERVICE=a.example\n"), "");
 }
 
-TEST(ServicesFile, TheShippedOneIsReadAndTurnsNothingOn) {
+TEST(ServicesFile, EachServiceHasItsKey) {
+  MemoryFiles files;
+  files.Contents[R"(C:\Z\SERVICES.TXT)"] =
+      "APRSCGISERVICE=a.example\nAPRSRESTSERVICE=b.example\n"
+      "IONOPAGEA=c.example/magnetogram/index.html\nIONOPAGEB=https://d.example/text/sgas.txt\n";
+  const ServicesState services = ReadServicesFile(files, R"(C:\Z)");
+  EXPECT_EQ(services.AprsCgiService, "http://a.example");
+  EXPECT_EQ(services.AprsRestService, "http://b.example");
+  EXPECT_EQ(services.IonoPageA, "http://c.example/magnetogram/index.html");
+  EXPECT_EQ(services.IonoPageB, "https://d.example/text/sgas.txt");
+}
+
+// Only what is known to answer has an address.
+TEST(ServicesFile, TheShippedOneIsRead) {
   std::ifstream file(std::string(ZEPRIL_SOURCE_DIR) + "/data/SERVICES.TXT", std::ios::binary);
   const std::string text((std::istreambuf_iterator<char>(file)), {});
   EXPECT_NE(text.find("\r\nAPRSCGISERVICE="), std::string::npos);
   EXPECT_EQ(ServiceIn(text), "");
+  MemoryFiles files;
+  files.Contents[R"(C:\Z\SERVICES.TXT)"] = text;
+  const ServicesState services = ReadServicesFile(files, R"(C:\Z)");
+  EXPECT_EQ(services.AprsRestService, "");
+  EXPECT_EQ(services.IonoPageA, "");
+  EXPECT_EQ(services.IonoPageB, "https://services.swpc.noaa.gov/text/sgas.txt");
 }
 
 }  // namespace

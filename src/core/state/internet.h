@@ -18,6 +18,9 @@ enum class Gate { Off = 0, On = 1 };
 // Its link to a server.
 enum class GateLink { Down = 0, Up = 1 };
 
+// Where the packets of the followed station come from.
+enum class InternetSource { RestService = 0, CgiService = 1 };
+
 struct InternetState {
   std::string AprsIsServer;
   std::string AprsIsPort = "14580";
@@ -28,6 +31,11 @@ struct InternetState {
   std::array<GatedLine, 5> RecentlyGated;  // newest last
   int UiDigiWindow = 0;  // process of the digipeater program beside the engine; 0: none runs
 
+  InternetSource InetSource = InternetSource::RestService;
+  bool InetNoData = false;      // the last reply said that there is nothing; kept, nothing reads it
+  int InetTries = 0;            // fetches since the switch was set, at most 3; nothing reads it
+  std::string WebRequestUrl;    // the address being loaded
+  std::string InetRawText;      // lines waiting for decoding
   double InetSwitchTime = 0.0;  // timer value of the last operation of an internet switch
   double InetMaxOnSeconds = 900.0;
   int Moni1ScanOn = 0;
@@ -38,6 +46,8 @@ struct InternetState {
   double SunspotNumber = 40.0;
   double KpIndex = 2.0;
   int IonoAutoOn = 1;
+  bool IonoNeedSunspot = false;
+  bool IonoNeedK = false;
   double LastIonoTimer = 0.0;  // timer value
 };
 

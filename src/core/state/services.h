@@ -1,4 +1,4 @@
-// Where the web services are. One without a host is off.
+// Where the web services are. One without an address is off.
 #pragma once
 
 #include <string>
@@ -7,6 +7,9 @@ namespace zepril {
 
 struct ServicesState {
   std::string AprsCgiService;  // scheme and host, no slash at the end: "https://aprs.example"
+  std::string AprsRestService;
+  std::string IonoPageA;  // whole addresses: the observatory's page
+  std::string IonoPageB;  // and the daily text of space weather
 };
 
 }  // namespace zepril
