@@ -2,6 +2,7 @@
 #include "messages/web_messages.h"
 
 #include <utility>
+#include <vector>
 
 #include "core/state_colours.h"
 #include "core/text_fields.h"
@@ -26,9 +27,9 @@ WebMessages::~WebMessages() {
 
 std::string WebMessages::Send(const std::string& frame_text) {
   if (services_.AprsCgiService.empty()) return chat_texts::kServiceOff;
-  const std::int64_t number =
-      tools_.Pages.Fetch(WebMessageUrl(services_.AprsCgiService, identity_.MyCallFull, frame_text),
-                         [this](const Page& page) { PageCame(page); });
+  const std::int64_t number = tools_.Pages.Fetch(
+      WebMessageUrl(services_.AprsCgiService, identity_.MyCallFull, frame_text),
+      [this](const Page& page) { PageCame(page); }, Asking::Once);
   if (number == PageFetcher::kNone) return chat_texts::kServiceFull;
   if (under_way_.empty()) since_ = tools_.LocalClock.MonotonicSeconds();
   under_way_.push_back({number, frame_text});
@@ -50,9 +51,10 @@ void WebMessages::ShowBanner() {
 
 void WebMessages::PageCame(const Page& page) {
   if (page.Outcome == PageOutcome::Loaded) {
-    tools_.LocalClock.Wait(kPauseSeconds);
+    // Before the pause, in which a second passes.
     FirstIsDone(page.IsGood() ? std::string()
                               : chat_texts::kServiceRefused.With({WholeNumber(page.Status)}));
+    tools_.LocalClock.Wait(kPauseSeconds);
     if (under_way_.empty()) Rest();
     return;
   }
@@ -65,6 +67,8 @@ void WebMessages::FirstIsDone(const std::string& trouble) {
   since_ = tools_.LocalClock.MonotonicSeconds();
   const Sending first = std::move(under_way_.front());
   under_way_.pop_front();
+  // The banner is there for the next one as long.
+  if (!under_way_.empty()) tools_.Timer2.Arm(kPatienceMilliseconds);
   if (!trouble.empty() && failed_) failed_(first.FrameText, trouble);
 }
 
@@ -76,9 +80,29 @@ void WebMessages::Rest() {
   tools_.Timer1.Enable();
 }
 
+void WebMessages::DropWaiting() {
+  std::vector<Sending> dropped;
+  std::erase_if(under_way_, [&](const Sending& sending) {
+    if (tools_.Pages.IsUnderWay(sending.Number) || IsForWebOnly(sending.FrameText)) return false;
+    dropped.push_back(sending);
+    return true;
+  });
+  if (dropped.empty()) return;
+  for (const Sending& sending : dropped)
+    tools_.Pages.Drop(sending.Number);
+  if (under_way_.empty()) Rest();
+  // Who is told may look here again.
+  for (const Sending& sending : dropped) {
+    if (failed_) failed_(sending.FrameText, chat_texts::kChatClosed);
+  }
+}
+
 void WebMessages::SecondPassed() {
   if (under_way_.empty()) return;
-  const double waited = tools_.LocalClock.MonotonicSeconds() - since_;
+  // Pages of others may be before it in the line.
+  const double now = tools_.LocalClock.MonotonicSeconds();
+  if (!tools_.Pages.IsUnderWay(under_way_.front().Number)) since_ = now;
+  const double waited = now - since_;
   if (waited * 1000.0 < kPatienceMilliseconds) return;
   const std::int64_t number = under_way_.front().Number;
   FirstIsDone(chat_texts::kServiceSilent);

@@ -52,6 +52,8 @@ class WebMessages {
   // Hands the message over. Why that was not possible, in words; else an empty text.
   std::string Send(const std::string& frame_text);
   bool IsBusy() const { return !under_way_.empty(); }
+  // The chat was closed: what the form has not yet been asked for is not sent. Replies stay.
+  void DropWaiting();
   // Once a second: who does not answer is given up.
   void SecondPassed();
 

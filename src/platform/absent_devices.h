@@ -41,7 +41,7 @@ class AbsentEngine final : public MonitorEngine {
 // Nothing is ever fetched.
 class AbsentPages final : public PageFetcher {
  private:
-  void Begin(const std::string&) override {}
+  void Begin(const std::string&, Asking) override {}
   void Abandon() override {}
 };
 

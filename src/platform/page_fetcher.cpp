@@ -43,10 +43,10 @@ std::string SendableUrl(std::string_view url) {
   return sendable;
 }
 
-std::int64_t PageFetcher::Fetch(std::string url, Done done) {
+std::int64_t PageFetcher::Fetch(std::string url, Done done, Asking asking) {
   if (waiting_.size() >= kMostWaiting) return kNone;
   const std::int64_t number = ++last_number_;
-  waiting_.push_back({number, std::move(url), std::move(done)});
+  waiting_.push_back({number, std::move(url), std::move(done), asking});
   BeginNext();
   return number;
 }
@@ -82,7 +82,7 @@ void PageFetcher::BeginNext() {
   if (current_ || telling_ || waiting_.empty()) return;
   current_ = std::move(waiting_.front());
   waiting_.pop_front();
-  Begin(current_->Url);
+  Begin(current_->Url, current_->How);
 }
 
 }  // namespace zepril

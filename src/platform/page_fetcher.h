@@ -28,6 +28,12 @@ struct Page {
   bool IsGood() const { return Outcome == PageOutcome::Loaded && Status >= 200 && Status < 300; }
 };
 
+// How often a server may be asked when its answer does not come.
+enum class Asking {
+  Freely,  // again, where a connection breaks before an answer
+  Once,    // what the request brings about must not be done twice
+};
+
 // Who asks is told once, unless he has dropped the page or the line was stopped. There is no limit
 // of time: he knows how long he wants to wait.
 class PageFetcher {
@@ -41,15 +47,17 @@ class PageFetcher {
   virtual ~PageFetcher() = default;
 
   // A number by which the page can be dropped; kNone when too many wait already.
-  std::int64_t Fetch(std::string url, Done done);
+  std::int64_t Fetch(std::string url, Done done, Asking asking = Asking::Freely);
   // Ends the fetch of one page, or takes it out of the line; the next one begins.
   void Drop(std::int64_t number);
   // Ends the fetch under way and empties the line.
   void Stop();
   bool IsBusy() const { return current_.has_value(); }
+  // It has had its turn and its answer is waited for.
+  bool IsUnderWay(std::int64_t number) const { return current_ && current_->Number == number; }
 
  protected:
-  virtual void Begin(const std::string& url) = 0;
+  virtual void Begin(const std::string& url, Asking asking) = 0;
   // Ends what was begun; nothing more of it is told.
   virtual void Abandon() = 0;
   // What was begun has come to its end. Not from within `Begin`.
@@ -60,6 +68,7 @@ class PageFetcher {
     std::int64_t Number = kNone;
     std::string Url;
     Done WhenDone;
+    Asking How = Asking::Freely;
   };
 
   void BeginNext();

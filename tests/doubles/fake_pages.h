@@ -28,10 +28,14 @@ class FakePages final : public PageFetcher {
   }
 
   std::vector<std::string> Asked;  // addresses as they began to be fetched
+  std::vector<Asking> How;         // of each of them
   int Abandoned = 0;
 
  private:
-  void Begin(const std::string& url) override { Asked.push_back(url); }
+  void Begin(const std::string& url, Asking asking) override {
+    Asked.push_back(url);
+    How.push_back(asking);
+  }
   void Abandon() override { ++Abandoned; }
 };
 

@@ -122,6 +122,90 @@ TEST_F(WebMessagesTest, AFormThatNeverAnswersIsGivenUpAfterAMinute) {
   EXPECT_EQ(world.Controls.Chat.Text1[7].ToolTip, "given up: the message service did not answer");
 }
 
+// The pause behind a page is one in which a second passes.
+TEST_F(WebMessagesTest, APageThatComesWithTheLastSecondIsTakenOnce) {
+  for (const std::size_t lines : {std::size_t{1}, std::size_t{2}}) {
+    MessagesWorld late{RadioMode::None};
+    for (std::size_t line = 0; line < lines; ++line)
+      late.Type("AB1CD", "Hello");
+    late.Room.Sender.RetryPass();
+    late.Clock.Run(59.5);
+    late.Clock.Schedule(0.7, [&late] { late.Room.SecondPassed(); });
+    late.Pages.Answer("");
+    EXPECT_EQ(late.Pages.Asked.size(), lines);
+    EXPECT_EQ(late.Controls.Chat.Text1[8 - lines].ToolTip, "handed to the message service");
+    EXPECT_EQ(late.Room.Web.IsBusy(), lines == 2);
+    if (lines == 2) late.Pages.Answer("");
+    EXPECT_FALSE(late.Room.Web.IsBusy());
+    EXPECT_EQ(late.Controls.Chat.Text1[7].ToolTip, "handed to the message service");
+    EXPECT_TRUE(late.Timer1.Enabled());
+  }
+}
+
+TEST_F(WebMessagesTest, WhoWaitsBehindPagesOfOthersHasHisWholeMinute) {
+  world.Pages.Fetch("http://other.example/", nullptr);
+  world.Type("AB1CD", "Hello");
+  world.Room.Sender.RetryPass();
+  for (int second = 0; second < 100; ++second) {
+    world.Clock.Run(1.0);
+    world.Room.SecondPassed();
+  }
+  EXPECT_EQ(world.Pages.Asked.size(), 1U);
+  world.Pages.Answer("");
+  EXPECT_EQ(world.Pages.Asked.size(), 2U);
+  world.Clock.Run(59.0);
+  world.Room.SecondPassed();
+  EXPECT_TRUE(world.Room.Web.IsBusy());
+  world.Pages.Answer("");
+  EXPECT_EQ(world.Controls.Chat.Text1[7].ToolTip, "handed to the message service");
+}
+
+TEST_F(WebMessagesTest, TheBannerIsThereForEachAsLong) {
+  world.Type("AB1CD", "a");
+  world.Type("AB1CD", "b");
+  world.Room.Sender.RetryPass();
+  world.Clock.Run(50.0);
+  world.Timer2.Stop();
+  world.Pages.Answer("");
+  EXPECT_TRUE(world.Timer2.Enabled());
+  EXPECT_EQ(world.Timer2.IntervalMs(), 60000);
+}
+
+TEST_F(WebMessagesTest, WithTheChatClosedWhatWaitsIsNotSentAndSaid) {
+  world.Type("AB1CD", "a");
+  world.Type("AB1CD", "b");
+  world.Room.Sender.RetryPass();
+  world.State.Chat.ChatTxText = ":AB1CD    :mok07";
+  world.Room.Sender.SendChatFrame();
+  world.Controls.Chat.Check7.Value = 0;
+  world.Room.Panel.Renew();
+  EXPECT_EQ(world.Controls.Chat.Text1[7].ToolTip,
+            "given up: the chat was closed before its turn came");
+  EXPECT_EQ(world.Controls.Chat.Text1[6].ToolTip, "handed to the message service");
+  // The one that is under way goes on, and so do replies.
+  world.Pages.Answer("");
+  EXPECT_THAT(world.Pages.Asked,
+              ElementsAre(std::string(kForm) + "a{01", std::string(kForm) + "mok07"));
+  world.Pages.Answer("");
+  EXPECT_TRUE(world.Timer1.Enabled());
+}
+
+TEST_F(WebMessagesTest, TheFormIsAskedOnce) {
+  world.Type("AB1CD", "Hello");
+  world.Room.Sender.RetryPass();
+  EXPECT_THAT(world.Pages.How, ElementsAre(Asking::Once));
+}
+
+TEST_F(WebMessagesTest, AQueryIsHandedOverOnceToo) {
+  world.Type("AB1CD", "?APRST");
+  EXPECT_EQ(world.Newest().Colour, 254U);
+  world.Room.Sender.RetryPass();
+  world.Pages.Answer("");
+  EXPECT_EQ(world.Newest().Colour, 0x5FF0U);
+  world.Room.Sender.RetryPass();
+  EXPECT_THAT(world.Pages.Asked, ElementsAre(std::string(kForm) + "?APRST"));
+}
+
 TEST_F(WebMessagesTest, ALatePageIsStillTaken) {
   world.Type("AB1CD", "Hello");
   world.Room.Sender.RetryPass();

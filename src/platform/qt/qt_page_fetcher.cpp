@@ -37,7 +37,7 @@ QtPageFetcher::~QtPageFetcher() {
   Abandon();
 }
 
-void QtPageFetcher::Begin(const std::string& url) {
+void QtPageFetcher::Begin(const std::string& url, Asking asking) {
   page_ = {};
   const QUrl address = UrlOf(url);
   if (address.isEmpty()) return TellAfterThisStep();
@@ -49,10 +49,17 @@ void QtPageFetcher::Begin(const std::string& url) {
   request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
   request.setMaximumRedirectsAllowed(kMostRedirects);
   request.setDecompressedSafetyCheckThreshold(static_cast<qint64>(kLargestPage));
-  reply_ = manager_.get(request);
+  reply_ = asking == Asking::Once ? AskOnce(std::move(request)) : manager_.get(request);
   reply_->setReadBufferSize(kBytesAtOnce);
   QObject::connect(reply_, &QNetworkReply::readyRead, &context_, [this] { TakeBytes(); });
   QObject::connect(reply_, &QNetworkReply::finished, &context_, [this] { Ended(); });
+}
+
+QNetworkReply* QtPageFetcher::AskOnce(QNetworkRequest request) {
+  request.setHeader(QNetworkRequest::ContentLengthHeader, 0);
+  request.setHeader(QNetworkRequest::ContentTypeHeader, QByteArrayLiteral("text/plain"));
+  request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
+  return manager_.sendCustomRequest(request, QByteArrayLiteral("GET"), &no_body_);
 }
 
 void QtPageFetcher::Abandon() {

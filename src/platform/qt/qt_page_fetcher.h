@@ -1,7 +1,9 @@
 // Pages by Qt's network access: http and https, redirects, packed answers, no cache, no cookies.
 #pragma once
 
+#include <QIODevice>
 #include <QNetworkAccessManager>
+#include <QNetworkRequest>
 #include <QObject>
 #include <QPointer>
 
@@ -16,6 +18,18 @@ class QNetworkReply;
 
 namespace zepril {
 
+// A body without a byte that can't be read a second time. Qt asks again by itself when a connection
+// breaks before the answer, but for a request that goes with such a body.
+class NoBody final : public QIODevice {
+ public:
+  NoBody() { open(QIODevice::ReadOnly); }
+  bool isSequential() const override { return true; }
+
+ protected:
+  qint64 readData(char*, qint64) override { return -1; }
+  qint64 writeData(const char*, qint64) override { return -1; }
+};
+
 // Who asked is told in a step of his own, never within another one.
 class QtPageFetcher final : public PageFetcher {
  public:
@@ -26,7 +40,8 @@ class QtPageFetcher final : public PageFetcher {
   ~QtPageFetcher() override;
 
  private:
-  void Begin(const std::string& url) override;
+  void Begin(const std::string& url, Asking asking) override;
+  QNetworkReply* AskOnce(QNetworkRequest request);
   void Abandon() override;
   void TakeBytes();
   void Ended();
@@ -36,6 +51,7 @@ class QtPageFetcher final : public PageFetcher {
   std::string program_;
   QNetworkAccessManager manager_;
   QPointer<QNetworkReply> reply_;
+  NoBody no_body_;
   Page page_;        // under way, or not yet told
   QObject context_;  // of what Qt tells
   // Rises with each page that was begun or given up; shared with what was posted.

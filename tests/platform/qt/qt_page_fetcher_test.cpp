@@ -44,11 +44,14 @@ class QtPageFetcherTest : public ::testing::Test {
   std::string Url(const std::string& path) const {
     return "http://127.0.0.1:" + std::to_string(server.serverPort()) + path;
   }
-  std::int64_t Ask(const std::string& url) {
-    return pages.Fetch(url, [this](const Page& page) {
-      in_step = loop.InStep();
-      told.push_back(page);
-    });
+  std::int64_t Ask(const std::string& url, Asking asking = Asking::Freely) {
+    return pages.Fetch(
+        url,
+        [this](const Page& page) {
+          in_step = loop.InStep();
+          told.push_back(page);
+        },
+        asking);
   }
   bool Comes(std::size_t count) {
     return PumpUntil([this, count] { return told.size() >= count; });
@@ -177,6 +180,24 @@ TEST_F(QtPageFetcherTest, AnAnswerBrokenOffFails) {
     ASSERT_TRUE(Comes(told.size() + 1)) << length;
     EXPECT_EQ(told.back().Outcome, PageOutcome::Failed) << length;
   }
+}
+
+// A message that was taken and not answered would be sent twice.
+TEST_F(QtPageFetcherTest, WhatMustNotBeDoneTwiceIsAskedOnce) {
+  answer = [](QTcpSocket& peer) { peer.disconnectFromHost(); };
+  Ask(Url("/form?msg=a"), Asking::Once);
+  ASSERT_TRUE(Comes(1));
+  EXPECT_EQ(told[0].Outcome, PageOutcome::Failed);
+  EXPECT_EQ(requests.size(), 1U);
+  EXPECT_TRUE(requests[0].starts_with("GET /form?msg=a HTTP/1.1\r\n")) << requests[0];
+  // Again and again, and where an answer comes.
+  answer = [](QTcpSocket& peer) { Say(peer, Whole("taken")); };
+  Ask(Url("/form?msg=b"), Asking::Once);
+  Ask(Url("/form?msg=c"), Asking::Once);
+  ASSERT_TRUE(Comes(3));
+  EXPECT_EQ(told[1].Body, "taken");
+  EXPECT_EQ(told[2].Body, "taken");
+  EXPECT_EQ(requests.size(), 3U);
 }
 
 TEST_F(QtPageFetcherTest, AnEndlessPageIsGivenUp) {
