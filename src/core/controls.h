@@ -44,6 +44,7 @@ struct Control {
   bool LeaveWanted = false;  // gives the focus back to the map; taken and cleared by the desktop
   bool HasFocus = false;     // set by the desktop
   Presses PressesInWaits = Presses::OneKept;
+  bool PressWaits = false;  // pressed in the step under way, not acted on yet; set by the desktop
 
   // From the control's row in core/texts, empty without one.
   std::string Name;        // of its widget too

@@ -52,6 +52,11 @@ class Binder final : public QObject {
   void OnControlsOut(std::function<void()> out) { outs_.push_back(std::move(out)); }
   // Brings all changed properties to the widgets.
   void ControlsOut();
+  // `event`, which is held until the step under way has ended, presses a control in `window`: that
+  // is noted.
+  void NotePress(const QObject& window, const QEvent& event);
+  // The step has ended: what was noted acts.
+  void ForgetPresses();
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -2,16 +2,28 @@
 #include "desktop/binder.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QWindow>
 
 #include "desktop/keys.h"
 
 namespace zepril {
+namespace {
+
+const QWidget* WidgetAt(const QObject& window, const QPoint& place) {
+  for (const QWidget* top : QApplication::topLevelWidgets()) {
+    if (top->windowHandle() == &window) return top->childAt(place);
+  }
+  return nullptr;
+}
+
+}  // namespace
 
 // True: the widget itself does not get it.
 bool Binder::Released(const Watched& row, const QMouseEvent& event) {
@@ -61,6 +73,25 @@ bool Binder::IsPressKey(const Watched& row, const QKeyEvent& event) {
   if (!IsClickKey(event)) return false;
   const bool types = row.KeyDown && event.key() == Qt::Key_Space;
   return !types && qobject_cast<QPlainTextEdit*>(row.Widget) == nullptr;
+}
+
+void Binder::NotePress(const QObject& window, const QEvent& event) {
+  const QWidget* pressed = nullptr;
+  if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick) {
+    const auto& press = static_cast<const QMouseEvent&>(event);
+    if (press.button() == Qt::LeftButton) pressed = WidgetAt(window, press.position().toPoint());
+  } else if (event.type() == QEvent::KeyPress) {
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    if (!key.isAutoRepeat() && PressesButton(key)) pressed = QApplication::focusWidget();
+  }
+  for (const Watched& row : watched_) {
+    if (pressed != nullptr && row.Widget == pressed) row.Subject->PressWaits = true;
+  }
+}
+
+void Binder::ForgetPresses() {
+  for (const Watched& row : watched_)
+    row.Subject->PressWaits = false;
 }
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {

@@ -166,7 +166,7 @@ void DesktopProgram::ShowMainWindow() {
   window_->Closed = [this] { End(true); };
   machine_.Loop.ControlsOut = nullptr;  // the start window's
   machine_.Loop.ControlsOut = [this] { window_->ControlsOut(); };
-  machine_.Loop.StepEnded = [this] { window_->CloseWhenAsked(); };
+  machine_.Loop.StepEnded = [this] { window_->StepEnded(); };
   window_->TakeKept(ReadWindowFile(*files_, places_.ProgramFolder));
   window_->show();
   KeepPlaces();

@@ -93,6 +93,10 @@ MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fo
     return QPointF(view.CursorX, view.CursorY);
   };
 
+  loop_.InputHeld() = [this](const QObject& window, const QEvent& event) {
+    binder_.NotePress(window, event);
+  };
+
   // Ages grow, and what is told for some seconds goes, also when nothing happens.
   lamp_timer_.setInterval(1000);
   connect(&lamp_timer_, &QTimer::timeout, this, [this] {
@@ -297,6 +301,11 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   loop_.AskForEnd(true);
   // Inside a step the request is kept until the outermost one has returned.
   if (!loop_.InStep()) CloseWhenAsked();
+}
+
+void MainWindow::StepEnded() {
+  parts_.Binding.ForgetPresses();
+  CloseWhenAsked();
 }
 
 void MainWindow::CloseWhenAsked() {

@@ -42,6 +42,7 @@ class MainWindow final : public QWidget {
  public:
   MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fonts, WindowSurfaces surfaces,
              const Files& files);
+  ~MainWindow() override { loop_.InputHeld() = nullptr; }
 
   MapWidget* Map() { return map_; }
   // The operator has closed the window (or the program wants to end), and no step is under way.
@@ -51,8 +52,8 @@ class MainWindow final : public QWidget {
   // window is shown.
   WindowValues Kept() const;
   void TakeKept(const WindowValues& values);
-  // A close request that came inside a step is carried out now.
-  void CloseWhenAsked();
+  // The outermost step has ended: a close request that came inside it is carried out now.
+  void StepEnded();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -60,6 +61,7 @@ class MainWindow final : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void CloseWhenAsked();
   QWidget* MakeBottomLine();
   QWidget* MakeDrawer();
   QWidget* MakeRawPage();

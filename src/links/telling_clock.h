@@ -27,6 +27,7 @@ class TellingClock final : public Clock {
   void WaitPumping(double seconds) override { clock_.WaitPumping(seconds); }
   void HandOver() override { clock_.HandOver(); }
   bool EndAsked() const override { return clock_.EndAsked(); }
+  void NoticePresses() override { clock_.NoticePresses(); }
   std::int64_t LoopsPerSecond() override { return clock_.LoopsPerSecond(); }
 
  private:

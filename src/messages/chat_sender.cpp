@@ -55,30 +55,44 @@ std::string ChatSender::SendChatLine() {
                         : std::string();
 }
 
+void ChatSender::Closed() {
+  if (tools_.Web.IsBusy()) tools_.Web.DropWaiting();
+}
+
 void ChatSender::RetryPass() {
   // Closed while the tick was under way.
   if (controls_.Check7.Value != 1) return;
   tools_.Timer1.Hold();
+  std::string stuck;
   for (ChatLine& line : sections_.Chat.Lines) {
-    // The end of the program waits for no more of them.
-    if (tools_.LocalClock.EndAsked()) break;
-    if (chat_colours::HasSendsLeft(line.Colour)) SendOnce(line);
+    if (!chat_colours::HasSendsLeft(line.Colour)) continue;
+    if (PassIsToEnd()) break;
+    SendOnce(line, stuck);
   }
   tools_.Lines.Show();
   // It rests until the web form has answered.
   if (!tools_.Web.IsBusy()) tools_.Timer1.Enable();
 }
 
-void ChatSender::SendOnce(ChatLine& line) {
+bool ChatSender::PassIsToEnd() {
+  tools_.LocalClock.NoticePresses();
+  return tools_.LocalClock.EndAsked() || controls_.Check7.PressWaits;
+}
+
+// `stuck`: why the radio takes nothing, once a line before has found that out. Each one would find
+// it out anew and wait for it.
+void ChatSender::SendOnce(ChatLine& line, std::string& stuck) {
   // Nothing leaves under another call than it was typed under.
-  if (CallOfLine(line.Text) != Trim(sections_.Identity.MyCallFull)) {
+  if (CallOfLine(line.Text) != CallInLine(sections_.Identity.MyCallFull)) {
     line.Colour = chat_colours::kGivenUp;
     line.Trouble = chat_texts::kOtherCall;
     return;
   }
   sections_.Chat.ChatTxText = FrameTextOfLine(line.Text);
   // Kept: a send counts whether or not it leaves, so that nothing is sent long after it was typed.
-  line.Trouble = SendChatFrame();
+  line.Trouble = stuck.empty() ? SendChatFrame() : stuck;
+  sections_.Chat.ChatTxText.clear();
+  if (!HasNoRadio(sections_.Radio)) stuck = line.Trouble;
   line.Colour = line.Colour == chat_colours::kLastSend ? chat_colours::kGivenUp : line.Colour + 1;
 }
 

@@ -28,7 +28,7 @@ struct ChatSenderTools {
   ChatLog& Log;
   FrameSender& Frames;
   WebMessages& Web;
-  const Clock& LocalClock;
+  Clock& LocalClock;
   Timer& Timer1;
   Timer& Timer2;
 };
@@ -44,13 +44,17 @@ class ChatSender {
   // Takes addressee and text from the fields and puts the line at the bottom of the chat; the next
   // tick sends it. What the operator is to know of that, in words; mostly nothing.
   std::string SendChatLine();
+  // The chat was closed: messages that still wait for the web form are not sent.
+  void Closed();
   // Every line with sends left, once.
   void RetryPass();
   // Sends `ChatTxText` once and empties it. Why it did not leave, in words; else an empty text.
   std::string SendChatFrame();
 
  private:
-  void SendOnce(ChatLine& line);
+  // The end of the program waits for no more lines, nor does a switch that was pressed meanwhile.
+  bool PassIsToEnd();
+  void SendOnce(ChatLine& line, std::string& stuck);
 
   ChatSenderSections sections_;
   ChatControls& controls_;

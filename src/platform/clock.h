@@ -35,6 +35,10 @@ class Clock {
   // up.
   virtual bool EndAsked() const { return false; }
 
+  // What the operator has pressed meanwhile is noted at its control (`PressWaits`). It acts behind
+  // the step, as ever; who goes on with what it is to end looks before each piece.
+  virtual void NoticePresses() {}
+
   // Passes of an empty loop that the computer makes in one second, measured briefly and scaled.
   virtual std::int64_t LoopsPerSecond() = 0;
 };

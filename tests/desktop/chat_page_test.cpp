@@ -33,6 +33,30 @@ TEST_F(ChatPageTest, TheSwitchOpensItInTheDrawerAndClosesIt) {
   EXPECT_FALSE(Drawer()->isVisible());
 }
 
+// A pass of messages looks for it between two frames.
+TEST_F(ChatPageTest, APressInsideAStepIsNotedAtTheSwitchAndActsBehindIt) {
+  OpenChat();
+  auto* button = Find<QPushButton>(*window, "Check7");
+  loop.RunStep([&] {
+    loop.NoticePresses();
+    EXPECT_FALSE(Chat().Check7.PressWaits);
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
+                      button->mapTo(window.get(), button->rect().center()));
+    loop.NoticePresses();
+    EXPECT_TRUE(Chat().Check7.PressWaits);
+    EXPECT_FALSE(Chat().Check8.PressWaits);
+    EXPECT_EQ(Chat().Check7.Value, 1);
+  });
+  EXPECT_FALSE(Chat().Check7.PressWaits);
+  EXPECT_TRUE(PumpUntil([this] { return Chat().Check7.Value == 0; }));
+  loop.RunStep([&] {
+    button->setFocus();
+    QTest::keyClick(window->windowHandle(), Qt::Key_Space);
+    loop.NoticePresses();
+  });
+  EXPECT_FALSE(Chat().Check7.PressWaits);
+}
+
 TEST_F(ChatPageTest, ALineIsTypedAndShownInTheInkOfItsState) {
   QTest::keyClick(window.get(), Qt::Key_M, Qt::ControlModifier);
   Pump();

@@ -56,7 +56,7 @@ class MainWindowTest : public ::testing::Test {
                                           files);
     window->Closed = [this] { ++closed; };
     loop.ControlsOut = [this] { window->ControlsOut(); };
-    loop.StepEnded = [this] { window->CloseWhenAsked(); };
+    loop.StepEnded = [this] { window->StepEnded(); };
     window->show();
     window->activateWindow();
     EXPECT_TRUE(PumpUntil([this] { return QApplication::activeWindow() == window.get(); }));

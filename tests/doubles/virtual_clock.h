@@ -45,6 +45,9 @@ class VirtualClock final : public Clock, public Loop {
   }
   std::int64_t LoopsPerSecond() override { return Loops; }
   bool EndAsked() const override { return EndIsAsked; }
+  void NoticePresses() override {
+    if (OnNotice) OnNotice();
+  }
 
   // Jumps to another wall clock time; the monotonic clock goes on.
   void SetNow(LocalTime now) { start_ = SecondsOf(now) - Whole(); }
@@ -86,6 +89,7 @@ class VirtualClock final : public Clock, public Loop {
   }
 
   std::function<void(double seconds, bool pumping)> OnWait;
+  std::function<void()> OnNotice;
   std::int64_t Loops = 3'000'000;
   int HandOvers = 0;
   bool EndIsAsked = false;

@@ -61,6 +61,19 @@ TEST_F(ChatSenderTest, BehindTheWishToEndNoMoreLinesOfThePassLeave) {
   EXPECT_EQ(world.Sent().size(), 1U);
 }
 
+TEST_F(ChatSenderTest, BehindAPressOfTheSwitchNoMoreLinesOfThePassLeave) {
+  for (std::size_t at = 4; at < 8; ++at)
+    world.PutLine(at, " QX7KB-10:AB1CD    :Hello{0" + std::to_string(at), 250);
+  // The press is made while the second frame leaves, and acts behind the pass.
+  int looks = 0;
+  world.Clock.OnNotice = [&] { Chat().Check7.PressWaits = ++looks == 3; };
+  world.Room.Sender.RetryPass();
+  EXPECT_EQ(world.Sent().size(), 2U);
+  EXPECT_EQ(world.Line(5).Colour, 251U);
+  EXPECT_EQ(world.Line(6).Colour, 250U);
+  EXPECT_EQ(world.Line(6).Trouble, "");
+}
+
 TEST_F(ChatSenderTest, TheNumberBehind99Is00) {
   world.State.Chat.ChatSerial = 98;
   world.Type("AB1CD", "a");
@@ -230,7 +243,7 @@ TEST_F(ChatSenderTest, WhileTheOperatorTalksToTheModemATryIsLostAndThatIsSaid) {
   world.Type("AB1CD", "Hello");
   world.Room.Sender.RetryPass();
   EXPECT_EQ(world.Newest().Colour, 251U);
-  EXPECT_EQ(Chat().Text1[7].ToolTip, "sent, try 1 of 5, which did not leave: modem busy");
+  EXPECT_EQ(Chat().Text1[7].ToolTip, "try 1 of 5 did not leave: modem busy");
   world.Frames.HeldBack = nullptr;
   world.Room.Sender.RetryPass();
   EXPECT_EQ(Chat().Text1[7].ToolTip, "sent, try 2 of 5");
@@ -267,8 +280,7 @@ TEST(ChatOnSerialModems, ALostLineUsesUpTriesAndSendsNothingLater) {
   world.Room.Sender.RetryPass();
   EXPECT_EQ(world.Line(6).Colour, 251U);
   EXPECT_EQ(world.Newest().Colour, 251U);
-  EXPECT_EQ(world.Controls.Chat.Text1[7].ToolTip,
-            "sent, try 1 of 5, which did not leave: radio link lost");
+  EXPECT_EQ(world.Controls.Chat.Text1[7].ToolTip, "try 1 of 5 did not leave: radio link lost");
   for (int pass = 0; pass < 4; ++pass)
     world.Room.Sender.RetryPass();
   EXPECT_EQ(world.Newest().Colour, 0x5FF0U);
@@ -278,6 +290,53 @@ TEST(ChatOnSerialModems, ALostLineUsesUpTriesAndSendsNothingLater) {
   world.Port.Written.clear();
   world.Room.Sender.RetryPass();
   EXPECT_EQ(world.Port.Written, "");
+}
+
+// Each one would wait for the modem anew.
+TEST(ChatOnSerialModems, ALineThatFindsTheModemBusySpeaksForTheRestOfThePass) {
+  MessagesWorld world(RadioMode::Pk232);
+  for (const char* text : {"one", "two", "three"})
+    world.Type("AB1CD", text);
+  int asked = 0;
+  world.Frames.HeldBack = [&asked] {
+    ++asked;
+    return true;
+  };
+  world.Room.Sender.RetryPass();
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(world.Port.Written, "");
+  for (std::size_t at = 5; at < 8; ++at) {
+    EXPECT_EQ(world.Line(at).Colour, 251U) << at;
+    EXPECT_EQ(world.Controls.Chat.Text1[at].ToolTip, "try 1 of 5 did not leave: modem busy") << at;
+  }
+  EXPECT_EQ(world.State.Chat.ChatTxText, "");
+  world.Frames.HeldBack = nullptr;
+  world.Room.Sender.RetryPass();
+  EXPECT_EQ(std::count(world.Port.Written.begin(), world.Port.Written.end(), '\r'), 3);
+}
+
+TEST(ChatOnSerialModems, AnAnswerThatDoesNotLeaveIsTheLastOfItsPass) {
+  MessagesWorld world(RadioMode::Pk232);
+  int asked = 0;
+  world.Frames.HeldBack = [&asked] {
+    ++asked;
+    return true;
+  };
+  for (const char* from : {"AB1CD", "AB2CD", "AB3CD"})
+    world.Hear(from, ":QX7KB    :Hello{01");
+  EXPECT_EQ(asked, 1);
+  world.Room.Heard.PassBegins();
+  world.Hear("AB1CD", ":QX7KB    :Hello{01");
+  EXPECT_EQ(asked, 2);
+}
+
+TEST_F(ChatSenderTest, ACallOfMoreThanNinePlacesLeavesWholeTexts) {
+  world.State.Identity.MyCallFull = "QX7KB-ABCD";
+  world.Type("AB1CD", "Hello");
+  EXPECT_EQ(world.Newest().Text, "QX7KB-ABC:AB1CD    :Hello{01");
+  world.Room.Sender.RetryPass();
+  EXPECT_THAT(world.Sent(), ElementsAre(":AB1CD    :Hello{01"));
+  EXPECT_EQ(world.Newest().Colour, 251U);
 }
 
 TEST(ChatOnSerialModems, ACommandInANumberReachesNoModem) {

@@ -47,7 +47,7 @@ void InputHold::Release() {
   holding_ = false;
   QCoreApplication::instance()->removeEventFilter(this);
   for (Held& held : held_) {
-    if (held.Receiver) QCoreApplication::postEvent(held.Receiver, held.Event.release());
+    if (held.Receiver) QCoreApplication::postEvent(held.Receiver, held.What.release());
   }
   held_.clear();
 }
@@ -57,10 +57,11 @@ bool InputHold::eventFilter(QObject* receiver, QEvent* event) {
   if (!(receiver->isWindowType() && IsWindowInput(type)) && !IsDirectInput(type)) return false;
   // Of a pointer's way only its end counts.
   const bool moves_on = type == QEvent::MouseMove && !held_.empty() &&
-                        held_.back().Event->type() == type && held_.back().Receiver == receiver;
+                        held_.back().What->type() == type && held_.back().Receiver == receiver;
   if (moves_on) held_.pop_back();
-  if (held_.size() < kMostEvents)
-    held_.push_back({receiver, std::unique_ptr<QEvent>(event->clone())});
+  if (held_.size() >= kMostEvents) return true;
+  held_.push_back({receiver, std::unique_ptr<QEvent>(event->clone())});
+  Holding(*receiver, *event);
   return true;
 }
 

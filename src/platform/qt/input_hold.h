@@ -9,6 +9,8 @@
 #include <deque>
 #include <memory>
 
+#include "platform/event.h"
+
 namespace zepril {
 
 class InputHold final : public QObject {
@@ -18,6 +20,8 @@ class InputHold final : public QObject {
 
   // From now on, until the release.
   void Begin();
+  // Told of each event that is held from now on, and for which window.
+  Event<const QObject&, const QEvent&> Holding;
   // What was held is posted to the windows for which it was meant, if they are still there.
   void Release();
 
@@ -27,7 +31,7 @@ class InputHold final : public QObject {
  private:
   struct Held {
     QPointer<QObject> Receiver;
-    std::unique_ptr<QEvent> Event;
+    std::unique_ptr<QEvent> What;
   };
 
   bool holding_ = false;

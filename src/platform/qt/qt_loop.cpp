@@ -187,6 +187,15 @@ void QtLoop::Wait(double seconds) {
   if (auto* dispatcher = QAbstractEventDispatcher::instance()) dispatcher->wakeUp();
 }
 
+void QtLoop::NoticePresses() {
+  if (depth_ == 0) return;
+  late_ = true;
+  hold_.Begin();
+  ++held_;
+  QCoreApplication::processEvents(QEventLoop::AllEvents);
+  --held_;
+}
+
 void QtLoop::WaitInALongStep(double seconds) {
   hold_.Begin();
   ++held_;

@@ -60,11 +60,14 @@ class QtLoop final : public SystemClock, public Loop {
   // then on acts.
   void AskForEnd(bool asked) { end_asked_ = asked; }
   bool EndAsked() const override { return end_asked_; }
+  void NoticePresses() override;
   // Runs `step` with all timers held, as while a box is open.
   void Hold(const std::function<void()>& step);
 
   // Brings the controls to the window.
   Event<> ControlsOut;
+  // What the operator does to a window in a long step, when it is held.
+  Event<const QObject&, const QEvent&>& InputHeld() { return hold_.Holding; }
   // The outermost step has ended.
   Event<> StepEnded;
 
