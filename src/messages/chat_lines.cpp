@@ -13,15 +13,41 @@ namespace {
 
 constexpr std::uint32_t kAfterLastSend = chat_colours::kLastSend + 1;
 
-std::string WordsOfSending(const ChatLine& line) {
-  if (line.FirstColour == chat_colours::kLastSend && line.Colour == chat_colours::kGivenUp)
-    return chat_texts::kSentToService;
+// Sends that are done and sends in all.
+struct Sends {
+  std::string Done;
+  std::string All;
+};
+
+Sends SendsOf(const ChatLine& line) {
   const bool given_up = line.Colour == chat_colours::kGivenUp;
   const std::uint32_t now = given_up ? kAfterLastSend : line.Colour;
-  const std::string done = WholeNumber(now - line.FirstColour);
-  const std::string all = WholeNumber(kAfterLastSend - line.FirstColour);
-  if (given_up) return chat_texts::kGivenUp.With({done, all});
-  return (now == line.FirstColour ? chat_texts::kNotSentYet : chat_texts::kSent).With({done, all});
+  return {WholeNumber(now - line.FirstColour), WholeNumber(kAfterLastSend - line.FirstColour)};
+}
+
+bool IsForService(const ChatLine& line) {
+  return line.FirstColour == chat_colours::kLastSend;
+}
+
+std::string WordsOfSending(const ChatLine& line) {
+  const bool given_up = line.Colour == chat_colours::kGivenUp;
+  if (given_up && IsForService(line)) return chat_texts::kSentToService;
+  const Sends sends = SendsOf(line);
+  if (given_up) return chat_texts::kGivenUp.With({sends.Done, sends.All});
+  const Text words = line.Colour == line.FirstColour ? chat_texts::kNotSentYet : chat_texts::kSent;
+  return words.With({sends.Done, sends.All});
+}
+
+// Whose last send did not leave.
+std::string WordsOfTrouble(const ChatLine& line) {
+  if (line.Colour == chat_colours::kGivenUp) {
+    const bool never_left =
+        IsForService(line) || line.Trouble == std::string(chat_texts::kOtherCall);
+    return (never_left ? chat_texts::kGivenUpUnsent : chat_texts::kGivenUpFor).With({line.Trouble});
+  }
+  if (!chat_colours::HasSendsLeft(line.Colour)) return {};
+  const Sends sends = SendsOf(line);
+  return chat_texts::kLastOneLost.With({sends.Done, sends.All, line.Trouble});
 }
 
 std::string WordsOfColour(const ChatLine& line) {
@@ -43,10 +69,8 @@ std::string WordsOfColour(const ChatLine& line) {
 
 std::string WordsOfState(const ChatLine& line) {
   if (line.Text.empty()) return {};
-  if (line.Trouble.empty()) return WordsOfColour(line);
-  if (line.Colour == chat_colours::kGivenUp) return chat_texts::kGivenUpFor.With({line.Trouble});
-  if (!chat_colours::HasSendsLeft(line.Colour)) return WordsOfColour(line);
-  return chat_texts::kLastOneLost.With({WordsOfColour(line), line.Trouble});
+  const std::string trouble = line.Trouble.empty() ? std::string() : WordsOfTrouble(line);
+  return trouble.empty() ? WordsOfColour(line) : trouble;
 }
 
 void ChatLines::Push(std::string text, std::uint32_t colour) {

@@ -102,7 +102,7 @@ std::vector<std::string> ChatLog::TakeLines() {
   });
   if (count > kMostLines) {
     last.erase(last.begin(), last.end() - kLinesKept);
-    tools_.Disk.Replace(Path(), Joined(last));
+    NoteTrouble(tools_.Disk.Replace(Path(), Joined(last)));
   }
   return {last.begin(), last.end()};
 }

@@ -47,11 +47,17 @@ void ChatPanel::SwitchClicked() {
   sections_.Internet.InetSwitchTime = tools_.LocalClock.SecondsSinceMidnight();
   controls_.Chat.Frame3.Visible = controls_.Chat.Check7.Value == 1;
   if (controls_.Chat.Frame3.Visible) FocusOnFields();
+  if (opened_without_switch_) controls_.Chat.Check7.Enabled = false;
+  opened_without_switch_ = false;
   Seen();
 }
 
 void ChatPanel::Open() {
-  controls_.Chat.Check7.Value = 1;
+  CheckBox& box = controls_.Chat.Check7;
+  box.Value = 1;
+  // Opened by a message while its switch can't be pressed: it can be, to close it.
+  opened_without_switch_ = opened_without_switch_ || !box.Enabled;
+  box.Enabled = true;
   controls_.Chat.Frame3.Visible = true;
 }
 
@@ -157,7 +163,8 @@ void ChatPanel::SendAutoAnswer(const std::string& to) {
   std::string& answer = sections_.Chat.AutoAnswerText;
   const std::string addressee_before = chat.Text2.Text;
   const std::string text_before = chat.Text3.Text;
-  const bool half_typed = !Trim(text_before).empty() && text_before != answer;
+  const bool half_typed =
+      chat.Text2.HasFocus || (!Trim(text_before).empty() && text_before != answer);
   answer = AutoAnswerOf(answer);
   chat.Text2.Text = to;
   chat.Text3.Text = answer;
@@ -184,6 +191,7 @@ void ChatPanel::ShowAutoAnswerText() {
 void ChatPanel::Renew() {
   // Switched off elsewhere too: TX goes off, or the time of the web services is over.
   controls_.Chat.Frame3.Visible = controls_.Chat.Check7.Value == 1;
+  if (controls_.Chat.Check7.Value != 1) tools_.Sender.Closed();
   ShowAutoAnswerText();
   MainWindowResize(controls_.Window, controls_.Chat, sections_.Chat);
   tools_.Lines.Show();

@@ -59,9 +59,9 @@ class ChatPanel {
 
   // A message for the operator has come in. The panel opens when it was closed, which is told.
   bool OpenForMessage();
-  // Answers `to` with the automatic answer.
   // Says for some seconds what became of a line.
   void Tell(const std::string& words);
+  // Answers `to` with the automatic answer.
   void SendAutoAnswer(const std::string& to);
   // Captions, tool tips and words that follow the state; once a second and after each tick.
   void Renew();
@@ -86,6 +86,7 @@ class ChatPanel {
   ChatPanelControls controls_;
   ChatPanelTools tools_;
   int shown_auto_answer_ = 0;
+  bool opened_without_switch_ = false;
   std::string told_;         // of the last line typed
   double told_until_ = 0.0;  // monotonic seconds
 };

@@ -44,7 +44,7 @@ void MessageReception::TakeAck(const Message& message) {
   const std::string_view number = AckedNumber(message.Info);
   bool taken = false;
   for (ChatLine& line : chat_.Lines) {
-    if (!chat_colours::TakesAck(line.Colour) || NumberIn(line.Text) != number) continue;
+    if (!chat_colours::TakesAck(line.Colour) || !IsNumberOf(line.Text, number)) continue;
     line.Colour = chat_colours::kAcknowledged;
     line.Trouble.clear();
     taken = true;
@@ -65,11 +65,16 @@ bool MessageReception::MayAnswer() {
   return identity_.TxAllowed == 1 && ++answers_ <= kMostAnswers;
 }
 
+// One that does not leave costs seconds: no other is tried in the same pass.
+void MessageReception::Answer() {
+  if (!tools_.Sender.SendChatFrame().empty()) answers_ = kMostAnswers;
+}
+
 void MessageReception::Acknowledge(const Message& message) {
   const auto number = NumberToAcknowledge(message.From, message.Info);
   if (!number || !MayAnswer()) return;
   chat_.ChatTxText = AckText(message.From, *number);
-  tools_.Sender.SendChatFrame();
+  Answer();
 }
 
 void MessageReception::AnswerForTheOperator(const Message& message) {
@@ -97,7 +102,7 @@ void MessageReception::AnswerPing(const Message& message) {
   chat_.ChatTxText = PingAnswerText(message.From, message.Header, message.Destination);
   const std::string line = OwnLine(identity_.MyCallFull, chat_.ChatTxText);
   tools_.Lines.Push(line, chat_colours::kPingAnswer);
-  tools_.Sender.SendChatFrame();
+  Answer();
   tools_.Log.Append(line);
 }
 

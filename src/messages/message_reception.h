@@ -60,6 +60,8 @@ class MessageReception final : public MessageActions {
   bool IsRepeat(const Message& message, const std::string& line) const;
   void Enter(const std::string& line, std::uint32_t colour);
   bool MayAnswer();
+  // Sends what stands in `ChatTxText`.
+  void Answer();
 
   const IdentityState& identity_;
   ChatState& chat_;

@@ -72,6 +72,13 @@ std::optional<std::string_view> NumberIn(std::string_view line) {
   return Trim(line.substr(opened + 1));
 }
 
+// A "{" that was typed: stations differ in which one they take for the number's.
+bool IsNumberOf(std::string_view line, std::string_view number) {
+  const std::size_t last = line.rfind('{');
+  return last != std::string_view::npos &&
+         (NumberIn(line) == number || Trim(line.substr(last + 1)) == number);
+}
+
 std::optional<std::string> NumberToAcknowledge(std::string_view from, std::string_view info) {
   const std::size_t places = std::min(std::max(from.size(), kCallPlaces), kLongestChatLine);
   const auto number = NumberIn(info.substr(0, kLongestChatLine - places));
@@ -88,7 +95,12 @@ std::string ReceivedLine(std::string_view from, std::string_view info) {
 }
 
 std::string OwnLine(std::string_view my_call_full, std::string_view frame_text) {
-  return std::string(CutToLine(PadLeft(my_call_full, kCallPlaces) + std::string(frame_text)));
+  const std::string call = PadLeft(CallInLine(my_call_full), kCallPlaces);
+  return std::string(CutToLine(call + std::string(frame_text)));
+}
+
+std::string_view CallInLine(std::string_view my_call_full) {
+  return TrimRight(Left(Trim(my_call_full), kCallPlaces));
 }
 
 std::string_view CallOfLine(std::string_view line) {
@@ -101,7 +113,7 @@ std::string_view FrameTextOfLine(std::string_view line) {
 
 bool IsAnswerTo(std::string_view line, std::string_view my_call_full, std::string_view from,
                 std::string_view answer) {
-  return CallOfLine(line) == my_call_full && Trim(Mid(line, 11, kCallPlaces)) == from &&
+  return CallOfLine(line) == CallInLine(my_call_full) && Trim(Mid(line, 11, kCallPlaces)) == from &&
          (answer.empty() || InStr(Mid(line, 21), answer) > 0);
 }
 

@@ -36,6 +36,8 @@ bool MayAnswerPing(std::string_view info);
 
 // All that stands behind the first "{", trimmed; nothing without one.
 std::optional<std::string_view> NumberIn(std::string_view line);
+// True when `number` stands behind the first or the last "{" of the line.
+bool IsNumberOf(std::string_view line, std::string_view number);
 // The number of a received message as far as a line of the chat shows it.
 std::optional<std::string> NumberToAcknowledge(std::string_view from, std::string_view info);
 
@@ -48,6 +50,8 @@ std::string ReceivedLine(std::string_view from, std::string_view info);
 // The own call at the right of 9 places, then what is sent.
 //   "    QX7KB:AB1CD    :Hello{07"
 std::string OwnLine(std::string_view my_call_full, std::string_view frame_text);
+// The call as it stands in front of a line: it has nine places.
+std::string_view CallInLine(std::string_view my_call_full);
 // Whose line it is, and what of it is sent.
 std::string_view CallOfLine(std::string_view line);
 std::string_view FrameTextOfLine(std::string_view line);

@@ -98,6 +98,8 @@ TEST_F(ChatLogTest, ADiskThatIsFullKeepsTheWholeLog) {
   Chat().Command24.Click();
   EXPECT_EQ(world.Disk.LineCount(kPath), 500);
   EXPECT_TRUE(Chat().Text5.Text.starts_with("line 401\r\n"));
+  world.Room.SecondPassed();
+  EXPECT_TRUE(Chat().ChatNote.Caption.starts_with("CHAT LOG NOT WRITTEN:"));
 }
 
 TEST_F(ChatLogTest, ALogThatIsNotWrittenIsTold) {
@@ -122,6 +124,16 @@ TEST_F(ChatLogTest, ClearedItBeginsWithTheLinesThatAreShown) {
             "20240115<1234  QX7KB:AB1CD    :Hello{01\r\n");
   EXPECT_FALSE(Chat().Frame7.Visible);
   EXPECT_EQ(world.Newest().Colour, 250U);
+}
+
+TEST_F(ChatLogTest, ALogThatCannotBeClearedStaysWholeAndIsTold) {
+  Fill(3);
+  world.PutLine(7, "    QX7KB:AB1CD    :Hello{01", 250);
+  world.Disk.NoRoomToReplace = true;
+  Chat().Command25.Click();
+  EXPECT_EQ(world.Disk.LineCount(kPath), 3);
+  world.Room.SecondPassed();
+  EXPECT_TRUE(Chat().ChatNote.Caption.starts_with("CHAT LOG NOT WRITTEN:"));
 }
 
 TEST_F(ChatLogTest, ClearedWithoutALineItIsGone) {

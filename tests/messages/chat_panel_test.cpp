@@ -69,9 +69,30 @@ TEST_F(ChatPanelTest, SwitchedOffElsewhereThePanelFollows) {
   EXPECT_FALSE(Chat().Frame3.Visible);
 }
 
+TEST_F(ChatPanelTest, OpenedByAMessageWithoutAPositionItCanBeClosed) {
+  CheckBox& box = world.Controls.Chat.Check7;
+  box.Value = 0;
+  box.Enabled = false;
+  world.Room.Panel.Renew();
+  world.Hear("AB1CD", ":QX7KB    :Hello");
+  EXPECT_EQ(box.Value, 1);
+  EXPECT_TRUE(box.Enabled);
+  box.Value = 0;
+  box.Click();
+  EXPECT_FALSE(world.Controls.Chat.Frame3.Visible);
+  // As it was: only a position makes it one to be opened.
+  EXPECT_FALSE(box.Enabled);
+  // One that could be pressed before can be pressed still.
+  box.Enabled = true;
+  world.Hear("AB1CD", ":QX7KB    :Hello again");
+  box.Value = 0;
+  box.Click();
+  EXPECT_TRUE(box.Enabled);
+}
+
 TEST_F(ChatPanelTest, ClosedTheSwitchTellsWhatWaits) {
   world.Type("AB1CD", "Hello");
-  EXPECT_EQ(Chat().Check7.ToolTip.substr(0, 46), "Messages / closed, nothing is sent or repeated");
+  EXPECT_EQ(Chat().Check7.ToolTip.substr(0, 46), "Messages / closed, none is sent or repeated / ");
   Switch(Chat().Check7, 0);
   EXPECT_EQ(Chat().Check7.ToolTip, "Messages / 1 to be sent wait until it is opened");
   Chat().Check7.Enabled = false;

@@ -156,6 +156,18 @@ TEST_F(MessageReceptionTest, AnAckOfAnotherNumberOrForALineWithoutOneFindsNothin
   EXPECT_EQ(world.Newest().Text, " QX7KB-10:N0CALL   :Hello{07");  // it is no line itself
 }
 
+// Stations differ in which "{" opens the number.
+TEST_F(MessageReceptionTest, ABraceThatWasTypedHidesNoNumber) {
+  for (const char* ack : {":QX7KB    :ack02", ":QX7KB    :acky{02"}) {
+    world.PutLine(7, " QX7KB-10:AB1CD    :x {y{02", 251);
+    world.Hear("AB1CD", ack);
+    EXPECT_EQ(world.Newest().Colour, 128U) << ack;
+  }
+  world.PutLine(7, " QX7KB-10:AB1CD    :x {y{02", 251);
+  world.Hear("AB1CD", ":QX7KB    :acky");
+  EXPECT_EQ(world.Newest().Colour, 251U);
+}
+
 TEST_F(MessageReceptionTest, AnAckForALineThatWasPushedOutIsForgotten) {
   world.Type("N0CALL", "Hello");
   for (int number = 0; number < 8; ++number)
@@ -245,6 +257,27 @@ TEST_F(MessageReceptionTest, AnythingLikeAPathAnswersTheOpenPings) {
 
 // ---- The automatic answer -------------------------------------------------------------------
 
+TEST_F(MessageReceptionTest, OnlyOwnPingsThatAreOpenAreAnswered) {
+  world.PutLine(5, "AB1CD    :QX7KB-10 :?APRST", 0x6000);
+  world.PutLine(6, "AB1CD    :AB2CD    :?APRST", 0x505050);
+  world.PutLine(7, " QX7KB-10:AB1CD    :?APRST", 252);
+  world.Hear("AB1CD", ":QX7KB    :PATH = QX7KB-10 VIA  TO ZEPR");
+  EXPECT_EQ(world.Line(4).Colour, 0x6000U);
+  EXPECT_EQ(world.Line(5).Colour, 0x505050U);
+  EXPECT_EQ(world.Line(6).Colour, 128U);
+}
+
+TEST_F(MessageReceptionTest, TheSamePingTwiceIsShownLoggedAndAnsweredTwice) {
+  world.Hear("AB1CD", ":QX7KB    :?APRST");
+  world.Hear("AB1CD", ":QX7KB    :?APRST");
+  EXPECT_EQ(world.Line(4).Colour, 0x6000U);
+  EXPECT_EQ(world.Line(5).Colour, 160U);
+  EXPECT_EQ(world.Line(6).Colour, 0x6000U);
+  EXPECT_EQ(world.Line(7).Colour, 160U);
+  EXPECT_EQ(world.LogLines(), 4);
+  EXPECT_EQ(world.Sent().size(), 2U);
+}
+
 TEST_F(MessageReceptionTest, AnAbsentOperatorsTextAnswersForHim) {
   world.State.Chat.AutoAnswerOn = 1;
   world.State.Chat.AutoAnswerText = "back at 8";
@@ -309,6 +342,21 @@ TEST_F(MessageReceptionTest, WhatTheOperatorWasAboutToWriteIsStillThere) {
 }
 
 // ---- Listener, flood, bad input -------------------------------------------------------------
+
+// A call that is being typed must not become another one under his fingers.
+TEST_F(MessageReceptionTest, ACallThatIsBeingTypedIsStillThere) {
+  world.State.Chat.AutoAnswerOn = 1;
+  world.State.Chat.AutoAnswerText = "AA: out";
+  world.Controls.Chat.Text3.Text = "AA: out";
+  world.Controls.Chat.Text2.Text = "AB9";
+  world.Controls.Chat.Text2.HasFocus = true;
+  world.Hear("AB1CD", ":QX7KB    :Hello{01");
+  EXPECT_EQ(world.Controls.Chat.Text2.Text, "AB9");
+  EXPECT_TRUE(world.Newest().Text.ends_with(":AB1CD    :AA: out{01"));
+  world.Controls.Chat.Text2.HasFocus = false;
+  world.Hear("AB2CD", ":QX7KB    :Hello{02");
+  EXPECT_EQ(world.Controls.Chat.Text2.Text, "AB2CD");
+}
 
 TEST_F(MessageReceptionTest, AListenerSeesMessagesAndAnswersNothing) {
   world.State.Identity.TxAllowed = 0;

@@ -16,9 +16,10 @@ inline constexpr Text kSentToService{"handed to the message service"};
 inline constexpr Text kPingAnswer{"own answer to a ping"};
 inline constexpr Text kForMe{"message for me"};
 inline constexpr Text kBetweenOthers{"message between others"};
-// %1: the state, %2: the reason, or this alone.
-inline constexpr Text kLastOneLost{"%1, which did not leave: %2"};
-inline constexpr Text kGivenUpFor{"given up: %1"};
+// %1: sends tried, %2: sends in all, %3: the reason.
+inline constexpr Text kLastOneLost{"try %1 of %2 did not leave: %3"};
+inline constexpr Text kGivenUpFor{"given up, the last try did not leave: %1"};
+inline constexpr Text kGivenUpUnsent{"given up: %1"};
 
 // Why a send did not leave.
 inline constexpr Text kLinkLost{"radio link lost"};
@@ -28,6 +29,7 @@ inline constexpr Text kOtherCall{"typed under another call"};
 inline constexpr Text kServiceOff{"no host of the message service in SERVICES.TXT"};
 inline constexpr Text kServiceSilent{"the message service did not answer"};
 inline constexpr Text kServiceRefused{"the message service refused it (%1)"};
+inline constexpr Text kChatClosed{"the chat was closed before its turn came"};
 inline constexpr Text kServiceFull{"too many messages wait for the message service"};
 
 // What the panel says of itself.
@@ -44,7 +46,7 @@ inline constexpr Text kCallTooLong{"NOT SENT: the addressee leaves no room for a
 inline constexpr Text kChat{"CHAT"};
 inline constexpr Text kChatUnseen{"CHAT %1"};
 inline constexpr Text kChatTip{
-    "Messages / closed, nothing is sent or repeated / acknowledgements leave with TX off too"};
+    "Messages / closed, none is sent or repeated / acknowledgements leave then, and with TX off"};
 inline constexpr Text kChatWaits{"Messages / %1 to be sent wait until it is opened"};
 inline constexpr Text kChatNeedsPosition{"Messages / only with a position of the own station"};
 
