@@ -175,9 +175,9 @@ MainCycle::Outcome MainCycle::Identify() {
   if (!GateIsPossible(state_.Radio)) return Outcome::GoOn;
   // The third character spreads the stations over the hour; a letter reads as 0.
   const int offset = static_cast<int>(Val(Mid(state_.Identity.MyCall, 3, 1)));
-  const std::string time = ClockText(clock_.Now());
-  const int minute = clock_.Now().Minute;
-  if ((minute - offset) % 20 != 0 || time == state_.Transmission.LastIdBeaconTime) {
+  const LocalTime now = clock_.Now();
+  const std::string time = ClockText(now);
+  if ((now.Minute - offset) % 20 != 0 || time == state_.Transmission.LastIdBeaconTime) {
     return Outcome::GoOn;
   }
   RunStep(Steps.SendIdentification);

@@ -43,6 +43,9 @@ TEST(Collector, GateGetsTheRawTextWhileLoggedIn) {
   CollectIn(station, 0);
   EXPECT_EQ(station.Actions.Gated, std::vector<std::string>{kAgw});
   EXPECT_EQ(station.Actions.GatedDialect, "AGW");
+  station.Engine.Texts = {"12345678901"};
+  CollectIn(station, 0);
+  EXPECT_EQ(station.Actions.Gated.size(), 2U);
 }
 
 TEST(Collector, RemoteEngineIsNeverGated) {

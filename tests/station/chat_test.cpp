@@ -112,13 +112,24 @@ TEST_F(ChatTest, AnAckEndsTheRepeats) {
   EXPECT_EQ(station.Newest().Colour, 128U);
 }
 
-TEST_F(ChatTest, EnterThatIsLeanedOnSendsOneLineEvenWithTheAutomaticAnswer) {
+TEST_F(ChatTest, EnterPressedAgainAndAgainSendsOneLine) {
   OpenChat();
   station.Type("N0CALL", "Hello");
   for (int press = 0; press < 100; ++press)
     station.Chat().Text3.KeyDown({kEnterKey, 0});
   station.clock.Run(600.0);
   EXPECT_EQ(station.Sent.size(), 5U);
+}
+
+// Whose text is taken away by a message that is answered meanwhile: it leaves all the same.
+TEST_F(ChatTest, ALineWhoseTurnAnAcknowledgementTookLeavesWithTheNextPass) {
+  OpenChat();
+  station.Ticks(1);
+  station.Type("N0CALL", "Hello");
+  station.State().Chat.ChatTxText.clear();
+  station.Hear("QX1CD", ":QX7KB    :Hi{07");
+  station.clock.Run(5 * 6.0 + 12.0);
+  EXPECT_EQ(station.CountSent(":N0CALL   :Hello{01"), 1);
 }
 
 TEST_F(ChatTest, TypingPutsTheTickOff) {
@@ -206,7 +217,8 @@ TEST_F(ChatTest, ALinkThatIsLostInAPassSendsNothingLater) {
   station.clock.Run(400.0);
   EXPECT_EQ(station.Sent.size(), 1U);
   EXPECT_EQ(station.Newest().Colour, 0x5FF0U);
-  EXPECT_EQ(station.Chat().Text1[7].ToolTip, "given up: radio link lost");
+  EXPECT_EQ(station.Chat().Text1[7].ToolTip,
+            "given up, the last try did not leave: radio link lost");
   station.program->SecondPassed();
   EXPECT_EQ(station.Chat().ChatNote.Caption.substr(0, 16), "RADIO LINK LOST:");
   station.EngineAccepts();

@@ -102,6 +102,25 @@ TEST_F(GateStationTest, WhatIsHeardReachesTheServerInItsTick) {
   EXPECT_EQ(Words(), "connected since 12:34, 1 line gated since 12:34");
 }
 
+TEST_F(GateStationTest, WhatASerialModemHearsReachesTheServer) {
+  struct Row {
+    const char* Settings;
+    const char* Text;
+  };
+  for (const Row& row :
+       {Row{"MODEM=1\r\nCOM=1\r\n", "QX2CD-7*>APRS <UI>:\r\n!5232.00N/01324.00E[on foot\r\n"},
+        Row{"MODEM=5\r\n", "fm QX2CD-7 to APRS ctl UI pid F0\r\n!5232.00N/01324.00E[on foot\r\n"},
+        Row{"MODEM=6\r\n",
+            "1:fm QX2CD-7 to APRS ctl UI pid F0\r\n!5232.00N/01324.00E[on foot\r\n"}}) {
+    StartLoggedIn(row.Settings);
+    station->modem.Reads = {row.Text};
+    Ticks(2);
+    EXPECT_EQ(Server().Sent, Lines{"QX2CD-7>APRS,qAR,QX7KB-10:!5232.00N/01324.00E[on foot\r\n"})
+        << row.Settings;
+    station.reset();
+  }
+}
+
 TEST_F(GateStationTest, NothingIsGatedBeforeTheLoginHolds) {
   Start();
   Ticks(1);

@@ -179,6 +179,10 @@ TEST(TransmitRoom, TheTitleTellsOfTheDigipeaterAndOfTheNewCall) {
   EXPECT_EQ(Mid(station.State().Settings.TitleText, 61, 11), "Digi active");
   EXPECT_NE(station.Controls().Window.Title.find("QX7KB-7"), std::string::npos);
   EXPECT_NE(station.Controls().Window.Title.find("Digi active"), std::string::npos);
+  station.Controls().Transmit.Check6.RightClick();
+  station.Controls().TxSetup.DigiBox.Value = 0;
+  station.Controls().TxSetup.TxOk.Click();
+  EXPECT_EQ(Mid(station.State().Settings.TitleText, 61, 11), "           ");
 }
 
 TEST(TransmitRoom, TheBarTellsTheMinutesToTheNextReport) {

@@ -22,10 +22,10 @@ inline constexpr Text kLines{"%1 lines"};
 // %1: when, %2: why.
 inline constexpr Text kLastNotGated{"last not gated %1: %2"};
 inline constexpr Text kNoFrame{"no whole frame"};
-inline constexpr Text kForbiddenPath{"NOGATE, RFONLY or TCPIP in its header"};
+inline constexpr Text kForbiddenPath{"NOGATE, RFONLY, TCPIP or TCPXX in its header"};
 inline constexpr Text kForwardedOrQuery{"forwarded, or a query"};
 inline constexpr Text kSeveralLines{"more than one line"};
 inline constexpr Text kRepeat{"like one of the last half minute"};
-inline constexpr Text kNotTaken{"the server takes nothing"};
+inline constexpr Text kNotTaken{"the connection was lost or takes nothing"};
 
 }  // namespace zepril::gate_texts

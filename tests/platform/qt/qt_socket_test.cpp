@@ -66,8 +66,12 @@ TEST_F(QtSocketTest, ASilentPeerIsProbed) {
   ASSERT_GE(row.size(), 29U) << row;
   EXPECT_EQ(row.substr(18, 3), "02:") << row;
   const int hundredths = QString::fromStdString(row.substr(21, 8)).toInt(nullptr, 16);
-  EXPECT_LE(hundredths, 100 * QtSocket::kAliveIdleSeconds);
-  EXPECT_GT(hundredths, 100 * (QtSocket::kAliveIdleSeconds - 30));
+  EXPECT_LE(hundredths, 6000);
+  EXPECT_GT(hundredths, 3000);
+  // Given up a minute and a half behind the last word: three probes, ten seconds apart.
+  EXPECT_EQ(QtSocket::kAliveIdleSeconds, 60);
+  EXPECT_EQ(QtSocket::kAliveProbeSeconds, 10);
+  EXPECT_EQ(QtSocket::kAliveProbes, 3);
 }
 
 TEST_F(QtSocketTest, WhatIsDroppedDoesNotLeave) {
