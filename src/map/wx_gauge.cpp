@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 
+#include "core/temperature_colour.h"
 #include "core/text_fields.h"
 #include "geodesy/conversions.h"
 #include "map/line_batch.h"
@@ -71,7 +72,9 @@ void ReadWind(std::string_view text, WxGaugeValues& values) {
 // shade, rain as a bar below, and the wind as an arrow around it.
 
 void DrawDisc(DrawingSurface& surface, int x, int y, const WxGaugeValues& values) {
-  const Colour fill = values.TemperatureC ? GaugeTemperatureColour(*values.TemperatureC) : kShade;
+  const Colour fill = values.TemperatureC
+                          ? TemperatureColour(static_cast<int>(ToWhole(*values.TemperatureC)))
+                          : kShade;
   LineBatch lines(surface);
   for (int dy = -kOuterRadius; dy <= kOuterRadius; ++dy) {
     const int dx = static_cast<int>(Int(std::sqrt(kOuterRadius * kOuterRadius - dy * dy)));
@@ -148,32 +151,6 @@ WxGaugeValues ReadWxGaugeValues(std::string_view comment) {
   values.HumidityPercent = KeyValue(text, 'h', 2);
   values.PressureHpa = Scaled(KeyValue(text, 'b', 4), 0.1);
   return values;
-}
-
-Colour GaugeTemperatureColour(double celsius) {
-  struct Stop {
-    double Celsius;
-    double Blue, Green, Red;
-  };
-  constexpr std::array<Stop, 8> kStops{{{-40, 250, 250, 0},
-                                        {-30, 250, 0, 0},
-                                        {-20, 241, 112, 0},
-                                        {0, 190, 190, 0},
-                                        {10, 0, 250, 0},
-                                        {20, 0, 210, 220},
-                                        {30, 0, 0, 250},
-                                        {40, 0, 0, 0}}};
-  const double held = std::clamp(celsius, kStops.front().Celsius, kStops.back().Celsius);
-  std::size_t upper = 1;
-  while (upper + 1 < kStops.size() && kStops[upper].Celsius < held)
-    ++upper;
-  const Stop& a = kStops[upper - 1];
-  const Stop& b = kStops[upper];
-  const double share = (held - a.Celsius) / (b.Celsius - a.Celsius);
-  const auto mixed = [share](double from, double to) {
-    return static_cast<Colour>(ToWhole(from + (to - from) * share));
-  };
-  return mixed(a.Blue, b.Blue) << 16 | mixed(a.Green, b.Green) << 8 | mixed(a.Red, b.Red);
 }
 
 void WxGaugeDraw(DrawingSurface& surface, int x, int y, const StationRecord& record) {

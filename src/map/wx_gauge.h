@@ -27,10 +27,6 @@ struct WxGaugeValues {
 //   "220/004g005t077r000p000P000h50b10139" is accepted, "Wind 220" is not.
 WxGaugeValues ReadWxGaugeValues(std::string_view comment);
 
-// Colour of a temperature, 0xBBGGRR: violet at -40 degrees over blue at 0 and green at 10 to red at
-// 30 and dark at 40; values beyond are held.
-Colour GaugeTemperatureColour(double celsius);
-
 // The gauge around (x, y).
 void WxGaugeDraw(DrawingSurface& surface, int x, int y, const StationRecord& record);
 

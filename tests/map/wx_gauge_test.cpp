@@ -5,6 +5,7 @@
 
 #include <random>
 
+#include "core/temperature_colour.h"
 #include "tests/doubles/recorder_surface.h"
 
 namespace zepril {
@@ -34,13 +35,15 @@ TEST(WxGaugeValues, ShortOrForeignTextsTellNothing) {
   EXPECT_FALSE(ReadWxGaugeValues("").TemperatureC);
 }
 
-TEST(WxGauge, ColoursRunFromColdToHotAndAreHeldBeyond) {
-  EXPECT_EQ(GaugeTemperatureColour(-40), 0xFAFA00u);
-  EXPECT_EQ(GaugeTemperatureColour(-100), 0xFAFA00u);
-  EXPECT_EQ(GaugeTemperatureColour(0), 0xBEBE00u);
-  EXPECT_EQ(GaugeTemperatureColour(10), 0x00FA00u);
-  EXPECT_EQ(GaugeTemperatureColour(30), 0x0000FAu);
-  EXPECT_EQ(GaugeTemperatureColour(99), 0x000000u);
+TEST(WxGauge, TheDiscHasTheColourOfTheTemperature) {
+  RecorderSurface surface(400, 400);
+  StationRecord record;
+  record.Put(43, 89, "090/020g005t050r000p000P000h50");
+  WxGaugeDraw(surface, 200, 200, record);
+  int in_colour = 0;
+  for (const auto& line : surface.Of("line"))
+    in_colour += line.Ink == TemperatureColour(10) ? 1 : 0;
+  EXPECT_GE(in_colour, 27);
 }
 
 TEST(WxGauge, TheArrowStandsOnTheSideTheWindComesFrom) {
