@@ -2,16 +2,15 @@
 #include "platform/native/native_files.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 
 #include "platform/code_page.h"
 #include "platform/native/system_clock.h"
+#include "tests/doubles/size_limit.h"
 #include "tests/doubles/temp_folder.h"
 
 namespace zepril {
@@ -141,26 +140,6 @@ TEST_F(NativeFilesTest, ReplaceKeepingLeavesTheOldFileUnderItsOtherName) {
   EXPECT_FALSE(files.ReplaceKeeping("C:\\NONE.TXT", "x", "C:\\NONE.TXT.BAK"));
   EXPECT_EQ(files.List("C:\\", "*").size(), 2u);
 }
-
-// Files may grow to `bytes` while it lives; what is more fails as on a full disk.
-class SizeLimit {
- public:
-  explicit SizeLimit(rlim_t bytes) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    handler_ = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limit = before_;
-    limit.rlim_cur = bytes;
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~SizeLimit() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-
- private:
-  rlimit before_{};
-  void (*handler_)(int) = nullptr;
-};
 
 TEST_F(NativeFilesTest, WhereALineFindsNoRoomNothingOfItStays) {
   Put("log.txt", std::string(995, 'x') + "\r\n");
