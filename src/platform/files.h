@@ -65,7 +65,19 @@ class Files {
   // failure or a power cut the old file is whole.
   // A symbolic link stays one: the file that it leads to is replaced.
   virtual bool Replace(const std::string& path, std::string_view text) = 0;
-  // The same, and the old file stays under the name `kept`, which must not exist. There is no
+  // The same for a text that is too long to be held: `write` gives it to the taker piece by piece,
+  // and tells whether it is whole. False from it, as from the taker, leaves the old file.
+  using PieceTaker = std::function<bool(std::string_view piece)>;
+  virtual bool ReplaceInPieces(const std::string& path,
+                               const std::function<bool(const PieceTaker&)>& write) {
+    std::string text;
+    const bool whole = write([&text](std::string_view piece) {
+      text += piece;
+      return true;
+    });
+    return whole && Replace(path, text);
+  }
+  // As Replace, and the old file stays under the name `kept`, which must not exist. There is no
   // moment without a file at `path`; after a failure nothing has changed.
   virtual bool ReplaceKeeping(const std::string& path, std::string_view text,
                               const std::string& kept) = 0;

@@ -145,11 +145,15 @@ void SyncFolder(const std::string& native_folder) {
   if (folder.Ok()) ::fsync(folder.Get());
 }
 
-// A new file with the text, safely on the disk, under the mode of `old`. Gone again on failure.
-bool WriteFresh(const std::string& fresh, std::string_view text,
+// A new file with what `write` gives, safely on the disk, under the mode of `old`. Gone again on
+// failure.
+bool WriteFresh(const std::string& fresh,
+                const std::function<bool(const Files::PieceTaker&)>& write,
                 const std::optional<struct stat>& old) {
   Descriptor file(fresh, O_WRONLY | O_CREAT | O_TRUNC);
-  bool written = file.Ok() && WriteWhole(file.Get(), text) && ::fsync(file.Get()) == 0;
+  bool written = file.Ok() &&
+                 write([&file](std::string_view piece) { return WriteWhole(file.Get(), piece); }) &&
+                 ::fsync(file.Get()) == 0;
   if (written && old) ::fchmod(file.Get(), old->st_mode & 07777U);
   int why = errno;
   if (written && !file.Close()) {
@@ -159,6 +163,12 @@ bool WriteFresh(const std::string& fresh, std::string_view text,
   if (!written) ::unlink(fresh.c_str());
   errno = why;
   return written;
+}
+
+bool WriteFresh(const std::string& fresh, std::string_view text,
+                const std::optional<struct stat>& old) {
+  return WriteFresh(
+      fresh, [text](const Files::PieceTaker& take) { return take(text); }, old);
 }
 
 // A copy, for disks on which a file has one name only.
@@ -313,10 +323,15 @@ bool NativeFiles::Write(const std::string& path, std::string_view text) {
 }
 
 bool NativeFiles::Replace(const std::string& path, std::string_view text) {
+  return ReplaceInPieces(path, [text](const PieceTaker& take) { return take(text); });
+}
+
+bool NativeFiles::ReplaceInPieces(const std::string& path,
+                                  const std::function<bool(const PieceTaker&)>& write) {
   const std::string native = TargetOf(NativePath(path));
   if (native.empty() || !IsRegularOrMissing(native)) return Fail();
   const std::string fresh = native + ".new~";
-  if (!WriteFresh(fresh, text, StatOf(native))) return Fail();
+  if (!WriteFresh(fresh, write, StatOf(native))) return Fail();
   if (::rename(fresh.c_str(), native.c_str()) != 0) {
     Fail();
     ::unlink(fresh.c_str());

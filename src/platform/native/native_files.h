@@ -24,6 +24,8 @@ class NativeFiles final : public Files {
   bool Append(const std::string& path, std::string_view text) override;
   bool Write(const std::string& path, std::string_view text) override;
   bool Replace(const std::string& path, std::string_view text) override;
+  bool ReplaceInPieces(const std::string& path,
+                       const std::function<bool(const PieceTaker&)>& write) override;
   bool ReplaceKeeping(const std::string& path, std::string_view text,
                       const std::string& kept) override;
   bool Remove(const std::string& path) override;

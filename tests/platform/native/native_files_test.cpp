@@ -153,6 +153,27 @@ TEST_F(NativeFilesTest, WhereALineFindsNoRoomNothingOfItStays) {
   EXPECT_EQ(files.List("C:\\", "*").size(), 1u);
 }
 
+TEST_F(NativeFilesTest, ATextMayComeInPieces) {
+  Put("f", "old");
+  EXPECT_TRUE(files.ReplaceInPieces(
+      "C:\\f", [](const Files::PieceTaker& take) { return take("one ") && take("two"); }));
+  EXPECT_EQ(files.ReadAll("C:\\f", 10), "one two");
+}
+
+TEST_F(NativeFilesTest, PiecesThatEndEarlyOrFindNoRoomLeaveTheOldFile) {
+  Put("f", "old");
+  EXPECT_FALSE(files.ReplaceInPieces("C:\\f", [](const Files::PieceTaker& take) {
+    EXPECT_TRUE(take("half"));
+    return false;
+  }));
+  const SizeLimit limit(1000);
+  EXPECT_FALSE(files.ReplaceInPieces("C:\\f", [](const Files::PieceTaker& take) {
+    return take(std::string(900, 'x')) && take(std::string(200, 'x'));
+  }));
+  EXPECT_EQ(files.ReadAll("C:\\f", 10), "old");
+  EXPECT_EQ(files.List("C:\\", "*").size(), 1U);
+}
+
 TEST_F(NativeFilesTest, TroubleIsToldByItsKind) {
   EXPECT_FALSE(files.Append("C:\\no\\such\\folder.txt", "x"));
   EXPECT_EQ(files.Trouble(), FileTrouble::FolderMissing);
