@@ -1,0 +1,304 @@
+// Files of vectors taken over into way and tracks, and what becomes of them when that fails.
+#include "gps/vector_import.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <string>
+#include <vector>
+
+#include "core/text_fields.h"
+#include "platform/native/native_files.h"
+#include "tests/doubles/memory_files.h"
+#include "tests/doubles/size_limit.h"
+#include "tests/doubles/temp_folder.h"
+
+namespace zepril {
+namespace {
+
+// ---- Merges ---------------------------------------------------------------------------------
+
+NextLine LinesOf(std::vector<std::string> lines) {
+  return [lines = std::move(lines), at = std::size_t{0}](std::string& line) mutable {
+    if (at == lines.size()) return false;
+    line = lines[at++];
+    return true;
+  };
+}
+
+using Lines = std::vector<std::string>;
+
+Lines TrackOf(Lines track, Lines vectors) {
+  Lines merged;
+  EXPECT_TRUE(MergeTrack(LinesOf(std::move(track)), LinesOf(std::move(vectors)),
+                         [&merged](std::string_view line) {
+                           merged.emplace_back(line);
+                           return true;
+                         }));
+  return merged;
+}
+
+Lines WayOf(Lines way, const std::string& line) {
+  Lines merged;
+  EXPECT_TRUE(MergeWay(LinesOf(std::move(way)), line, [&merged](std::string_view put) {
+    merged.emplace_back(put);
+    return true;
+  }));
+  return merged;
+}
+
+// A point of 14 May 2024 with `place` in its columns.
+std::string Point(const std::string& time, const std::string& place = "5378.123  412.345") {
+  return "\xFE " + place + " 20240514 " + time;
+}
+
+TEST(MergeTrack, KeepsTheOrderOfDateAndTime) {
+  EXPECT_EQ(TrackOf({Point("1200"), Point("1203")}, {Point("1201"), Point("1204")}),
+            (Lines{Point("1200"), Point("1201"), Point("1203"), Point("1204")}));
+}
+
+TEST(MergeTrack, OfTheSameMinuteTheVectorsLineIsTakenOnce) {
+  const std::string fresh = Point("1201", "5379.000  413.000");
+  EXPECT_EQ(TrackOf({Point("1200"), Point("1201"), Point("1202")}, {fresh}),
+            (Lines{Point("1200"), fresh, Point("1202")}));
+}
+
+TEST(MergeTrack, TheRestOfEitherIsCopied) {
+  EXPECT_EQ(TrackOf({}, {Point("1200"), Point("1201")}), (Lines{Point("1200"), Point("1201")}));
+  EXPECT_EQ(TrackOf({Point("1200"), "x", ""}, {}), (Lines{Point("1200"), "x", ""}));
+}
+
+TEST(MergeTrack, BlankLinesOfTheVectorsAreLeftOutAndThoseOfTheTrackStay) {
+  EXPECT_EQ(TrackOf({"", Point("1200")}, {"", Point("1201"), "   "}),
+            (Lines{"", Point("1200"), Point("1201")}));
+}
+
+TEST(MergeTrack, LinesWithoutAWholeTimeAreNoRepeatsOfEachOther) {
+  EXPECT_EQ(TrackOf({"\xFE 5378.1"}, {"\xFE 5379.2"}), (Lines{"\xFE 5378.1", "\xFE 5379.2"}));
+}
+
+TEST(MergeTrack, EndsWhereThereIsNoRoom) {
+  int room = 1;
+  EXPECT_FALSE(MergeTrack(LinesOf({Point("1200"), Point("1201")}), LinesOf({}),
+                          [&room](std::string_view) { return room-- > 0; }));
+}
+
+TEST(MergeWay, PutsTheLineBeforeTheFirstLaterOne) {
+  const std::string line = "5390  415 240514 1300 OUT_A  OUTDOOR_ACT TK20240514.VEC";
+  const std::string before = "5378 412  240514 1230||01";
+  const std::string same = "5378 412  240514 1300||01";
+  const std::string later = "5378 412  240514 1301||01";
+  EXPECT_EQ(WayOf({before, same, later}, line), (Lines{before, same, line, later}));
+  EXPECT_EQ(WayOf({before}, line), (Lines{before, line}));
+  EXPECT_EQ(WayOf({later, before}, line), (Lines{line, later, before}));
+  EXPECT_EQ(WayOf({}, line), Lines{line});
+}
+
+TEST(MergeWay, ALineThatStandsThereIsNotRepeated) {
+  const std::string line = "5390  415 240514 1300 OUT_A  OUTDOOR_ACT TK20240514.VEC";
+  EXPECT_EQ(WayOf({line, "5378 412  240515 0800||"}, line),
+            (Lines{line, "5378 412  240515 0800||"}));
+}
+
+// ---- Names and points -----------------------------------------------------------------------
+
+TEST(TurningPoint, IsTheFarthestFromTheFirstAndTheLastOfEqualOnes) {
+  TurningPoint turning;
+  EXPECT_EQ(turning.Line(), "");
+  turning.Take("");
+  turning.Take(Point("1200", "5378.900  412.900"));
+  EXPECT_EQ(turning.Line(), Point("1200", "5378.900  412.900"));
+  turning.Take(Point("1201", "5381.000  416.000"));
+  turning.Take(Point("1202", "5378.000  417.999"));
+  turning.Take(Point("1203", "5378.000  413.000"));
+  EXPECT_EQ(turning.Line(), Point("1202", "5378.000  417.999"));
+  // Half a line would lie far away.
+  turning.Take("\xFE 5");
+  EXPECT_EQ(turning.Line(), Point("1202", "5378.000  417.999"));
+}
+
+TEST(TrackNameOfVectors, IsTheDayOrTheBeginningOfTheName) {
+  EXPECT_EQ(TrackNameOfVectors("XX20240514.VEC"), "20240514");
+  EXPECT_EQ(TrackNameOfVectors("xy20240514.vec"), "20240514");
+  EXPECT_EQ(TrackNameOfVectors("X120240514.VEC"), "X1202405");
+  EXPECT_EQ(TrackNameOfVectors("XX2024051.VEC"), "XX202405");
+  EXPECT_EQ(TrackNameOfVectors("A.VEC"), "A");
+}
+
+// ---- Files ----------------------------------------------------------------------------------
+
+constexpr const char* kProgram = "C:\\ZEPRIL";
+const std::string kVectors = "C:\\ZEPRIL\\U33\\VEC\\XX20240514.VEC";
+const std::string kTrack = "C:\\ZEPRIL\\U33\\TRK\\20240514.TRK";
+const std::string kWay = "C:\\MAP\\U33\\QTHWAY.TXT";
+const std::string kCopy = "C:\\MAP\\U33\\TK20240514.VEC";
+const std::string kEnd = "\r\n";
+
+class VectorImportTest : public ::testing::Test {
+ protected:
+  VectorImportTest() {
+    disk.MakeFolder("C:\\ZEPRIL\\U33\\VEC");
+    disk.MakeFolder("C:\\ZEPRIL\\U33\\TRK");
+    disk.MakeFolder("C:\\MAP\\U33");
+  }
+  void Import() { ImportVectorFiles(disk, kProgram); }
+  std::string Of(const std::string& path) const {
+    return disk.ReadAll(path, std::size_t{64} << 20).value_or("(missing)");
+  }
+  void NavigationIsMissing() { ASSERT_EQ(::rmdir(disk.NativePath("C:\\MAP\\U33").c_str()), 0); }
+
+  const std::string vectors = Point("1230") + kEnd + kEnd + Point("1300", "5390.500  415.250") +
+                              kEnd + Point("1330", "5380.000  413.000") + kEnd;
+  const std::string points = Point("1230") + kEnd + Point("1300", "5390.500  415.250") + kEnd +
+                             Point("1330", "5380.000  413.000") + kEnd;
+  const std::string outing = "5390  415 240514 1300 OUT_A  OUTDOOR_ACT TK20240514.VEC\r\n";
+  TempFolder folder;
+  NativeFiles disk{folder.Path()};
+};
+
+TEST_F(VectorImportTest, AnOutingBecomesACopyALineOfTheWayAndATrack) {
+  disk.Write(kVectors, vectors);
+  Import();
+  EXPECT_EQ(Of(kCopy), vectors);
+  EXPECT_EQ(Of(kWay), outing);
+  EXPECT_EQ(Of(kTrack), points);
+  EXPECT_FALSE(disk.Exists(kVectors));
+}
+
+TEST_F(VectorImportTest, WayAndTrackThatExistKeepTheirLines) {
+  disk.Write(kWay, "5378 412  240514 1230||01\r\n5378 412  240515 0800||22");
+  disk.Write(kTrack,
+             Point("1229") + kEnd + Point("1230", "5000.000  400.000") + kEnd + Point("1400"));
+  disk.Write(kVectors, vectors);
+  Import();
+  EXPECT_EQ(Of(kWay), "5378 412  240514 1230||01\r\n" + outing + "5378 412  240515 0800||22\r\n");
+  EXPECT_EQ(Of(kTrack), Point("1229") + kEnd + points + Point("1400") + kEnd);
+}
+
+TEST_F(VectorImportTest, TwoOutingsOfADayShareATrackWithoutRepeatingAMinute) {
+  disk.Write(kVectors, vectors);
+  disk.Write("C:\\ZEPRIL\\U33\\VEC\\YY20240514.VEC", Point("1300") + kEnd + Point("1301") + kEnd);
+  Import();
+  EXPECT_EQ(Of(kTrack), Point("1230") + kEnd + Point("1300") + kEnd + Point("1301") + kEnd +
+                            Point("1330", "5380.000  413.000") + kEnd);
+  // The copies have one name: the older one stays beside.
+  EXPECT_EQ(Of(kCopy), Point("1300") + kEnd + Point("1301") + kEnd);
+  EXPECT_EQ(Of(kCopy + ".BAK"), vectors);
+}
+
+TEST_F(VectorImportTest, WithoutTheNavigationProgramOnlyTheTrackIsMerged) {
+  NavigationIsMissing();
+  disk.Write(kVectors, vectors);
+  Import();
+  EXPECT_EQ(Of(kTrack), points);
+  EXPECT_FALSE(disk.Exists("C:\\MAP\\U33"));
+  EXPECT_FALSE(disk.Exists(kVectors));
+}
+
+TEST_F(VectorImportTest, TheFolderOfTheUsualInstallationIsMadeWhenThereIsNone) {
+  ImportVectorFiles(disk, "C:\\ELSEWHERE");
+  EXPECT_TRUE(disk.Exists("C:\\ZEPRIL\\U33\\VEC"));
+  EXPECT_FALSE(disk.Exists("C:\\ELSEWHERE"));
+}
+
+TEST_F(VectorImportTest, AnImportThatWasBrokenOffIsRepeatedWithoutRepeatingItsLines) {
+  disk.Write(kVectors, vectors);
+  Import();
+  disk.Write(kVectors, vectors);
+  Import();
+  EXPECT_EQ(Of(kWay), outing);
+  EXPECT_EQ(Of(kTrack), points);
+  EXPECT_FALSE(disk.Exists(kCopy + ".BAK"));
+}
+
+TEST_F(VectorImportTest, AForeignFileOfThisNameIsLeftAlone) {
+  for (const std::string& content :
+       {std::string("<svg>\n") + Point("1230") + kEnd, std::string("\0\x01\x02", 3),
+        std::string(1 << 20, 'x'), std::string("\xFE short\r\n")}) {
+    disk.Write(kVectors, content);
+    Import();
+    EXPECT_EQ(Of(kVectors), content);
+    EXPECT_FALSE(disk.Exists(kWay));
+    EXPECT_FALSE(disk.Exists(kTrack));
+  }
+}
+
+TEST_F(VectorImportTest, AFileOfBlankLinesGoesAndMakesNoTrack) {
+  disk.Write(kVectors, "\r\n  \r\n");
+  Import();
+  EXPECT_FALSE(disk.Exists(kVectors));
+  EXPECT_FALSE(disk.Exists(kWay));
+  EXPECT_FALSE(disk.Exists(kTrack));
+}
+
+TEST_F(VectorImportTest, WhereTrackOrWayCantBeWrittenTheVectorsStay) {
+  for (const std::string& taken : {kTrack, kWay, kCopy}) {
+    disk.Write(kVectors, vectors);
+    disk.Remove(kTrack);
+    disk.Remove(kWay);
+    disk.Remove(kCopy);
+    // A folder stands in the way, with something in it.
+    disk.MakeFolder(taken + "\\X");
+    Import();
+    EXPECT_EQ(Of(kVectors), vectors) << taken;
+    EXPECT_TRUE(disk.Exists(taken + "\\X")) << taken;
+    ::rmdir(disk.NativePath(taken + "\\X").c_str());
+    ASSERT_EQ(::rmdir(disk.NativePath(taken).c_str()), 0) << taken;
+    Import();
+    EXPECT_EQ(Of(kTrack), points) << taken;
+    EXPECT_EQ(Of(kWay), outing) << taken;
+    EXPECT_FALSE(disk.Exists(kVectors)) << taken;
+  }
+}
+
+TEST_F(VectorImportTest, OnAFullDiskEverythingStaysAsItWas) {
+  const std::string old = Point("1229") + kEnd + Point("1400") + kEnd;
+  disk.Write(kTrack, old);
+  disk.Write(kVectors, vectors);
+  {
+    const SizeLimit limit(vectors.size() + 10);
+    Import();
+  }
+  EXPECT_EQ(Of(kTrack), old);
+  EXPECT_EQ(Of(kVectors), vectors);
+  EXPECT_EQ(disk.List("C:\\ZEPRIL\\U33\\TRK", "*.*").size(), 1U);
+}
+
+TEST_F(VectorImportTest, AFileAThousandTimesTheUsualSizeIsMergedLineByLine) {
+  // A day has 1440 points.
+  std::string large;
+  const int count = 1'500'000;
+  large.reserve(std::size_t{37} * count);
+  for (int point = 0; point < count; ++point)
+    large += "\xFE 5378.123  412.345 " + WholeNumber(10000000 + point / 1440) + " " +
+             ZeroPadded(point % 1440, 4) + kEnd;
+  const std::string old = Point("1229") + kEnd;
+  disk.Write(kVectors, large);
+  disk.Write(kTrack, old);
+  Import();
+  EXPECT_FALSE(disk.Exists(kVectors));
+  EXPECT_EQ(disk.Stamp(kTrack)->Size, static_cast<std::int64_t>(large.size() + old.size()));
+  EXPECT_TRUE(disk.ReadRange(kTrack, static_cast<std::int64_t>(large.size()), 100) == old);
+}
+
+TEST_F(VectorImportTest, ATrackOfALineWithoutEndIsNotTouched) {
+  const std::string endless(std::size_t{1} << 20, 'x');
+  disk.Write(kTrack, endless);
+  disk.Write(kVectors, vectors);
+  Import();
+  EXPECT_TRUE(Of(kTrack) == endless);
+  EXPECT_EQ(Of(kVectors), vectors);
+}
+
+TEST_F(VectorImportTest, AtMostTwoHundredFilesAreTakenAtOnce) {
+  MemoryFiles many;
+  for (int file = 0; file < 205; ++file)
+    many.Contents["C:\\ZEPRIL\\U33\\VEC\\XX" + WholeNumber(20240000 + file) + ".VEC"] = vectors;
+  ImportVectorFiles(many, kProgram);
+  EXPECT_EQ(many.List("C:\\ZEPRIL\\U33\\VEC", "*.VEC").size(), 5U);
+  ImportVectorFiles(many, kProgram);
+  EXPECT_TRUE(many.List("C:\\ZEPRIL\\U33\\VEC", "*.VEC").empty());
+}
+
+}  // namespace
+}  // namespace zepril
