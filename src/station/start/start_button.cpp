@@ -8,6 +8,7 @@
 #include "core/texts/boxes.h"
 #include "core/texts/notices.h"
 #include "core/texts/status_texts.h"
+#include "gps/vector_import.h"
 #include "station/start/modem_set_up.h"
 
 namespace zepril {
@@ -47,6 +48,8 @@ void StartButton::Command1Click() {
     return;
   }
   SetUpModem();
+  // With every interface: what outings have left behind.
+  ImportVectorFiles(settings_.Disk, settings_.ProgramFolder);
   if (Started) Started();
 }
 

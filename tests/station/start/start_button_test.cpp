@@ -61,6 +61,22 @@ TEST_F(StartButtonTest, TheSetUpRunsBehindTheStoredFile) {
   EXPECT_EQ(modem.Notes.front(), "open 8 38400");
 }
 
+TEST_F(StartButtonTest, VectorsOfOutingsAreTakenOverWithEveryInterfaceBehindTheSetUp) {
+  const std::string vectors = "C:\\Z\\U33\\VEC\\XX20240514.VEC";
+  const std::string track = "C:\\Z\\U33\\TRK\\20240514.TRK";
+  const std::string point = "\xFE 5378.123  412.345 20240514 1230\r\n";
+  for (const char* mode : {"0", "1", "3", "4", "5", "6"}) {
+    const auto panel = PanelOf(std::string("MODEM=") + mode + "\r\n");
+    files.MakeFolder("C:\\Z\\U33\\VEC");
+    files.Write(vectors, point);
+    files.Remove(track);
+    OnWait = [&] { EXPECT_TRUE(files.Exists(vectors)); };
+    panel->Controls.Command1.Click();
+    EXPECT_EQ(files.ReadAll(track, 100), point) << mode;
+    EXPECT_FALSE(files.Exists(vectors)) << mode;
+  }
+}
+
 TEST_F(StartButtonTest, TheWindowTellsHowFarTheSetUpIs) {
   const struct {
     const char* Mode;
