@@ -53,7 +53,7 @@ class PageFetcher {
   // Ends the fetch under way and empties the line.
   void Stop();
   bool IsBusy() const { return current_.has_value(); }
-  // It has had its turn and its answer is waited for.
+  // The page has its turn; false while it waits for it.
   bool IsUnderWay(std::int64_t number) const { return current_ && current_->Number == number; }
 
  protected:

@@ -37,6 +37,17 @@ TEST(PageFetcher, FetchesOneAfterTheOther) {
   EXPECT_FALSE(pages.IsBusy());
 }
 
+TEST(PageFetcher, TellsWhosePageHasItsTurn) {
+  FakePages pages;
+  const std::int64_t first = pages.Fetch("http://a", {});
+  const std::int64_t second = pages.Fetch("http://b", {});
+  EXPECT_TRUE(pages.IsUnderWay(first));
+  EXPECT_FALSE(pages.IsUnderWay(second));
+  pages.Answer("");
+  EXPECT_FALSE(pages.IsUnderWay(first));
+  EXPECT_TRUE(pages.IsUnderWay(second));
+}
+
 TEST(PageFetcher, AStatusOfFaultIsAnAnswerAndNotAGoodOne) {
   FakePages pages;
   Asker asker;
