@@ -7,6 +7,7 @@
 #include <QUrl>
 #include <QWidget>
 
+#include "platform/native/set_clock.h"
 #include "platform/qt/text.h"
 
 namespace zepril {
@@ -24,6 +25,10 @@ bool QtDesktopActions::MovePointerOnMap(int x, int y) {
   const QPoint target = map_->mapToGlobal(QPoint(x, y));
   QCursor::setPos(target);
   return QCursor::pos() == target;
+}
+
+bool QtDesktopActions::SetClock(const LocalTime& time) {
+  return zepril::SetClock(time);
 }
 
 }  // namespace zepril

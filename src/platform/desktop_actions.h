@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "platform/clock.h"
+
 namespace zepril {
 
 class DesktopActions {
@@ -14,6 +16,8 @@ class DesktopActions {
   virtual void Open(const std::string& path_or_address) = 0;
   // Moves the mouse pointer to pixel (x, y) of the map; false when the system does not allow it.
   virtual bool MovePointerOnMap(int x, int y) = 0;
+  // Sets the computer's clock to this local time; false when that is refused.
+  virtual bool SetClock(const LocalTime&) { return false; }
 };
 
 }  // namespace zepril

@@ -14,7 +14,15 @@ class RecordedDesktop final : public DesktopActions {
   void Open(const std::string& what) override { Opened.push_back(what); }
   bool MovePointerOnMap(int, int) override { return false; }
 
+  // Written down; the computer's clock stays.
+  bool SetClock(const LocalTime& time) override {
+    ClockSettings.push_back(time);
+    return ClockMayBeSet;
+  }
+
   std::vector<std::string> Opened;
+  std::vector<LocalTime> ClockSettings;
+  bool ClockMayBeSet = true;
 };
 
 }  // namespace zepril
