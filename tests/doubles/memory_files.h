@@ -2,8 +2,10 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,7 +29,9 @@ class MemoryFiles final : public Files {
     if (found == Contents.end() || Unreadable(path) || offset < 0) return std::nullopt;
     const std::string& text = found->second;
     const auto from = std::min(static_cast<std::size_t>(offset), text.size());
-    return text.substr(from, length);
+    std::string part = text.substr(from, length);
+    if (OnReadRange) OnReadRange();
+    return part;
   }
   bool ReadLines(const std::string& path, const LineReader& line) const override {
     const auto found = Contents.find(path);
@@ -67,14 +71,18 @@ class MemoryFiles final : public Files {
     return true;
   }
   FileTrouble Trouble() const override { return Why; }
-  bool Remove(const std::string& path) override { return Contents.erase(path) > 0; }
+  bool Remove(const std::string& path) override {
+    return !NothingIsRemoved && Contents.erase(path) > 0;
+  }
   bool Rename(const std::string&, const std::string&) override { return false; }
   bool MakeFolder(const std::string&) override { return true; }
   std::string NativePath(const std::string& path) const override { return path; }
   std::optional<FileStamp> Stamp(const std::string& path) const override {
+    FileStamp stamp;
+    stamp.IsFolder = Folders.contains(path);
+    if (stamp.IsFolder || Devices.contains(path)) return stamp;
     const auto found = Contents.find(path);
     if (found == Contents.end()) return std::nullopt;
-    FileStamp stamp;
     stamp.Size = static_cast<std::int64_t>(found->second.size());
     stamp.IsRegular = true;
     return stamp;
@@ -106,6 +114,10 @@ class MemoryFiles final : public Files {
   }
 
   std::map<std::string, std::string> Contents;
+  std::set<std::string> Folders;            // that are there
+  std::set<std::string> Devices;            // likewise
+  bool NothingIsRemoved = false;            // a removal is refused
+  std::function<void()> OnReadRange;        // after a part was read, before it is handed over
   std::string RefusedEnding;                // files whose path ends so can't be written
   bool NoRoomToReplace = false;             // a whole new file finds no room, a line more does
   FileTrouble Why = FileTrouble::DiskFull;  // told as the trouble of whatever fails

@@ -1,0 +1,79 @@
+// The GPS at each tick: from the last sentences of the source to the own position, the clock, the
+// line over the map, the way and the track, and what the map follows.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "core/actions/map_actions.h"
+#include "core/controls/gps_controls.h"
+#include "core/controls/map_controls.h"
+#include "core/controls/transmit_controls.h"
+#include "core/state/gps.h"
+#include "core/state/map_view.h"
+#include "core/state/settings.h"
+#include "gps/nmea_sentences.h"
+#include "gps/nmea_source.h"
+#include "platform/clock.h"
+#include "platform/desktop_actions.h"
+#include "platform/event.h"
+
+namespace zepril {
+
+struct NmeaSections {
+  const SettingsState& Settings;
+  GpsState& Gps;
+  MapViewState& View;
+};
+
+struct NmeaControls {
+  GpsControls& Gps;
+  MapControls& Map;
+  const TransmitControls& Transmit;
+};
+
+struct NmeaTools {
+  NmeaSource& Source;
+  const Clock& LocalClock;
+  DesktopActions& Desktop;
+  MapActions& Map;
+};
+
+class NmeaReader {
+ public:
+  // So long after the operator has moved the map it stays where he put it.
+  static constexpr double kHandsOffSeconds = 30.0;
+
+  // Sets the event of `GpsNote`.
+  NmeaReader(NmeaSections sections, NmeaControls controls, NmeaTools tools);
+  NmeaReader(const NmeaReader&) = delete;
+  NmeaReader& operator=(const NmeaReader&) = delete;
+
+  // Once a tick. Whatever can't be read leaves the old position.
+  void ReadNmea();
+
+  // A position was taken: the way for the navigation program, when it is kept, and the track. Each
+  // may be empty.
+  Event<> SaveWay;
+  Event<> SaveTrack;
+
+ private:
+  void ReadSentences();
+  void NoteManualMove();
+  void SetClock(const NmeaPair& pair);
+  void TakePosition(const NmeaPosition& position);
+  bool MapIsLeftAlone() const;
+  void GoToOwnPosition();
+  bool FixIsFresh() const;
+  void ShowNote();
+
+  NmeaSections sections_;
+  NmeaControls controls_;
+  NmeaTools tools_;
+  bool came_ = false;                       // the source has told something since the last tick
+  std::string clock_told_;                  // date and time by which the clock was set last
+  std::optional<LocalTime> last_position_;  // when one was taken for the last time
+  std::string closed_note_;
+};
+
+}  // namespace zepril

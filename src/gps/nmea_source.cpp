@@ -1,0 +1,159 @@
+// Tells ports from files, opens the one and consumes the other.
+#include "gps/nmea_source.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/port_number.h"
+#include "core/text_fields.h"
+#include "core/texts/gps_texts.h"
+
+namespace zepril {
+namespace {
+
+constexpr std::size_t kShortestFileName = 4;
+constexpr std::string_view kDeviceFolder = "/dev/";
+
+// Every line with CR LF behind it, the last one too.
+std::string WithLineEnds(std::string_view text) {
+  std::string lines;
+  while (!text.empty()) {
+    const std::size_t length = std::min(text.find_first_of("\r\n"), text.size());
+    lines.append(text.substr(0, length)).append("\r\n");
+    text.remove_prefix(length);
+    text.remove_prefix(text.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, text.size()));
+  }
+  return lines;
+}
+
+bool IsDevice(const Files& disk, const std::string& path) {
+  const auto found = disk.Stamp(path);
+  return found && !found->IsRegular && !found->IsFolder;
+}
+
+}  // namespace
+
+NmeaSource::NmeaSource(GpsState& gps, SerialPort& port, Files& disk, const Clock& clock)
+    : gps_(gps), port_(port), disk_(disk), clock_(clock) {
+  ReopenTimer.Elapsed = [this] {
+    const std::string text = PortText();
+    if (!text.empty() && !port_.IsOpen()) port_.Reopen(text, Baud());
+  };
+}
+
+NmeaSource::~NmeaSource() {
+  if (opened_) port_.DataArrived = nullptr;
+}
+
+// ---- What the setting means -------------------------------------------------------------------
+
+std::string NmeaSource::PortText() const {
+  const std::string source(Trim(gps_.NmeaSource));
+  if (const double number = Val(source); number > 0.0) return ShortNumber(Fix(number));
+  if (const auto number = PortNumberOfText(source); number && *number > 0) return source;
+  if (!IsFile()) return {};
+  const bool is_path = source.find_first_of("/\\:") != std::string::npos;
+  const bool is_device = is_path ? source.starts_with(kDeviceFolder) || IsDevice(disk_, source)
+                                 : IsDevice(disk_, std::string(kDeviceFolder) + source);
+  return is_device ? source : std::string();
+}
+
+// Of a text without a number in front.
+bool NmeaSource::IsFile() const {
+  const std::string_view source = Trim(gps_.NmeaSource);
+  return source.size() >= kShortestFileName && InStr(Upper(source), "SAVE") == 0;
+}
+
+bool NmeaSource::IsThere() const {
+  return !PortText().empty() || (Val(gps_.NmeaSource) == 0.0 && IsFile());
+}
+
+int NmeaSource::Baud() const {
+  constexpr int kMostBaud = 4'000'000;
+  return WholeVal(gps_.NmeaBaud, 0, kMostBaud).value_or(0);
+}
+
+std::string NmeaSource::Trouble() const {
+  return PortText().empty() ? file_trouble_ : port_.Trouble();
+}
+
+// ---- Port -------------------------------------------------------------------------------------
+
+void NmeaSource::Open() {
+  Close();
+  last_came_ = clock_.MonotonicSeconds();
+  if (!IsThere()) return;
+  opened_ = true;
+  port_.DataArrived = [this] { Drain(); };
+  if (const std::string text = PortText(); !text.empty()) {
+    port_.ForgetDevice();
+    port_.Open(text, Baud());
+    gps_.NmeaDevice = port_.LastingName(text);
+  }
+  // A device of the name of a file that is not there yet may come too.
+  ReopenTimer.Arm(kReopenMilliseconds);
+}
+
+void NmeaSource::Close() {
+  ReopenTimer.Stop();
+  if (opened_) port_.DataArrived = nullptr;
+  opened_ = false;
+  if (port_.IsOpen()) port_.Close();
+}
+
+// Taken as it comes: between two ticks more may come than the port holds.
+void NmeaSource::Drain() {
+  Add(port_.ReadAll());
+}
+
+bool NmeaSource::Take() {
+  if (!PortText().empty()) {
+    Drain();
+  } else if (IsThere()) {
+    TakeFile();
+  }
+  const bool silent = clock_.MonotonicSeconds() - last_came_ > kLongestSilenceSeconds;
+  if (silent) gps_.NmeaBuffer.clear();
+  return std::exchange(came_, false);
+}
+
+void NmeaSource::Add(std::string_view text) {
+  if (text.empty()) return;
+  came_ = true;
+  last_came_ = clock_.MonotonicSeconds();
+  gps_.NmeaBuffer += Right(text, GpsState::kLongestBuffer);
+  gps_.NmeaBuffer = Right(gps_.NmeaBuffer, GpsState::kLongestBuffer);
+}
+
+// ---- File -------------------------------------------------------------------------------------
+
+void NmeaSource::TakeFile() {
+  // As many as fill the buffer when their line ends have become two characters.
+  constexpr std::int64_t kEnough = 2 * GpsState::kLongestBuffer;
+  const std::string path(Trim(gps_.NmeaSource));
+  file_trouble_.clear();
+  const auto found = disk_.Stamp(path);
+  // Nothing was dropped, or its writer has only begun.
+  if (!found || (found->IsRegular && found->Size == 0)) return;
+  if (!found->IsRegular) {
+    file_trouble_ = gps_texts::kNoFile.With({path});
+    return;
+  }
+  const auto from = std::max<std::int64_t>(found->Size - kEnough, 0);
+  const auto text = disk_.ReadRange(path, from, kEnough);
+  if (!text) {
+    file_trouble_ = gps_texts::kFileUnread.With({path});
+    return;
+  }
+  // One that has changed meanwhile is still being written: it is taken at the next tick.
+  if (disk_.Stamp(path) != found) return;
+  // What stayed would be read at every tick, and its position never grow old.
+  if (!disk_.Remove(path)) {
+    file_trouble_ = gps_texts::kFileStays.With({path});
+    return;
+  }
+  Add(WithLineEnds(*text));
+  gps_.GpsTimeValid = 1;
+}
+
+}  // namespace zepril

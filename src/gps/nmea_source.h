@@ -1,0 +1,68 @@
+// Where NMEA sentences come from: a serial port, or a file that another program drops. Whatever
+// comes lies in the state (`NmeaBuffer`), the last of it, until it is read there.
+//
+// The setting is a port's number ("3", "3 SAVE", "COM3"), a device ("/dev/ttyACM0"), or a file
+// ("C:\GPS.TXT"). A text without a number in front is none of these with the word SAVE in it or up
+// to three characters. Only an ordinary file is a file: it is read and removed. A device that is
+// lost is tried again every ten seconds by a timer, never another one in its place.
+//
+// What was told is true for a minute. Of a source that has been silent for longer nothing is left:
+// its last position would be taken again and again.
+#pragma once
+
+#include <string>
+
+#include "core/state/gps.h"
+#include "core/timer.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/serial_port.h"
+
+namespace zepril {
+
+class NmeaSource {
+ public:
+  static constexpr double kLongestSilenceSeconds = 60.0;
+  static constexpr int kReopenMilliseconds = 10000;
+
+  // Takes the event of the port from `Open` to `Close`. All that is given must outlive it.
+  NmeaSource(GpsState& gps, SerialPort& port, Files& disk, const Clock& clock);
+  ~NmeaSource();
+  NmeaSource(const NmeaSource&) = delete;
+  NmeaSource& operator=(const NmeaSource&) = delete;
+
+  // The start of the run: a port that is open is closed, the one of the setting opened. What can't
+  // be opened is no failure.
+  void Open();
+  void Close();
+  // What has come since is in the buffer behind this; a file is gone. True when there was anything.
+  bool Take();
+
+  // The setting names one.
+  bool IsThere() const;
+  // Why nothing can come, as a sentence for the operator; empty when all is well.
+  std::string Trouble() const;
+
+  // When a lost port is tried again; to be driven by whoever owns the loop.
+  Timer ReopenTimer{kReopenMilliseconds};
+
+ private:
+  // The port that the setting means, as a port is asked for it; empty when it means none.
+  std::string PortText() const;
+  bool IsFile() const;
+  int Baud() const;
+  void Drain();
+  void TakeFile();
+  void Add(std::string_view text);
+
+  GpsState& gps_;
+  SerialPort& port_;
+  Files& disk_;
+  const Clock& clock_;
+  bool opened_ = false;  // the port's event is taken
+  bool came_ = false;    // something, since it was asked for the last time
+  double last_came_ = 0.0;
+  std::string file_trouble_;
+};
+
+}  // namespace zepril

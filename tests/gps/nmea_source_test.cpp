@@ -1,0 +1,246 @@
+// Sources of NMEA sentences: ports, devices, files, and what is neither.
+#include "gps/nmea_source.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "core/texts/gps_texts.h"
+#include "tests/gps/gps_world.h"
+
+namespace zepril {
+namespace {
+
+constexpr const char* kFile = R"(C:\GPS.TXT)";
+
+// ---- What the setting means -------------------------------------------------------------------
+
+TEST(NmeaSourceSetting, ANumberInFrontIsAPort) {
+  for (const auto& [setting, device] :
+       {std::pair{"3", "3"}, std::pair{" 3 ", "3"}, std::pair{"3 SAVE", "3"},
+        std::pair{"12save", "12"}, std::pair{"COM5", "COM5"}, std::pair{"4GPS.TXT", "4"}}) {
+    GpsWorld world(setting);
+    EXPECT_TRUE(world.Port.IsOpen()) << setting;
+    EXPECT_EQ(world.Port.Device, device);
+    EXPECT_EQ(world.Port.Baud, 4800);
+    EXPECT_TRUE(world.Source.IsThere());
+    EXPECT_EQ(world.Gps.NmeaDevice, device);
+  }
+}
+
+TEST(NmeaSourceSetting, NothingIsOpenedWithoutASource) {
+  for (const char* setting : {"", "0", "0 SAVE", "ABC", "XSAVE", "GPSSAVE.TXT", "-3"}) {
+    GpsWorld world(setting);
+    EXPECT_FALSE(world.Port.IsOpen()) << setting;
+    EXPECT_FALSE(world.Source.IsThere()) << setting;
+    world.Tick();
+    EXPECT_FALSE(world.Controls.GpsNote.Visible) << setting;
+  }
+}
+
+TEST(NmeaSourceSetting, AFileOfUpToThreeCharactersOrWithTheWordIsNotRead) {
+  for (const char* name : {"ABC", "XSAVE"}) {
+    GpsWorld world(name);
+    world.Disk.Write(name, RmcLine("123040"));
+    EXPECT_FALSE(world.Source.Take()) << name;
+    EXPECT_TRUE(world.Disk.Exists(name)) << name;
+  }
+}
+
+TEST(NmeaSourceSetting, ADeviceIsAPortByWhateverName) {
+  MemoryFiles disk;
+  FakeSerial port;
+  VirtualClock clock;
+  disk.Devices = {"/tmp/gps", "/dev/ttyUSB7"};
+  for (const char* setting : {"/dev/ttyACM0", "/tmp/gps", "ttyUSB7"}) {
+    GpsState gps;
+    gps.NmeaSource = setting;
+    gps.NmeaBaud = "9600x";
+    NmeaSource source(gps, port, disk, clock);
+    source.Open();
+    EXPECT_TRUE(port.IsOpen()) << setting;
+    EXPECT_EQ(port.Device, setting);
+    EXPECT_EQ(port.Baud, 9600);
+  }
+}
+
+TEST(NmeaSourceSetting, APortThatIsOpenIsClosedFirst) {
+  MemoryFiles disk;
+  FakeSerial port;
+  VirtualClock clock;
+  port.Open("9", 300);
+  GpsState gps;
+  NmeaSource source(gps, port, disk, clock);
+  source.Open();
+  EXPECT_FALSE(port.IsOpen());
+}
+
+// ---- Port -------------------------------------------------------------------------------------
+
+TEST(NmeaPort, WhatComesIsKeptUpToThreeThousandCharacters) {
+  GpsWorld world;
+  EXPECT_FALSE(world.Source.Take());
+  world.Say("abc");
+  world.Say("def");
+  EXPECT_TRUE(world.Source.Take());
+  EXPECT_EQ(world.Gps.NmeaBuffer, "abcdef");
+  EXPECT_FALSE(world.Source.Take());
+  world.Say(std::string(2998, 'x'));
+  EXPECT_EQ(world.Gps.NmeaBuffer, "ef" + std::string(2998, 'x'));
+  world.Say(std::string(70000, 'y') + "z");
+  EXPECT_EQ(world.Gps.NmeaBuffer, std::string(2999, 'y') + "z");
+}
+
+TEST(NmeaPort, ALostOneIsTriedAgainEveryTenSeconds) {
+  GpsWorld world;
+  world.Port.Vanish();
+  world.Port.Why = "gone";
+  EXPECT_EQ(world.Source.Trouble(), "gone");
+  world.Clock.Run(30.0);
+  EXPECT_FALSE(world.Port.IsOpen());
+  world.Port.Absent = false;
+  world.Clock.Run(10.0);
+  EXPECT_TRUE(world.Port.IsOpen());
+  EXPECT_EQ(world.Source.Trouble(), "");
+  EXPECT_EQ(world.Port.Device, "3");
+}
+
+TEST(NmeaPort, OnlyTheDeviceThatWasChosenIsTakenBack) {
+  struct ChosenPort final : SerialPort {
+    bool Open(const std::string&, int) override { return ++Opened > 0; }
+    bool Reopen(const std::string&, int) override { return ++Reopened > 100; }
+    void ForgetDevice() override { ++Forgotten; }
+    void Close() override {}
+    bool IsOpen() const override { return false; }
+    void Write(std::string_view) override {}
+    std::string ReadAll() override { return {}; }
+    std::size_t BytesToWrite() const override { return 0; }
+    int Opened = 0;
+    int Reopened = 0;
+    int Forgotten = 0;
+  } port;
+  GpsState gps;
+  gps.NmeaSource = "3";
+  MemoryFiles disk;
+  VirtualClock clock;
+  NmeaSource source(gps, port, disk, clock);
+  clock.Drive(source.ReopenTimer, false);
+  source.Open();
+  clock.Run(35.0);
+  EXPECT_EQ(port.Opened, 1);
+  EXPECT_EQ(port.Forgotten, 1);
+  EXPECT_EQ(port.Reopened, 3);
+}
+
+TEST(NmeaPort, ClosesAndIsNotTriedAgain) {
+  GpsWorld world;
+  world.Source.Close();
+  EXPECT_FALSE(world.Port.IsOpen());
+  EXPECT_FALSE(static_cast<bool>(world.Port.DataArrived));
+  world.Clock.Run(60.0);
+  EXPECT_FALSE(world.Port.IsOpen());
+}
+
+TEST(NmeaPort, WhatItSaidIsForgottenAfterAMinuteOfSilence) {
+  GpsWorld world;
+  world.Say("abc\r\n");
+  world.Clock.Run(60.0);
+  world.Source.Take();
+  EXPECT_EQ(world.Gps.NmeaBuffer, "abc\r\n");
+  world.Clock.Run(1.0);
+  world.Source.Take();
+  EXPECT_EQ(world.Gps.NmeaBuffer, "");
+}
+
+TEST(NmeaPort, ADeviceThatComesUnderTheNameOfAFileIsOpenedAndNotRead) {
+  GpsWorld world("/tmp/gps-link");
+  EXPECT_FALSE(world.Port.IsOpen());
+  world.Disk.Devices.insert("/tmp/gps-link");
+  world.Clock.Run(11.0);
+  EXPECT_TRUE(world.Port.IsOpen());
+}
+
+// ---- File -------------------------------------------------------------------------------------
+
+TEST(NmeaFile, IsConsumedAndMakesTheTimeValid) {
+  GpsWorld world(kFile);
+  EXPECT_FALSE(world.Port.IsOpen());
+  EXPECT_FALSE(world.Source.Take());
+  EXPECT_EQ(world.Gps.GpsTimeValid, 0);
+  world.Disk.Write(kFile, "one\ntwo\r\n\rthree");
+  EXPECT_TRUE(world.Source.Take());
+  EXPECT_EQ(world.Gps.NmeaBuffer, "one\r\ntwo\r\n\r\nthree\r\n");
+  EXPECT_FALSE(world.Disk.Exists(kFile));
+  EXPECT_EQ(world.Gps.GpsTimeValid, 1);
+  world.Disk.Write(kFile, "four\n");
+  EXPECT_TRUE(world.Source.Take());
+  EXPECT_EQ(world.Gps.NmeaBuffer, "one\r\ntwo\r\n\r\nthree\r\nfour\r\n");
+}
+
+TEST(NmeaFile, OfALongOneTheEndCounts) {
+  GpsWorld world(kFile);
+  std::string text;
+  for (int line = 0; line < 100000; ++line)
+    text += "0123456789\n";
+  world.Disk.Write(kFile, text + "end");
+  EXPECT_TRUE(world.Source.Take());
+  EXPECT_EQ(world.Gps.NmeaBuffer.size(), GpsState::kLongestBuffer);
+  EXPECT_TRUE(world.Gps.NmeaBuffer.ends_with("\r\n0123456789\r\nend\r\n"));
+  world.Disk.Write(kFile, std::string(5000, '\n'));
+  EXPECT_TRUE(world.Source.Take());
+  EXPECT_EQ(world.Gps.NmeaBuffer.size(), GpsState::kLongestBuffer);
+  EXPECT_EQ(world.Gps.NmeaBuffer.find_first_not_of("\r\n"), std::string::npos);
+}
+
+TEST(NmeaFile, OneThatGrowsWhileItIsReadIsTakenAtTheNextTick) {
+  GpsWorld world(kFile);
+  world.Disk.Write(kFile, "one\n");
+  world.Disk.OnReadRange = [&] { world.Disk.Append(kFile, "two\n"); };
+  EXPECT_FALSE(world.Source.Take());
+  EXPECT_EQ(world.Gps.NmeaBuffer, "");
+  EXPECT_EQ(world.Disk.Of(kFile), "one\ntwo\n");
+  world.Disk.OnReadRange = nullptr;
+  EXPECT_TRUE(world.Source.Take());
+  EXPECT_EQ(world.Gps.NmeaBuffer, "one\r\ntwo\r\n");
+}
+
+TEST(NmeaFile, AnEmptyOneIsLeftToItsWriter) {
+  GpsWorld world(kFile);
+  world.Disk.Write(kFile, "");
+  EXPECT_FALSE(world.Source.Take());
+  EXPECT_TRUE(world.Disk.Exists(kFile));
+  EXPECT_EQ(world.Gps.GpsTimeValid, 0);
+}
+
+TEST(NmeaFile, OneThatCannotBeRemovedIsNotReadAgainAndAgain) {
+  GpsWorld world(kFile);
+  world.Disk.Write(kFile, "one\n");
+  world.Disk.NothingIsRemoved = true;
+  EXPECT_FALSE(world.Source.Take());
+  EXPECT_EQ(world.Gps.NmeaBuffer, "");
+  EXPECT_EQ(world.Gps.GpsTimeValid, 0);
+  EXPECT_EQ(world.Source.Trouble(), gps_texts::kFileStays.With({kFile}));
+}
+
+TEST(NmeaFile, OneThatCannotBeReadStays) {
+  GpsWorld world(kFile);
+  world.Disk.Write(kFile, "one\n");
+  world.Disk.UnreadableEnding = "GPS.TXT";
+  EXPECT_FALSE(world.Source.Take());
+  EXPECT_TRUE(world.Disk.Exists(kFile));
+  EXPECT_EQ(world.Source.Trouble(), gps_texts::kFileUnread.With({kFile}));
+  world.Disk.UnreadableEnding.clear();
+  EXPECT_TRUE(world.Source.Take());
+  EXPECT_EQ(world.Source.Trouble(), "");
+}
+
+TEST(NmeaFile, AFolderIsNone) {
+  GpsWorld world(R"(C:\GPS)");
+  world.Disk.Folders.insert(R"(C:\GPS)");
+  EXPECT_FALSE(world.Source.Take());
+  EXPECT_EQ(world.Source.Trouble(), gps_texts::kNoFile.With({R"(C:\GPS)"}));
+  EXPECT_FALSE(world.Port.IsOpen());
+}
+
+}  // namespace
+}  // namespace zepril
