@@ -24,6 +24,9 @@ std::string WindowPath(const std::string& program_folder);
 inline constexpr int kMostWindowLines = 200;
 inline constexpr std::size_t kLongestWindowLine = 200;  // characters
 
+// 1: the GPS may set the computer's clock.
+inline constexpr const char* kSetClockKey = "SETCLOCK";
+
 // Values by key, keys in capitals. Empty when the file is missing or can't be read.
 using WindowValues = std::map<std::string, std::string>;
 

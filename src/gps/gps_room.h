@@ -1,13 +1,24 @@
-// Where the station was and is: the track files of the days.
+// Where the station was and is: the GPS, and the track files of the days.
 #pragma once
 
+#include <vector>
+
+#include "core/controls/gps_controls.h"
 #include "core/controls/map_controls.h"
 #include "core/controls/track_controls.h"
+#include "core/controls/transmit_controls.h"
+#include "core/state/gps.h"
 #include "core/state/identity.h"
 #include "core/state/map_view.h"
 #include "core/state/places.h"
 #include "core/state/settings.h"
+#include "core/timer.h"
+#include "gps/nmea_reader.h"
+#include "gps/nmea_source.h"
 #include "gps/track_files.h"
+#include "platform/clock.h"
+#include "platform/desktop_actions.h"
+#include "platform/serial_port.h"
 
 namespace zepril {
 
@@ -16,22 +27,45 @@ struct GpsSections {
   MapViewState& View;
   SettingsState& Settings;
   PlacesState& Places;
+  GpsState& Gps;
 };
 
-struct GpsControls {
+struct GpsRoomControls {
   TrackControls& Tracks;
   MapControls& Map;
+  GpsControls& Gps;
+  const TransmitControls& Transmit;
+};
+
+struct GpsTools {
+  SerialPort& MSComm2;  // the GPS
+  Files& Disk;
+  const Clock& LocalClock;
+  Dialogs& Boxes;
+  DesktopActions& Desktop;
+  MapActions& Map;
+  SettingsActions& Settings;
+  Progress& LongWork;
 };
 
 struct GpsRoom {
   // Sets the events of the controls; the object must outlive them.
-  GpsRoom(GpsSections sections, GpsControls controls, TrackFilesTools tools)
+  GpsRoom(GpsSections sections, GpsRoomControls controls, GpsTools tools)
       : Tracks(sections.Identity, sections.View, sections.Settings, sections.Places,
-               controls.Tracks, controls.Map, tools) {}
+               controls.Tracks, controls.Map,
+               {tools.Disk, tools.Boxes, tools.Map, tools.Settings, tools.LongWork}),
+        Source(sections.Gps, tools.MSComm2, tools.Disk, tools.LocalClock),
+        Reader({sections.Settings, sections.Gps, sections.View},
+               {controls.Gps, controls.Map, controls.Transmit},
+               {Source, tools.LocalClock, tools.Desktop, tools.Map}) {}
   GpsRoom(const GpsRoom&) = delete;
   GpsRoom& operator=(const GpsRoom&) = delete;
 
+  std::vector<DrivenTimer> Timers() { return {{&Source.ReopenTimer, false}}; }
+
   TrackFiles Tracks;
+  NmeaSource Source;
+  NmeaReader Reader;
 };
 
 }  // namespace zepril

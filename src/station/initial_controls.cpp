@@ -10,15 +10,19 @@ namespace zepril {
 namespace {
 
 void HidePanels(MainWindowControls& c) {
-  for (Control* panel : std::initializer_list<Control*>{
-           &c.Record.Frame1,      &c.Picture.Frame8,      &c.Chat.Frame3,
-           &c.Chat.Frame7,        &c.Status.Text10,       &c.Status.Frame12,
-           &c.Status.Frame14,     &c.Qth.Frame2,          &c.Palette.PalettePanel,
-           &c.MoniAll.HeardPanel, &c.Map.PictureBase,     &c.Raw.RawList,
-           &c.Status.FileNotice,  &c.Status.LinkNotice,   &c.Places.PoiPanel,
-           &c.Iono.Frame18,       &c.Sun.SunPanel,        &c.Progress.ProgressPanel,
-           &c.TxSetup.Frame4,     &c.ObjectSetup.Frame11, &c.Terminal.Frame19,
-           &c.Terminal.Label49}) {
+  for (Control* panel :
+       std::initializer_list<Control*>{&c.Record.Frame1,        &c.Picture.Frame8,
+                                       &c.Chat.Frame3,          &c.Chat.Frame7,
+                                       &c.Status.Text10,        &c.Status.Frame12,
+                                       &c.Status.Frame14,       &c.Qth.Frame2,
+                                       &c.Palette.PalettePanel, &c.MoniAll.HeardPanel,
+                                       &c.Map.PictureBase,      &c.Raw.RawList,
+                                       &c.Gps.GpsInfo,          &c.Gps.GpsNote,
+                                       &c.Status.FileNotice,    &c.Status.LinkNotice,
+                                       &c.Places.PoiPanel,      &c.Iono.Frame18,
+                                       &c.Sun.SunPanel,         &c.Progress.ProgressPanel,
+                                       &c.TxSetup.Frame4,       &c.ObjectSetup.Frame11,
+                                       &c.Terminal.Frame19,     &c.Terminal.Label49}) {
     panel->Visible = false;
   }
 }

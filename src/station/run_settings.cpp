@@ -22,6 +22,7 @@ void ReadRunSettings(Files& files, RuntimeState& state) {
   ApplyViewValues(own, state);
   const auto digipeater = own.find(kDigipeaterKey);
   state.Settings.DigipeaterProgram = digipeater != own.end() ? digipeater->second : std::string();
+  state.Gps.SetsClock = WindowNumber(own, kSetClockKey, 0, 1) == 1;
   state.Services = ReadServicesFile(files, state.Identity.ProgramFolder);
   TakeZone(state.Identity, state.Map);
 }

@@ -56,6 +56,8 @@ std::vector<DrivenTimer> StationProgram::Timers() {
   std::vector<DrivenTimer> timers{{&rooms_->Timer1, false}, {&rooms_->Timer2, true}};
   for (const DrivenTimer& timer : rooms_->Links.Timers())
     timers.push_back(timer);
+  for (const DrivenTimer& timer : rooms_->Gps.Timers())
+    timers.push_back(timer);
   return timers;
 }
 

@@ -68,6 +68,7 @@ class StationRooms {
   std::shared_ptr<TcpSocket> winsock1_;  // the packet engine
   std::shared_ptr<TcpSocket> winsock2_;  // the APRS-IS server
   std::shared_ptr<SerialPort> mscomm1_;  // the modem
+  std::shared_ptr<SerialPort> mscomm2_;  // the GPS
 
  public:
   StationSurfaces Surfaces;

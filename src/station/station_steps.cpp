@@ -14,6 +14,7 @@ TickSteps TickOrder(StationRooms& rooms) {
   tick.KeepSecondModeMonitored = [&rooms] { rooms.Links.KeepSecondModeMonitored(); };
   tick.ChangeFollowedStation = [&rooms] { rooms.Reception.Choice.FollowTyped(); };
   tick.SendIdentification = [&rooms] { rooms.Transmit.SendIdentification(); };
+  tick.PollGps = [&rooms] { rooms.Gps.Reader.ReadNmea(); };
   tick.RunReceivePass = [&rooms] {
     rooms.Messages.Heard.PassBegins();
     rooms.Reception.Receive();
@@ -42,6 +43,7 @@ StartSteps StartOrder(StationRooms& rooms) {
     if (open) rooms.Gateway.Digipeater.Begin();
     return open;
   };
+  start.OpenGpsPort = [&rooms] { rooms.Gps.Source.Open(); };
   start.RestoreTracksPlacesAndChat = [&rooms] {
     rooms.Gps.Tracks.RestoreAtStart();
     rooms.Viewers.Places.RestoreAtStart();
@@ -66,6 +68,7 @@ StopSteps StopOrder(StationRooms& rooms) {
   };
   stop.ClosePorts = [&rooms] {
     rooms.Links.ClosePort();
+    rooms.Gps.Source.Close();
     rooms.Gateway.Link.Close();
   };
   stop.MergeConfigAtExit = [&rooms] {

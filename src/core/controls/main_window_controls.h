@@ -5,6 +5,7 @@
 
 #include "core/controls/chat_controls.h"
 #include "core/controls/gate_controls.h"
+#include "core/controls/gps_controls.h"
 #include "core/controls/iono_controls.h"
 #include "core/controls/map_controls.h"
 #include "core/controls/moni1_controls.h"
@@ -39,6 +40,7 @@ struct MainWindowControls {
   MoniAllControls MoniAll;
   RecordPanelControls Record;
   TrackControls Tracks;
+  GpsControls Gps;
   PlaceControls Places;
   PicturePanelControls Picture;
   IonoControls Iono;

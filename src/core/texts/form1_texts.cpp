@@ -8,9 +8,9 @@
 namespace zepril {
 // Found by the table through its form.
 static auto Groups(MainWindowControls& c) {
-  return std::tie(c.Map, c.Readouts, c.Scales, c.Palette, c.Tracks, c.Places, c.Picture, c.Iono,
-                  c.Sun, c.Progress, c.Moni1, c.MoniAll, c.Raw, c.Record, c.Qth, c.Transmit, c.Chat,
-                  c.Gate, c.TxSetup, c.ObjectSetup, c.Terminal, c.Status);
+  return std::tie(c.Map, c.Readouts, c.Scales, c.Palette, c.Tracks, c.Gps, c.Places, c.Picture,
+                  c.Iono, c.Sun, c.Progress, c.Moni1, c.MoniAll, c.Raw, c.Record, c.Qth, c.Transmit,
+                  c.Chat, c.Gate, c.TxSetup, c.ObjectSetup, c.Terminal, c.Status);
 }
 
 namespace {
@@ -110,6 +110,10 @@ constexpr ControlRow<MainWindowControls> kTable[] = {
     {"Command68", On<&TrackControls::Command68>(), Own("<"), {"Select previous TRK file"}},
     {"Command69", On<&TrackControls::Command69>(), Own(">"), {"Select next TRK file"}},
     {"Frame10", On<&TrackControls::Frame10>(), Own("TO END"), {"Center map to end of TRK"}},
+
+    // The line of the GPS over the map.
+    {"GpsInfo", On<&GpsControls::GpsInfo>()},
+    {"GpsNote", On<&GpsControls::GpsNote>(), {}, {"Close / it comes back when it changes"}},
 
     // The controls of the place files, and of the panel in which a place is added, renamed or
     // removed.
