@@ -36,8 +36,8 @@ bool IsDevice(const Files& disk, const std::string& path) {
 NmeaSource::NmeaSource(GpsState& gps, SerialPort& port, Files& disk, const Clock& clock)
     : gps_(gps), port_(port), disk_(disk), clock_(clock) {
   ReopenTimer.Elapsed = [this] {
-    const std::string text = PortText();
-    if (!text.empty() && !port_.IsOpen()) port_.Reopen(text, Baud());
+    port_text_ = PortText();
+    if (!port_text_.empty() && !port_.IsOpen()) port_.Reopen(port_text_, Baud());
   };
 }
 
@@ -48,6 +48,10 @@ NmeaSource::~NmeaSource() {
 // ---- What the setting means -------------------------------------------------------------------
 
 std::string NmeaSource::PortText() const {
+  return port_text_.empty() ? FindPort() : port_text_;
+}
+
+std::string NmeaSource::FindPort() const {
   const std::string source(Trim(gps_.NmeaSource));
   if (const double number = Val(source); number > 0.0) return ShortNumber(Fix(number));
   if (const auto number = PortNumberOfText(source); number && *number > 0) return source;
@@ -85,10 +89,11 @@ void NmeaSource::Open() {
   if (!IsThere()) return;
   opened_ = true;
   port_.DataArrived = [this] { Drain(); };
-  if (const std::string text = PortText(); !text.empty()) {
+  port_text_ = FindPort();
+  if (!port_text_.empty()) {
     port_.ForgetDevice();
-    port_.Open(text, Baud());
-    gps_.NmeaDevice = port_.LastingName(text);
+    port_.Open(port_text_, Baud());
+    gps_.NmeaDevice = port_.LastingName(port_text_);
   }
   // A device of the name of a file that is not there yet may come too.
   ReopenTimer.Arm(kReopenMilliseconds);
@@ -96,6 +101,7 @@ void NmeaSource::Open() {
 
 void NmeaSource::Close() {
   ReopenTimer.Stop();
+  port_text_.clear();
   if (opened_) port_.DataArrived = nullptr;
   opened_ = false;
   if (port_.IsOpen()) port_.Close();

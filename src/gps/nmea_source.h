@@ -47,8 +47,10 @@ class NmeaSource {
   Timer ReopenTimer{kReopenMilliseconds};
 
  private:
-  // The port that the setting means, as a port is asked for it; empty when it means none.
+  // The port that the setting means, as a port is asked for it; empty when it means none. What was
+  // a port once in this run is no file any more.
   std::string PortText() const;
+  std::string FindPort() const;
   bool IsFile() const;
   int Baud() const;
   void Drain();
@@ -59,8 +61,9 @@ class NmeaSource {
   SerialPort& port_;
   Files& disk_;
   const Clock& clock_;
-  bool opened_ = false;  // the port's event is taken
-  bool came_ = false;    // something, since it was asked for the last time
+  std::string port_text_;  // of a port that was found
+  bool opened_ = false;    // the port's event is taken
+  bool came_ = false;      // something, since it was asked for the last time
   double last_came_ = 0.0;
   std::string file_trouble_;
 };

@@ -160,6 +160,24 @@ TEST(NmeaPort, ADeviceThatComesUnderTheNameOfAFileIsOpenedAndNotRead) {
   EXPECT_TRUE(world.Port.IsOpen());
 }
 
+TEST(NmeaPort, ADeviceWhoseNameGoesWithItIsNoFileMeanwhile) {
+  MemoryFiles disk;
+  FakeSerial port;
+  VirtualClock clock;
+  GpsState gps;
+  gps.NmeaSource = "/tmp/gps";
+  disk.Devices = {"/tmp/gps"};
+  NmeaSource source(gps, port, disk, clock);
+  source.Open();
+  port.Vanish();
+  port.Why = "gone";
+  disk.Devices.clear();
+  disk.Write("/tmp/gps", "one\n");
+  EXPECT_FALSE(source.Take());
+  EXPECT_EQ(source.Trouble(), "gone");
+  EXPECT_TRUE(disk.Exists("/tmp/gps"));
+}
+
 // ---- File -------------------------------------------------------------------------------------
 
 TEST(NmeaFile, IsConsumedAndMakesTheTimeValid) {
