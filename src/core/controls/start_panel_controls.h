@@ -18,6 +18,10 @@ struct StartPanelControls {
   Label SpeedLabel;       // what Text4 is
   TextBox Text4;          // speed of the serial port, or host port
   Label PortFault;        // what is wrong with the port, beside its fields
+  ComboBox Text6;         // NMEA PORT: a serial port, offering the devices, or a file
+  TextBox Text17;         // NMEA BAUD
+  CheckBox SetClockBox;   // the GPS may set the computer's clock
+  Label GpsFault;         // what is wrong with these
   TextBox Text5;          // MONI CALL
   TextBox Text1;          // MAPS PATH
   Button Command14;       // IGATE APRS-IS SETUP

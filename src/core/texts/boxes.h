@@ -20,6 +20,8 @@ inline constexpr Text kSettingsUnread{
 inline constexpr Text kStartTitle{"ZEP RIL  START"};
 inline constexpr Text kSetUserCall{"SET USER CALL !"};
 inline constexpr Text kCantWrite{"CAN'T WRITE  %1"};
+inline constexpr Text kSetupTitle{"ZEP RIL  SETUP"};
+inline constexpr Text kPortConflict{"NMEA PORT / COMM PORT  CONFLICT !"};
 
 // Packet engine.
 inline constexpr Text kEngineTitle{"ZEP RIL  TCP/IP AGWPE"};

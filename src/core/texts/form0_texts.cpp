@@ -31,6 +31,17 @@ constexpr ControlRow<C> kTable[] = {
     {"SpeedLabel", On<&C::SpeedLabel>()},
     {"Text4", On<&C::Text4>()},
     {"PortFault", On<&C::PortFault>()},
+    {"Text6",
+     On<&C::Text6>(),
+     {},
+     {"NMEA183-source (COM port number of GPS receiver or filename)"},
+     {"NMEA PORT"}},
+    {"Text17", On<&C::Text17>(), {}, {"Speed of the GPS receiver's port"}, {"NMEA BAUD"}},
+    {"SetClockBox",
+     On<&C::SetClockBox>(),
+     Own("SET CLOCK"),
+     {"The GPS sets the clock of this computer, where the system allows it"}},
+    {"GpsFault", On<&C::GpsFault>()},
     {"Command14",
      On<&C::Command14>(),
      Own("IGATE APRS-IS SETUP"),
@@ -54,7 +65,11 @@ constexpr ControlRow<C> kTable[] = {
 
 void NameStartPanel(StartPanelControls& controls) {
   NameControls(controls, kTable);
-  SayControls(controls, kTable, false);
+  SayStartPanel(controls, 0);
+}
+
+void SayStartPanel(StartPanelControls& controls, int language) {
+  SayControls(controls, kTable, language / 10 == 1);
 }
 
 }  // namespace zepril

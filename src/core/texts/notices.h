@@ -52,7 +52,7 @@ inline constexpr Text kPortUsed{"%1 is used by another program."};
 inline constexpr Text kPortOtherDevice{
     "%1 is another device now. The one that was chosen is not there."};
 inline constexpr Text kPortNeverThere{
-    "No serial device stood behind %1 at START. Plug the modem in and start the program anew."};
+    "No serial device stood behind %1 at START. Plug it in and start the program anew."};
 inline constexpr Text kPortSpeed{"%1 can't be opened at that speed."};
 inline constexpr Text kPortClosed{"%1 can't be opened."};
 

@@ -1,6 +1,8 @@
 // Fills the list of the port field and finds the names of devices.
 #include "station/start/device_list.h"
 
+#include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace zepril {
@@ -36,6 +38,23 @@ void DeviceList::TakeChosenRow() {
   for (const SerialDevice& device : present_) {
     if (field_.Text == ListText(device)) field_.Text = device.Path;
   }
+}
+
+bool DeviceList::IsDevice(const std::string& text) const {
+  constexpr std::string_view kFolder = "/dev/";
+  if (text.starts_with(kFolder)) return true;
+  const std::vector<SerialDevice> all = Present();
+  return !text.empty() && std::any_of(all.begin(), all.end(), [&](const SerialDevice& device) {
+    return text == device.Path || text == device.StablePath ||
+           std::string(kFolder) + text == device.Path;
+  });
+}
+
+std::string DeviceList::StableNameOfPlace(int number) const {
+  const std::vector<SerialDevice> all = Present();
+  if (number < 1 || number > static_cast<int>(all.size())) return {};
+  const SerialDevice& device = all[static_cast<std::size_t>(number - 1)];
+  return device.StablePath.empty() ? device.Path : device.StablePath;
 }
 
 std::string DeviceList::StableName(const std::string& device) const {

@@ -19,6 +19,11 @@ class DeviceList {
   bool Empty() const { return present_.empty(); }
   // A row chosen from the list becomes the device's path in the field.
   void TakeChosenRow();
+  // A path of a device, or the name of one that is there.
+  bool IsDevice(const std::string& text) const;
+  // The device that is at this place of the list, by the name that stays with it; empty when there
+  // are fewer.
+  std::string StableNameOfPlace(int number) const;
   // The name that stays with a device when others are plugged in: of "/dev/ttyUSB0" or "ttyUSB0",
   // whose path it is where there is no such name.
   std::string StableName(const std::string& device) const;

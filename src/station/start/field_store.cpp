@@ -5,7 +5,6 @@
 #include "config/ports_file.h"
 #include "core/text_fields.h"
 #include "core/texts/boxes.h"
-#include "station/start/port_choice.h"
 
 namespace zepril {
 namespace {
@@ -17,11 +16,12 @@ constexpr int kUsualScsPort = 3;
 }  // namespace
 
 FieldStore::FieldStore(const StartPanelControls& controls, RadioInterfaces& interfaces,
-                       PortFields& ports, const DeviceList& devices, StartSettingsPlace settings,
-                       Dialogs& dialogs)
+                       PortFields& ports, GpsFields& gps, const DeviceList& devices,
+                       StartSettingsPlace settings, Dialogs& dialogs)
     : controls_(controls),
       interfaces_(interfaces),
       ports_(ports),
+      gps_(gps),
       devices_(devices),
       settings_(settings.Values),
       program_folder_(settings.ProgramFolder),
@@ -29,9 +29,30 @@ FieldStore::FieldStore(const StartPanelControls& controls, RadioInterfaces& inte
       dialogs_(dialogs) {}
 
 bool FieldStore::Store() {
+  ports_.Keep();
+  const RadioInterface& chosen = interfaces_.Chosen();
+  const bool serial = chosen.Texts != nullptr && chosen.Serial();
+  const PortChoice modem = serial ? ModemChoice(chosen) : PortChoice{};
+  const GpsChoice gps = gps_.Choice();
+  if (serial && IsOnePort(modem, gps)) return Conflict();
+  if (!KeepDevice(modem.Number, modem.Device) || !KeepDevice(gps.Number, gps.DeviceKept)) {
+    return CantWrite("PORTS.TXT");
+  }
   TakeFields();
-  if (!TakeInterface()) return CantWrite("PORTS.TXT");
+  settings_.Radio.RadioMode = static_cast<int>(chosen.Mode);
+  if (serial) {
+    TakeModem(chosen, modem);
+  } else if (chosen.Texts != nullptr) {
+    TakeHost(*chosen.Texts);
+  }
+  gps_.Take(gps);
+  if (!gps_.StoreClockBox()) return CantWrite("WINDOW.TXT");
   return StoreHeld();
+}
+
+bool FieldStore::Conflict() {
+  dialogs_.Tell(boxes::kSetupTitle, boxes::kPortConflict);
+  return false;
 }
 
 bool FieldStore::StoreHeld() {
@@ -63,42 +84,53 @@ void FieldStore::TakeMapsPath() {
   settings_.Identity.MapSystemFolder = program_folder_ + "\\" + settings_.Identity.MapZoneName;
 }
 
-// False when the device that was chosen can't be kept.
-bool FieldStore::TakeInterface() {
-  ports_.Keep();
-  const RadioInterface& chosen = interfaces_.Chosen();
-  settings_.Radio.RadioMode = static_cast<int>(chosen.Mode);
-  if (chosen.Texts == nullptr) return true;
-  if (chosen.Serial()) return TakeModem(chosen);
-  TakeHost(*chosen.Texts);
-  return true;
-}
-
 void FieldStore::TakeHost(const PortTexts& typed) {
   if (!Trim(typed.Port).empty()) settings_.Radio.AgwHost = Trim(typed.Port);
   if (!Trim(typed.Speed).empty()) settings_.Radio.AgwTcpPort = Trim(typed.Speed);
 }
 
-bool FieldStore::TakeModem(const RadioInterface& chosen) {
+PortChoice FieldStore::ModemChoice(const RadioInterface& chosen) const {
+  const RadioState& radio = settings_.Radio;
+  const PortTexts& typed = *chosen.Texts;
+  return chosen.Texts == &interfaces_.Pk232
+             ? ChosenPort(typed, radio.TncPort, kUsualPk232Port, devices_)
+             : ChosenPort(typed, radio.ScsPort, kUsualScsPort, devices_);
+}
+
+// By the name that stays with it; empty when nothing is known to be there.
+std::string FieldStore::DeviceMeant(double number, const std::string& kept) const {
+  if (!kept.empty()) return kept;
+  if (!IsPortNumber(number)) return {};
+  const auto whole = static_cast<int>(number);
+  const std::string device = DeviceOfPort(files_, program_folder_, whole);
+  return device.empty() ? devices_.StableNameOfPlace(whole) : devices_.StableName(device);
+}
+
+// Kept: a file counts as port 0, and so does no GPS at all, which a modem on port 0 conflicts with.
+bool FieldStore::IsOnePort(const PortChoice& modem, const GpsChoice& gps) const {
+  if (modem.Number == gps.Number) return true;
+  const std::string device = DeviceMeant(gps.Number, gps.DeviceKept);
+  return !device.empty() && device == DeviceMeant(modem.Number, modem.Device);
+}
+
+// True as well when there is nothing to be kept.
+bool FieldStore::KeepDevice(double number, const std::string& device) {
+  return device.empty() ||
+         ChooseDeviceOfPort(files_, program_folder_, static_cast<int>(number), device);
+}
+
+void FieldStore::TakeModem(const RadioInterface& chosen, const PortChoice& choice) {
   RadioState& radio = settings_.Radio;
   PortTexts& typed = *chosen.Texts;
   const bool pk232 = chosen.Texts == &interfaces_.Pk232;
   const std::string speed(Trim(typed.Speed));
   if (!speed.empty()) (pk232 ? radio.TncBaud : radio.ScsBaud) = speed;
-  const PortChoice choice = pk232 ? ChosenPort(typed, radio.TncPort, kUsualPk232Port, devices_)
-                                  : ChosenPort(typed, radio.ScsPort, kUsualScsPort, devices_);
-  if (!choice.Device.empty() &&
-      !ChooseDeviceOfPort(files_, program_folder_, static_cast<int>(choice.Number),
-                          choice.Device)) {
-    return false;
-  }
   if (pk232) {
     radio.TncPort = static_cast<int>(choice.Number);
   } else {
     radio.ScsPort = choice.Number;
   }
   typed.Held = Trim(typed.Port);
-  return true;
 }
 
 }  // namespace zepril

@@ -8,24 +8,22 @@
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "station/start/device_list.h"
+#include "station/start/gps_fields.h"
+#include "station/start/port_choice.h"
 #include "station/start/port_fields.h"
 #include "station/start/radio_interfaces.h"
+#include "station/start/settings_place.h"
 
 namespace zepril {
-
-// Settings, with the folder that they live in.
-struct StartSettingsPlace {
-  StartPanelSettings& Values;
-  const std::string& ProgramFolder;
-  Files& Disk;
-};
 
 class FieldStore {
  public:
   FieldStore(const StartPanelControls& controls, RadioInterfaces& interfaces, PortFields& ports,
-             const DeviceList& devices, StartSettingsPlace settings, Dialogs& dialogs);
+             GpsFields& gps, const DeviceList& devices, StartSettingsPlace settings,
+             Dialogs& dialogs);
 
-  // False when a file can't be written, which is told by a box.
+  // False when GPS and modem are to be one port, or a file can't be written, which is told by a
+  // box. With one port nothing is written.
   bool Store();
   // The settings as they are held, whatever stands in the fields. False likewise.
   bool StoreHeld();
@@ -33,14 +31,19 @@ class FieldStore {
  private:
   void TakeFields();
   void TakeMapsPath();
-  bool TakeInterface();
+  PortChoice ModemChoice(const RadioInterface& chosen) const;
+  std::string DeviceMeant(double number, const std::string& kept) const;
+  bool IsOnePort(const PortChoice& modem, const GpsChoice& gps) const;
+  bool KeepDevice(double number, const std::string& device);
   void TakeHost(const PortTexts& typed);
-  bool TakeModem(const RadioInterface& chosen);
+  void TakeModem(const RadioInterface& chosen, const PortChoice& choice);
+  bool Conflict();
   bool CantWrite(const char* name);
 
   const StartPanelControls& controls_;
   RadioInterfaces& interfaces_;
   PortFields& ports_;
+  GpsFields& gps_;
   const DeviceList& devices_;
   StartPanelSettings& settings_;
   const std::string& program_folder_;

@@ -11,7 +11,7 @@
 namespace zepril {
 
 struct PortChoice {
-  double Number;
+  double Number = 0.0;
   std::string Device;  // to be kept for the number; empty: nothing is to be kept
 };
 

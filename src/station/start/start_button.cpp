@@ -2,6 +2,7 @@
 #include "station/start/start_button.h"
 
 #include <cmath>
+#include <initializer_list>
 #include <string>
 
 #include "core/text_fields.h"
@@ -63,9 +64,11 @@ bool StartButton::CallIsThere() {
 
 void StartButton::EnableFields(bool enabled) {
   parts_.Interfaces.Enable(enabled);
-  for (TextBox* field : {&controls_.Text8, &controls_.Text5, &controls_.Text1, &controls_.Text4})
+  StartPanelControls& c = controls_;
+  for (Control* field : std::initializer_list<Control*>{
+           &c.Text8, &c.Text5, &c.Text1, &c.Text3, &c.Text4, &c.Text6, &c.Text17, &c.SetClockBox}) {
     field->Enabled = enabled;
-  controls_.Text3.Enabled = enabled;
+  }
   controls_.Command14.Enabled = enabled && parts_.Interfaces.Chosen().MayGate();
   controls_.Command1.Enabled = enabled;
 }

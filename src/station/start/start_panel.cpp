@@ -17,7 +17,8 @@ StartPanel::StartPanel(const Machine& machine, std::string program_folder, const
       interfaces_(Controls),
       devices_(machine.Devices, Controls.Text3),
       ports_(Controls, interfaces_, devices_),
-      fields_(Controls, interfaces_, ports_, devices_, {settings_, program_folder_, files_},
+      gps_(Controls, machine.Devices, {settings_, program_folder_, files_}),
+      fields_(Controls, interfaces_, ports_, gps_, devices_, {settings_, program_folder_, files_},
               machine.Boxes),
       server_(Controls, interfaces_, settings_, fields_),
       start_(Controls, {interfaces_, ports_, fields_}, {settings_, program_folder_, files_},
@@ -56,10 +57,12 @@ void StartPanel::ShowSettings() {
   const auto mode = static_cast<RadioMode>(settings_.Radio.RadioMode);
   const bool robust = settings_.Radio.BaudMode == "300R" && HasFastSpeeds(mode);
   if (!robust && Val(settings_.Radio.BaudMode) == 300.0) settings_.Radio.BaudMode = "300";
+  SayStartPanel(Controls, settings_.Settings.Language);
   Controls.Text8.Text = settings_.Identity.MyCall;
   if (settings_.Identity.MapZoneName.starts_with("U"))
     Controls.Text1.Text = settings_.Identity.MapsPath;
   ShowPorts();
+  gps_.Show();
   ChooseInterface(interfaces_.OfMode(mode));
   Controls.Text5.Text = settings_.Followed.Moni1Call;
   server_.Show();

@@ -14,6 +14,7 @@
 #include "station/start/aprs_is_setup.h"
 #include "station/start/device_list.h"
 #include "station/start/field_store.h"
+#include "station/start/gps_fields.h"
 #include "station/start/port_fields.h"
 #include "station/start/radio_interfaces.h"
 #include "station/start/start_button.h"
@@ -43,6 +44,9 @@ class StartPanel {
   void ReadDevices() { ports_.ReadDevices(); }
   // The list is opened: likewise, and an empty one is explained.
   void DeviceListOpens() { ports_.DeviceListOpens(); }
+  // The same for the port field of the GPS.
+  void ReadGpsDevices() { gps_.ReadDevices(); }
+  void GpsDeviceListOpens() { gps_.DeviceListOpens(); }
 
  private:
   void Load();
@@ -59,6 +63,7 @@ class StartPanel {
   RadioInterfaces interfaces_;
   DeviceList devices_;
   PortFields ports_;
+  GpsFields gps_;
   FieldStore fields_;
   AprsIsSetup server_;
   StartButton start_;

@@ -393,7 +393,7 @@ TEST_F(ChosenAdapterTest, WhatWasNotThereAtTheStartIsNotFoundByItsNumberLater) {
   PlugIn(*third, "usb-c");
   EXPECT_FALSE(port.Reopen("3", 9600));
   EXPECT_EQ(port.Trouble(),
-            "No serial device stood behind port 3 at START. Plug the modem in and start the "
+            "No serial device stood behind port 3 at START. Plug it in and start the "
             "program anew.");
   // START itself may still find it.
   EXPECT_TRUE(port.Open("3", 9600)) << port.Trouble();
