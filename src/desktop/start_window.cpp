@@ -2,6 +2,7 @@
 #include "desktop/start_window.h"
 
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -169,8 +170,29 @@ QBoxLayout* StartWindow::RadioColumn() {
   fault->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   fault->setMinimumHeight(kFaultLines * fault->fontMetrics().lineSpacing());
   radio->addWidget(fault, row, 0, 1, 2);
+  AddGps(column);
   column->addStretch(1);
   return column;
+}
+
+void StartWindow::AddGps(QBoxLayout* column) {
+  StartPanelControls& c = panel_.Controls;
+  QGridLayout* gps = AddGroup(column, window_texts::kGps);
+  auto* port = new DeviceBox;
+  SetUpDeviceBox(port, c.Text6);
+  port->Entered = [this] { loop_.RunStep([this] { panel_.ReadGpsDevices(); }); };
+  port->ListOpens = [this] { loop_.RunStep([this] { panel_.GpsDeviceListOpens(); }); };
+  auto* label = new QLabel(ToQt(c.Text6.Called));
+  label->setBuddy(port);
+  gps->addWidget(label, 0, 0);
+  gps->addWidget(port, 0, 1, 1, 2);
+  AddField(gps, 1, c.Text17);
+  auto* sets_clock = new QCheckBox;
+  binder_.Bind(sets_clock, c.SetClockBox);
+  gps->addWidget(sets_clock, 1, 2);
+  QLabel* fault = FaultLabel(c.GpsFault);
+  KeepWidth(fault);
+  gps->addWidget(fault, 2, 0, 1, 3);
 }
 
 QBoxLayout* StartWindow::BottomLine() {
@@ -237,21 +259,25 @@ void StartWindow::AddInterface(QGridLayout* grid, int row, Text explanation,
 void StartWindow::AddPort(QGridLayout* grid, int row) {
   StartPanelControls& c = panel_.Controls;
   auto* port = new DeviceBox;
-  port->setFont(fixed_font_);
-  port->lineEdit()->setFont(fixed_font_);
-  port->setFixedHeight(kControlHeight);
-  port->setMinimumContentsLength(16);
-  port->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   binder_.OnControlsOut([port, &c] { port->setAccessibleName(ToQt(c.PortLabel.Caption)); });
-  binder_.Bind(port, c.Text3);
-  // What is typed is looked at as it is typed.
-  connect(port->lineEdit(), &QLineEdit::textEdited, this,
-          [this, &c] { loop_.RunStep(c.Text3.Change); });
+  SetUpDeviceBox(port, c.Text3);
   port->Entered = [this] { loop_.RunStep([this] { panel_.ReadDevices(); }); };
   port->ListOpens = [this] { loop_.RunStep([this] { panel_.DeviceListOpens(); }); };
   grid->addWidget(BoundLabel(c.PortLabel), row, 0);
   grid->addWidget(port, row, 1);
   KeepPlace(port);
+}
+
+void StartWindow::SetUpDeviceBox(DeviceBox* port, ComboBox& control) {
+  port->setFont(fixed_font_);
+  port->lineEdit()->setFont(fixed_font_);
+  port->setFixedHeight(kControlHeight);
+  port->setMinimumContentsLength(16);
+  port->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  binder_.Bind(port, control);
+  // What is typed is looked at as it is typed.
+  connect(port->lineEdit(), &QLineEdit::textEdited, this,
+          [this, &control] { loop_.RunStep(control.Change); });
 }
 
 void StartWindow::AddSpeed(QGridLayout* grid, int row) {

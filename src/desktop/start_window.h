@@ -17,6 +17,8 @@ class QProgressBar;
 
 namespace zepril {
 
+class DeviceBox;
+
 class StartWindow final : public QWidget {
  public:
   StartWindow(StartPanel& panel, QtLoop& loop, const MapFonts& fonts);
@@ -41,6 +43,8 @@ class StartWindow final : public QWidget {
   void AddField(QGridLayout* grid, int row, TextBox& control);
   void AddInterface(QGridLayout* grid, int row, Text explanation, OptionButton& control);
   void AddPort(QGridLayout* grid, int row);
+  void AddGps(QBoxLayout* column);
+  void SetUpDeviceBox(DeviceBox* port, ComboBox& control);
   void AddSpeed(QGridLayout* grid, int row);
   QLabel* BoundLabel(Label& control);
   QLabel* FaultLabel(Label& control);

@@ -76,6 +76,25 @@ class StartWindowTest : public ::testing::Test {
   int closed = 0;
 };
 
+TEST_F(StartWindowTest, TheGpsHasItsPortItsSpeedAndItsClock) {
+  Show("MODEM=4\r\nNMEA=C:\\GPS.TXT\r\nNBAUD=9600\r\n");
+  auto* port = Find<DeviceBox>(*window, "Text6");
+  EXPECT_EQ(port->currentText(), QStringLiteral("C:\\GPS.TXT"));
+  EXPECT_EQ(Find<QLineEdit>(*window, "Text17")->text(), QStringLiteral("9600"));
+  EXPECT_EQ(port->accessibleName(), QStringLiteral("NMEA PORT"));
+  port->lineEdit()->setFocus();
+  port->lineEdit()->selectAll();
+  QTest::keyClicks(port->lineEdit(), QStringLiteral("999"));
+  EXPECT_EQ(Shown("GpsFault"), "port numbers go from 1 to 256");
+  devices = {{"/dev/ttyACM3", "u-blox 7", ""}};
+  port->showPopup();
+  EXPECT_EQ(port->itemText(0), QStringLiteral("/dev/ttyACM3   u-blox 7"));
+  port->hidePopup();
+  EXPECT_FALSE(Find<QAbstractButton>(*window, "SetClockBox")->isChecked());
+  Press("SetClockBox");
+  EXPECT_EQ(panel->Controls.SetClockBox.Value, 1);
+}
+
 TEST_F(StartWindowTest, TheServerOfTheGateHasItsPanelAndStartWaits) {
   Show("MODEM=0\r\nAISRV=igate.example\r\n");
   const QSize size = window->size();
