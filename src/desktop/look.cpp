@@ -84,6 +84,7 @@ QPushButton[on_air="true"]:checked { background: %8; color: %9; }
 QPushButton[own_object="true"]:checked { background: %10; color: %11; }
 QLabel[notice="true"] { background: %2; color: %5; border: 1px solid %5; border-radius: 4px;
   padding: 8px; }
+QLabel[over_map="true"] { background: %2; color: %5; }
 QPlainTextEdit { background: %3; color: %5; border: 1px solid %4; border-radius: 3px; }
 QPlainTextEdit:focus { border: 1px solid %5; }
 QScrollArea[bare="true"], QScrollArea[bare="true"] > QWidget > QWidget { background: transparent; }

@@ -113,6 +113,10 @@ PanelTable::PanelTable(const MainWindowControls& c, QWidget& map, LayerPanels& l
       {layer.Progress, OverAll(layer.Progress, map), &c.Progress.ProgressPanel},
       {over.LinkNotice, NoticeAtTop(over.LinkNotice, map), &c.Status.LinkNotice},
       {over.FileNotice, NoticeAtTop(over.FileNotice, map, over.LinkNotice), &c.Status.FileNotice},
+      {over.GpsLine, [&over_map, line = over.GpsLine] { over_map.PlaceGpsLine(line); },
+       &c.Gps.GpsInfo},
+      {over.GpsNote, [&over_map, line = over.GpsNote] { over_map.PlaceGpsLine(line); },
+       &c.Gps.GpsNote},
       {over.ModeNotice, NoticeAtBottom(over.ModeNotice, map), &c.Terminal.Label49},
   };
 }

@@ -46,6 +46,24 @@ void PanelsOverMap::MakePanels() {
   made_.Banner->setMargin(6);
   parts_.Binding.Bind(made_.Banner, controls_.Status.Text10);
   MakeNotices();
+  MakeGpsLine();
+}
+
+void PanelsOverMap::MakeGpsLine() {
+  const auto line = [this](Label& control) {
+    QLabel* label = parts_.FixedLabel();
+    label->setParent(&map_);
+    label->setProperty("over_map", true);
+    label->setWordWrap(true);
+    label->setMargin(2);
+    parts_.Binding.Bind(label, control);
+    return label;
+  };
+  made_.GpsLine = line(controls_.Gps.GpsInfo);
+  made_.GpsNote = line(controls_.Gps.GpsNote);
+  // The map below it hears the mouse.
+  made_.GpsLine->setAttribute(Qt::WA_TransparentForMouseEvents);
+  made_.GpsNote->setAttribute(Qt::WA_NoMousePropagation);
 }
 
 void PanelsOverMap::MakeNotices() {
@@ -190,6 +208,15 @@ void PanelsOverMap::PlaceRecord() {
   made_.Record->adjustSize();
   made_.Record->move((map_.width() - width) / 2,
                      map_.height() - made_.Record->height() - kOverlayMargin);
+}
+
+void PanelsOverMap::PlaceGpsLine(QLabel* line) {
+  const int margin = line->margin();
+  const int wanted = line->fontMetrics().horizontalAdvance(line->text()) + 2 * margin + 2;
+  const int width = std::min(wanted, std::max(map_.width(), 100));
+  const int height = line->heightForWidth(width);
+  line->setGeometry(0, map_.height() - height, width, height);
+  line->lower();
 }
 
 void PanelsOverMap::PlaceHeard() {

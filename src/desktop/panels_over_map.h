@@ -31,11 +31,15 @@ class PanelsOverMap {
     QLabel* LinkNotice = nullptr;
     QLabel* FileNotice = nullptr;
     QLabel* ModeNotice = nullptr;
+    QLabel* GpsLine = nullptr;
+    QLabel* GpsNote = nullptr;
   };
   const Widgets& Made() const { return made_; }
 
   // At the map's bottom, as wide as its line.
   void PlaceRecord();
+  // At the map's lower edge, under all panels.
+  void PlaceGpsLine(QLabel* line);
   // At the map's right, above an open record.
   void PlaceHeard();
 
@@ -48,6 +52,7 @@ class PanelsOverMap {
   void MakeHeardList();
   void MakePalettePanel();
   void MakeNotices();
+  void MakeGpsLine();
 
   WindowParts& parts_;
   MainWindowControls& controls_;

@@ -84,7 +84,7 @@ const std::set<std::string>& KnownOfWindows() {
       "ReceptionRests", "StartFields", "Caption",
       // Properties of widgets, and their values in style sheets.
       "accessible_role", "bare", "covered", "dim", "fault", "group", "keeps_keys", "leaving",
-      "notice", "on_air", "own_object", "panel", "picture_only", "quiet", "spoken_name",
+      "notice", "on_air", "over_map", "own_object", "panel", "picture_only", "quiet", "spoken_name",
       "third_state", "three_states", "tight", "typed", "true",
       // Style sheets.
       "background: %1;", "color: %1;", "padding: 2px 2px;",

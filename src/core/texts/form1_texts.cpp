@@ -113,7 +113,8 @@ constexpr ControlRow<MainWindowControls> kTable[] = {
 
     // The line of the GPS over the map.
     {"GpsInfo", On<&GpsControls::GpsInfo>()},
-    {"GpsNote", On<&GpsControls::GpsNote>(), {}, {"Close / it comes back when it changes"}},
+    {"GpsNote", On<&GpsControls::GpsNote>(), {}, {"Lclick closes / it comes back when it changes"},
+     {}, {"notice"}},
 
     // The controls of the place files, and of the panel in which a place is added, renamed or
     // removed.
