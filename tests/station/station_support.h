@@ -86,6 +86,7 @@ class StationHarness : public RecordedSurfaces {
   FakeSocket socket;
   FakeSocket server_socket;  // to the APRS-IS server
   FakeSerial modem;
+  FakeSerial gps;
   std::shared_ptr<FakePages> pages = std::make_shared<FakePages>();
   PlayedPrograms programs;
   std::unique_ptr<StationProgram> program;
@@ -95,7 +96,7 @@ class StationHarness : public RecordedSurfaces {
     program.reset();
     program = std::make_unique<StationProgram>(
         MachineOf(files, clock, clock, dialogs, desktop,
-                  {{&socket, &server_socket}, {&modem}, Surfaces(), pages, &programs}));
+                  {{&socket, &server_socket}, {&modem, &gps}, Surfaces(), pages, &programs}));
     clock.ForgetTimers();
     for (const DrivenTimer& timer : program->Timers())
       clock.Drive(timer);
