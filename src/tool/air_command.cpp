@@ -21,13 +21,16 @@
 namespace zepril {
 namespace {
 
-constexpr std::array<ArgumentRule, 10> kRules{{{"--agw", true},
+constexpr std::array<ArgumentRule, 13> kRules{{{"--agw", true},
                                                {"--aprs-is", true},
                                                {"--aprs-is-manner", true},
                                                {"--pk232", true},
                                                {"--scs-tnc", true},
                                                {"--scs-ptc", true},
                                                {"--web", true},
+                                               {"--gps", true},
+                                               {"--gps-route", true},
+                                               {"--gps-manner", true},
                                                {"--play", true},
                                                {"--rate", true},
                                                {"--repeat", false}}};
@@ -122,6 +125,20 @@ void PlayUntilEnd(const AirDevices& devices, AirPlay& play, const Clock& clock) 
   }
 }
 
+std::optional<std::vector<GpsPoint>> GpsRouteOf(const Arguments& arguments) {
+  constexpr std::string_view kUsualRoute = "52.0,13.0;52.5,13.4";
+  return ReadGpsRoute(arguments.Value("--gps-route").value_or(kUsualRoute));
+}
+
+std::optional<GpsManner> GpsMannerOf(const Arguments& arguments) {
+  return GpsMannerNamed(arguments.Value("--gps-manner").value_or("mixed"));
+}
+
+void CheckGps(Arguments& arguments) {
+  if (!GpsRouteOf(arguments)) arguments.Fail("--gps-route must be degrees: LAT,LON;LAT,LON");
+  if (!GpsMannerOf(arguments)) arguments.Fail("no such manner of a GPS");
+}
+
 // What the arguments name; nothing when one of them can't be had, which is told.
 AirDevices OpenDevices(Arguments& arguments, double rate, const ReportLine& report,
                        const Clock& clock) {
@@ -148,12 +165,18 @@ AirDevices OpenDevices(Arguments& arguments, double rate, const ReportLine& repo
   add_modem("--pk232", std::make_unique<Pk232Model>());
   add_modem("--scs-tnc", std::make_unique<ScsTncModel>());
   add_modem("--scs-ptc", std::make_unique<ScsPtcModel>());
+  if (const auto link = arguments.Value("--gps")) {
+    devices.push_back(OpenGpsDevice(std::string(*link), *GpsRouteOf(arguments),
+                                    *GpsMannerOf(arguments), rate, clock));
+    if (!devices.back()) arguments.Fail("can't make " + std::string(*link));
+  }
   return arguments.Failed() ? AirDevices{} : std::move(devices);
 }
 
 bool NamesADevice(const Arguments& arguments) {
   return arguments.Has("--agw") || arguments.Has("--aprs-is") || arguments.Has("--pk232") ||
-         arguments.Has("--scs-tnc") || arguments.Has("--scs-ptc") || arguments.Has("--web");
+         arguments.Has("--scs-tnc") || arguments.Has("--scs-ptc") || arguments.Has("--web") ||
+         arguments.Has("--gps");
 }
 
 // The packets to be played, none without a file; nothing when the file can't be read.
@@ -208,7 +231,7 @@ int RunAir(std::span<const std::string_view> args) {
   const std::string_view rate_text = arguments.Value("--rate").value_or("1");
   const double rate = Val(rate_text);
   if (!NamesADevice(arguments))
-    arguments.Fail("--agw, --pk232, --scs-tnc, --scs-ptc, --aprs-is or --web must be given");
+    arguments.Fail("--agw, --pk232, --scs-tnc, --scs-ptc, --aprs-is, --web or --gps must be given");
   if (!IsNumericField(rate_text) || rate <= 0 || rate > kHighestRate) {
     arguments.Fail("--rate must be a number over 0, at most 1000");
   }
@@ -216,6 +239,7 @@ int RunAir(std::span<const std::string_view> args) {
       manner && !AprsIsMannersNamed(*manner)) {
     arguments.Fail("no such manner of a server: " + std::string(*manner));
   }
+  CheckGps(arguments);
   if (arguments.Failed()) return arguments.Report("air");
 
   std::optional<AirScript> script = ReadPlay(arguments);

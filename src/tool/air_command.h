@@ -1,5 +1,6 @@
 // zepril-tool air: stand-ins for the outside world: a packet engine on this computer and modems on
-// pseudo-terminals, which play a file of packets, an APRS-IS server, and web services.
+// pseudo-terminals, which play a file of packets, an APRS-IS server, web services, and a GPS that
+// is driven along a route.
 //
 // For demonstrations and tests of the whole program without a receiver. It prints a line as soon as
 // a device can be used ("READY port" of the engine, "READY pk232 LINK" of a modem), begins to play
@@ -26,7 +27,9 @@ namespace zepril {
 inline constexpr std::string_view kAirHelp =
     "stand in for the outside world: --agw PORT (engine on 127.0.0.1) --pk232|--scs-tnc|--scs-ptc "
     "LINK (modems on pseudo-terminals) --aprs-is PORT [--aprs-is-manner "
-    "silent|slow:SECONDS|babbles|deaf|closes:BYTES] --web PORT (web services on 127.0.0.1) [--play "
+    "silent|slow:SECONDS|babbles|deaf|closes:BYTES] --web PORT (web services on 127.0.0.1) "
+    "--gps LINK (GPS on a pseudo-terminal) [--gps-route LAT,LON;LAT,LON] [--gps-manner "
+    "rmc|gga|mixed|damaged|halves] [--play "
     "FILE [--rate X] [--repeat]]";
 
 // The packets of a script as they fall due.

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/text_fields.h"
+#include "tool/pty_line.h"
 #include "tool/pty_modem.h"
 
 namespace zepril {
@@ -121,6 +122,46 @@ class ModemDevice final : public AirDevice {
   double last_word_ = 0;
 };
 
+// It hears nothing of the air, and nobody's words.
+class GpsDevice final : public AirDevice {
+ public:
+  GpsDevice(std::unique_ptr<PtyLine> line, std::vector<GpsPoint> route, GpsManner manner,
+            double rate, const Clock& clock)
+      : line_(std::move(line)),
+        route_(std::move(route)),
+        talker_(manner),
+        rate_(rate),
+        clock_(clock),
+        begin_(clock.MonotonicSeconds()) {}
+  std::string ReadyLine() const override { return "READY gps " + line_->Link() + '\n'; }
+  void Serve(int milliseconds) override {
+    line_->Serve(milliseconds, [](std::string_view) {});
+    const double gone = clock_.MonotonicSeconds() - begin_;
+    if (gone < count_) return;
+    // After a pause one is said, not all that were missed.
+    count_ = static_cast<int>(gone);
+    const double metres = gone * rate_ * kKnots * kMetresPerSecondPerKnot;
+    const std::string text =
+        talker_.Say({PointOfRoute(route_, metres), clock_.Now(), kKnots, count_});
+    if (line_->SomebodyIsThere()) line_->Say(text);
+    ++count_;
+  }
+  bool IsListenedTo(double) override { return false; }
+  void Hear(const AirPacket&, const LocalTime&) override {}
+
+ private:
+  static constexpr double kKnots = 43.2;
+  static constexpr double kMetresPerSecondPerKnot = 1852.0 / 3600.0;
+
+  std::unique_ptr<PtyLine> line_;
+  std::vector<GpsPoint> route_;
+  GpsTalker talker_;
+  double rate_;
+  const Clock& clock_;
+  double begin_;
+  int count_ = 0;  // seconds that were spoken of
+};
+
 }  // namespace
 
 std::unique_ptr<AirDevice> OpenEngineDevice(int port, const ReportLine& report) {
@@ -148,6 +189,13 @@ std::unique_ptr<AirDevice> OpenModemDevice(const std::string& link,
   auto modem = PtyModem::Open(link, std::move(model));
   if (!modem) return nullptr;
   return std::make_unique<ModemDevice>(std::move(modem), rate, report);
+}
+
+std::unique_ptr<AirDevice> OpenGpsDevice(const std::string& link, std::vector<GpsPoint> route,
+                                         GpsManner manner, double rate, const Clock& clock) {
+  auto line = PtyLine::Open(link);
+  if (!line) return nullptr;
+  return std::make_unique<GpsDevice>(std::move(line), std::move(route), manner, rate, clock);
 }
 
 std::string SentLine(const AgwUnproto& unproto) {

@@ -4,11 +4,13 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/clock.h"
 #include "tool/agw_server.h"
 #include "tool/air_script.h"
 #include "tool/aprs_is_server.h"
+#include "tool/gps_route.h"
 #include "tool/modem_model.h"
 #include "tool/web_server.h"
 
@@ -45,6 +47,12 @@ std::unique_ptr<AirDevice> OpenAprsIsDevice(int port, const AprsIsManners& manne
 std::unique_ptr<AirDevice> OpenModemDevice(const std::string& link,
                                            std::unique_ptr<ModemModel> model, double rate,
                                            const ReportLine& report);
+
+// A GPS behind `link` that drives `route` at 80 km/h, `rate` times faster in a faster play, a
+// second's sentences a second. It tells the time of `clock` as UTC. Nothing when the link can't be
+// made.
+std::unique_ptr<AirDevice> OpenGpsDevice(const std::string& link, std::vector<GpsPoint> route,
+                                         GpsManner manner, double rate, const Clock& clock);
 
 // Lines of report. Control characters of texts are written as "\x0D", so that each stays one line.
 //   "SENT 1 QX7KB-9>ZEPR,WIDE1-1:=test"

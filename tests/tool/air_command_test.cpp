@@ -74,6 +74,8 @@ TEST(RunAirTest, NeedsADeviceAndASensibleRate) {
   EXPECT_EQ(Air({"--pk232"}), Arguments::kUsageError);
   EXPECT_EQ(Air({"--aprs-is", "70000"}), Arguments::kUsageError);
   EXPECT_EQ(Air({"--aprs-is", "0", "--aprs-is-manner", "loud"}), Arguments::kUsageError);
+  EXPECT_EQ(Air({"--gps", "x", "--gps-manner", "loud"}), Arguments::kUsageError);
+  EXPECT_EQ(Air({"--gps", "x", "--gps-route", "north"}), Arguments::kUsageError);
 }
 
 TEST(RunAirTest, EndsWhenAFileOrALinkCannotBeHad) {
