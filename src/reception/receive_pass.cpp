@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "reception/direct_marking.h"
-#include "reception/emergency_report.h"
 #include "reception/raw_list.h"
 #include "reception/record_builder.h"
 
@@ -20,27 +19,20 @@ constexpr std::size_t kWaitingAfterRecord = 150;
 }  // namespace
 
 ReceivePass::ReceivePass(Sections sections, Partners partners, const SymbolTable& symbols,
-                         Clock& clock, Files& files, Timer& timer1, ListBox* raw_list)
+                         Clock& clock, Timer& timer1, ListBox* raw_list)
     : identity_(sections.Identity),
       reception_(sections.Reception),
-      stores_(sections.Stores),
       map_(sections.Map),
-      alarms_(sections.Alarms),
       settings_(sections.Settings),
       link_(partners.Link),
-      history_(partners.History),
-      browser_(partners.Browser),
-      distance_(partners.Distance),
+      keeper_(partners.Keeper),
       map_drawing_(partners.MapDrawing),
       messages_(partners.Messages),
       emergencies_(partners.Emergencies),
       symbols_(symbols),
       clock_(clock),
       timer1_(timer1),
-      raw_list_(raw_list),
-      all_stations_(stores_.MoniAllRecords),
-      logs_(sections.Identity, files),
-      resting_logs_(logs_, files, clock, partners.Notice, sections.Stores.FileFailed) {}
+      raw_list_(raw_list) {}
 
 void ReceivePass::Run() {
   // A link that delivers without end must not keep the tick for ever.
@@ -67,7 +59,7 @@ bool ReceivePass::Collect() {
   raw_list_behind_ = true;
   reception_.RxBuffer += collected_;
   if (reception_.RxBuffer.size() > kLongestReceiveBuffer) reception_.RxBuffer.clear();
-  return stores_.LogsOn != 1 || resting_logs_.AppendRaw(collected_);
+  return keeper_.LogRaw(collected_);
 }
 
 // Cuts one frame out of the waiting text and sees it through.
@@ -128,36 +120,15 @@ std::optional<FrameLevel> ReceivePass::Decode() {
   const StationRecord record = BuildRecord(packet_);
   // Kept: an emergency is told of before the test for repeats, so a copy heard over a second
   // digipeater is told of too; only the first one is shown.
-  if (packet_.PacketIsEmergency) RaiseEmergency(record);
+  if (packet_.PacketIsEmergency) keeper_.RaiseEmergency(record);
   return Store(record);
 }
 
-void ReceivePass::RaiseEmergency(const StationRecord& record) {
-  FillEmergency(record, map_, logs_.LogPath("_ALARM_.TXT"), alarms_);
-  logs_.AppendEmergency(alarms_);
-}
-
 std::optional<FrameLevel> ReceivePass::Store(const StationRecord& record) {
-  // Into the list of all stations, unless it is there already.
-  if (all_stations_.IsRepeat(record)) {
-    ++counts_.Repeats;
-    return FrameLevel::Nothing;
-  }
-  if (!all_stations_.Append(record)) return std::nullopt;
-  ++counts_.Stored;
-  map_behind_ = true;
-  if (stores_.LogsOn == 1 && !resting_logs_.AppendRecord(record)) return std::nullopt;
-  all_stations_.KeepLimit();
-  distance_.TestAllStations(record);
-
-  // Into the history of the followed station.
-  FrameLevel level = FrameLevel::MoniAll;
-  if (history_.IsFollowed(record.Call())) {
-    if (!history_.Enter(record)) return std::nullopt;
-    level = FrameLevel::Moni1;
-  }
-  if (packet_.PacketIsEmergency) level = FrameLevel::Emergency;
-  browser_.MoveToNewest(record.Call());
+  const std::optional<FrameLevel> level = keeper_.Store(record);
+  counts_.Stored = keeper_.Stored();
+  counts_.Repeats = keeper_.Repeats();
+  if (level != FrameLevel::Nothing) map_behind_ = true;
   return level;
 }
 

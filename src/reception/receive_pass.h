@@ -11,37 +11,21 @@
 #include "core/actions/map_actions.h"
 #include "core/actions/message_actions.h"
 #include "core/controls.h"
-#include "core/state/alarms.h"
 #include "core/state/identity.h"
 #include "core/state/map_view.h"
 #include "core/state/reception.h"
 #include "core/state/settings.h"
-#include "core/state/stores.h"
 #include "core/symbol_table.h"
 #include "core/timer.h"
 #include "platform/clock.h"
-#include "platform/files.h"
-#include "reception/all_stations_store.h"
 #include "reception/collector.h"
 #include "reception/decoded_packet.h"
-#include "reception/distance_alarm.h"
-#include "reception/followed_history.h"
 #include "reception/frame_cutter.h"
 #include "reception/header_analysis.h"
 #include "reception/packet_decoder.h"
-#include "reception/record_browser.h"
-#include "reception/resting_logs.h"
-#include "reception/station_logs.h"
+#include "reception/record_keeper.h"
 
 namespace zepril {
-
-// What a frame has led to, rising in importance.
-enum class FrameLevel {
-  Nothing = 0,
-  MoniAll = 1,  // stored among all stations
-  Moni1 = 2,    // a position of the followed station
-  Emergency = 3,
-};
 
 // What the passes have done since the program began.
 struct ReceptionCounts {
@@ -58,26 +42,21 @@ class ReceivePass {
   struct Sections {
     const IdentityState& Identity;
     ReceptionState& Reception;
-    StoresState& Stores;
     MapViewState& Map;
-    AlarmState& Alarms;
     const SettingsState& Settings;
   };
   // The other concerns of reception, and what the pass asks of other rooms.
   struct Partners {
     Collector& Link;
-    FollowedHistory& History;
-    RecordBrowser& Browser;
-    DistanceAlarm& Distance;
+    RecordKeeper& Keeper;
     MapActions& MapDrawing;
     MessageActions* Messages;  // may be missing
     EmergencyActions& Emergencies;
-    Label& Notice;  // tells of logs that can't be written
   };
 
   // `raw_list` may be missing: then no list is filled.
   ReceivePass(Sections sections, Partners partners, const SymbolTable& symbols, Clock& clock,
-              Files& files, Timer& timer1, ListBox* raw_list);
+              Timer& timer1, ListBox* raw_list);
 
   void Run();
 
@@ -99,21 +78,16 @@ class ReceivePass {
   std::optional<FrameLevel> Decode();
   std::optional<FrameLevel> Store(const StationRecord& record);
   FrameLevel Drop(DropReason reason);
-  void RaiseEmergency(const StationRecord& record);
   void Redraw();
   void ShowRawList();
 
   const IdentityState& identity_;
   ReceptionState& reception_;
-  StoresState& stores_;
   MapViewState& map_;
-  AlarmState& alarms_;
   const SettingsState& settings_;
 
   Collector& link_;
-  FollowedHistory& history_;
-  RecordBrowser& browser_;
-  DistanceAlarm& distance_;
+  RecordKeeper& keeper_;
   MapActions& map_drawing_;
   MessageActions* messages_;
   EmergencyActions& emergencies_;
@@ -122,9 +96,6 @@ class ReceivePass {
   Clock& clock_;
   Timer& timer1_;
   ListBox* raw_list_;
-  AllStationsStore all_stations_;
-  StationLogs logs_;
-  RestingLogs resting_logs_;
   ReceptionCounts counts_;
 
   // Of the pass under way; kept for their memory.

@@ -19,11 +19,12 @@ ReceptionRoom::ReceptionRoom(ReceptionSections sections, ReceptionRoomControls c
               tools.Timer1}),
       Finder(sections.View, sections.Stores, controls.MoniAll, controls.Record, tools.Map,
              tools.Timer1),
-      Pass({sections.Identity, sections.Received, sections.Stores, sections.View, sections.Alarms,
-            sections.Settings},
-           {Link, History, Browser, Distance, tools.Map, tools.Messages, tools.Emergencies,
-            controls.Status.FileNotice},
-           tools.Symbols, tools.LocalClock, tools.Disk, tools.Timer1, controls.RawList) {
+      Keeper({sections.Identity, sections.Stores, sections.View, sections.Alarms},
+             {History, Browser, Distance, controls.Status.FileNotice}, tools.LocalClock,
+             tools.Disk),
+      Pass({sections.Identity, sections.Received, sections.View, sections.Settings},
+           {Link, Keeper, tools.Map, tools.Messages, tools.Emergencies}, tools.Symbols,
+           tools.LocalClock, tools.Timer1, controls.RawList) {
   Label& notice = controls.Status.FileNotice;
   notice.Click = [&notice] { notice.Visible = false; };
   controls.MoniAll.Check3.Click = [&alarms = sections.Alarms, &box = controls.MoniAll.Check3] {

@@ -37,6 +37,7 @@
 #include "reception/heard_stations.h"
 #include "reception/receive_pass.h"
 #include "reception/record_browser.h"
+#include "reception/record_keeper.h"
 #include "reception/station_finder.h"
 
 namespace zepril {
@@ -94,6 +95,7 @@ struct ReceptionRoom {
   HeardStationsPanel Heard;
   FollowedChoice Choice;
   StationFinder Finder;
+  RecordKeeper Keeper;
   ReceivePass Pass;
 };
 

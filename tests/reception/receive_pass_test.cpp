@@ -387,11 +387,9 @@ TEST(ReceivePass, LinkWithoutEndDoesNotHoldTheTick) {
   EndlessModem modem;
   HeardTexts heard(station.Radio, station.Received, station.Engine, modem, station.Time);
   Collector link(station.Radio, station.Internet, heard, &station.Actions);
-  ReceivePass pass({station.Identity, station.Received, station.Stores, station.Map, station.Alarms,
-                    station.Settings},
-                   {link, station.History, station.Browser, station.Distance, station.Actions,
-                    &station.Actions, station.Actions, station.Controls.Status.FileNotice},
-                   station.Symbols, station.Time, station.Disk, station.Timer1, nullptr);
+  ReceivePass pass({station.Identity, station.Received, station.Map, station.Settings},
+                   {link, station.Room.Keeper, station.Actions, &station.Actions, station.Actions},
+                   station.Symbols, station.Time, station.Timer1, nullptr);
   pass.Run();
   EXPECT_LE(pass.Counts().Frames, 5000);
   EXPECT_TRUE(station.Timer1.Enabled());
