@@ -49,40 +49,6 @@ bool UsesAlias(std::string_view path) {
   return false;
 }
 
-// A packet that a gateway has put into a frame of its own:
-// "}N0CALL>APRS,TCPIP,GATE1*:=5230.00N/01324.00E>". False when it is none after all.
-bool ReadThirdParty(std::string_view information, AnalysedFrame& result) {
-  constexpr std::size_t kDirectStarColumn = 11;
-  const std::size_t colon = information.find(':');
-  if (colon == kNone) return false;
-  // The outer header and the "}" go; the inner header is source, ">", destination, path.
-  const std::string_view inner = information.substr(0, colon);
-  const std::size_t arrow = inner.find('>');
-  if (arrow == kNone) return false;
-
-  std::string_view source = inner.substr(0, arrow);
-  if (source.ends_with('*')) source.remove_suffix(1);
-  AssignUpper(result.PacketCall, source);
-
-  // Heard over the element with the first asterisk, or over the internet.
-  result.PacketHeardVia.clear();
-  const std::size_t star = inner.find('*');
-  if (star != kNone && star >= kDirectStarColumn) {
-    result.PacketHeardVia = LastElement(inner, star, ":,>");
-  }
-  if (inner.find("TCPIP") != kNone) result.PacketHeardVia = "TCPIP";
-
-  const std::string_view behind = inner.substr(arrow + 1);
-  result.PacketDestination = behind.substr(0, behind.find_first_of("*,>"));
-  if (result.PacketHeardVia.empty()) result.PacketHeardVia = result.PacketDestination;
-
-  result.PacketInfo = Trim(CutAtReturn(Trim(information.substr(colon + 1))));
-  result.PacketType = result.PacketInfo.empty() ? '\0' : result.PacketInfo.front();
-  result.Header = inner;
-  result.ThirdParty = true;
-  return true;
-}
-
 // True when `frame` begins with the own header. An empty header is never there.
 bool IsOwnEcho(std::string_view frame, std::string_view own_header) {
   return !own_header.empty() && frame.starts_with(own_header);
@@ -140,6 +106,38 @@ HeaderOutcome ReadNormal(std::string_view frame, std::string_view header,
 }
 
 }  // namespace
+
+bool ReadThirdParty(std::string_view information, AnalysedFrame& result) {
+  constexpr std::size_t kDirectStarColumn = 11;
+  const std::size_t colon = information.find(':');
+  if (colon == kNone) return false;
+  // The outer header and the "}" go; the inner header is source, ">", destination, path.
+  const std::string_view inner = information.substr(0, colon);
+  const std::size_t arrow = inner.find('>');
+  if (arrow == kNone) return false;
+
+  std::string_view source = inner.substr(0, arrow);
+  if (source.ends_with('*')) source.remove_suffix(1);
+  AssignUpper(result.PacketCall, source);
+
+  // Heard over the element with the first asterisk, or over the internet.
+  result.PacketHeardVia.clear();
+  const std::size_t star = inner.find('*');
+  if (star != kNone && star >= kDirectStarColumn) {
+    result.PacketHeardVia = LastElement(inner, star, ":,>");
+  }
+  if (inner.find("TCPIP") != kNone) result.PacketHeardVia = "TCPIP";
+
+  const std::string_view behind = inner.substr(arrow + 1);
+  result.PacketDestination = behind.substr(0, behind.find_first_of("*,>"));
+  if (result.PacketHeardVia.empty()) result.PacketHeardVia = result.PacketDestination;
+
+  result.PacketInfo = Trim(CutAtReturn(Trim(information.substr(colon + 1))));
+  result.PacketType = result.PacketInfo.empty() ? '\0' : result.PacketInfo.front();
+  result.Header = inner;
+  result.ThirdParty = true;
+  return true;
+}
 
 HeaderOutcome AnalyseHeader(std::string_view frame, std::string_view my_call_full,
                             std::string_view own_header, AnalysedFrame& result) {

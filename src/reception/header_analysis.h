@@ -31,4 +31,9 @@ enum class HeaderOutcome {
 HeaderOutcome AnalyseHeader(std::string_view frame, std::string_view my_call_full,
                             std::string_view own_header, AnalysedFrame& result);
 
+// A packet that a gateway has put into a frame of its own, `information` without its "}":
+//   "N0CALL>APRS,TCPIP,GATE1*:=5230.00N/01324.00E"
+// False, and `result` unchanged, when it is none after all.
+bool ReadThirdParty(std::string_view information, AnalysedFrame& result);
+
 }  // namespace zepril
