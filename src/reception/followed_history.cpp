@@ -33,6 +33,11 @@ bool FollowedHistory::IsFollowed(std::string_view call) const {
 }
 
 bool FollowedHistory::Enter(const StationRecord& record) {
+  Add(record);
+  return Keep();
+}
+
+void FollowedHistory::Add(const StationRecord& record) {
   StationStore& history = stores_.Moni1Records;
   const StationRecord entry = HistoryRecord(record);
 
@@ -44,14 +49,24 @@ bool FollowedHistory::Enter(const StationRecord& record) {
   } else {
     history.Append(entry);
   }
-
+  added_.push_back(entry);
   HoldCount();
+}
+
+bool FollowedHistory::Keep() {
+  const std::vector<StationRecord> added = std::exchange(added_, {});
+  if (added.empty()) return true;
   Thin();
-  if (!WriteFile(HistoryText({entry}))) return false;
+  if (!WriteFile(HistoryText(added))) return false;
   TakeNewestValues(stores_.Moni1Records, followed_);
-  alarm_.TestFollowed(entry);
+  alarm_.TestFollowed(added.back());
   FollowOnMap();
   return true;
+}
+
+bool FollowedHistory::IsLater(const StationRecord& record) const {
+  const StationStore& history = stores_.Moni1Records;
+  return history.Count() == 0 || record.DateAndTime() > history.At(history.Count()).DateAndTime();
 }
 
 // A full history loses its oldest thousand at once.

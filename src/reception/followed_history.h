@@ -32,6 +32,12 @@ class FollowedHistory {
   // A new position (a `MONI ALL` record of the followed station). False at the first failure to
   // write the file in this run; a notice tells of that one and of later ones.
   bool Enter(const StationRecord& record);
+  // The same in two steps, for many positions at once: each goes into the list, then all of them
+  // into the file. Thinning, panel, alarm and map follow the last one.
+  void Add(const StationRecord& record);
+  bool Keep();
+  // Later than the newest position of the history, by the minute.
+  bool IsLater(const StationRecord& record) const;
 
   // At the start of the program: path and history of `Moni1Call`. What lies before a gap of more
   // than 30 days goes, but the file as it was stays beside it; where it can't, nothing goes.
@@ -63,6 +69,7 @@ class FollowedHistory {
   DistanceAlarm& alarm_;
   HistoryFile file_;
   SettingsActions& settings_;
+  std::vector<StationRecord> added_;  // and not yet in the file
 };
 
 }  // namespace zepril

@@ -1,6 +1,7 @@
 // The stores and logs in the order in which a record goes into them.
 #include "reception/record_keeper.h"
 
+#include "core/text_fields.h"
 #include "reception/emergency_report.h"
 
 namespace zepril {
@@ -20,9 +21,9 @@ bool RecordKeeper::LogRaw(std::string_view collected) {
   return stores_.LogsOn != 1 || resting_logs_.AppendRaw(collected);
 }
 
-void RecordKeeper::RaiseEmergency(const StationRecord& record) {
+void RecordKeeper::RaiseEmergency(const StationRecord& record, std::string_view position_label) {
   FillEmergency(record, map_, logs_.LogPath("_ALARM_.TXT"), alarms_);
-  logs_.AppendEmergency(alarms_);
+  logs_.AppendEmergency(alarms_, position_label);
 }
 
 std::optional<FrameLevel> RecordKeeper::Store(const StationRecord& record) {
@@ -33,7 +34,7 @@ std::optional<FrameLevel> RecordKeeper::Store(const StationRecord& record) {
   }
   if (!all_stations_.Append(record)) return std::nullopt;
   ++stored_;
-  if (stores_.LogsOn == 1 && !resting_logs_.AppendRecord(record)) return std::nullopt;
+  if (stores_.LogsOn == 1 && !resting_logs_.AppendRecords({&record, 1})) return std::nullopt;
   all_stations_.KeepLimit();
   distance_.TestAllStations(record);
 
@@ -46,6 +47,46 @@ std::optional<FrameLevel> RecordKeeper::Store(const StationRecord& record) {
   if (record.EmergencyMark() == '!') level = FrameLevel::Emergency;
   browser_.MoveToNewest(record.Call());
   return level;
+}
+
+void RecordKeeper::BeginPage() {
+  page_.clear();
+  selected_came_ = false;
+}
+
+std::optional<FrameLevel> RecordKeeper::StoreLine(const StationRecord& record) {
+  if (all_stations_.IsRepeat(record)) {
+    ++repeats_;
+    return FrameLevel::Nothing;
+  }
+  if (!AddToList(record)) return std::nullopt;
+  distance_.TestAllStations(record);
+  FrameLevel level = FrameLevel::MoniAll;
+  if (history_.IsFollowed(record.Call()) && history_.IsLater(record)) {
+    history_.Add(record);
+    level = FrameLevel::Moni1;
+  }
+  return record.EmergencyMark() == '!' ? FrameLevel::Emergency : level;
+}
+
+bool RecordKeeper::StoreStation(const StationRecord& record) {
+  return AddToList(record);
+}
+
+bool RecordKeeper::AddToList(const StationRecord& record) {
+  if (!all_stations_.Append(record)) return false;
+  ++stored_;
+  if (stores_.LogsOn == 1) page_.push_back(record);
+  all_stations_.KeepLimit();
+  selected_came_ = selected_came_ || EqualFolded(record.Call(), Trim(stores_.SelectedStationCall));
+  return true;
+}
+
+void RecordKeeper::EndPage() {
+  if (!page_.empty()) resting_logs_.AppendRecords(page_);
+  page_.clear();
+  history_.Keep();
+  if (selected_came_) browser_.MoveToNewest(stores_.SelectedStationCall);
 }
 
 }  // namespace zepril

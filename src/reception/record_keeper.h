@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "core/controls.h"
 #include "core/state/alarms.h"
@@ -53,16 +54,28 @@ class RecordKeeper {
   // Raw text as it came, when logs are on. False when its log can't be written.
   bool LogRaw(std::string_view collected);
   // Fills the alarm fields and appends the block of the emergency log.
-  void RaiseEmergency(const StationRecord& record);
+  void RaiseEmergency(const StationRecord& record,
+                      std::string_view position_label = StationLogs::kHeardPosition);
   // Stores `record` unless it is a repeat; what that has led to. Nothing (no level) when the list
   // is full to its capacity, or at the first failure to write a file in this run.
   std::optional<FrameLevel> Store(const StationRecord& record);
+
+  // Many records at once, as a page of the internet brings them: logs, history and the open panel
+  // follow at its end, and of files that can't be written a notice tells.
+  void BeginPage();
+  // As `Store`; the history takes only what is later than its newest position.
+  std::optional<FrameLevel> StoreLine(const StationRecord& record);
+  // Without a test for repeats, and among all stations alone. False when the list is full.
+  bool StoreStation(const StationRecord& record);
+  void EndPage();
 
   // Since the program began.
   std::int64_t Stored() const { return stored_; }
   std::int64_t Repeats() const { return repeats_; }
 
  private:
+  bool AddToList(const StationRecord& record);
+
   StoresState& stores_;
   const MapViewState& map_;
   AlarmState& alarms_;
@@ -72,6 +85,8 @@ class RecordKeeper {
   AllStationsStore all_stations_;
   StationLogs logs_;
   RestingLogs resting_logs_;
+  std::vector<StationRecord> page_;  // of the page under way, not yet in the logs
+  bool selected_came_ = false;       // the page has told of the selected station
   std::int64_t stored_ = 0;
   std::int64_t repeats_ = 0;
 };

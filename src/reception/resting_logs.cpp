@@ -12,8 +12,8 @@ bool RestingLogs::AppendRaw(std::string_view collected) {
   return IsResting() || Written(Kind::Raw, logs_.AppendRaw(collected));
 }
 
-bool RestingLogs::AppendRecord(const StationRecord& record) {
-  return IsResting() || Written(Kind::Records, logs_.AppendRecord(record));
+bool RestingLogs::AppendRecords(std::span<const StationRecord> records) {
+  return IsResting() || Written(Kind::Records, logs_.AppendRecords(records));
 }
 
 bool RestingLogs::IsResting() const {

@@ -5,6 +5,7 @@
 // notice tells which file it is and why, and every ten minutes writing is tried again.
 #pragma once
 
+#include <span>
 #include <string_view>
 
 #include "core/file_notice.h"
@@ -25,7 +26,7 @@ class RestingLogs {
 
   // As those of `StationLogs`; false only at the first failure of a file in the run.
   bool AppendRaw(std::string_view collected);
-  bool AppendRecord(const StationRecord& record);
+  bool AppendRecords(std::span<const StationRecord> records);
 
  private:
   enum class Kind { None, Raw, Records };

@@ -40,13 +40,19 @@ std::string ShortLogLine(const StationRecord& record) {
   return line;
 }
 
-bool StationLogs::AppendRecord(const StationRecord& record) {
-  line_ = ShortLogLine(record);
-  line_ += kLineEnd;
-  const bool short_written = Append("_LOG_.TXT", line_);
-  line_.assign(record.Text());
-  line_ += kLineEnd;
-  const bool long_written = Append("_LOGL_.TXT", line_);
+bool StationLogs::AppendRecords(std::span<const StationRecord> records) {
+  lines_.clear();
+  for (const StationRecord& record : records) {
+    lines_ += ShortLogLine(record);
+    lines_ += kLineEnd;
+  }
+  const bool short_written = Append("_LOG_.TXT", lines_);
+  lines_.clear();
+  for (const StationRecord& record : records) {
+    lines_ += record.Text();
+    lines_ += kLineEnd;
+  }
+  const bool long_written = Append("_LOGL_.TXT", lines_);
   return short_written && long_written;
 }
 

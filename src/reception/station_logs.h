@@ -2,6 +2,7 @@
 // closed for every entry; lines end with CR LF.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -14,16 +15,20 @@ namespace zepril {
 
 class StationLogs {
  public:
+  // What opens the fourth line of a block: of a packet heard, and of one that came by the internet.
+  static constexpr std::string_view kHeardPosition = "GLL     : ";
+  static constexpr std::string_view kInternetPosition = "QTH GLL : ";
+
   StationLogs(const IdentityState& identity, Files& files) : identity_(identity), files_(files) {}
 
   // Collected text of a pass as it came, no line end added. Each returns false when its file can't
   // be written.
   bool AppendRaw(std::string_view collected);
-  // A new record: the short line (columns 1-58, a blank, 90 to the end) to "_LOG_.TXT" and the
-  // whole record to "_LOGL_.TXT".
-  bool AppendRecord(const StationRecord& record);
+  // New records: of each the short line (columns 1-58, a blank, 90 to the end) to "_LOG_.TXT" and
+  // the whole record to "_LOGL_.TXT".
+  bool AppendRecords(std::span<const StationRecord> records);
   // The block of seven lines of a station in emergency; `position_label` opens its fourth line.
-  bool AppendEmergency(const AlarmState& alarm, std::string_view position_label = "GLL     : ");
+  bool AppendEmergency(const AlarmState& alarm, std::string_view position_label = kHeardPosition);
 
   // Path of a file in the LOG folder, as the program writes paths.
   std::string LogPath(std::string_view name) const;
@@ -36,7 +41,7 @@ class StationLogs {
 
   const IdentityState& identity_;
   Files& files_;
-  std::string line_;
+  std::string lines_;
   std::string failed_path_;
 };
 

@@ -48,6 +48,7 @@ class MemoryFiles final : public Files {
   }
   bool Append(const std::string& path, std::string_view text) override {
     if (Refused(path)) return false;
+    ++Writes;
     Contents[path] += text;
     return true;
   }
@@ -56,6 +57,7 @@ class MemoryFiles final : public Files {
   }
   bool Replace(const std::string& path, std::string_view text) override {
     if (Refused(path) || NoRoomToReplace) return false;
+    ++Writes;
     Contents[path] = text;
     return true;
   }
@@ -118,6 +120,7 @@ class MemoryFiles final : public Files {
   std::set<std::string> Devices;            // likewise
   bool NothingIsRemoved = false;            // a removal is refused
   std::function<void()> OnReadRange;        // after a part was read, before it is handed over
+  int Writes = 0;                           // appended or replaced so far
   std::string RefusedEnding;                // files whose path ends so can't be written
   bool NoRoomToReplace = false;             // a whole new file finds no room, a line more does
   FileTrouble Why = FileTrouble::DiskFull;  // told as the trouble of whatever fails
