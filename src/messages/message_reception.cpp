@@ -12,7 +12,8 @@ void MessageReception::MessageReceived(const HeardMessage& heard) {
                         std::string(heard.Header),
                         std::string(heard.Destination),
                         std::string(MessageTextOf(heard.Info)),
-                        NumberIn(heard.Info).has_value()};
+                        NumberIn(heard.Info).has_value(),
+                        heard.OverInternet};
   if (!IsOwnCall(AddresseeOf(message.Info), identity_)) return ShowTrafficOfOthers(message);
   if (BeginsLikeAck(message.Text)) return TakeAck(message);
   const bool is_new = ShowForMe(message);
@@ -73,7 +74,9 @@ void MessageReception::Answer() {
 void MessageReception::Acknowledge(const Message& message) {
   const auto number = NumberToAcknowledge(message.From, message.Info);
   if (!number || !MayAnswer()) return;
-  chat_.ChatTxText = AckText(message.From, *number);
+  // Who came by the internet alone is answered that way.
+  chat_.ChatTxText = message.OverInternet ? InternetAckText(message.From, *number)
+                                          : AckText(message.From, *number);
   Answer();
 }
 

@@ -35,8 +35,7 @@ class MessageReception final : public MessageActions {
                    MessageReceptionTools tools)
       : identity_(identity), chat_(chat), controls_(controls), tools_(tools) {}
 
-  // A receive pass begins.
-  void PassBegins() { answers_ = 0; }
+  void PassBegins() override { answers_ = 0; }
   void MessageReceived(const HeardMessage& heard) override;
 
  private:
@@ -48,6 +47,7 @@ class MessageReception final : public MessageActions {
     std::string Destination;
     std::string Text;  // behind the addressee
     bool HasNumber = false;
+    bool OverInternet = false;
   };
 
   void ShowTrafficOfOthers(const Message& message);

@@ -131,6 +131,10 @@ std::string AckText(std::string_view to, std::string_view number) {
   return AddressedTo(to) + "ack" + std::string(number);
 }
 
+std::string InternetAckText(std::string_view to, std::string_view number) {
+  return AddressedTo(to) + "mok" + std::string(number);
+}
+
 std::string PingAnswerText(std::string_view from, std::string_view header,
                            std::string_view destination) {
   return AddressedTo(from) + "PATH = " + std::string(from) + " VIA " +

@@ -70,6 +70,8 @@ std::string LogLine(std::string_view day_and_time, std::string_view chat_line);
 std::string AddressedTo(std::string_view call);
 
 std::string AckText(std::string_view to, std::string_view number);
+// The same for a message that came by the internet; only the web form carries it.
+std::string InternetAckText(std::string_view to, std::string_view number);
 
 // ":N0CALL   :PATH = N0CALL VIA WIDE1-1* TO APRS"; nothing stands for a path heard directly.
 std::string PingAnswerText(std::string_view from, std::string_view header,

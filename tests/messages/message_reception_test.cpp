@@ -45,6 +45,30 @@ TEST_F(MessageReceptionTest, ARepeatIsAcknowledgedAndNotShown) {
   EXPECT_THAT(world.Sent(), ElementsAre(":N0CALL   :ack07", ":N0CALL   :ack07"));
 }
 
+TEST_F(MessageReceptionTest, OneThatCameByTheInternetIsAcknowledgedByTheWebForm) {
+  world.HearOverInternet("N0CALL", ":QX7KB    :Hello{07");
+  EXPECT_EQ(world.Newest().Text, "N0CALL   :QX7KB    :Hello{07");
+  EXPECT_THAT(world.Sent(), IsEmpty());
+  EXPECT_THAT(world.Pages.Asked,
+              ElementsAre("http://aprs.example/cgi-bin/sendmsg.cgi?fromcall=QX7KB-10&tocall=N0CALL"
+                          "&msg=mok07"));
+}
+
+TEST_F(MessageReceptionTest, OneThatCameByTheInternetWithoutANumberIsNot) {
+  world.HearOverInternet("N0CALL", ":QX7KB    :Hello");
+  EXPECT_EQ(world.Newest().Text, "N0CALL   :QX7KB    :Hello");
+  EXPECT_THAT(world.Pages.Asked, IsEmpty());
+}
+
+TEST_F(MessageReceptionTest, BothAcknowledgementsCountWhenTheyComeByTheInternet) {
+  for (const char* word : {"ack", "mok"}) {
+    world.PutLine(3, " QX7KB-10:N0CALL   :Hello{07", 251);
+    world.HearOverInternet("N0CALL", std::string(":QX7KB    :") + word + "07");
+    EXPECT_EQ(world.Line(3).Colour, 128U) << word;
+  }
+  EXPECT_THAT(world.Pages.Asked, IsEmpty());
+}
+
 TEST_F(MessageReceptionTest, WhatStandsBehindTheBraceIsAcknowledgedAsItIs) {
   world.Hear("N0CALL", ":QX7KB    :Hello{07}");
   EXPECT_THAT(world.Sent(), ElementsAre(":N0CALL   :ack07}"));

@@ -53,6 +53,10 @@ struct MessagesWorld {
         path.empty() ? from + "*>APRS <UI>" : from + ">" + path + ">APRS <UI>";
     Room.Heard.MessageReceived({from, info, header, "APRS"});
   }
+  // One that a database of the internet tells of.
+  void HearOverInternet(const std::string& from, const std::string& info) {
+    Room.Heard.MessageReceived({from, info, from + ">qAR,QX7AB>APRS <UI>", "APRS", true});
+  }
   void Type(const std::string& to, const std::string& text) {
     Controls.Chat.Text2.Text = to;
     Controls.Chat.Text3.Text = text;

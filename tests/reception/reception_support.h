@@ -55,8 +55,10 @@ class RecordingActions final : public MapActions,
   void MapRefresh() override { ++Refreshes; }
   void MessageReceived(const HeardMessage& message) override {
     Messages.push_back({std::string(message.From), std::string(message.Info),
-                        std::string(message.Header), std::string(message.Destination)});
+                        std::string(message.Header), std::string(message.Destination),
+                        message.OverInternet});
   }
+  void PassBegins() override { ++PassesBegun; }
   void ShowEmergency() override { ++Emergencies; }
   void GateMonitorBlock(std::string_view text, std::string_view dialect) override {
     Gated.emplace_back(text);
@@ -72,7 +74,9 @@ class RecordingActions final : public MapActions,
     std::string Info;
     std::string Header;
     std::string Destination;
+    bool OverInternet = false;
   };
+  int PassesBegun = 0;
   int Redraws = 0;
   int Refreshes = 0;
   int Emergencies = 0;

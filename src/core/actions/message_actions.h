@@ -11,11 +11,14 @@ struct HeardMessage {
   std::string_view Info;         // information, from its first ":" on
   std::string_view Header;       // header line of the frame
   std::string_view Destination;  // of the header
+  bool OverInternet = false;     // it was not heard but told of by a database
 };
 
 class MessageActions {
  public:
   virtual ~MessageActions() = default;
+  // Messages of another receive pass or page follow.
+  virtual void PassBegins() {}
   // May hand control to the window system once.
   virtual void MessageReceived(const HeardMessage& message) = 0;
 };
