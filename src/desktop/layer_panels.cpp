@@ -82,8 +82,12 @@ void LayerPanels::MakeIonoPanel() {
   QPushButton* detailed = SmallButton();
   grid->addWidget(detailed, 3, 0, 1, 2);
   parts_.Binding.Bind(detailed, i.FoptDetailed);
-  grid->addWidget(parts_.BoundButton(i.IonoOk), 4, 0);
-  grid->addWidget(parts_.BoundButton(i.IonoClose), 4, 1);
+  auto* status = new QLabel;
+  status->setWordWrap(true);
+  grid->addWidget(status, 4, 0, 1, 2);
+  parts_.Binding.Bind(status, controls_.Status.IonoLabel);
+  grid->addWidget(parts_.BoundButton(i.IonoOk), 5, 0);
+  grid->addWidget(parts_.BoundButton(i.IonoClose), 5, 1);
   parts_.Binding.Bind(made_.Iono, i.Frame18);
 }
 

@@ -7,6 +7,7 @@
 #include "core/keys.h"
 #include "core/text_fields.h"
 #include "core/texts/boxes.h"
+#include "internet/iono_pages.h"
 
 namespace zepril {
 namespace {
@@ -40,14 +41,24 @@ IonoInput::IonoInput(InternetState& internet, MapViewState& view, IonoControls& 
 }
 
 void IonoInput::Open() {
-  controls_.Text11.Text = ShortNumber(internet_.SunspotNumber);
-  controls_.Text12.Text = ShortNumber(internet_.KpIndex);
+  tools_.Update.ShowValues();
   controls_.FoptDetailed.Value = view_.FoptDetailed ? 1 : 0;
   controls_.Frame18.Visible = true;
-  controls_.Text11.FocusWanted = true;
+  if (!tools_.Update.IsAutomatic()) {
+    controls_.Text11.FocusWanted = true;
+    return;
+  }
+  controls_.IonoOk.FocusWanted = true;
+  tools_.Timer1.Stop();
+  tools_.Timer2.Arm(kWatchdogMilliseconds);
+  tools_.Update.StartIonoUpdate();
 }
 
 void IonoInput::Apply() {
+  if (tools_.Update.IsAutomatic()) {
+    controls_.Frame18.Visible = false;
+    return;
+  }
   const auto sunspots = NumberUpTo(controls_.Text11.Text, kHighestSunspotNumber);
   if (!sunspots) return Refuse(controls_.Text11, boxes::kSunspotsRange);
   const auto k = NumberUpTo(controls_.Text12.Text, kHighestK);

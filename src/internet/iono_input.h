@@ -1,5 +1,5 @@
-// "Input of ionospherical data": the sunspot number and the K index by hand, and what the distance
-// circles show of the estimate.
+// "Input of ionospherical data": the sunspot number and the K index, by hand or as an update brings
+// them, and what the distance circles show of the estimate.
 #pragma once
 
 #include "core/actions/map_actions.h"
@@ -9,6 +9,8 @@
 #include "core/state/internet.h"
 #include "core/state/map_view.h"
 #include "core/texts/text.h"
+#include "core/timer.h"
+#include "internet/iono_update.h"
 #include "platform/dialogs.h"
 
 namespace zepril {
@@ -17,12 +19,15 @@ struct IonoInputTools {
   Dialogs& Boxes;
   MapActions& Map;
   SettingsActions& Settings;
+  IonoUpdate& Update;
+  Timer& Timer1;
+  Timer& Timer2;
 };
 
 class IonoInput {
  public:
-  static constexpr double kHighestSunspotNumber = 400.0;
-  static constexpr double kHighestK = 9.0;
+  // An update from the panel: the main cycle stands still for no longer.
+  static constexpr int kWatchdogMilliseconds = 6000;
 
   // Sets the right click of the circles switch and the events of the panel.
   IonoInput(InternetState& internet, MapViewState& view, IonoControls& controls, MapControls& map,
@@ -30,10 +35,10 @@ class IonoInput {
   IonoInput(const IonoInput&) = delete;
   IonoInput& operator=(const IonoInput&) = delete;
 
-  // Shows the panel with the values in use.
+  // Shows the panel with the values in use; with automatic update they are updated at once.
   void Open();
   // Takes the typed values, saves them and draws the circles anew. A text that is no number in its
-  // range is told and left in its field.
+  // range is told and left in its field. With automatic update it closes the panel.
   void Apply();
 
  private:

@@ -7,6 +7,7 @@
 #include "core/radio_rules.h"
 #include "core/state_colours.h"
 #include "core/text_fields.h"
+#include "core/texts/iono_texts.h"
 #include "core/texts/status_texts.h"
 #include "core/title_line.h"
 #include "gate/recent_lines.h"
@@ -189,7 +190,7 @@ MainCycle::Outcome MainCycle::UpdateIonosphere() {
   if (state_.Internet.IonoAutoOn != 1) return Outcome::GoOn;
   const double now = clock_.SecondsSinceMidnight();
   if (std::fabs(now - state_.Internet.LastIonoTimer) <= kIonoSeconds) return Outcome::GoOn;
-  controls_.Status.IonoLabel.Caption = status_texts::kUpdating;
+  controls_.Status.IonoLabel.Caption = iono_texts::kUpdating;
   state_.Internet.LastIonoTimer = now;
   RunStep(Steps.StartIonoUpdate);
   return Outcome::EndTick;

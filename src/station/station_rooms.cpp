@@ -43,8 +43,10 @@ StationRooms::StationRooms(const Machine& machine, std::shared_ptr<SerialPort> m
               {machine.FileSystem, machine.LocalClock, machine.Boxes, machine.Desktop,
                *Surfaces.Sun, Map.Redrawer, Settings, LongWork, Timer1},
               Map.Panels),
-      Internet({State.Internet, State.Map}, {Controls.Iono, Controls.Map},
-               {machine.Boxes, Map.Redrawer, Settings}),
+      Internet({State.Internet, State.Map, State.Services},
+               {Controls.Iono, Controls.Map, Controls.Status},
+               {*machine.Pages, machine.LocalClock, machine.Boxes, Map.Redrawer, Settings, Timer1,
+                Timer2}),
       Gateway({State.Identity, State.Radio, State.Internet}, Controls.Gate,
               {*winsock2_, machine.Programs, machine.FileSystem, machine.LocalClock}),
       Transmit({State.Identity, State.Radio, State.Transmission, State.Map, State.Gps,
@@ -104,6 +106,7 @@ void StationRooms::SecondPassed() {
   Links.Watch.Renew();
   Transmit.Outcome.Renew();
   Messages.SecondPassed();
+  Internet.SecondPassed();
   Gateway.SecondPassed();
 }
 

@@ -14,6 +14,7 @@ TickSteps TickOrder(StationRooms& rooms) {
   tick.KeepSecondModeMonitored = [&rooms] { rooms.Links.KeepSecondModeMonitored(); };
   tick.ChangeFollowedStation = [&rooms] { rooms.Reception.Choice.FollowTyped(); };
   tick.SendIdentification = [&rooms] { rooms.Transmit.SendIdentification(); };
+  tick.StartIonoUpdate = [&rooms] { rooms.Internet.Update.StartIonoUpdate(); };
   tick.PollGps = [&rooms] { rooms.Gps.Reader.ReadNmea(); };
   tick.RunReceivePass = [&rooms] {
     rooms.Messages.Heard.PassBegins();
@@ -50,6 +51,7 @@ StartSteps StartOrder(StationRooms& rooms) {
     rooms.Messages.RestoreAtStart();
   };
   start.ShowTitleMarkers = [&rooms] { rooms.ShowTitle(); };
+  start.StartIonoUpdate = [&rooms] { rooms.Internet.Update.StartIonoUpdate(); };
   start.SetLabels = [&rooms] { rooms.SetLabels(); };
   start.ShowAndDrawMap = [&rooms] {
     rooms.Controls.Map.Picture1.Visible = true;
@@ -61,6 +63,11 @@ StartSteps StartOrder(StationRooms& rooms) {
 
 StopSteps StopOrder(StationRooms& rooms) {
   StopSteps stop;
+  stop.StopPageLoading = [&rooms] {
+    constexpr double kPauseSeconds = 0.2;
+    rooms.Given.Pages->Stop();
+    rooms.Given.LocalClock.Wait(kPauseSeconds);
+  };
   stop.StopPicturePanel = [&rooms] { rooms.Viewers.Pictures.ClosePicture(); };
   stop.LeaveLink = [&rooms] {
     rooms.Gateway.Digipeater.End();
@@ -70,6 +77,8 @@ StopSteps StopOrder(StationRooms& rooms) {
     rooms.Links.ClosePort();
     rooms.Gps.Source.Close();
     rooms.Gateway.Link.Close();
+    // A page that came later would be worked on in a program that has ended.
+    rooms.Given.Pages->Stop();
   };
   stop.MergeConfigAtExit = [&rooms] {
     MergeRunSettings(rooms.Given.FileSystem, rooms.State, rooms.Controls.Scales);

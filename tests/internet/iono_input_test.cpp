@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/doubles/fake_pages.h"
 #include "tests/doubles/recorded_actions.h"
 #include "tests/doubles/scripted_dialogs.h"
+#include "tests/doubles/virtual_clock.h"
 
 namespace zepril {
 namespace {
@@ -15,6 +17,7 @@ class IonoInputTest : public ::testing::Test {
     controls.Frame18.Visible = false;
     internet.SunspotNumber = 101.5;
     internet.KpIndex = 2.0;
+    internet.IonoAutoOn = 0;
   }
   void Type(const std::string& sunspots, const std::string& k) {
     map.Check9.RightClick();
@@ -25,11 +28,18 @@ class IonoInputTest : public ::testing::Test {
 
   InternetState internet;
   MapViewState view;
+  ServicesState services;
   IonoControls controls;
   MapControls map;
   ScriptedDialogs boxes;
+  StatusControls status;
   RecordedActions actions;
-  IonoInput input{internet, view, controls, map, {boxes, actions, actions}};
+  FakePages pages;
+  VirtualClock clock;
+  Timer timer1{6000};
+  Timer timer2{3000};
+  IonoUpdate update{internet, view, services, controls, status, {pages, clock, actions, actions}};
+  IonoInput input{internet, view, controls, map, {boxes, actions, actions, update, timer1, timer2}};
 };
 
 TEST_F(IonoInputTest, ARightClickOnTheCirclesOpensThePanelWithTheValuesInUse) {
@@ -95,6 +105,64 @@ TEST_F(IonoInputTest, CloseChangesNothing) {
   controls.IonoClose.Click();
   EXPECT_FALSE(controls.Frame18.Visible);
   EXPECT_EQ(internet.SunspotNumber, 101.5);
+}
+
+TEST_F(IonoInputTest, ByHandTheFieldsAreOpenAndNothingIsAsked) {
+  services.IonoPageA = "http://a";
+  timer1.Arm(6000);
+  map.Check9.RightClick();
+  EXPECT_TRUE(controls.Text11.Enabled);
+  EXPECT_TRUE(controls.Text12.Enabled);
+  EXPECT_EQ(status.IonoLabel.Caption, "NO AUTOMATIC UPDATE");
+  EXPECT_TRUE(pages.Asked.empty());
+  EXPECT_TRUE(timer1.Enabled());
+}
+
+TEST_F(IonoInputTest, WithAutomaticUpdateTheFieldsAreLockedAndTheUpdateBeginsAtOnce) {
+  internet.IonoAutoOn = 1;
+  services.IonoPageA = "http://a";
+  timer1.Arm(6000);
+  map.Check9.RightClick();
+  EXPECT_TRUE(controls.Frame18.Visible);
+  EXPECT_EQ(controls.Text11.Text, "101.5 (INET)");
+  EXPECT_EQ(controls.Text12.Text, "2 (INET)");
+  EXPECT_FALSE(controls.Text11.Enabled);
+  EXPECT_FALSE(controls.Text12.Enabled);
+  EXPECT_TRUE(controls.IonoOk.FocusWanted);
+  EXPECT_EQ(status.IonoLabel.Caption, "UPDATING...");
+  EXPECT_EQ(pages.Asked, std::vector<std::string>{"http://a"});
+  EXPECT_TRUE(internet.IonoNeedSunspot);
+  EXPECT_TRUE(internet.IonoNeedK);
+  EXPECT_EQ(internet.LastIonoTimer, clock.SecondsSinceMidnight());
+  EXPECT_FALSE(timer1.Enabled());
+  EXPECT_TRUE(timer2.Enabled());
+  EXPECT_EQ(timer2.IntervalMs(), 6000);
+}
+
+TEST_F(IonoInputTest, TheLockedFieldsShowWhatCame) {
+  internet.IonoAutoOn = 1;
+  services.IonoPageA = "http://a";
+  map.Check9.RightClick();
+  pages.Answer("KIEL 3-HOUR K 3 KIEL CURRENT K 4 SUNSPOT NUMBER 88");
+  EXPECT_EQ(controls.Text11.Text, "88 (INET)");
+  EXPECT_EQ(controls.Text12.Text, "3.5 (INET)");
+  controls.IonoOk.Click();
+  EXPECT_FALSE(controls.Frame18.Visible);
+  EXPECT_EQ(internet.SunspotNumber, 88.0);
+  EXPECT_EQ(actions.CountOf("save"), 1);
+}
+
+TEST_F(IonoInputTest, WithoutAnAddressTheFieldsStayOpenAndThePanelSaysWhy) {
+  internet.IonoAutoOn = 1;
+  timer1.Arm(6000);
+  map.Check9.RightClick();
+  EXPECT_EQ(controls.Text11.Text, "101.5");
+  EXPECT_TRUE(controls.Text11.Enabled);
+  EXPECT_EQ(status.IonoLabel.Caption, "OFF: NO ADDRESS IN SERVICES.TXT");
+  EXPECT_TRUE(timer1.Enabled());
+  controls.Text11.Text = "80";
+  controls.IonoOk.Click();
+  EXPECT_EQ(internet.SunspotNumber, 80.0);
 }
 
 TEST_F(IonoInputTest, TheSwitchForThreeValuesActsAtOnce) {

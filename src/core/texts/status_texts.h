@@ -85,7 +85,6 @@ inline constexpr Text kTxSetupWork{"TX SETUP"};
 // The banner and the title line.
 inline constexpr Text kCollectingMoni1{"COLLECTING INTERNET DATA (MONI 1) ..."};
 inline constexpr Text kCollectingMoniAll{"COLLECTING INTERNET DATA (MONI ALL) ..."};
-inline constexpr Text kUpdating{"UPDATING..."};
 inline constexpr Text kTitle{"ZEP RIL  V %1  %2"};
 inline constexpr Text kGateConnected{"IGate connected"};
 inline constexpr Text kConnected{"      connected"};
