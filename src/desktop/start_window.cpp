@@ -119,6 +119,14 @@ QBoxLayout* StartWindow::StationColumn() {
   QGridLayout* maps = AddGroup(column, window_texts::kMaps);
   AddField(maps, 0, c.Text1);
   column->addSpacing(12);
+  QGridLayout* ionosphere = AddGroup(column, window_texts::kIonosphere);
+  AddField(ionosphere, 0, c.Text15);
+  AddField(ionosphere, 1, c.Text16);
+  QPushButton* from_internet = SmallButton();
+  from_internet->setAutoDefault(false);
+  ionosphere->addWidget(from_internet, 2, 1, Qt::AlignLeft);
+  binder_.Bind(from_internet, c.Check8);
+  column->addSpacing(12);
   auto* server = new QPushButton;
   server->setAutoDefault(false);
   server->setFixedHeight(kControlHeight);

@@ -24,6 +24,9 @@ struct StartPanelControls {
   Label GpsFault;         // what is wrong with these
   TextBox Text5;          // MONI CALL
   TextBox Text1;          // MAPS PATH
+  TextBox Text15;         // SUNSPOT(R)
+  TextBox Text16;         // K
+  CheckBox Check8;        // <- INET: both come from the internet
   Button Command14;       // IGATE APRS-IS SETUP
   Frame AprsIsPanel;
   Label AprsIsWords;          // what it is for

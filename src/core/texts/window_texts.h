@@ -57,6 +57,7 @@ inline constexpr Text kProgramIs{"APRS station program"};
 inline constexpr Text kStation{"STATION"};
 inline constexpr Text kMaps{"MAPS"};
 inline constexpr Text kGps{"GPS"};
+inline constexpr Text kIonosphere{"IONOSPHERE"};
 inline constexpr Text kPk232Is{"serial modem PK-232, HF and VHF"};
 inline constexpr Text kAgwLocalIs{"packet engine on this computer, port 8000"};
 inline constexpr Text kAgwRemoteIs{"packet engine on another computer, TCP/IP"};

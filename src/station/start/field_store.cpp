@@ -15,14 +15,14 @@ constexpr int kUsualScsPort = 3;
 
 }  // namespace
 
-FieldStore::FieldStore(const StartPanelControls& controls, RadioInterfaces& interfaces,
-                       PortFields& ports, GpsFields& gps, const DeviceList& devices,
-                       StartSettingsPlace settings, Dialogs& dialogs)
+FieldStore::FieldStore(const StartPanelControls& controls, StartFields fields,
+                       const DeviceList& devices, StartSettingsPlace settings, Dialogs& dialogs)
     : controls_(controls),
-      interfaces_(interfaces),
-      ports_(ports),
-      gps_(gps),
+      interfaces_(fields.Interfaces),
+      ports_(fields.Ports),
+      gps_(fields.Gps),
       devices_(devices),
+      iono_(fields.Iono),
       settings_(settings.Values),
       program_folder_(settings.ProgramFolder),
       files_(settings.Disk),
@@ -69,6 +69,7 @@ void FieldStore::TakeFields() {
   TakeMapsPath();
   if (!Trim(controls_.Text5.Text).empty())
     settings_.Followed.Moni1Call = Trim(controls_.Text5.Text);
+  iono_.Take();
   InternetState& server = settings_.Internet;
   server.AprsIsServer = std::string(Trim(server.AprsIsServer));
   server.AprsIsPort = std::string(Trim(server.AprsIsPort));

@@ -9,6 +9,7 @@
 #include "platform/files.h"
 #include "station/start/device_list.h"
 #include "station/start/gps_fields.h"
+#include "station/start/iono_fields.h"
 #include "station/start/port_choice.h"
 #include "station/start/port_fields.h"
 #include "station/start/radio_interfaces.h"
@@ -16,11 +17,18 @@
 
 namespace zepril {
 
+// The fields that look after themselves.
+struct StartFields {
+  RadioInterfaces& Interfaces;
+  PortFields& Ports;
+  GpsFields& Gps;
+  IonoFields& Iono;
+};
+
 class FieldStore {
  public:
-  FieldStore(const StartPanelControls& controls, RadioInterfaces& interfaces, PortFields& ports,
-             GpsFields& gps, const DeviceList& devices, StartSettingsPlace settings,
-             Dialogs& dialogs);
+  FieldStore(const StartPanelControls& controls, StartFields fields, const DeviceList& devices,
+             StartSettingsPlace settings, Dialogs& dialogs);
 
   // False when GPS and modem are to be one port, or a file can't be written, which is told by a
   // box. With one port nothing is written.
@@ -45,6 +53,7 @@ class FieldStore {
   PortFields& ports_;
   GpsFields& gps_;
   const DeviceList& devices_;
+  IonoFields& iono_;
   StartPanelSettings& settings_;
   const std::string& program_folder_;
   Files& files_;

@@ -65,10 +65,13 @@ bool StartButton::CallIsThere() {
 void StartButton::EnableFields(bool enabled) {
   parts_.Interfaces.Enable(enabled);
   StartPanelControls& c = controls_;
-  for (Control* field : std::initializer_list<Control*>{
-           &c.Text8, &c.Text5, &c.Text1, &c.Text3, &c.Text4, &c.Text6, &c.Text17, &c.SetClockBox}) {
+  for (Control* field :
+       std::initializer_list<Control*>{&c.Text8, &c.Text5, &c.Text1, &c.Text3, &c.Text4, &c.Text6,
+                                       &c.Text17, &c.SetClockBox, &c.Check8}) {
     field->Enabled = enabled;
   }
+  for (TextBox* field : {&c.Text15, &c.Text16})
+    field->Enabled = enabled && c.Check8.Value == 0;
   controls_.Command14.Enabled = enabled && parts_.Interfaces.Chosen().MayGate();
   controls_.Command1.Enabled = enabled;
 }

@@ -1,5 +1,5 @@
-// START: stores what stands in the fields and sets a serial modem up, shows how far it is, and takes
-// over the vectors of outings.
+// START: stores what stands in the fields and sets a serial modem up, shows how far it is, and
+// takes over the vectors of outings.
 #pragma once
 
 #include "config/start_panel_settings.h"

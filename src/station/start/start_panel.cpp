@@ -18,8 +18,9 @@ StartPanel::StartPanel(const Machine& machine, std::string program_folder, const
       devices_(machine.Devices, Controls.Text3),
       ports_(Controls, interfaces_, devices_),
       gps_(Controls, machine.Devices, {settings_, program_folder_, files_}),
-      fields_(Controls, interfaces_, ports_, gps_, devices_, {settings_, program_folder_, files_},
-              machine.Boxes),
+      iono_(Controls, settings_.Internet),
+      fields_(Controls, {interfaces_, ports_, gps_, iono_}, devices_,
+              {settings_, program_folder_, files_}, machine.Boxes),
       server_(Controls, interfaces_, settings_, fields_),
       start_(Controls, {interfaces_, ports_, fields_}, {settings_, program_folder_, files_},
              {machine.LocalClock, machine.Boxes, *modem_}) {
@@ -65,6 +66,7 @@ void StartPanel::ShowSettings() {
   gps_.Show();
   ChooseInterface(interfaces_.OfMode(mode));
   Controls.Text5.Text = settings_.Followed.Moni1Call;
+  iono_.Show();
   server_.Show();
   (settings_.Identity.MyCall.empty() ? Controls.Text8.FocusWanted : Controls.Command1.FocusWanted) =
       true;

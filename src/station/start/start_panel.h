@@ -15,6 +15,7 @@
 #include "station/start/device_list.h"
 #include "station/start/field_store.h"
 #include "station/start/gps_fields.h"
+#include "station/start/iono_fields.h"
 #include "station/start/port_fields.h"
 #include "station/start/radio_interfaces.h"
 #include "station/start/start_button.h"
@@ -64,6 +65,7 @@ class StartPanel {
   DeviceList devices_;
   PortFields ports_;
   GpsFields gps_;
+  IonoFields iono_;
   FieldStore fields_;
   AprsIsSetup server_;
   StartButton start_;

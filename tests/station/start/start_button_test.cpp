@@ -93,7 +93,8 @@ TEST_F(StartButtonTest, TheWindowTellsHowFarTheSetUpIs) {
       EXPECT_TRUE(panel->Starting());
       EXPECT_TRUE(c.SetupBar.Visible && c.SetupText.Visible);
       EXPECT_FALSE(c.Command1.Enabled || c.Text1.Enabled || c.Text3.Enabled || c.Text4.Enabled ||
-                   c.Text5.Enabled || c.Text8.Enabled || c.Option2.Enabled);
+                   c.Text5.Enabled || c.Text8.Enabled || c.Option2.Enabled || c.Text15.Enabled ||
+                   c.Text16.Enabled || c.Check8.Enabled);
       steps.push_back(c.SetupBar.FilledPx);
       texts.push_back(c.SetupText.Caption);
       panel->Controls.Command1.Click();  // ignored
