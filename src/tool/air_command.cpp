@@ -14,6 +14,7 @@
 #include "core/text_fields.h"
 #include "platform/native/system_clock.h"
 #include "tool/arguments.h"
+#include "tool/iono_web_pages.h"
 #include "tool/pk232_model.h"
 #include "tool/scs_ptc_model.h"
 #include "tool/scs_tnc_model.h"
@@ -21,13 +22,14 @@
 namespace zepril {
 namespace {
 
-constexpr std::array<ArgumentRule, 13> kRules{{{"--agw", true},
+constexpr std::array<ArgumentRule, 14> kRules{{{"--agw", true},
                                                {"--aprs-is", true},
                                                {"--aprs-is-manner", true},
                                                {"--pk232", true},
                                                {"--scs-tnc", true},
                                                {"--scs-ptc", true},
                                                {"--web", true},
+                                               {"--web-iono", true},
                                                {"--gps", true},
                                                {"--gps-route", true},
                                                {"--gps-manner", true},
@@ -148,7 +150,10 @@ AirDevices OpenDevices(Arguments& arguments, double rate, const ReportLine& repo
     if (!devices.back()) arguments.Fail("can't listen on that port");
   }
   if (arguments.Has("--web")) {
-    devices.push_back(OpenWebDevice(arguments.Whole("--web", 0, 65535, -1), report));
+    const auto manners = IonoPageMannersNamed(arguments.Value("--web-iono").value_or("whole"));
+    devices.push_back(OpenWebDevice(arguments.Whole("--web", 0, 65535, -1),
+                                    IonoWebPages(manners.value_or(IonoPageManners{})), report));
+    if (!devices.back()) arguments.Fail("can't listen on that port");
   }
   if (arguments.Has("--aprs-is")) {
     const auto manners = AprsIsMannersNamed(arguments.Value("--aprs-is-manner").value_or(""));
@@ -238,6 +243,9 @@ int RunAir(std::span<const std::string_view> args) {
   if (const auto manner = arguments.Value("--aprs-is-manner");
       manner && !AprsIsMannersNamed(*manner)) {
     arguments.Fail("no such manner of a server: " + std::string(*manner));
+  }
+  if (const auto manner = arguments.Value("--web-iono"); manner && !IonoPageMannersNamed(*manner)) {
+    arguments.Fail("no such manner of a page: " + std::string(*manner));
   }
   CheckGps(arguments);
   if (arguments.Failed()) return arguments.Report("air");

@@ -10,6 +10,7 @@
 //   SENT pk232 300 QX7KB-9>ZEPR,WIDE1-1:text   handed to a modem at 300 Bd
 //   COMMAND pk232 MYCALL QX7KB-9               a command of a modem
 //   LINE aprs-is QX7AB>ZEPR,qAR,QX7KB:!tst     a line that came to the server
+//   PAGE web /text/sgas.txt                    a page that was asked for
 //   MESSAGE web QX7KB-9 AB1CD Hello{07         handed to the web form for messages
 //
 // Nothing goes on the air. It ends on SIGTERM or SIGINT.
@@ -28,9 +29,9 @@ inline constexpr std::string_view kAirHelp =
     "stand in for the outside world: --agw PORT (engine on 127.0.0.1) --pk232|--scs-tnc|--scs-ptc "
     "LINK (modems on pseudo-terminals) --aprs-is PORT [--aprs-is-manner "
     "silent|slow:SECONDS|babbles|deaf|closes:BYTES] --web PORT (web services on 127.0.0.1) "
-    "--gps LINK (GPS on a pseudo-terminal) [--gps-route LAT,LON;LAT,LON] [--gps-manner "
-    "rmc|gga|mixed|damaged|halves] [--play "
-    "FILE [--rate X] [--repeat]]";
+    "[--web-iono whole|html|k-only|other|empty|absent[,OF THE SECOND PAGE]] --gps LINK (GPS on a "
+    "pseudo-terminal) [--gps-route LAT,LON;LAT,LON] [--gps-manner rmc|gga|mixed|damaged|halves] "
+    "[--play FILE [--rate X] [--repeat]]";
 
 // The packets of a script as they fall due.
 class AirPlay {

@@ -52,13 +52,18 @@ class EngineDevice final : public AirDevice {
 // It hears nothing of the air.
 class WebDevice final : public AirDevice {
  public:
-  WebDevice(std::unique_ptr<WebServer> server, const ReportLine& report)
+  WebDevice(std::unique_ptr<WebServer> server, std::vector<WebPage> pages, const ReportLine& report)
       : server_(std::move(server)) {
-    server_->Asked = [report](std::string_view target) {
-      const auto message = ReadWebForm(target);
-      if (!message) return WebAnswer{};
-      report(WebMessageLine(*message));
-      return WebAnswer{200, "<html><body>Message taken</body></html>"};
+    server_->Asked = [report, pages = std::move(pages)](std::string_view target) {
+      if (const auto message = ReadWebForm(target)) {
+        report(WebMessageLine(*message));
+        return WebAnswer{200, "<html><body>Message taken</body></html>"};
+      }
+      report(WebPageLine(target));
+      for (const WebPage& page : pages) {
+        if (target.substr(0, target.find('?')) == page.Path) return page.Answer(target);
+      }
+      return WebAnswer{};
     };
   }
   std::string ReadyLine() const override {
@@ -170,10 +175,11 @@ std::unique_ptr<AirDevice> OpenEngineDevice(int port, const ReportLine& report) 
   return std::make_unique<EngineDevice>(std::move(server), report);
 }
 
-std::unique_ptr<AirDevice> OpenWebDevice(int port, const ReportLine& report) {
+std::unique_ptr<AirDevice> OpenWebDevice(int port, std::vector<WebPage> pages,
+                                         const ReportLine& report) {
   auto server = WebServer::Open(port);
   if (!server) return nullptr;
-  return std::make_unique<WebDevice>(std::move(server), report);
+  return std::make_unique<WebDevice>(std::move(server), std::move(pages), report);
 }
 
 std::unique_ptr<AirDevice> OpenAprsIsDevice(int port, const AprsIsManners& manners,
@@ -214,6 +220,10 @@ std::string ServerLine(std::string_view line) {
 
 std::string CommandLine(std::string_view modem, std::string_view command) {
   return "COMMAND " + std::string(modem) + ' ' + Printable(command) + '\n';
+}
+
+std::string WebPageLine(std::string_view target) {
+  return "PAGE web " + Printable(target) + '\n';
 }
 
 std::string WebMessageLine(const WebFormMessage& message) {

@@ -34,9 +34,10 @@ using ReportLine = std::function<void(const std::string& line)>;
 // A packet engine on 127.0.0.1, `port` 0 for any free one. Nothing when that is not possible.
 std::unique_ptr<AirDevice> OpenEngineDevice(int port, const ReportLine& report);
 
-// Web services on 127.0.0.1, `port` 0 for any free one: the form for messages. Nothing when that is
-// not possible.
-std::unique_ptr<AirDevice> OpenWebDevice(int port, const ReportLine& report);
+// Web services on 127.0.0.1, `port` 0 for any free one: the form for messages, and `pages`. Nothing
+// when that is not possible.
+std::unique_ptr<AirDevice> OpenWebDevice(int port, std::vector<WebPage> pages,
+                                         const ReportLine& report);
 
 // An APRS-IS server on 127.0.0.1, `port` 0 for any free one. Nothing when that is not possible.
 std::unique_ptr<AirDevice> OpenAprsIsDevice(int port, const AprsIsManners& manners,
@@ -63,6 +64,8 @@ std::string ModemSentLine(std::string_view modem, const ModemSending& sending);
 std::string CommandLine(std::string_view modem, std::string_view command);
 //   "LINE aprs-is QX7AB>ZEPR,qAR,QX7KB:!tst\x0D\x0A"
 std::string ServerLine(std::string_view line);
+//   "PAGE web /text/sgas.txt"
+std::string WebPageLine(std::string_view target);
 //   "MESSAGE web QX7KB-9 AB1CD Hello{07"
 std::string WebMessageLine(const WebFormMessage& message);
 

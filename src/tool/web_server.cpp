@@ -37,7 +37,7 @@ std::string FormValue(std::string_view text) {
 std::string PageOf(const WebAnswer& answer) {
   const char* word = answer.Status == 200 ? "OK" : "Not Found";
   return "HTTP/1.1 " + WholeNumber(answer.Status) + " " + word +
-         "\r\nContent-Type: text/html\r\nConnection: close\r\nContent-Length: " +
+         "\r\nContent-Type: " + answer.ContentType + "\r\nConnection: close\r\nContent-Length: " +
          WholeNumber(static_cast<std::int64_t>(answer.Body.size())) + "\r\n\r\n" + answer.Body;
 }
 

@@ -16,7 +16,14 @@ namespace zepril {
 
 struct WebAnswer {
   int Status = 404;
-  std::string Body;  // HTML
+  std::string Body;
+  std::string ContentType = "text/html";
+};
+
+// A page of a server: its path without a query, and what is answered to who asks for it.
+struct WebPage {
+  std::string_view Path;
+  std::function<WebAnswer(std::string_view target)> Answer;
 };
 
 // What came in by the form for messages.

@@ -33,7 +33,8 @@ class Client {
               static_cast<ssize_t>(text.size()));
   }
   // All that comes until the server closes.
-  std::string Page(WebServer& server) {
+  template <typename Server>
+  std::string Page(Server& server) {
     std::string page;
     char block[4096];
     for (int turn = 0; turn < 200; ++turn) {
@@ -105,7 +106,7 @@ TEST(WebForm, ReportsOneLineAMessage) {
 
 TEST(WebDevice, TakesMessagesByItsForm) {
   std::string reported;
-  const auto device = OpenWebDevice(0, [&](const std::string& line) { reported += line; });
+  const auto device = OpenWebDevice(0, {}, [&](const std::string& line) { reported += line; });
   ASSERT_TRUE(device);
   const std::string ready = device->ReadyLine();
   ASSERT_TRUE(ready.starts_with("READY web "));
@@ -114,6 +115,29 @@ TEST(WebDevice, TakesMessagesByItsForm) {
   for (int turn = 0; turn < 200 && reported.empty(); ++turn)
     device->Serve(10);
   EXPECT_EQ(reported, "MESSAGE web A B C\n");
+}
+
+TEST(WebDevice, HasPagesByTheirPaths) {
+  std::string reported;
+  const auto device =
+      OpenWebDevice(0,
+                    {{"/a",
+                      [](std::string_view target) {
+                        return WebAnswer{200, "a of " + std::string(target), "text/plain"};
+                      }}},
+                    [&](const std::string& line) { reported += line; });
+  ASSERT_TRUE(device);
+  const int port = static_cast<int>(Val(device->ReadyLine().substr(10)));
+  const auto page = [&](const std::string& target) {
+    Client client(port);
+    client.Say("GET " + target + " HTTP/1.1\r\n\r\n");
+    return client.Page(*device);
+  };
+  const std::string there = page("/a?b=1");
+  EXPECT_TRUE(there.starts_with("HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\n")) << there;
+  EXPECT_TRUE(there.ends_with("\r\n\r\na of /a?b=1")) << there;
+  EXPECT_TRUE(page("/ab").starts_with("HTTP/1.1 404 Not Found\r\n"));
+  EXPECT_EQ(reported, "PAGE web /a?b=1\nPAGE web /ab\n");
 }
 
 }  // namespace
