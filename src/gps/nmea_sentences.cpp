@@ -56,10 +56,10 @@ std::string LatitudeText(std::string_view field, std::string_view letter) {
   return text;
 }
 
-// Leading zeros of the degrees go, but not the last one before the point.
+// Up to two leading zeros of the degrees go, but not the last one before the point.
 std::string LongitudeText(std::string_view field, std::string_view letter) {
   std::string text = (letter == "W" ? "-" : " ") + DegreesText(field, 3, 9);
-  while (text[1] == '0' && IsDigit(text[2]))
+  for (int zeros = 0; zeros < 2 && text[1] == '0' && IsDigit(text[2]); ++zeros)
     text.erase(1, 1);
   return text;
 }

@@ -176,6 +176,12 @@ TEST(NmeaPositionTexts, HaveASignInTheSouthAndInTheWest) {
   EXPECT_EQ(PlaceOf("0030.0000,N,00030.0000,W").Longitude, "-0.50000");
 }
 
+TEST(NmeaPositionTexts, KeepTheirWidthWithWhateverMinutes) {
+  EXPECT_EQ(PlaceOf("0099.0000,N,000600.0000,E").Latitude, " 01.6500");
+  EXPECT_EQ(PlaceOf("0099.0000,N,000600.0000,E").Longitude, " 010.000");
+  EXPECT_EQ(PlaceOf("4830.1500,N,00099999,E").Longitude.size(), 8U);
+}
+
 TEST(NmeaPositionTexts, AreNeverWrittenWithAnExponent) {
   EXPECT_EQ(PlaceOf("4800.0030,N,00805.2000,E").Latitude, " 48.00005");
   EXPECT_EQ(PlaceOf("4800.00001,N,00805.2000,E").Latitude, " 48.00000");
