@@ -54,8 +54,8 @@ void NmeaReader::ReadSentences() {
   // The last two sentences of the best kind, which must agree.
   const auto pair = LastNmeaPair(finished);
   if (!pair || !PairAgrees(*pair)) return;
-  // The clock.
-  if (TellsDate(*pair)) SetClock(*pair);
+  // The clock, where they tell the date.
+  SetClock(*pair);
   // The position as text, and the line over the map.
   const NmeaPosition position = PositionOf(*pair);
   controls_.Gps.GpsInfo.Caption = GpsInfoLine(finished, position);

@@ -23,11 +23,11 @@ bool SameText(const NmeaPair& pair, int field) {
   return field == 0 || GetNmeaField(pair.Older, field) == GetNmeaField(pair.Newer, field);
 }
 
+// An empty field reads as 0, which is no place.
 bool AngleAgrees(const NmeaPair& pair, int field) {
-  const std::string_view newer = GetNmeaField(pair.Newer, field);
-  const double angle = Val(newer);
-  return !newer.empty() && angle != 0.0 &&
-         std::fabs(angle - Val(GetNmeaField(pair.Older, field))) <= kFarthestStep;
+  const double newer = Val(GetNmeaField(pair.Newer, field));
+  const double older = Val(GetNmeaField(pair.Older, field));
+  return newer != 0.0 && std::fabs(newer - older) <= kFarthestStep;
 }
 
 // ---- Position -------------------------------------------------------------------------------
@@ -142,9 +142,9 @@ std::optional<LocalTime> UtcOf(std::string_view date, std::string_view time) {
   }
   const LocalTime utc{2000 + TwoDigits(date, 5), TwoDigits(date, 3), TwoDigits(date, 1),
                       TwoDigits(time, 1),        TwoDigits(time, 3), TwoDigits(time, 5)};
-  const LocalTime rolled = TimeOfSeconds(SecondsOf(utc));
-  const bool real = rolled.Month == utc.Month && rolled.Day == utc.Day && utc.Hour < 24 &&
-                    utc.Minute < 60 && utc.Second < 60;
+  // A day that the month does not have lies in another one.
+  const bool real = TimeOfSeconds(SecondsOf({utc.Year, utc.Month, utc.Day})).Month == utc.Month &&
+                    utc.Hour < 24 && utc.Minute < 60 && utc.Second < 60;
   return real ? std::optional(utc) : std::nullopt;
 }
 
@@ -208,15 +208,12 @@ NmeaPosition PositionOf(const NmeaPair& pair) {
   return position;
 }
 
-bool TellsDate(const NmeaPair& pair) {
-  return pair.Kind->Date != 0;
-}
-
 std::optional<LocalTime> ClockTimeOf(const NmeaPair& pair, int utc_offset_hours) {
   constexpr int kTooLate = 55;  // with five seconds more the minute would be another
   constexpr int kWayHere = 5;
   constexpr std::int64_t kHourSeconds = 3600;
   const std::string_view time = GetNmeaField(pair.Newer, pair.Kind->Time);
+  // Where there is no date its field is the word.
   const auto utc = UtcOf(GetNmeaField(pair.Newer, pair.Kind->Date), Left(time, 6));
   if (!utc || utc->Second >= kTooLate) return std::nullopt;
   return TimeOfSeconds(SecondsOf(*utc) + kWayHere + utc_offset_hours * kHourSeconds);

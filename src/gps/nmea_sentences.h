@@ -58,11 +58,9 @@ struct NmeaPosition {
 };
 NmeaPosition PositionOf(const NmeaPair& pair);
 
-// Whether sentences of the kind tell the date.
-bool TellsDate(const NmeaPair& pair);
 // The time to which the newer sentence of a pair sets a clock `utc_offset_hours` ahead of UTC: five
-// seconds more, for the way here. Nothing in the last five seconds of a minute, nor for what is no
-// date or no time.
+// seconds more, for the way here. Nothing in the last five seconds of a minute, of a kind without a
+// date, nor for what is no date or no time.
 std::optional<LocalTime> ClockTimeOf(const NmeaPair& pair, int utc_offset_hours);
 
 // The line over the map: position, height, speed, errors and satellites, as far as the finished

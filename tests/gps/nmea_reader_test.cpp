@@ -243,6 +243,23 @@ TEST(GpsNote, AClickClosesItUntilItChanges) {
   EXPECT_TRUE(world.Controls.GpsNote.Visible);
 }
 
+TEST(GpsNote, OneThatWasClosedComesBackWithTheNextLossInTheSameMinute) {
+  GpsWorld world;
+  const auto lose = [&] {
+    world.SayAndTick(RmcLine("1", "1235.1500,N,00805.2000,E"));
+    world.SayAndTick(RmcLine("1", "2235.1500,N,00805.2000,E"));
+  };
+  world.SayAndTick(Rmcs());
+  lose();
+  const std::string words = world.Controls.GpsNote.Caption;
+  EXPECT_TRUE(world.Controls.GpsNote.Visible);
+  world.Controls.GpsNote.Click();
+  world.SayAndTick(Rmcs());
+  lose();
+  EXPECT_EQ(world.Controls.GpsNote.Caption, words);
+  EXPECT_TRUE(world.Controls.GpsNote.Visible);
+}
+
 // ---- What the map follows ---------------------------------------------------------------------
 
 TEST(GpsFollow, ThePositionIsFollowedAndDrawn) {
