@@ -38,14 +38,26 @@ std::size_t PlaceAndCallBucket(const StationRecord& record) {
   return Bucket({key, sizeof key});
 }
 
+// Without outer blanks.
+bool IsSameText(const StationRecord& a, const StationRecord& b) {
+  const bool both_begin_at_once = a.Text().front() != ' ' && b.Text().front() != ' ';
+  return both_begin_at_once ? a == b : a.Trimmed() == b.Trimmed();
+}
+
+// The same place within ten minutes, heard over another digipeater. What costs least comes first: a
+// station that stands has hundreds of records of one place over one digipeater.
+bool IsSamePlaceOverAnother(const StationRecord& stored, const StationRecord& record) {
+  constexpr int kRepeatMinutes = 10;
+  return stored.Columns(91, 99) != record.Columns(91, 99) &&
+         stored.PositionKey() == record.PositionKey() &&
+         stored.HeardViaKey() != record.HeardViaKey() &&
+         std::abs(stored.MinuteOfDay() - record.MinuteOfDay()) < kRepeatMinutes;
+}
+
 }  // namespace
 
 bool IsSamePacket(const StationRecord& stored, const StationRecord& record) {
-  constexpr int kRepeatMinutes = 10;
-  if (stored.Trimmed() == record.Trimmed()) return true;
-  return stored.PositionKey() == record.PositionKey() &&
-         std::abs(stored.MinuteOfDay() - record.MinuteOfDay()) < kRepeatMinutes &&
-         stored.HeardViaKey() != record.HeardViaKey();
+  return IsSameText(stored, record) || IsSamePlaceOverAnother(stored, record);
 }
 
 // Takes in what was appended since the last look; after any other change everything anew.
@@ -74,14 +86,14 @@ void AllStationsStore::Add(int index) {
 
 bool AllStationsStore::IsRepeat(const StationRecord& record) {
   Refresh();
-  const auto any_in = [&](const Chains& chains, std::size_t bucket) {
+  const auto any_in = [&](const Chains& chains, std::size_t bucket, auto is_same) {
     for (int i = chains.Newest[bucket]; i != 0; i = chains.Older[static_cast<std::size_t>(i)]) {
-      if (IsSamePacket(store_.At(i), record)) return true;
+      if (is_same(store_.At(i), record)) return true;
     }
     return false;
   };
-  return any_in(by_position_, Bucket(record.PositionKey())) ||
-         any_in(by_text_, Bucket(record.Trimmed()));
+  return any_in(by_position_, Bucket(record.PositionKey()), IsSamePlaceOverAnother) ||
+         any_in(by_text_, Bucket(record.Trimmed()), IsSameText);
 }
 
 bool AllStationsStore::Append(const StationRecord& record) {
