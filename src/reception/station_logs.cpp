@@ -15,6 +15,9 @@ bool IsRefusedInFileName(char c) {
 
 }  // namespace
 
+constinit const std::string_view StationLogs::kHeardPosition = "GLL     : ";
+constinit const std::string_view StationLogs::kInternetPosition = "QTH GLL : ";
+
 std::string StationLogs::LogPath(std::string_view name) const {
   std::string path = identity_.MapSystemFolder;
   path += R"(\LOG\)";

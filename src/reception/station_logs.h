@@ -16,8 +16,8 @@ namespace zepril {
 class StationLogs {
  public:
   // What opens the fourth line of a block: of a packet heard, and of one that came by the internet.
-  static constexpr std::string_view kHeardPosition = "GLL     : ";
-  static constexpr std::string_view kInternetPosition = "QTH GLL : ";
+  static const std::string_view kHeardPosition;
+  static const std::string_view kInternetPosition;
 
   StationLogs(const IdentityState& identity, Files& files) : identity_(identity), files_(files) {}
 

@@ -103,7 +103,7 @@ bool SpeaksToOthers(const std::string& path) {
   static const std::regex others(
       "^src/config/|/"
       "(pk232|scs_tnc|scs_ptc|dialects|identification|symbol_table|packet_decoder|picture_viewer|"
-      "gate_forms|aprs_is_login|way_lines|iono_pages)"
+      "gate_forms|aprs_is_login|way_lines|iono_pages|station_logs|inet_lines)"
       "\\.cpp$");
   return std::regex_search(path, others);
 }
