@@ -135,6 +135,7 @@ QWidget* SideColumns::MakeRightColumn() {
   box->addWidget(MakeMoni1());
   box->addWidget(MakeMoniAll());
   box->addWidget(MakeTransmit());
+  box->addWidget(MakeInternet());
   box->addStretch(1);
   auto* pages = TightBox(QBoxLayout::LeftToRight);
   pages->addWidget(parts_.BoundButton(controls_.Raw.Command57), 1);
@@ -183,6 +184,10 @@ QWidget* SideColumns::MakeMoni1() {
   box->addLayout(switches);
   parts_.Binding.Bind(style, m.Command17);
   parts_.Binding.Bind(alarm, m.Check1);
+  auto* internet = TightBox(QBoxLayout::LeftToRight);
+  internet->addWidget(parts_.BoundButton(m.Check22), 1);
+  internet->addWidget(parts_.BoundButton(m.Check27), 1);
+  box->addLayout(internet);
   return group;
 }
 
@@ -281,6 +286,22 @@ QWidget* SideColumns::MakeTransmit() {
   auto* bar = new FillBarWidget;
   box->addWidget(bar);
   parts_.Binding.Bind(bar, t.NextBeacon);
+  return group;
+}
+
+QWidget* SideColumns::MakeInternet() {
+  constexpr int kLines = 2;
+  auto* group = new QWidget;
+  auto* box = TightBox(QBoxLayout::TopToBottom, group);
+  box->addWidget(GroupCaption(window_texts::kInternet));
+  box->addWidget(parts_.BoundButton(controls_.MoniAll.Check23));
+  for (Label* control : {&controls_.Inet.MoniAllState, &controls_.Inet.Moni1State}) {
+    auto* label = new FittedLabel(kLines);
+    label->setFont(parts_.FixedFont);
+    label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    box->addWidget(label);
+    parts_.Binding.Bind(label, *control);
+  }
   return group;
 }
 

@@ -27,6 +27,7 @@ class SideColumns {
   QBoxLayout* MakeClassRow();
   QWidget* MakeMoniAll();
   QWidget* MakeTransmit();
+  QWidget* MakeInternet();
 
   WindowParts& parts_;
   MainWindowControls& controls_;

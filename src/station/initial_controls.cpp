@@ -29,8 +29,7 @@ void HidePanels(MainWindowControls& c) {
 
 // What a later capability brings has its place in the logic already, and none on the window yet.
 void HideWhatIsNotThereYet(MainWindowControls& c) {
-  for (Control* control : std::initializer_list<Control*>{
-           &c.Moni1.Check22, &c.Moni1.Check27, &c.MoniAll.Check23, &c.Record.Command40}) {
+  for (Control* control : std::initializer_list<Control*>{&c.Record.Command40}) {
     control->Visible = false;
   }
 }

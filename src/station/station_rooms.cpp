@@ -43,10 +43,6 @@ StationRooms::StationRooms(const Machine& machine, std::shared_ptr<SerialPort> m
               {machine.FileSystem, machine.LocalClock, machine.Boxes, machine.Desktop,
                *Surfaces.Sun, Map.Redrawer, Settings, LongWork, Timer1},
               Map.Panels),
-      Internet({State.Internet, State.Map, State.Services},
-               {Controls.Iono, Controls.Map, Controls.Status},
-               {*machine.Pages, machine.LocalClock, machine.Boxes, Map.Redrawer, Settings, Timer1,
-                Timer2}),
       Gateway({State.Identity, State.Radio, State.Internet}, Controls.Gate,
               {*winsock2_, machine.Programs, machine.FileSystem, machine.LocalClock}),
       Transmit({State.Identity, State.Radio, State.Transmission, State.Map, State.Gps,
@@ -68,6 +64,13 @@ StationRooms::StationRooms(const Machine& machine, std::shared_ptr<SerialPort> m
                  Controls.Status, &Controls.Raw.RawList},
                 {machine.FileSystem, machine.LocalClock, machine.Boxes, Links.Heard, Map.Symbols,
                  Map.Redrawer, Settings, Emergencies, Timer1, &Gateway.Radio, &Messages.Heard}),
+      Internet(
+          {State.Identity, State.Internet, State.Map, State.Stores, State.Followed, State.Settings,
+           State.Services},
+          {Controls.Iono, Controls.Map, Controls.Moni1, Controls.MoniAll, Controls.Window,
+           Controls.Status, Controls.Inet},
+          {machine.Boxes, machine.LocalClock, *machine.Pages, Map.Symbols, Reception.Keeper,
+           Reception.Choice, Map.Redrawer, Settings, Emergencies, Messages.Heard, Timer1, Timer2}),
       RawSearch(Controls.Raw, State.Settings, Timer1),
       Cycle(State, Controls, machine.LocalClock, machine.Desktop, Timer1, Timer2, Map.Redrawer) {
   SetInitialControls(Controls);
@@ -119,6 +122,7 @@ void StationRooms::Tick() {
   Cycle.Tick();
   Transmit.ShowNextBeacon();
   Messages.Panel.Renew();
+  Internet.Support.Renew();
 }
 
 bool StationRooms::CycleIsHeld() const {
@@ -144,6 +148,7 @@ void StationRooms::JoinRooms() {
   Transmit.SetupJoins = {[this] { Cycle.RenewStatusLine(); }, [this] { ShowTitle(); },
                          [this] { SetLabels(); }, [this] { Gateway.Digipeater.Follow(); }};
   Links.CycleIsHeld = [this] { return CycleIsHeld(); };
+  Internet.Support.CycleIsHeld = [this] { return CycleIsHeld(); };
   Links.InTick = [this] { return Cycle.InTick(); };
   Links.TerminalChanged = [this] {
     const bool open = Links.Talk.IsOpen();

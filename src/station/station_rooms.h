@@ -78,12 +78,12 @@ class StationRooms {
   LinksRoom Links;
   GpsRoom Gps;
   ViewersRoom Viewers;
-  InternetRoom Internet;
   GateRoom Gateway;
   TransmitRoom Transmit;
   MessagesRoom Messages;
   EmergencyDisplay Emergencies;
   ReceptionRoom Reception;
+  InternetRoom Internet;
   RawListSearch RawSearch;
   MainCycle Cycle;
 };

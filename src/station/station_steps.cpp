@@ -11,10 +11,13 @@ TickSteps TickOrder(StationRooms& rooms) {
   TickSteps tick;
   tick.PollAprsIsLink = [&rooms] { rooms.Gateway.Link.IGateTick(); };
   tick.WatchCompanion = [&rooms] { rooms.Gateway.Digipeater.Watch(); };
+  tick.RunScanSwitchHandler = [&rooms] { rooms.Internet.Scan.RunScanSwitchHandler(); };
   tick.KeepSecondModeMonitored = [&rooms] { rooms.Links.KeepSecondModeMonitored(); };
   tick.ChangeFollowedStation = [&rooms] { rooms.Reception.Choice.FollowTyped(); };
   tick.SendIdentification = [&rooms] { rooms.Transmit.SendIdentification(); };
   tick.StartIonoUpdate = [&rooms] { rooms.Internet.Update.StartIonoUpdate(); };
+  tick.FetchMoni1 = [&rooms] { rooms.Internet.Support.FetchMoni1(); };
+  tick.FetchMoniAll = [&rooms] { rooms.Internet.Support.FetchMoniAll(); };
   tick.PollGps = [&rooms] { rooms.Gps.Reader.ReadNmea(); };
   tick.RunReceivePass = [&rooms] {
     rooms.Messages.Heard.PassBegins();
@@ -70,6 +73,7 @@ StopSteps StopOrder(StationRooms& rooms) {
   };
   stop.StopPicturePanel = [&rooms] { rooms.Viewers.Pictures.ClosePicture(); };
   stop.LeaveLink = [&rooms] {
+    rooms.Internet.Stop();
     rooms.Gateway.Digipeater.End();
     rooms.Links.Leave();
   };

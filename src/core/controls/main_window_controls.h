@@ -6,6 +6,7 @@
 #include "core/controls/chat_controls.h"
 #include "core/controls/gate_controls.h"
 #include "core/controls/gps_controls.h"
+#include "core/controls/internet_controls.h"
 #include "core/controls/iono_controls.h"
 #include "core/controls/map_controls.h"
 #include "core/controls/moni1_controls.h"
@@ -44,6 +45,7 @@ struct MainWindowControls {
   PlaceControls Places;
   PicturePanelControls Picture;
   IonoControls Iono;
+  InetControls Inet;
   SunControls Sun;
   ProgressControls Progress;
   TransmitControls Transmit;

@@ -9,8 +9,8 @@ namespace zepril {
 // Found by the table through its form.
 static auto Groups(MainWindowControls& c) {
   return std::tie(c.Map, c.Readouts, c.Scales, c.Palette, c.Tracks, c.Gps, c.Places, c.Picture,
-                  c.Iono, c.Sun, c.Progress, c.Moni1, c.MoniAll, c.Raw, c.Record, c.Qth, c.Transmit,
-                  c.Chat, c.Gate, c.TxSetup, c.ObjectSetup, c.Terminal, c.Status);
+                  c.Iono, c.Inet, c.Sun, c.Progress, c.Moni1, c.MoniAll, c.Raw, c.Record, c.Qth,
+                  c.Transmit, c.Chat, c.Gate, c.TxSetup, c.ObjectSetup, c.Terminal, c.Status);
 }
 
 namespace {
@@ -181,8 +181,16 @@ constexpr ControlRow<MainWindowControls> kTable[] = {
     {"Label10", On<&Moni1Controls::Label10>(), {}, {"Text of the last MONI 1 record"}},
     {"Command17", On<&Moni1Controls::Command17>(), Own("TRACK 0"), {"Track style of MONI 1"}},
     {"Check1", On<&Moni1Controls::Check1>(), Own("ALARM"), {"Distance alarm for MONI 1"}},
-    {"Check22", On<&Moni1Controls::Check22>()},
-    {"Check27", On<&Moni1Controls::Check27>()},
+    {"Check22", On<&Moni1Controls::Check22>(), Own("i  1"),
+     {"MONI 1 internet support for 15 minutes, source 1 or 2 / Rclick: The other source"}},
+    {"Check27", On<&Moni1Controls::Check27>(), Own("SCAN"),
+     {"Internet support for each station of the list in turn"}},
+
+    // What internet support says of itself.
+    {"InetMoni1State", On<&InetControls::Moni1State>(), {},
+     {"What MONI 1 internet support is doing, and what came last"}},
+    {"InetMoniAllState", On<&InetControls::MoniAllState>(), {},
+     {"What MONI ALL internet support is doing, and what came last"}},
 
     // The controls of MONI ALL, every station heard.
     {"Command13", On<&MoniAllControls::Command13>(), Own("LABELS"),
@@ -199,7 +207,8 @@ constexpr ControlRow<MainWindowControls> kTable[] = {
     {"Check24", On<&MoniAllControls::Check24>(), Own("DIRECT"),
      {"Show directly heard stations only"}},
     {"Check3", On<&MoniAllControls::Check3>(), Own("ALARM"), {"Distance alarm for all stations"}},
-    {"Check23", On<&MoniAllControls::Check23>()},
+    {"Check23", On<&MoniAllControls::Check23>(), Own("AREA"),
+     {"MONI ALL internet support for 15 minutes, all stations around the map centre"}},
     {"Label5", On<&MoniAllControls::Label5>(), {}, {"Size of the MONI ALL list"},
      {"size of the MONI ALL list"}},
     {"Text15", On<&MoniAllControls::Text15>(), {}, {"Call to find on the map"}, {"call to find"},

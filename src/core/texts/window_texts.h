@@ -22,6 +22,7 @@ inline constexpr Text kFiles{"FILES"};
 inline constexpr Text kMoni1{"MONI 1"};
 inline constexpr Text kMoniAll{"MONI ALL"};
 inline constexpr Text kTransmit{"TRANSMIT"};
+inline constexpr Text kInternet{"INTERNET"};
 inline constexpr Text kHeardStations{"HEARD STATIONS"};
 
 // Read-outs, the bar above the map, the rows of the scales.

@@ -1,0 +1,79 @@
+// Line after line: header, packet, record, stores; messages are handed on by whoever asked.
+#include "internet/inet_line_decoder.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "reception/packet_decoder.h"
+#include "reception/record_builder.h"
+
+namespace zepril {
+namespace {
+
+constexpr std::int64_t kSecondsPerHour = 3600;
+
+}  // namespace
+
+bool IsFarAhead(std::int64_t seconds_utc, int utc_offset_hours, const Clock& clock) {
+  constexpr std::int64_t kDay = 24 * kSecondsPerHour;
+  return seconds_utc + utc_offset_hours * kSecondsPerHour > SecondsOf(clock.Now()) + kDay;
+}
+
+DecodedLines InetLineDecoder::DecodeInetLines(std::string_view text) {
+  DecodedLines decoded;
+  tools_.Keeper.BeginPage();
+  for (const InetLine& line : CutInetLines(text)) {
+    ++decoded.Lines;
+    DecodeLine(line, decoded);
+  }
+  tools_.Keeper.EndPage();
+  if (decoded.Messages.size() > kMostMessages) {
+    decoded.Messages.erase(decoded.Messages.begin(), decoded.Messages.end() - kMostMessages);
+  }
+  return decoded;
+}
+
+void InetLineDecoder::DecodeLine(const InetLine& line, DecodedLines& decoded) {
+  const int utc_offset = sections_.Settings.UtcOffsetHours;
+  if (IsFarAhead(line.Seconds, utc_offset, tools_.LocalClock)) return;
+  if (!ReadInetLine(line.Text, frame_)) return;
+  if (IsOwnRetransmission(line.Text, frame_, sections_.Identity.MyCallFull)) return;
+  // A time stamp is compared with the line's own time, or all of the past would count as stale.
+  const DecodeContext context{TimeOfSeconds(line.Seconds + utc_offset * kSecondsPerHour),
+                              utc_offset, sections_.View.MapCentralMeridian,
+                              sections_.View.MapFalseEasting};
+  const DecodeResult result = DecodePacket(frame_, context, tools_.Symbols, packet_);
+  if (packet_.IsMessage) return NoteMessage(line.Text, decoded);
+  if (result.Outcome == DecodeOutcome::Packet) Keep(decoded);
+}
+
+void InetLineDecoder::Keep(DecodedLines& decoded) {
+  const StationRecord record = BuildRecord(packet_);
+  const FrameLevel level = tools_.Keeper.StoreLine(record).value_or(FrameLevel::Nothing);
+  if (level == FrameLevel::Nothing) return;
+  ++decoded.Stored;
+  // Replies overlap: only what is new is told of, other than on the air.
+  if (packet_.PacketIsEmergency) {
+    tools_.Keeper.RaiseEmergency(record, StationLogs::kInternetPosition);
+  }
+  decoded.Level = std::max(decoded.Level, level);
+}
+
+void InetLineDecoder::NoteMessage(std::string_view line, DecodedLines& decoded) {
+  if (IsKnown(line)) return;
+  decoded.Messages.push_back(
+      {packet_.PacketCall, packet_.PacketInfo, frame_.Header, packet_.PacketDestination});
+}
+
+bool InetLineDecoder::IsKnown(std::string_view line) {
+  const std::size_t hash = std::hash<std::string_view>{}(line);
+  if (!known_.insert(hash).second) return true;
+  known_in_order_.push_back(hash);
+  if (known_in_order_.size() > kMostRemembered) {
+    known_.erase(known_in_order_.front());
+    known_in_order_.pop_front();
+  }
+  return false;
+}
+
+}  // namespace zepril

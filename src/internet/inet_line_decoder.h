@@ -1,0 +1,79 @@
+// Decodes the packets of one station as a database tells them, and keeps what they tell.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+#include "core/state/identity.h"
+#include "core/state/map_view.h"
+#include "core/state/settings.h"
+#include "core/symbol_table.h"
+#include "internet/inet_lines.h"
+#include "platform/clock.h"
+#include "reception/decoded_packet.h"
+#include "reception/record_keeper.h"
+
+namespace zepril {
+
+struct InetDecoderSections {
+  const IdentityState& Identity;
+  const MapViewState& View;
+  const SettingsState& Settings;
+};
+
+struct InetDecoderTools {
+  RecordKeeper& Keeper;
+  const SymbolTable& Symbols;
+  const Clock& LocalClock;
+};
+
+// A message frame among the lines.
+struct InetMessage {
+  std::string From;
+  std::string Info;
+  std::string Header;
+  std::string Destination;
+};
+
+struct DecodedLines {
+  int Lines = 0;   // that have a time
+  int Stored = 0;  // records that are new
+  FrameLevel Level = FrameLevel::Nothing;
+  std::vector<InetMessage> Messages;  // that have not been seen before, the oldest first
+};
+
+class InetLineDecoder {
+ public:
+  // More than these of a page are not worth a chat of eight lines: the newest count.
+  static constexpr std::size_t kMostMessages = 400;
+  // So many are remembered, so that an overlap of two replies is not answered twice.
+  static constexpr std::size_t kMostRemembered = 4096;
+
+  InetLineDecoder(InetDecoderSections sections, InetDecoderTools tools)
+      : sections_(sections), tools_(tools) {}
+
+  DecodedLines DecodeInetLines(std::string_view text);
+
+ private:
+  void DecodeLine(const InetLine& line, DecodedLines& decoded);
+  void NoteMessage(std::string_view line, DecodedLines& decoded);
+  void Keep(DecodedLines& decoded);
+  bool IsKnown(std::string_view line);
+
+  InetDecoderSections sections_;
+  InetDecoderTools tools_;
+  AnalysedFrame frame_;
+  DecodedPacket packet_;
+  std::unordered_set<std::size_t> known_;
+  std::deque<std::size_t> known_in_order_;
+};
+
+// A time further ahead of the local clock than clocks differ: what it stamps is not believed, for
+// it would count as the newest of a station for ever.
+bool IsFarAhead(std::int64_t seconds_utc, int utc_offset_hours, const Clock& clock);
+
+}  // namespace zepril
