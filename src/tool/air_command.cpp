@@ -22,7 +22,7 @@
 namespace zepril {
 namespace {
 
-constexpr std::array<ArgumentRule, 14> kRules{{{"--agw", true},
+constexpr std::array<ArgumentRule, 15> kRules{{{"--agw", true},
                                                {"--aprs-is", true},
                                                {"--aprs-is-manner", true},
                                                {"--pk232", true},
@@ -30,6 +30,7 @@ constexpr std::array<ArgumentRule, 14> kRules{{{"--agw", true},
                                                {"--scs-ptc", true},
                                                {"--web", true},
                                                {"--web-iono", true},
+                                               {"--web-manner", true},
                                                {"--gps", true},
                                                {"--gps-route", true},
                                                {"--gps-manner", true},
@@ -150,9 +151,11 @@ AirDevices OpenDevices(Arguments& arguments, double rate, const ReportLine& repo
     if (!devices.back()) arguments.Fail("can't listen on that port");
   }
   if (arguments.Has("--web")) {
-    const auto manners = IonoPageMannersNamed(arguments.Value("--web-iono").value_or("whole"));
+    const auto manners = WebMannersNamed(arguments.Value("--web-manner").value_or("whole"));
+    const auto iono = IonoPageMannersNamed(arguments.Value("--web-iono").value_or("whole"));
     devices.push_back(OpenWebDevice(arguments.Whole("--web", 0, 65535, -1),
-                                    IonoWebPages(manners.value_or(IonoPageManners{})), report));
+                                    manners.value_or(WebManners{}),
+                                    IonoWebPages(iono.value_or(IonoPageManners{})), report, clock));
     if (!devices.back()) arguments.Fail("can't listen on that port");
   }
   if (arguments.Has("--aprs-is")) {
@@ -248,6 +251,9 @@ int RunAir(std::span<const std::string_view> args) {
     arguments.Fail("no such manner of a page: " + std::string(*manner));
   }
   CheckGps(arguments);
+  if (const auto manner = arguments.Value("--web-manner"); manner && !WebMannersNamed(*manner)) {
+    arguments.Fail("no such manner of web pages: " + std::string(*manner));
+  }
   if (arguments.Failed()) return arguments.Report("air");
 
   std::optional<AirScript> script = ReadPlay(arguments);

@@ -29,6 +29,7 @@ inline constexpr std::string_view kAirHelp =
     "stand in for the outside world: --agw PORT (engine on 127.0.0.1) --pk232|--scs-tnc|--scs-ptc "
     "LINK (modems on pseudo-terminals) --aprs-is PORT [--aprs-is-manner "
     "silent|slow:SECONDS|babbles|deaf|closes:BYTES] --web PORT (web services on 127.0.0.1) "
+    "[--web-manner whole|silent|slow:SECONDS|cut:BYTES|endless|empty|binary|huge|no-data] "
     "[--web-iono whole|html|k-only|other|empty|absent[,OF THE SECOND PAGE]] --gps LINK (GPS on a "
     "pseudo-terminal) [--gps-route LAT,LON;LAT,LON] [--gps-manner rmc|gga|mixed|damaged|halves] "
     "[--play FILE [--rate X] [--repeat]]";

@@ -52,9 +52,11 @@ class EngineDevice final : public AirDevice {
 // It hears nothing of the air.
 class WebDevice final : public AirDevice {
  public:
-  WebDevice(std::unique_ptr<WebServer> server, std::vector<WebPage> pages, const ReportLine& report)
+  WebDevice(std::unique_ptr<WebServer> server, const WebManners& manners,
+            std::vector<WebPage> pages, const ReportLine& report, const Clock& clock)
       : server_(std::move(server)) {
-    server_->Asked = [report, pages = std::move(pages)](std::string_view target) {
+    server_->Asked = [report, manners, &clock, pages = std::move(pages)](std::string_view target) {
+      if (auto page = WebPageOf(target, clock.Now(), manners)) return *page;
       if (const auto message = ReadWebForm(target)) {
         report(WebMessageLine(*message));
         return WebAnswer{200, "<html><body>Message taken</body></html>"};
@@ -175,11 +177,12 @@ std::unique_ptr<AirDevice> OpenEngineDevice(int port, const ReportLine& report) 
   return std::make_unique<EngineDevice>(std::move(server), report);
 }
 
-std::unique_ptr<AirDevice> OpenWebDevice(int port, std::vector<WebPage> pages,
-                                         const ReportLine& report) {
-  auto server = WebServer::Open(port);
+std::unique_ptr<AirDevice> OpenWebDevice(int port, const WebManners& manners,
+                                         std::vector<WebPage> pages, const ReportLine& report,
+                                         const Clock& clock) {
+  auto server = WebServer::Open(port, &clock);
   if (!server) return nullptr;
-  return std::make_unique<WebDevice>(std::move(server), std::move(pages), report);
+  return std::make_unique<WebDevice>(std::move(server), manners, std::move(pages), report, clock);
 }
 
 std::unique_ptr<AirDevice> OpenAprsIsDevice(int port, const AprsIsManners& manners,

@@ -12,6 +12,7 @@
 #include "tool/aprs_is_server.h"
 #include "tool/gps_route.h"
 #include "tool/modem_model.h"
+#include "tool/web_pages.h"
 #include "tool/web_server.h"
 
 namespace zepril {
@@ -34,10 +35,12 @@ using ReportLine = std::function<void(const std::string& line)>;
 // A packet engine on 127.0.0.1, `port` 0 for any free one. Nothing when that is not possible.
 std::unique_ptr<AirDevice> OpenEngineDevice(int port, const ReportLine& report);
 
-// Web services on 127.0.0.1, `port` 0 for any free one: the form for messages, and `pages`. Nothing
+// Web services on 127.0.0.1, `port` 0 for any free one: the form for messages, the databases of
+// stations, whose pages come in the `manners`, and `pages`. The clock is taken for UTC. Nothing
 // when that is not possible.
-std::unique_ptr<AirDevice> OpenWebDevice(int port, std::vector<WebPage> pages,
-                                         const ReportLine& report);
+std::unique_ptr<AirDevice> OpenWebDevice(int port, const WebManners& manners,
+                                         std::vector<WebPage> pages, const ReportLine& report,
+                                         const Clock& clock);
 
 // An APRS-IS server on 127.0.0.1, `port` 0 for any free one. Nothing when that is not possible.
 std::unique_ptr<AirDevice> OpenAprsIsDevice(int port, const AprsIsManners& manners,

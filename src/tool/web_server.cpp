@@ -5,6 +5,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
+
 #include "core/text_fields.h"
 #include "tool/loopback_listener.h"
 
@@ -36,9 +38,13 @@ std::string FormValue(std::string_view text) {
 
 std::string PageOf(const WebAnswer& answer) {
   const char* word = answer.Status == 200 ? "OK" : "Not Found";
-  return "HTTP/1.1 " + WholeNumber(answer.Status) + " " + word +
-         "\r\nContent-Type: " + answer.ContentType + "\r\nConnection: close\r\nContent-Length: " +
-         WholeNumber(static_cast<std::int64_t>(answer.Body.size())) + "\r\n\r\n" + answer.Body;
+  std::string page = "HTTP/1.1 " + WholeNumber(answer.Status) + " " + word +
+                     "\r\nContent-Type: " + answer.ContentType + "\r\nConnection: close\r\n";
+  if (answer.MoreBytes != WebAnswer::kEndless) {
+    const auto length = static_cast<std::int64_t>(answer.Body.size() + answer.MoreBytes);
+    page += "Content-Length: " + WholeNumber(length) + "\r\n";
+  }
+  return page + "\r\n" + answer.Body.substr(0, answer.CutAt.value_or(answer.Body.size()));
 }
 
 }  // namespace
@@ -59,10 +65,10 @@ std::optional<WebFormMessage> ReadWebForm(std::string_view target) {
   return message;
 }
 
-std::unique_ptr<WebServer> WebServer::Open(int port) {
+std::unique_ptr<WebServer> WebServer::Open(int port, const Clock* clock) {
   const Listener listener = ListenOnLoopback(port);
   if (listener.Descriptor < 0) return nullptr;
-  return std::make_unique<WebServer>(listener.Descriptor, listener.Port);
+  return std::make_unique<WebServer>(listener.Descriptor, listener.Port, clock);
 }
 
 WebServer::~WebServer() {
@@ -74,7 +80,7 @@ WebServer::~WebServer() {
 void WebServer::Serve(int milliseconds) {
   std::vector<pollfd> waits{{listener_, POLLIN, 0}};
   for (const Client& client : clients_) {
-    const int events = client.Unsent.empty() ? POLLIN : POLLOUT;
+    const int events = MayWrite(client) ? POLLOUT : POLLIN;
     waits.push_back({client.Descriptor, static_cast<short>(events), 0});
   }
   if (::poll(waits.data(), waits.size(), milliseconds) <= 0) return;
@@ -112,13 +118,43 @@ void WebServer::Answer(Client& client) {
     return;
   }
   client.Answered = true;
-  client.Unsent = PageOf(Asked ? Asked(words[1]) : WebAnswer{});
+  const WebAnswer answer = Asked ? Asked(words[1]) : WebAnswer{};
+  client.Unsent = PageOf(answer);
+  client.MoreBytes = answer.CutAt ? 0 : answer.MoreBytes;
+  client.Silent = answer.Silent;
+  client.Seconds = clock_ != nullptr ? answer.Seconds : 0.0;
+  client.Begun = clock_ != nullptr ? clock_->MonotonicSeconds() : 0.0;
+  client.Size = client.Unsent.size();
   Write(client);
 }
 
+// How much of what is unsent may leave by now.
+std::size_t WebServer::Allowed(const Client& client) const {
+  if (client.Seconds <= 0.0) return client.Unsent.size();
+  const double passed = clock_->MonotonicSeconds() - client.Begun;
+  const double share = std::min(passed / client.Seconds, 1.0);
+  const auto due = static_cast<std::size_t>(share * static_cast<double>(client.Size));
+  const std::size_t sent = client.Size - client.Unsent.size();
+  return due > sent ? due - sent : 0;
+}
+
+bool WebServer::MayWrite(const Client& client) const {
+  return client.Answered && !client.Silent && Allowed(client) > 0;
+}
+
 void WebServer::Write(Client& client) {
-  if (client.Cut || client.Unsent.empty()) return;
-  client.Cut = !SendSome(client.Descriptor, client.Unsent) || client.Unsent.empty();
+  constexpr std::uint64_t kFilling = 1 << 16;
+  if (client.Cut || !MayWrite(client)) return;
+  std::string part = client.Unsent.substr(0, Allowed(client));
+  const std::size_t before = part.size();
+  client.Cut = !SendSome(client.Descriptor, part);
+  client.Unsent.erase(0, before - part.size());
+  if (client.Unsent.empty() && client.MoreBytes > 0) {
+    const std::uint64_t next = std::min(client.MoreBytes, kFilling);
+    client.Unsent.assign(static_cast<std::size_t>(next), 'x');
+    if (client.MoreBytes != WebAnswer::kEndless) client.MoreBytes -= next;
+  }
+  client.Cut = client.Cut || client.Unsent.empty();
 }
 
 }  // namespace zepril

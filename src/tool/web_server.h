@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -12,12 +13,21 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/clock.h"
+
 namespace zepril {
 
+// A page, and how it comes where a server is to behave badly.
 struct WebAnswer {
+  static constexpr std::uint64_t kEndless = ~std::uint64_t{0};
+
   int Status = 404;
   std::string Body;
   std::string ContentType = "text/html";
+  bool Silent = false;                              // nothing is ever sent
+  double Seconds = 0.0;                             // from the first byte to the last; 0: at once
+  std::optional<std::size_t> CutAt = std::nullopt;  // closed behind so many bytes of the body
+  std::uint64_t MoreBytes = 0;  // of filling behind the body; kEndless: without a length
 };
 
 // A page of a server: its path without a query, and what is answered to who asks for it.
@@ -43,9 +53,11 @@ class WebServer {
   static constexpr std::size_t kLongestHead = 16384;  // bytes
 
   // Listens on `port`, 0 for any free one. Nothing when that is not possible.
-  static std::unique_ptr<WebServer> Open(int port);
+  // `clock`: by which slow pages come; may be missing, then they come at once.
+  static std::unique_ptr<WebServer> Open(int port, const Clock* clock = nullptr);
   // Takes over `listener`, which listens on `port` and does not block.
-  WebServer(int listener, int port) : listener_(listener), port_(port) {}
+  WebServer(int listener, int port, const Clock* clock)
+      : listener_(listener), port_(port), clock_(clock) {}
   ~WebServer();
   WebServer(const WebServer&) = delete;
   WebServer& operator=(const WebServer&) = delete;
@@ -66,14 +78,22 @@ class WebServer {
     bool Answered = false;
     std::string Head;
     std::string Unsent;
+    std::uint64_t MoreBytes = 0;  // of filling, behind what is unsent
+    double Begun = 0.0;           // monotonic seconds
+    double Seconds = 0.0;         // of a slow page
+    std::size_t Size = 0;         // of that
+    bool Silent = false;
   };
 
   void Read(Client& client);
   void Write(Client& client);
   void Answer(Client& client);
+  bool MayWrite(const Client& client) const;
+  std::size_t Allowed(const Client& client) const;
 
   int listener_;
   int port_;
+  const Clock* clock_;
   std::vector<Client> clients_;
 };
 

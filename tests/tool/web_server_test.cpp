@@ -12,6 +12,8 @@
 #include <string>
 
 #include "core/text_fields.h"
+#include "platform/native/system_clock.h"
+#include "tests/doubles/virtual_clock.h"
 #include "tool/air_devices.h"
 
 namespace zepril {
@@ -35,24 +37,32 @@ class Client {
   // All that comes until the server closes.
   template <typename Server>
   std::string Page(Server& server) {
-    std::string page;
-    char block[4096];
-    for (int turn = 0; turn < 200; ++turn) {
+    const std::string page = WhatComes(server, 200);
+    return closed_ ? page : page + " (not closed)";
+  }
+  // All that has come within some turns of the server.
+  template <typename Server>
+  const std::string& WhatComes(Server& server, int turns = 5) {
+    char block[65536];
+    for (int turn = 0; turn < turns && !closed_; ++turn) {
       server.Serve(10);
       const ssize_t length = ::recv(socket_, block, sizeof block, MSG_DONTWAIT);
-      if (length == 0) return page;
-      if (length > 0) page.append(block, static_cast<std::size_t>(length));
+      closed_ = length == 0;
+      if (length > 0) come_.append(block, static_cast<std::size_t>(length));
     }
-    return page + " (not closed)";
+    return come_;
   }
 
  private:
   int socket_;
+  std::string come_;
+  bool closed_ = false;
 };
 
 class WebServerTest : public ::testing::Test {
  protected:
-  WebServerTest() : server(WebServer::Open(0)) {}
+  WebServerTest() : server(WebServer::Open(0, &clock)) {}
+  VirtualClock clock;
   std::unique_ptr<WebServer> server;
 };
 
@@ -77,6 +87,77 @@ TEST_F(WebServerTest, WhatNobodyAnswersIsNotThere) {
   server->Serve(10);
   client.Say("\r\n");
   EXPECT_TRUE(client.Page(*server).starts_with("HTTP/1.1 404 Not Found\r\n"));
+}
+
+TEST_F(WebServerTest, APageMayBeCut) {
+  server->Asked = [](std::string_view) {
+    WebAnswer answer{200, "0123456789"};
+    answer.CutAt = 4;
+    return answer;
+  };
+  Client client(server->Port());
+  client.Say("GET / HTTP/1.1\r\n\r\n");
+  const std::string page = client.Page(*server);
+  EXPECT_TRUE(page.ends_with("Content-Length: 10\r\n\r\n0123")) << page;
+}
+
+TEST_F(WebServerTest, APageMayComeSlowly) {
+  server->Asked = [](std::string_view) {
+    WebAnswer answer{200, std::string(1000, 'x')};
+    answer.Seconds = 10.0;
+    return answer;
+  };
+  Client client(server->Port());
+  client.Say("GET / HTTP/1.1\r\n\r\n");
+  std::size_t before = client.WhatComes(*server).size();
+  EXPECT_EQ(before, 0U);
+  for (int second = 1; second < 10; ++second) {
+    clock.Run(1.0);
+    const std::string come = client.WhatComes(*server);
+    EXPECT_NEAR(static_cast<double>(come.size() - before), 110.0, 15.0) << second;
+    before = come.size();
+  }
+  clock.Run(1.0);
+  EXPECT_TRUE(client.Page(*server).ends_with("xxx"));
+}
+
+TEST_F(WebServerTest, APageMayHaveNoEnd) {
+  server->Asked = [](std::string_view) {
+    WebAnswer answer{200, "begin"};
+    answer.MoreBytes = WebAnswer::kEndless;
+    return answer;
+  };
+  Client client(server->Port());
+  client.Say("GET / HTTP/1.1\r\n\r\n");
+  const std::string come = client.WhatComes(*server, 100);
+  EXPECT_GT(come.size(), 100'000U);
+  EXPECT_EQ(come.find("Content-Length"), std::string::npos);
+  EXPECT_EQ(server->Clients(), 1U);
+}
+
+TEST_F(WebServerTest, APageMayBeAsLargeAsItLikesAndStillEnd) {
+  server->Asked = [](std::string_view) {
+    WebAnswer answer{200, "begin"};
+    answer.MoreBytes = 300'000;
+    return answer;
+  };
+  Client client(server->Port());
+  client.Say("GET / HTTP/1.1\r\n\r\n");
+  const std::string page = client.Page(*server);
+  EXPECT_NE(page.find("Content-Length: 300005\r\n"), std::string::npos);
+  EXPECT_EQ(page.size() - page.find("begin"), 300'005U);
+}
+
+TEST_F(WebServerTest, APageMayNeverCome) {
+  server->Asked = [](std::string_view) {
+    WebAnswer answer{200, "page"};
+    answer.Silent = true;
+    return answer;
+  };
+  Client client(server->Port());
+  client.Say("GET / HTTP/1.1\r\n\r\n");
+  EXPECT_EQ(client.WhatComes(*server), "");
+  EXPECT_EQ(server->Clients(), 1U);
 }
 
 TEST_F(WebServerTest, NonsenseIsCutOff) {
@@ -106,7 +187,9 @@ TEST(WebForm, ReportsOneLineAMessage) {
 
 TEST(WebDevice, TakesMessagesByItsForm) {
   std::string reported;
-  const auto device = OpenWebDevice(0, {}, [&](const std::string& line) { reported += line; });
+  const SystemClock clock;
+  const auto device = OpenWebDevice(
+      0, {}, {}, [&](const std::string& line) { reported += line; }, clock);
   ASSERT_TRUE(device);
   const std::string ready = device->ReadyLine();
   ASSERT_TRUE(ready.starts_with("READY web "));
