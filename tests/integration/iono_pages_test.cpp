@@ -24,8 +24,9 @@ class IonoPagesTest : public ::testing::Test {
  protected:
   // The status, without its time, of an update from pages of these manners.
   std::string Update(const char* manners) {
-    const auto device = OpenWebDevice(0, IonoWebPages(*IonoPageMannersNamed(manners)),
-                                      [this](const std::string& line) { reported += line; });
+    const auto device = OpenWebDevice(
+        0, {}, IonoWebPages(*IonoPageMannersNamed(manners)),
+        [this](const std::string& line) { reported += line; }, loop);
     if (!device) return "no server";
     const std::string host =
         "http://127.0.0.1:" + WholeNumber(ToWhole(Val(device->ReadyLine().substr(10))));

@@ -202,13 +202,14 @@ TEST(WebDevice, TakesMessagesByItsForm) {
 
 TEST(WebDevice, HasPagesByTheirPaths) {
   std::string reported;
-  const auto device =
-      OpenWebDevice(0,
-                    {{"/a",
-                      [](std::string_view target) {
-                        return WebAnswer{200, "a of " + std::string(target), "text/plain"};
-                      }}},
-                    [&](const std::string& line) { reported += line; });
+  const SystemClock clock;
+  const auto device = OpenWebDevice(
+      0, {},
+      {{"/a",
+        [](std::string_view target) {
+          return WebAnswer{200, "a of " + std::string(target), "text/plain"};
+        }}},
+      [&](const std::string& line) { reported += line; }, clock);
   ASSERT_TRUE(device);
   const int port = static_cast<int>(Val(device->ReadyLine().substr(10)));
   const auto page = [&](const std::string& target) {

@@ -142,6 +142,18 @@ TEST_F(QtPageFetcherTest, APackedPageIsUnpacked) {
   EXPECT_EQ(told[0].Body, "Hello");
 }
 
+TEST_F(QtPageFetcherTest, APackedPageThatUnpacksBeyondMeasureIsGivenUp) {
+  const QByteArray packed = qCompress(QByteArray(1 << 26, 'x')).mid(4);
+  ASSERT_LT(packed.size(), 1 << 20);
+  answer = [&packed](QTcpSocket& peer) {
+    Say(peer, Whole(packed.toStdString(), "Content-Encoding: deflate\r\n"));
+  };
+  Ask(Url("/"));
+  ASSERT_TRUE(Comes(1));
+  EXPECT_FALSE(told[0].IsGood());
+  EXPECT_EQ(told[0].Body, "");
+}
+
 TEST_F(QtPageFetcherTest, AStatusOfFaultIsAnAnswer) {
   for (const char* status : {"404 Not Found", "403 Forbidden", "500 Oops", "503 Later"}) {
     answer = [status](QTcpSocket& peer) {
