@@ -1,0 +1,60 @@
+// Area replies of any bytes: what is read are calls and places that the text tells, records keep
+// their columns, and a reply that comes again brings nothing new.
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include "core/text_fields.h"
+#include "internet/area_decoder.h"
+#include "internet/area_reply.h"
+#include "tests/reception/reception_support.h"
+
+namespace {
+
+using namespace zepril;
+
+void Require(bool holds) {
+  if (!holds) std::abort();
+}
+
+void CheckStation(const AreaStation& station, const std::string& upper) {
+  Require(!station.Call.empty());
+  Require(upper.find(station.Call + "\",") != std::string::npos);
+  Require(station.Call.find_first_of(" \r\n\"") == std::string::npos);
+  Require(std::fabs(station.Lat) > 0.01 && std::fabs(station.Lon) > 0.01);
+  Require(station.Symbol.size() == 2 || station.Symbol.size() == 3);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view reply(reinterpret_cast<const char*>(data), size);
+  const std::string upper = Upper(reply);
+  AreaReply stations(reply);
+  int count = 0;
+  while (const auto station = stations.Next()) {
+    CheckStation(*station, upper);
+    ++count;
+  }
+  Require(count == 0 || reply.find('[') != std::string_view::npos);
+
+  Reception world;
+  world.Stores.LogsOn = 1;
+  world.Time.SetNow({2024, 5, 14, 12, 35, 0});
+  AreaDecoder decoder({world.Stores, world.Map, world.Settings},
+                      {world.Room.Keeper, world.Symbols, world.Time});
+  const DecodedArea first = decoder.DecodeInetArea(reply);
+  Require(first.Stations <= count && first.Stored <= first.Stations);
+  Require(world.Stores.Moni1Records.Count() == 0);
+  for (const StationRecord& record : world.Stores.MoniAllRecords.All()) {
+    Require(record.HeardViaField() == "inet" && record.Info().empty());
+    Require(record.Text().find_first_of("\r\n") == std::string_view::npos);
+  }
+  const std::string log = world.Disk.Of(Reception::Log("_LOGL_.TXT"));
+  Require(log.size() == static_cast<std::size_t>(first.Stored) * (StationRecord::kLength + 2));
+  const bool all_held = first.Stored == world.Stores.MoniAllRecords.Count();
+  if (all_held) Require(decoder.DecodeInetArea(reply).Stored == 0);
+  return 0;
+}
