@@ -18,10 +18,17 @@ const std::string kSunspots = "SUNSPOT NUMBER 88\r\n";
 const std::string kDay = std::string(300, '.') + "\r\n10 cm 178  SSN 101  Afr/Ap 008/012\r\n";
 const std::string kPlanetary = "Boulder 1 2 Planetary 2 3 2 2 3 3 2 5\r\n";
 
+ServicesState PagesAt(const std::string& a, const std::string& b) {
+  ServicesState services;
+  services.IonoPageA = a;
+  services.IonoPageB = b;
+  return services;
+}
+
 class IonoUpdateTest : public ::testing::Test {
  protected:
   IonoUpdateTest() {
-    services = {{}, {}, "http://a", "http://b"};
+    services = PagesAt("http://a", "http://b");
     internet.SunspotNumber = 40.0;
     internet.KpIndex = 2.0;
   }
@@ -181,7 +188,7 @@ TEST_F(IonoUpdateTest, APageWithoutAnAddressIsPassedOver) {
   EXPECT_EQ(pages.Asked, std::vector<std::string>{"http://b"});
   pages.Answer(kDay + kPlanetary);
   EXPECT_EQ(Status(), "12:05 UPDATED (2) ");
-  services = {{}, {}, "http://a", ""};
+  services = PagesAt("http://a", "");
   update.StartIonoUpdate();
   pages.Answer(kK);
   EXPECT_EQ(Status(), "UPDATE FAILED");
@@ -238,7 +245,7 @@ TEST_F(IonoUpdateTest, APageThatFindsNoPlaceHasFailed) {
 TEST(IonoUpdateEnd, NobodyIsToldBehindItsEnd) {
   InternetState internet;
   MapViewState view;
-  ServicesState services{{}, {}, "http://a", "http://b"};
+  const ServicesState services = PagesAt("http://a", "http://b");
   IonoControls controls;
   StatusControls status;
   RecordedActions actions;

@@ -20,10 +20,14 @@ class InternetStation : public StationHarness {
       : StationHarness("CALL=QX7GW\r\n" + settings) {
     clock.SetNow(start);
     StationHarness::Start();
-    State().Services = {"http://cgi", "http://rest", "", ""};
+    SetServices();
     EverySecond();
   }
 
+  void SetServices() {
+    State().Services.AprsCgiService = "http://cgi";
+    State().Services.AprsRestService = "http://rest";
+  }
   void Click(CheckBox& box, int value = 1) {
     box.Value = value;
     box.Click();
@@ -239,7 +243,7 @@ TEST(InternetStation, AScanFetchesEveryStationAndComesBack) {
   station.files.Write("C:\\ZEPRIL\\U33\\LOG\\N0CALL.TXT", "");
   station.files.Write("C:\\ZEPRIL\\U33\\LOG\\QX7AA.TXT", "");
   station.Restart();
-  station.State().Services = {"http://cgi", "http://rest", "", ""};
+  station.SetServices();
   station.answer = [&station](const std::string& url) {
     const std::size_t call = url.find("callsign=") + 9;
     return LineOf(station, url.substr(call, url.find('&') - call));
@@ -300,7 +304,7 @@ TEST(InternetStation, EndedInAScanTheNextRunFollowsTheStationBefore) {
   InternetStation station(kAfternoon);
   station.files.Write("C:\\ZEPRIL\\U33\\LOG\\N0CALL.TXT", "");
   station.Restart();
-  station.State().Services = {"http://cgi", "http://rest", "", ""};
+  station.SetServices();
   station.Click(station.Scan());
   station.Ticks(2);
   ASSERT_EQ(station.State().Followed.Moni1Call, "N0CALL");
