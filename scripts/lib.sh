@@ -31,7 +31,7 @@ need() {
     fail "could not install: ${missing[*]}"
 }
 
-build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev libgtest-dev libgmock-dev libbenchmark-dev)
+build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-multimedia-dev qt6-serialport-dev libgtest-dev libgmock-dev libbenchmark-dev)
 
 # configure PRESET [cmake arguments]: writes build/PRESET, loud only when it fails.
 configure() {

@@ -6,6 +6,7 @@
 #include "platform/qt/qt_page_fetcher.h"
 #include "platform/qt/qt_serial_port.h"
 #include "platform/qt/qt_socket.h"
+#include "platform/qt/qt_sound.h"
 #include "platform/qt/serial_devices.h"
 
 namespace zepril {
@@ -28,7 +29,8 @@ Machine QtMachine::Given(Files& files, const std::string& program_folder) {
       [this](int width, int height) { return std::make_shared<QtSurface>(width, height, Fonts); },
       std::make_shared<QtPageFetcher>(Loop, IdentityState().ProgramVersion),
       Programs,
-      PresentSerialDevices};
+      PresentSerialDevices,
+      std::make_shared<QtSound>(files)};
 }
 
 QtSurface& QtMachine::Own(DrawingSurface& surface) {

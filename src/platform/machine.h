@@ -14,6 +14,7 @@
 #include "platform/page_fetcher.h"
 #include "platform/serial_device.h"
 #include "platform/serial_port.h"
+#include "platform/sound.h"
 #include "platform/tcp_socket.h"
 
 namespace zepril {
@@ -34,9 +35,10 @@ struct Machine {
   SocketFactory MakeSocket;
   SerialPortFactory MakeSerialPort;
   SurfaceFactory MakeSurface;
-  std::shared_ptr<PageFetcher> Pages;  // one for all who ask web services
-  CompanionPrograms& Programs;         // beside this one
-  SerialDeviceList Devices;            // for the lists of port fields; may be empty
+  std::shared_ptr<PageFetcher> Pages;   // one for all who ask web services
+  CompanionPrograms& Programs;          // beside this one
+  SerialDeviceList Devices;             // for the lists of port fields; may be empty
+  std::shared_ptr<Sound> Speaker = {};  // may be missing: silence
 };
 
 }  // namespace zepril

@@ -47,6 +47,11 @@ TEST_F(Generators, DrawTheShippedSymbols) {
   ExpectSame("ZEPRSYM1.BMP", "ZEPRSYM1.BMP");
 }
 
+TEST_F(Generators, SoundTheShippedAlarm) {
+  Run(ZEPRIL_MAKE_ALARM, Quoted(folder.Sub("ALARM.WAV")));
+  ExpectSame("ALARM.WAV", "ALARM.WAV");
+}
+
 TEST_F(Generators, InventTheShippedTraffic) {
   Run(ZEPRIL_MAKE_DEMO_TRAFFIC, Quoted(folder.Sub("traffic.txt")));
   ExpectSame("traffic.txt", "demo/traffic.txt");

@@ -6,7 +6,7 @@
 namespace zepril {
 namespace {
 
-constexpr const char* kOwnFiles[] = {"ZEPRSYM0.BMP", "ZEPRSYM1.BMP", "SERVICES.TXT"};
+constexpr const char* kOwnFiles[] = {"ZEPRSYM0.BMP", "ZEPRSYM1.BMP", "SERVICES.TXT", "ALARM.WAV"};
 constexpr std::size_t kLargestOwnFile = 16u << 20;
 
 bool HasData(const std::string& folder) {
