@@ -19,11 +19,15 @@ struct ServiceRow {
   std::string ServicesState::*Host;
 };
 
-constexpr std::array<ServiceRow, 4> kServices{{
+constexpr std::array<ServiceRow, 8> kServices{{
     {"APRSCGISERVICE", &ServicesState::AprsCgiService},
     {"APRSRESTSERVICE", &ServicesState::AprsRestService},
     {"IONOPAGEA", &ServicesState::IonoPageA},
     {"IONOPAGEB", &ServicesState::IonoPageB},
+    {"GOOGLEMAPS", &ServicesState::GoogleMaps},
+    {"MINKARTA", &ServicesState::MinKarta},
+    {"NORGESKART", &ServicesState::Norgeskart},
+    {"KARTTAPAIKKA", &ServicesState::Karttapaikka},
 }};
 
 bool IsPlain(std::string_view value) {

@@ -159,7 +159,7 @@ void DesktopProgram::ShowMainWindow() {
       *program_, machine_.Loop, machine_.Fonts,
       WindowSurfaces{QtMachine::Own(*painted.Map), QtMachine::Own(*painted.Base),
                      QtMachine::Own(*painted.Sun), QtMachine::Own(*painted.TxSymbol),
-                     QtMachine::Own(*painted.ObjectSymbol)},
+                     QtMachine::Own(*painted.ObjectSymbol), QtMachine::Own(*painted.Weather)},
       *files_);
   machine_.Boxes.SetOwner(window_.get());
   machine_.Desktop.SetWindows(window_.get(), window_->Map());

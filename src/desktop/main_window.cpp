@@ -85,8 +85,9 @@ MainWindow::MainWindow(StationProgram& program, QtLoop& loop, const MapFonts& fo
   panels_ = std::make_unique<PanelsOverMap>(parts_, controls_, program_.State().Map, *map_);
   transmit_panels_ = std::make_unique<TransmitPanels>(
       parts_, controls_, *map_, TransmitPanels::Symbols{surfaces.TxSymbol, surfaces.ObjectSymbol});
-  panel_table_ =
-      std::make_unique<PanelTable>(controls_, *map_, *layer_panels_, *panels_, *transmit_panels_);
+  report_panels_ = std::make_unique<ReportPanels>(parts_, controls_, *map_, surfaces.Weather);
+  panel_table_ = std::make_unique<PanelTable>(controls_, *map_, *layer_panels_, *panels_,
+                                              *transmit_panels_, *report_panels_);
   map_->PlaceOverlays = [this] { panel_table_->Place(); };
   map_->Pointer = [this] {
     const MapViewState& view = program_.State().Map;
@@ -397,6 +398,26 @@ void MainWindow::PressKey(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Escape:
       return CloseTopmostPanel();
+    case Qt::Key_F1:
+      return Press(controls_.Map.Command1);
+    case Qt::Key_F2:
+      return Press(controls_.Map.Command2);
+    case Qt::Key_F3:
+      return Press(controls_.Map.Command7);
+    case Qt::Key_F4:
+      return Press(controls_.Viewers.GlobeShow);
+    case Qt::Key_F5:
+      return Press(controls_.Viewers.GlobeFetch);
+    case Qt::Key_F6:
+      return Press(controls_.Viewers.MinKarta);
+    case Qt::Key_F7:
+      return Press(controls_.Viewers.Norgeskart);
+    case Qt::Key_F8:
+      return Press(controls_.Viewers.Karttapaikka);
+    case Qt::Key_F9:
+      return Press(controls_.Viewers.GoogleMapsShow);
+    case Qt::Key_F10:
+      return Press(controls_.Viewers.GoogleMapsFetch);
     case Qt::Key_Plus:
       return Press(controls_.Map.Command8);
     case Qt::Key_Minus:

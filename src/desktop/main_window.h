@@ -17,6 +17,7 @@
 #include "desktop/panel_table.h"
 #include "desktop/panels_over_map.h"
 #include "desktop/side_columns.h"
+#include "desktop/report_panels.h"
 #include "desktop/transmit_panels.h"
 #include "desktop/window_parts.h"
 #include "platform/event.h"
@@ -36,6 +37,7 @@ struct WindowSurfaces {
   const QtSurface& Sun;
   const QtSurface& TxSymbol;
   const QtSurface& ObjectSymbol;
+  const QtSurface& Weather;
 };
 
 class MainWindow final : public QWidget {
@@ -91,6 +93,7 @@ class MainWindow final : public QWidget {
   std::unique_ptr<LayerPanels> layer_panels_;
   std::unique_ptr<PanelsOverMap> panels_;
   std::unique_ptr<TransmitPanels> transmit_panels_;
+  std::unique_ptr<ReportPanels> report_panels_;
   std::unique_ptr<PanelTable> panel_table_;
 
   MapWidget* map_ = nullptr;

@@ -9,6 +9,7 @@
 #include "core/controls/main_window_controls.h"
 #include "desktop/layer_panels.h"
 #include "desktop/panels_over_map.h"
+#include "desktop/report_panels.h"
 #include "desktop/scrolling_panel.h"
 #include "desktop/transmit_panels.h"
 
@@ -83,7 +84,7 @@ std::function<void()> NoticeAtBottom(QLabel* notice, const QWidget& map) {
 // lie over all others: the reason of a dead link at the top, trouble with a file below it, the mode
 // that lasts while a button is held at the bottom, next to the list.
 PanelTable::PanelTable(const MainWindowControls& c, QWidget& map, LayerPanels& layers,
-                       PanelsOverMap& over_map, TransmitPanels& transmit) {
+                       PanelsOverMap& over_map, TransmitPanels& transmit, ReportPanels& reports) {
   const PanelsOverMap::Widgets& over = over_map.Made();
   const LayerPanels::Widgets& layer = layers.Made();
   QWidget* const picture = layer.Picture;
@@ -93,6 +94,8 @@ PanelTable::PanelTable(const MainWindowControls& c, QWidget& map, LayerPanels& l
        &c.ObjectSetup.Command32},
       {transmit.TxSetup(), [&transmit] { transmit.PlaceTxSetup(); }, &c.TxSetup.Frame4,
        &c.TxSetup.TxAbort},
+      {reports.Weather(), [&reports, &over] { reports.PlaceWeather(*over.Record); },
+       &c.Weather.Frame15, &c.Weather.Command27},
       {over.Record, [&over_map] { over_map.PlaceRecord(); }, &c.Record.Frame1, &c.Record.Command23},
       {over.Heard, [&over_map] { over_map.PlaceHeard(); }, &c.MoniAll.HeardPanel,
        &c.MoniAll.Command3},
@@ -118,6 +121,8 @@ PanelTable::PanelTable(const MainWindowControls& c, QWidget& map, LayerPanels& l
       {over.GpsNote, [&over_map, line = over.GpsNote] { over_map.PlaceGpsLine(line); },
        &c.Gps.GpsNote},
       {over.ModeNotice, NoticeAtBottom(over.ModeNotice, map), &c.Terminal.Label49},
+      // Esc must not close it by accident.
+      {reports.Emergency(), [&reports] { reports.PlaceEmergency(); }, &c.Emergency.Frame14},
   };
 }
 

@@ -14,6 +14,7 @@ namespace zepril {
 struct MainWindowControls;
 class LayerPanels;
 class PanelsOverMap;
+class ReportPanels;
 class TransmitPanels;
 
 struct PanelRow {
@@ -28,7 +29,7 @@ class PanelTable {
  public:
   // The panels and the map must outlive the table.
   PanelTable(const MainWindowControls& controls, QWidget& map, LayerPanels& layers,
-             PanelsOverMap& over_map, TransmitPanels& transmit);
+             PanelsOverMap& over_map, TransmitPanels& transmit, ReportPanels& reports);
 
   // Puts each panel that is shown to its place.
   void Place() const;

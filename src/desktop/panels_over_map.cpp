@@ -102,7 +102,8 @@ void PanelsOverMap::MakeRecordPanel() {
   row->addWidget(mode);
   row->addWidget(parts_.BoundButton(r.Command19));
   row->addStretch(1);
-  for (Button* control : {&r.Command11, &r.Command10, &r.Command41, &r.Command36, &r.Command23})
+  for (Button* control :
+       {&r.Command40, &r.Command11, &r.Command10, &r.Command41, &r.Command36, &r.Command23})
     row->addWidget(parts_.BoundButton(*control));
   box->addLayout(row);
   parts_.Binding.Bind(made_.Record, r.Frame1);

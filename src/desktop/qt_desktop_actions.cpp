@@ -2,6 +2,7 @@
 #include "desktop/qt_desktop_actions.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCursor>
 #include <QDesktopServices>
 #include <QUrl>
@@ -25,6 +26,10 @@ bool QtDesktopActions::MovePointerOnMap(int x, int y) {
   const QPoint target = map_->mapToGlobal(QPoint(x, y));
   QCursor::setPos(target);
   return QCursor::pos() == target;
+}
+
+std::string QtDesktopActions::ClipboardText() const {
+  return FromQt(QGuiApplication::clipboard()->text());
 }
 
 bool QtDesktopActions::SetClock(const LocalTime& time) {

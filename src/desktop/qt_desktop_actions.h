@@ -16,6 +16,7 @@ class QtDesktopActions final : public DesktopActions {
   bool MainWindowActive() const override;
   void Open(const std::string& path_or_address) override;
   bool MovePointerOnMap(int x, int y) override;
+  std::string ClipboardText() const override;
   bool SetClock(const LocalTime& time) override;
 
  private:

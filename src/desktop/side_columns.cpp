@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QFontMetrics>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -32,8 +33,44 @@ QWidget* SideColumns::MakeLeftColumn() {
   box->addWidget(MakeReadouts());
   box->addWidget(MakeScales());
   box->addWidget(MakeFiles());
+  box->addWidget(MakeOutside());
   box->addStretch(1);
   return column;
+}
+
+// Web maps and the globe, each with what fetches a place from there.
+QWidget* SideColumns::MakeOutside() {
+  auto* group = new QWidget;
+  auto* grid = new QGridLayout(group);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setSpacing(kGap);
+  ViewerControls& v = controls_.Viewers;
+  grid->addWidget(GroupCaption(window_texts::kOutside), 0, 0, 1, 2);
+  struct Row {
+    Button& Show;
+    Button* Fetch;
+  };
+  const Row rows[] = {{v.GlobeShow, &v.GlobeFetch},
+                      {v.GoogleMapsShow, &v.GoogleMapsFetch},
+                      {v.MinKarta, nullptr},
+                      {v.Norgeskart, nullptr},
+                      {v.Karttapaikka, nullptr}};
+  int line = 1;
+  for (const Row& row : rows) {
+    grid->addWidget(parts_.BoundButton(row.Show), line, 0, 1, row.Fetch ? 1 : 2);
+    if (row.Fetch) {
+      QPushButton* fetch = parts_.BoundButton(*row.Fetch);
+      fetch->setProperty("tight", true);
+      grid->addWidget(fetch, line, 1);
+    }
+    ++line;
+  }
+  grid->setColumnStretch(0, 1);
+  auto* note = new QLabel;
+  note->setWordWrap(true);
+  grid->addWidget(note, line, 0, 1, 2);
+  parts_.Binding.Bind(note, v.ViewerNote);
+  return group;
 }
 
 QWidget* SideColumns::MakeReadouts() {

@@ -19,6 +19,7 @@ class SideColumns {
   QWidget* MakeRightColumn();
 
  private:
+  QWidget* MakeOutside();
   QWidget* MakeReadouts();
   QWidget* MakeScales();
   QComboBox* MakeFileList(ComboBox& control);

@@ -16,6 +16,8 @@ class DesktopActions {
   virtual void Open(const std::string& path_or_address) = 0;
   // Moves the mouse pointer to pixel (x, y) of the map; false when the system does not allow it.
   virtual bool MovePointerOnMap(int x, int y) = 0;
+  // What the operator has copied, code page 1252; empty when it is no text.
+  virtual std::string ClipboardText() const { return {}; }
   // Sets the computer's clock to this local time; false when that is refused.
   virtual bool SetClock(const LocalTime&) { return false; }
 };

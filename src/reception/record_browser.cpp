@@ -50,9 +50,10 @@ void RecordBrowser::SetButtons() {
 
 void RecordBrowser::ShowSelected() {
   if (!panel_.Frame1.Visible) return;
-  panel_.Label20.Caption =
-      HasSelection() ? DoubledAmpersands(SelectedStore().At(stores_.SelectedRecordIndex).Text())
-                     : std::string();
+  const StationRecord* selected =
+      HasSelection() ? &SelectedStore().At(stores_.SelectedRecordIndex) : nullptr;
+  panel_.Label20.Caption = selected ? DoubledAmpersands(selected->Text()) : std::string();
+  SelectionShown(selected);
 }
 
 void RecordBrowser::Open(const std::string& call, int index, double north_km, double east_km) {
@@ -85,6 +86,7 @@ bool RecordBrowser::OpenNewest(const std::string& call) {
 
 void RecordBrowser::Close() {
   panel_.Frame1.Visible = false;
+  SelectionShown(nullptr);
   map_.MapLockedOnRecord = 0;
   map_controls_.Command12.Caption = status_texts::kCentre;
 }

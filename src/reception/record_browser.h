@@ -12,7 +12,9 @@
 #include "core/controls/record_panel_controls.h"
 #include "core/state/map_view.h"
 #include "core/state/stores.h"
+#include "core/station_record.h"
 #include "platform/dialogs.h"
+#include "platform/event.h"
 #include "reception/followed_history.h"
 
 namespace zepril {
@@ -25,6 +27,9 @@ class RecordBrowser {
                 MapActions& actions);
   RecordBrowser(const RecordBrowser&) = delete;
   RecordBrowser& operator=(const RecordBrowser&) = delete;
+
+  // The selected record has changed, or its panel has closed; null when none is shown.
+  Event<const StationRecord*> SelectionShown;
 
   // Opens the panel on record `index` of `call`: of the history when that is the followed station,
   // else of the list of all stations. `north_km`, `east_km` is the picked place, around which the

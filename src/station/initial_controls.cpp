@@ -14,7 +14,8 @@ void HidePanels(MainWindowControls& c) {
        std::initializer_list<Control*>{&c.Record.Frame1,        &c.Picture.Frame8,
                                        &c.Chat.Frame3,          &c.Chat.Frame7,
                                        &c.Status.Text10,        &c.Status.Frame12,
-                                       &c.Status.Frame14,       &c.Qth.Frame2,
+                                       &c.Emergency.Frame14,    &c.Weather.Frame15,
+                                       &c.Record.Command40,     &c.Qth.Frame2,
                                        &c.Palette.PalettePanel, &c.MoniAll.HeardPanel,
                                        &c.Map.PictureBase,      &c.Raw.RawList,
                                        &c.Gps.GpsInfo,          &c.Gps.GpsNote,
@@ -24,13 +25,6 @@ void HidePanels(MainWindowControls& c) {
                                        &c.TxSetup.Frame4,       &c.ObjectSetup.Frame11,
                                        &c.Terminal.Frame19,     &c.Terminal.Label49}) {
     panel->Visible = false;
-  }
-}
-
-// What a later capability brings has its place in the logic already, and none on the window yet.
-void HideWhatIsNotThereYet(MainWindowControls& c) {
-  for (Control* control : std::initializer_list<Control*>{&c.Record.Command40}) {
-    control->Visible = false;
   }
 }
 
@@ -50,7 +44,6 @@ void SetSteppers(MainWindowControls& c) {
 void SetInitialControls(MainWindowControls& c) {
   constexpr int kEnglishWithToolTips = 11;
   HidePanels(c);
-  HideWhatIsNotThereYet(c);
   NameMainWindow(c);
   SetSteppers(c);
   SetMainWindowLabels(c, kEnglishWithToolTips);

@@ -38,10 +38,12 @@ StationRooms::StationRooms(const Machine& machine, std::shared_ptr<SerialPort> m
           {Controls.Tracks, Controls.Map, Controls.Gps, Controls.Transmit},
           {*mscomm2_, machine.FileSystem, machine.LocalClock, machine.Boxes, machine.Desktop,
            Map.Redrawer, Settings, LongWork}),
-      Viewers({State.Identity, State.Map, State.Settings, State.Places},
-              {Controls.Places, Controls.Picture, Controls.Sun, Controls.Map},
+      Viewers({State.Identity, State.Followed, State.Stores, State.Services, State.Map,
+               State.Settings, State.Places},
+              {Controls.Places, Controls.Picture, Controls.Sun, Controls.Viewers, Controls.Map,
+               Controls.Readouts},
               {machine.FileSystem, machine.LocalClock, machine.Boxes, machine.Desktop,
-               *Surfaces.Sun, Map.Redrawer, Settings, LongWork, Timer1},
+               *Surfaces.Sun, Map.Redrawer, Settings, LongWork, Timer1, Timer2},
               Map.Panels),
       Gateway({State.Identity, State.Radio, State.Internet}, Controls.Gate,
               {*winsock2_, machine.Programs, machine.FileSystem, machine.LocalClock}),
@@ -57,7 +59,11 @@ StationRooms::StationRooms(const Machine& machine, std::shared_ptr<SerialPort> m
                {Controls.Chat, Controls.Record, Controls.Window, Controls.Map, Controls.Status},
                {machine.FileSystem, machine.LocalClock, *machine.Pages, Transmit.Sender,
                 Links.Radios, Timer1, Timer2}),
-      Emergencies(Map.Redrawer),
+      Weather(State.Map, Controls.Weather, Controls.Record, *Surfaces.Weather),
+      Emergencies({State.Identity, State.Alarms, State.Map},
+                  {Controls.Emergency, Controls.Map, Controls.Window},
+                  {machine.FileSystem, machine.LocalClock, machine.Boxes, Map.Redrawer,
+                   machine.Speaker.get()}),
       Reception({State.Identity, State.Radio, State.Reception, State.Stores, State.Followed,
                  State.Map, State.Gps, State.Alarms, State.Settings, State.Internet},
                 {Controls.Window, Controls.Map, Controls.Moni1, Controls.MoniAll, Controls.Record,
@@ -142,6 +148,10 @@ void StationRooms::SetLabels() {
 // ---- Joins ----------------------------------------------------------------------------------
 
 void StationRooms::JoinRooms() {
+  Reception.Browser.SelectionShown = [this](const StationRecord* record) {
+    Weather.Panel.ShowWxPanel(record);
+  };
+  Emergencies.ClosePicture = [this] { Viewers.Pictures.ClosePicture(); };
   Map.Interaction.RecordPicked = [this] { Reception.Browser.OpenPicked(); };
   Map.Qth.PositionTaken = [this] { Transmit.Switches.ShowInterval(); };
   Transmit.Switches.PositionMissing = [this] { Map.Qth.Open(); };

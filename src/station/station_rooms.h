@@ -26,6 +26,7 @@
 #include "station/station_surfaces.h"
 #include "transmit/transmit_room.h"
 #include "viewers/viewers_room.h"
+#include "weather/weather_room.h"
 
 namespace zepril {
 
@@ -81,6 +82,7 @@ class StationRooms {
   GateRoom Gateway;
   TransmitRoom Transmit;
   MessagesRoom Messages;
+  WeatherRoom Weather;
   EmergencyDisplay Emergencies;
   ReceptionRoom Reception;
   InternetRoom Internet;

@@ -14,6 +14,7 @@ TickSteps TickOrder(StationRooms& rooms) {
   tick.RunScanSwitchHandler = [&rooms] { rooms.Internet.Scan.RunScanSwitchHandler(); };
   tick.KeepSecondModeMonitored = [&rooms] { rooms.Links.KeepSecondModeMonitored(); };
   tick.ChangeFollowedStation = [&rooms] { rooms.Reception.Choice.FollowTyped(); };
+  tick.ShowEmergencyPanel = [&rooms] { rooms.Emergencies.ShowAgain(); };
   tick.SendIdentification = [&rooms] { rooms.Transmit.SendIdentification(); };
   tick.StartIonoUpdate = [&rooms] { rooms.Internet.Update.StartIonoUpdate(); };
   tick.FetchMoni1 = [&rooms] { rooms.Internet.Support.FetchMoni1(); };
@@ -66,6 +67,9 @@ StartSteps StartOrder(StationRooms& rooms) {
 
 StopSteps StopOrder(StationRooms& rooms) {
   StopSteps stop;
+  stop.CloseSound = [&rooms] {
+    if (rooms.Given.Speaker) rooms.Given.Speaker->Stop();
+  };
   stop.StopPageLoading = [&rooms] {
     constexpr double kPauseSeconds = 0.2;
     rooms.Given.Pages->Stop();

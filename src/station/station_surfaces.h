@@ -7,6 +7,7 @@
 #include "platform/drawing_surface.h"
 #include "platform/machine.h"
 #include "viewers/sun_curve.h"
+#include "weather/wx_drawing.h"
 
 namespace zepril {
 
@@ -20,13 +21,15 @@ struct StationSurfaces {
         Base(make(kFirstMapWidth, kFirstMapHeight)),
         Sun(make(SunCurve::kPlotWidth, SunCurve::kPlotHeight)),
         TxSymbol(make(kSymbolCellPixels, kSymbolCellPixels)),
-        ObjectSymbol(make(kSymbolCellPixels, kSymbolCellPixels)) {}
+        ObjectSymbol(make(kSymbolCellPixels, kSymbolCellPixels)),
+        Weather(make(kWxPicturePixels, kWxPicturePixels)) {}
 
   std::shared_ptr<DrawingSurface> Map;           // `Picture1`
   std::shared_ptr<DrawingSurface> Base;          // the second map window under it
   std::shared_ptr<DrawingSurface> Sun;           // plot of the sun's path
   std::shared_ptr<DrawingSurface> TxSymbol;      // the symbol in TX SETUP
   std::shared_ptr<DrawingSurface> ObjectSymbol;  // and in OBJECT SETUP, each of one cell
+  std::shared_ptr<DrawingSurface> Weather;       // the report of a weather station
 };
 
 }  // namespace zepril

@@ -6,8 +6,13 @@
 #include "core/controls/map_controls.h"
 #include "core/controls/picture_panel_controls.h"
 #include "core/controls/place_controls.h"
+#include "core/controls/readout_controls.h"
 #include "core/controls/sun_controls.h"
+#include "core/controls/viewer_controls.h"
 #include "core/progress.h"
+#include "core/state/followed_station.h"
+#include "core/state/services.h"
+#include "core/state/stores.h"
 #include "core/timer.h"
 #include "map/map_panels.h"
 #include "platform/clock.h"
@@ -15,6 +20,7 @@
 #include "platform/dialogs.h"
 #include "platform/drawing_surface.h"
 #include "platform/files.h"
+#include "viewers/outside_viewers.h"
 #include "viewers/picture_viewer.h"
 #include "viewers/place_files.h"
 #include "viewers/sun_curve.h"
@@ -23,6 +29,9 @@ namespace zepril {
 
 struct ViewersSections {
   const IdentityState& Identity;
+  const FollowedStationState& Followed;
+  const StoresState& Stores;
+  const ServicesState& Services;
   MapViewState& View;
   SettingsState& Settings;
   PlacesState& Places;
@@ -32,12 +41,14 @@ struct ViewersControls {
   PlaceControls& Places;
   PicturePanelControls& Picture;
   SunControls& Sun;
+  ViewerControls& Viewers;
   MapControls& Map;
+  const ReadoutControls& Readouts;
 };
 
 struct ViewersTools {
   Files& Disk;
-  const Clock& LocalClock;
+  Clock& LocalClock;
   Dialogs& Boxes;
   DesktopActions& Desktop;
   DrawingSurface& SunSurface;
@@ -45,6 +56,7 @@ struct ViewersTools {
   SettingsActions& Settings;
   Progress& LongWork;
   Timer& Timer1;
+  Timer& Timer2;
 };
 
 struct ViewersRoom {
@@ -57,7 +69,12 @@ struct ViewersRoom {
                {tools.Disk, tools.Boxes, tools.Desktop, tools.Map, tools.Settings, tools.LongWork}),
         Pictures(sections.Identity, sections.View, controls.Picture, controls.Map,
                  {tools.Disk, tools.Desktop, tools.Map, tools.Timer1}),
-        Sun(sections.View, sections.Settings, controls.Sun, tools.SunSurface, tools.LocalClock) {
+        Sun(sections.View, sections.Settings, controls.Sun, tools.SunSurface, tools.LocalClock),
+        Outside(
+            {sections.Identity, sections.Followed, sections.Stores, sections.Services,
+             sections.View},
+            {controls.Viewers, controls.Map, controls.Readouts},
+            {tools.Disk, tools.LocalClock, tools.Desktop, tools.Map, tools.Timer1, tools.Timer2}) {
     panels = {&Pictures, &Places, &Sun};
   }
   ViewersRoom(const ViewersRoom&) = delete;
@@ -66,6 +83,7 @@ struct ViewersRoom {
   PlaceFiles Places;
   PictureViewer Pictures;
   SunCurve Sun;
+  OutsideViewers Outside;
 };
 
 }  // namespace zepril

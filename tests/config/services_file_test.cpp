@@ -51,12 +51,17 @@ TEST(ServicesFile, EachServiceHasItsKey) {
   MemoryFiles files;
   files.Contents[R"(C:\Z\SERVICES.TXT)"] =
       "APRSCGISERVICE=a.example\nAPRSRESTSERVICE=b.example\n"
-      "IONOPAGEA=c.example/magnetogram/index.html\nIONOPAGEB=https://d.example/text/sgas.txt\n";
+      "IONOPAGEA=c.example/magnetogram/index.html\nIONOPAGEB=https://d.example/text/sgas.txt\n"
+      "GOOGLEMAPS=e.example\nMINKARTA=f.example\nNORGESKART=g.example\nKARTTAPAIKKA=h.example\n";
   const ServicesState services = ReadServicesFile(files, R"(C:\Z)");
   EXPECT_EQ(services.AprsCgiService, "http://a.example");
   EXPECT_EQ(services.AprsRestService, "http://b.example");
   EXPECT_EQ(services.IonoPageA, "http://c.example/magnetogram/index.html");
   EXPECT_EQ(services.IonoPageB, "https://d.example/text/sgas.txt");
+  EXPECT_EQ(services.GoogleMaps, "http://e.example");
+  EXPECT_EQ(services.MinKarta, "http://f.example");
+  EXPECT_EQ(services.Norgeskart, "http://g.example");
+  EXPECT_EQ(services.Karttapaikka, "http://h.example");
 }
 
 // Only what is known to answer has an address.
@@ -71,6 +76,9 @@ TEST(ServicesFile, TheShippedOneIsRead) {
   EXPECT_EQ(services.AprsRestService, "");
   EXPECT_EQ(services.IonoPageA, "");
   EXPECT_EQ(services.IonoPageB, "https://services.swpc.noaa.gov/text/sgas.txt");
+  for (const std::string& host : {services.GoogleMaps, services.MinKarta, services.Norgeskart,
+                                  services.Karttapaikka})
+    EXPECT_TRUE(host.starts_with("https://")) << host;
 }
 
 }  // namespace

@@ -84,7 +84,7 @@ TEST_F(AccessibleNamesTest, WithoutToolTipsNoneIsNamelessEither) {
   SetMainWindowLabels(Controls(), 1);
   MainWindow other(*program, loop, fonts,
                    WindowSurfaces{map_surface, base_surface, sun_surface, tx_symbol_surface,
-                                  object_symbol_surface},
+                                  object_symbol_surface, weather_surface},
                    files);
   EXPECT_GT(CheckNames(QAccessible::queryAccessibleInterface(&other)), 80);
 }

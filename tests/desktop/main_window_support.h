@@ -46,13 +46,15 @@ class MainWindowTest : public ::testing::Test {
         files, loop, loop, dialogs, desktop,
         {{&socket},
          {&modem},
-         {&map_surface, &base_surface, &sun_surface, &tx_symbol_surface, &object_symbol_surface}}));
+         {&map_surface, &base_surface, &sun_surface, &tx_symbol_surface, &object_symbol_surface,
+          &weather_surface}}));
     loop.RunStep([this] { EXPECT_TRUE(program->Start("C:\\ZEPRIL", 32)); });
     State().Map.MapTileKm = 50.0;
     State().Map.ZoomFactor = 1.0;
     window = std::make_unique<MainWindow>(*program, loop, fonts,
                                           WindowSurfaces{map_surface, base_surface, sun_surface,
-                                                         tx_symbol_surface, object_symbol_surface},
+                                                         tx_symbol_surface, object_symbol_surface,
+                                                         weather_surface},
                                           files);
     window->Closed = [this] { ++closed; };
     loop.ControlsOut = [this] { window->ControlsOut(); };
@@ -107,6 +109,7 @@ class MainWindowTest : public ::testing::Test {
   QtSurface sun_surface{361, 91, fonts};
   QtSurface tx_symbol_surface{22, 22, fonts};
   QtSurface object_symbol_surface{22, 22, fonts};
+  QtSurface weather_surface{161, 161, fonts};
   std::unique_ptr<StationProgram> program;
   std::unique_ptr<MainWindow> window;
   int closed = 0;

@@ -20,7 +20,10 @@ class RecordedDesktop final : public DesktopActions {
     return ClockMayBeSet;
   }
 
+  std::string ClipboardText() const override { return Clipboard; }
+
   std::vector<std::string> Opened;
+  std::string Clipboard;
   std::vector<LocalTime> ClockSettings;
   bool ClockMayBeSet = true;
 };

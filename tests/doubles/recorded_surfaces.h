@@ -13,9 +13,11 @@ struct RecordedSurfaces {
   RecorderSurface sun_surface{361, 91};
   RecorderSurface tx_symbol_surface{22, 22};
   RecorderSurface object_symbol_surface{22, 22};
+  RecorderSurface weather_surface{161, 161};
 
   std::vector<DrawingSurface*> Surfaces() {
-    return {&map_surface, &base_surface, &sun_surface, &tx_symbol_surface, &object_symbol_surface};
+    return {&map_surface,       &base_surface,          &sun_surface,
+            &tx_symbol_surface, &object_symbol_surface, &weather_surface};
   }
 };
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "core/controls/chat_controls.h"
+#include "core/controls/emergency_controls.h"
 #include "core/controls/gate_controls.h"
 #include "core/controls/gps_controls.h"
 #include "core/controls/internet_controls.h"
@@ -27,6 +28,8 @@
 #include "core/controls/track_controls.h"
 #include "core/controls/transmit_controls.h"
 #include "core/controls/tx_setup_controls.h"
+#include "core/controls/viewer_controls.h"
+#include "core/controls/weather_controls.h"
 #include "core/controls/window_controls.h"
 
 namespace zepril {
@@ -57,6 +60,9 @@ struct MainWindowControls {
   RawListControls Raw;
   StatusControls Status;
   QthSetupControls Qth;
+  EmergencyControls Emergency;
+  WeatherControls Weather;
+  ViewerControls Viewers;
 };
 
 }  // namespace zepril

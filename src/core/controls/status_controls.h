@@ -13,7 +13,6 @@ struct StatusControls {
   Label LinkNotice;  // why the modem's port can't be opened; a click closes it
   Frame Frame12;     // distance alarm
   Label Label25;
-  Frame Frame14;  // emergency
 };
 
 }  // namespace zepril

@@ -10,7 +10,8 @@ namespace zepril {
 static auto Groups(MainWindowControls& c) {
   return std::tie(c.Map, c.Readouts, c.Scales, c.Palette, c.Tracks, c.Gps, c.Places, c.Picture,
                   c.Iono, c.Inet, c.Sun, c.Progress, c.Moni1, c.MoniAll, c.Raw, c.Record, c.Qth,
-                  c.Transmit, c.Chat, c.Gate, c.TxSetup, c.ObjectSetup, c.Terminal, c.Status);
+                  c.Transmit, c.Chat, c.Gate, c.TxSetup, c.ObjectSetup, c.Terminal, c.Status,
+                  c.Emergency, c.Weather, c.Viewers);
 }
 
 namespace {
@@ -251,7 +252,8 @@ constexpr ControlRow<MainWindowControls> kTable[] = {
      {"Write to this station / only while TX is on"}},
     {"Command11", On<&RecordPanelControls::Command11>(), Own("MONI 1"),
      {"Follow this station (MONI 1)"}},
-    {"Command40", On<&RecordPanelControls::Command40>()},
+    {"Command40", On<&RecordPanelControls::Command40>(), Own("WX"),
+     {"WX INFO: the report of this weather station"}},
     {"Command36", On<&RecordPanelControls::Command36>(), Own("FIND"), {"Highlight this station"}},
     {"Command23", On<&RecordPanelControls::Command23>(), Own("CLOSE"), {"Close"}, {}, {}, {"Esc"}},
 
@@ -409,7 +411,46 @@ constexpr ControlRow<MainWindowControls> kTable[] = {
      {"Lclick closes / a text can be selected and copied"}, {}, {"notice"}},
     {"Frame12", On<&StatusControls::Frame12>()},
     {"Label25", On<&StatusControls::Label25>()},
-    {"Frame14", On<&StatusControls::Frame14>()},
+
+    // The panel of a station in emergency.
+    {"Frame14", On<&EmergencyControls::Frame14>(), {}, {}, {"emergency"}},
+    {"EmergencyCall", On<&EmergencyControls::EmergencyCall>()},
+    {"Label26", On<&EmergencyControls::Label26>()},
+    {"Label27", On<&EmergencyControls::Label27>()},
+    {"EmergencyInfo", On<&EmergencyControls::EmergencyInfo>()},
+    {"EmergencyFile", On<&EmergencyControls::EmergencyFile>()},
+    {"EmergencyClose", On<&EmergencyControls::EmergencyClose>(), Own("CLOSE"),
+     {"Close EMERGENCY window for 30 seconds"}},
+    {"FalseAlarm", On<&EmergencyControls::FalseAlarm>(), Own("FALSE ALARM"),
+     {"End this alarm now / its log keeps it as a false one"}},
+
+    // The report of the selected weather station.
+    {"Frame15", On<&WeatherControls::Frame15>(), {}, {}, {"WX INFO"}},
+    {"WxTitle", On<&WeatherControls::WxTitle>()},
+    {"Label", All<&WeatherControls::Values, 29>()},
+    {"Label38", On<&WeatherControls::Label38>()},
+    {"Picture2", On<&WeatherControls::Picture2>()},
+    {"Command27", On<&WeatherControls::Command27>(), Own("CLOSE"),
+     {"Close WX INFO until the WX button is pressed"}, {}, {}, {"Esc"}},
+
+    // Outside viewers of the map's centre.
+    {"GlobeShow", On<&ViewerControls::GlobeShow>(), Own("GLOBE"),
+     {"Show the map center in the globe"}, {}, {}, {"F4"}},
+    {"GlobeFetch", On<&ViewerControls::GlobeFetch>(), Own("<"),
+     {"Center the map on the place that was copied in the globe"}, {"place from the globe"}, {},
+     {"F5"}},
+    {"MinKarta", On<&ViewerControls::MinKarta>(), Own("MIN KARTA"),
+     {"Show the map center in Min Karta"}, {}, {}, {"F6"}},
+    {"Norgeskart", On<&ViewerControls::Norgeskart>(), Own("NORGESKART"),
+     {"Show the map center in Norgeskart"}, {}, {}, {"F7"}},
+    {"Karttapaikka", On<&ViewerControls::Karttapaikka>(), Own("KARTTAPAIKKA"),
+     {"Show the map center in Karttapaikka"}, {}, {}, {"F8"}},
+    {"GoogleMapsShow", On<&ViewerControls::GoogleMapsShow>(), Own("GOOGLE MAPS"),
+     {"Show the map center in Google Maps"}, {}, {}, {"F9"}},
+    {"GoogleMapsFetch", On<&ViewerControls::GoogleMapsFetch>(), Own("<"),
+     {"Center the map on the place of the Google Maps address that was copied"},
+     {"place from Google Maps"}, {}, {"F10"}},
+    {"ViewerNote", On<&ViewerControls::ViewerNote>(), {}, {}, {"notice"}},
 };
 // clang-format on
 

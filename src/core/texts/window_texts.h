@@ -19,6 +19,7 @@ inline constexpr Text kTerminal{"TERMINAL"};
 inline constexpr Text kMessages{"CHAT"};
 inline constexpr Text kScales{"SCALES"};
 inline constexpr Text kFiles{"FILES"};
+inline constexpr Text kOutside{"OUTSIDE"};
 inline constexpr Text kMoni1{"MONI 1"};
 inline constexpr Text kMoniAll{"MONI ALL"};
 inline constexpr Text kTransmit{"TRANSMIT"};
