@@ -1,4 +1,5 @@
-// Where the station was and is: the GPS, and the track files of the days.
+// Where the station was and is: the GPS, the track files of the days, and the way for a navigation
+// program.
 #pragma once
 
 #include <vector>
@@ -16,6 +17,8 @@
 #include "gps/nmea_reader.h"
 #include "gps/nmea_source.h"
 #include "gps/track_files.h"
+#include "gps/track_recorder.h"
+#include "gps/way_recorder.h"
 #include "platform/clock.h"
 #include "platform/desktop_actions.h"
 #include "platform/serial_port.h"
@@ -57,7 +60,13 @@ struct GpsRoom {
         Source(sections.Gps, tools.MSComm2, tools.Disk, tools.LocalClock),
         Reader({sections.Settings, sections.Gps, sections.View},
                {controls.Gps, controls.Map, controls.Transmit},
-               {Source, tools.LocalClock, tools.Desktop, tools.Map}) {}
+               {Source, tools.LocalClock, tools.Desktop, tools.Map}),
+        DaysTrack(sections.Identity, sections.Settings, sections.Gps, sections.View,
+                  sections.Places, tools.Disk, tools.LocalClock),
+        Way(sections.Identity, sections.Gps, tools.Disk, tools.LocalClock) {
+    Reader.SaveWay = [this] { Way.WriteWayPoint(); };
+    Reader.SaveTrack = [this] { DaysTrack.WriteTrackPoint(); };
+  }
   GpsRoom(const GpsRoom&) = delete;
   GpsRoom& operator=(const GpsRoom&) = delete;
 
@@ -66,6 +75,8 @@ struct GpsRoom {
   TrackFiles Tracks;
   NmeaSource Source;
   NmeaReader Reader;
+  TrackRecorder DaysTrack;
+  WayRecorder Way;
 };
 
 }  // namespace zepril

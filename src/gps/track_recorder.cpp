@@ -14,35 +14,36 @@ std::string TrackLine(const GpsState& gps, const LocalTime& time) {
          ZeroPadded(time.Minute, 2);
 }
 
-TrackRecorder::TrackRecorder(const IdentityState& identity, const MapViewState& view,
-                             const SettingsState& settings, GpsState& gps, PlacesState& places,
-                             TrackRecorderTools tools)
+TrackRecorder::TrackRecorder(const IdentityState& identity, const SettingsState& settings,
+                             GpsState& gps, MapViewState& view, PlacesState& places, Files& disk,
+                             const Clock& clock)
     : identity_(identity),
-      view_(view),
       settings_(settings),
       gps_(gps),
+      view_(view),
       places_(places),
-      tools_(tools) {}
+      disk_(disk),
+      clock_(clock) {}
 
 void TrackRecorder::WriteTrackPoint() {
-  const LocalTime now = tools_.LocalClock.Now();
+  const LocalTime now = clock_.Now();
   // Kept: only the same minute is left out; a clock that was set back writes minutes again.
   const std::string minute = ClockText(now);
   if (minute == gps_.LastTrackMinute) return;
   gps_.LastTrackMinute = minute;
   const std::string line = TrackLine(gps_, now);
   const std::string day(Mid(line, 21, 8));
-  if (!AppendOnNewLine(tools_.Disk, identity_.MapSystemFolder + "\\TRK\\" + day + ".TRK",
+  if (!AppendOnNewLine(disk_, identity_.MapSystemFolder + "\\TRK\\" + day + ".TRK",
                        line + "\r\n")) {
     return;
   }
   GrowOnMap(day, line);
 }
 
-// The track that is loaded may be the one that is being driven.
+// The track that is loaded may be the one that is being driven: the next tick draws it.
 void TrackRecorder::GrowOnMap(std::string_view day, std::string_view line) {
   if (!EqualFolded(settings_.TrackFile, day)) return;
-  if (places_.TrackPoints.Append(line) && view_.TracksOn) tools_.Map.MapRedraw();
+  if (places_.TrackPoints.Append(line) && view_.TracksOn) view_.MapDrawn = false;
 }
 
 }  // namespace zepril

@@ -6,7 +6,6 @@
 
 #include <string>
 
-#include "core/actions/map_actions.h"
 #include "core/state/gps.h"
 #include "core/state/identity.h"
 #include "core/state/map_view.h"
@@ -21,17 +20,10 @@ namespace zepril {
 //   "þ 5378.123  412.345 20240514 1230"
 std::string TrackLine(const GpsState& gps, const LocalTime& time);
 
-struct TrackRecorderTools {
-  Files& Disk;
-  const Clock& LocalClock;
-  MapActions& Map;
-};
-
 class TrackRecorder {
  public:
-  TrackRecorder(const IdentityState& identity, const MapViewState& view,
-                const SettingsState& settings, GpsState& gps, PlacesState& places,
-                TrackRecorderTools tools);
+  TrackRecorder(const IdentityState& identity, const SettingsState& settings, GpsState& gps,
+                MapViewState& view, PlacesState& places, Files& disk, const Clock& clock);
   TrackRecorder(const TrackRecorder&) = delete;
   TrackRecorder& operator=(const TrackRecorder&) = delete;
 
@@ -43,11 +35,12 @@ class TrackRecorder {
   void GrowOnMap(std::string_view day, std::string_view line);
 
   const IdentityState& identity_;
-  const MapViewState& view_;
   const SettingsState& settings_;
   GpsState& gps_;
+  MapViewState& view_;
   PlacesState& places_;
-  TrackRecorderTools tools_;
+  Files& disk_;
+  const Clock& clock_;
 };
 
 }  // namespace zepril

@@ -37,7 +37,10 @@ StartSteps StartOrder(StationRooms& rooms) {
     rooms.Gateway.Digipeater.Program = rooms.State.Settings.DigipeaterProgram;
     rooms.Controls.Moni1.Check1.Value = rooms.State.Followed.Moni1AlarmOn;
   };
-  start.SetOwnNames = [&rooms] { SetOwnNames(rooms.State); };
+  start.SetOwnNames = [&rooms] {
+    SetOwnNames(rooms.State);
+    rooms.Gps.Way.DecideNavigation();
+  };
   start.ScanMapLibrary = [&rooms] {
     MakeDataFolders(rooms.Given.FileSystem, rooms.State.Identity);
     rooms.Map.Library.MapLibraryScan();
@@ -88,6 +91,7 @@ StopSteps StopOrder(StationRooms& rooms) {
     // A page that came later would be worked on in a program that has ended.
     rooms.Given.Pages->Stop();
   };
+  stop.WriteNavigationFiles = [&rooms] { rooms.Gps.Way.EndWay(); };
   stop.MergeConfigAtExit = [&rooms] {
     MergeRunSettings(rooms.Given.FileSystem, rooms.State, rooms.Controls.Scales);
   };

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <string>
+#include <vector>
 
 #include "core/position_text.h"
 #include "core/text_fields.h"
@@ -209,6 +210,91 @@ TEST(GpsStationTest, DatesAndClockJumpsLeaveTheDriveAlone) {
     const GridMetres at = station.drive.At(station.second);
     station.ExpectAt(at.North, at.East, 0.4);
   }
+}
+
+// ---- What is kept of the way ----------------------------------------------------------------
+
+std::vector<std::string> LinesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  for (const std::string_view line : Split(text, '\n'))
+    lines.emplace_back(line.substr(0, line.find('\r')));
+  if (lines.back().empty()) lines.pop_back();
+  return lines;
+}
+
+// Follows the digits of a line of the way; false where it has none.
+bool FollowWay(const std::string& line, int& north, int& east) {
+  constexpr int kNorth[] = {1, 1, 0, -1, -1, -1, 0, 1};
+  constexpr int kEast[] = {0, 1, 1, 1, 0, -1, -1, -1};
+  north = static_cast<int>(Val(line.substr(0, 4)));
+  east = static_cast<int>(Val(line.substr(4, 5)));
+  for (const char digit : line.substr(23)) {
+    if (digit < '0' || digit > '7') return false;
+    north += kNorth[digit - '0'];
+    east += kEast[digit - '0'];
+  }
+  return true;
+}
+
+constexpr const char* kNavigator = "NMEA=4 SAVE\r\nNBAUD=9600\r\nUTCD=1\r\nTRKF=20240115\r\n";
+
+TEST(GpsStationTest, ADriveIsKeptAsATrackAPointAMinute) {
+  GpsStation station(kNavigator);
+  ASSERT_TRUE(station.Start());
+  for (int minute = 0; minute < 60; ++minute) {
+    station.DriveOn(60);
+    const std::vector<std::string> track = LinesOf(station.File("U33\\TRK\\20240115.TRK"));
+    ASSERT_GE(static_cast<int>(track.size()), minute);
+    // The track that is shown grows.
+    EXPECT_EQ(station.State().Places.TrackPoints.Count(), static_cast<int>(track.size()));
+    const std::string& last = track.back();
+    ASSERT_EQ(last.size(), 33U) << last;
+    const GridMetres at = station.drive.At(station.second);
+    EXPECT_NEAR(PositionTextKm(Mid(last, 2, 9)), at.North, 2.0) << last;
+    EXPECT_NEAR(PositionTextKm(Mid(last, 11, 9)), at.East, 2.0) << last;
+  }
+  const std::vector<std::string> track = LinesOf(station.File("U33\\TRK\\20240115.TRK"));
+  EXPECT_GE(track.size(), 60U);
+  EXPECT_LE(track.size(), 61U);
+  for (std::size_t point = 1; point < track.size(); ++point)
+    EXPECT_LT(Mid(track[point - 1], 21), Mid(track[point], 21));
+}
+
+TEST(GpsStationTest, ADriveIsKeptAsAWayForTheNavigationProgram) {
+  GpsStation station(kNavigator);
+  const std::string folder = "C:\\MAP\\U33\\";
+  station.files.MakeFolder(folder);
+  station.files.Write(folder + "NAV.DAT", "");
+  ASSERT_TRUE(station.Start());
+  station.DriveOn(3600);
+  const GpsState gps = station.State().Gps;
+  station.program->Stop(true);
+  const auto file = [&](const char* name) {
+    return station.files.ReadAll(folder + name, 1 << 20).value_or("(missing)");
+  };
+  std::vector<std::string> way = LinesOf(file("QTHWAY.TXT"));
+  ASSERT_EQ(way.size(), 3U) << file("QTHWAY.TXT");
+  EXPECT_EQ(way[0].size(), 79U);
+  int north = 0;
+  int east = 0;
+  ASSERT_TRUE(FollowWay(way[0], north, east));
+  // The next line begins where the first one ends, and ends where the drive does.
+  EXPECT_TRUE(way[1].starts_with(ShortNumber(north) + Str(east))) << way[1];
+  ASSERT_TRUE(FollowWay(way[1], north, east));
+  EXPECT_EQ(north, static_cast<int>(Int(gps.GpsNorthKm)));
+  EXPECT_EQ(east, static_cast<int>(Int(gps.GpsEastKm)));
+  EXPECT_TRUE(way[2].starts_with(ShortNumber(north) + Str(east))) << way[2];
+  EXPECT_TRUE(way[2].ends_with(" STOP   ZEPRIL_NAVIGATION_ENDED  @(xxx)@yyy@zzz")) << way[2];
+  EXPECT_EQ(file("QTHACT.TXT"), way[2] + "\r\n");
+  EXPECT_EQ(file("QTHACTPR.TXT"), "\xFE" + gps.GpsNorthText + gps.GpsEastText + "\r\n");
+}
+
+TEST(GpsStationTest, WithoutANavigationProgramNoWayIsWritten) {
+  GpsStation station(kNavigator);
+  ASSERT_TRUE(station.Start());
+  station.DriveOn(120);
+  station.program->Stop(true);
+  EXPECT_FALSE(station.files.Exists("C:\\MAP"));
 }
 
 }  // namespace
