@@ -7,7 +7,7 @@
 namespace zepril {
 namespace {
 
-constexpr std::size_t kBlock = 256 * 1024;  // bytes
+constexpr std::size_t kBlock = std::size_t{256} * 1024;  // bytes
 
 bool StopsWithinALine(const Files& disk, const std::string& path) {
   const auto stamp = disk.Stamp(path);

@@ -13,10 +13,10 @@
 namespace zepril {
 namespace {
 
-constexpr std::size_t kWholePoint = 33;    // characters
-constexpr std::size_t kTrackKey = 13;      // date and time of a point
-constexpr const char* kZone = "U33";       // Kept: whatever map system is in use.
-constexpr std::size_t kBlock = 64 * 1024;  // bytes
+constexpr std::size_t kWholePoint = 33;                 // characters
+constexpr std::size_t kTrackKey = 13;                   // date and time of a point
+constexpr const char* kZone = "U33";                    // Kept: whatever map system is in use.
+constexpr std::size_t kBlock = std::size_t{64} * 1024;  // bytes
 
 std::string_view TrackKey(std::string_view line) {
   return Mid(line, 21, static_cast<std::ptrdiff_t>(kTrackKey));
