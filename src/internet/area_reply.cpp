@@ -90,6 +90,38 @@ std::string DateAndTime(const LocalTime& time) {
          " " + ZeroPadded(time.Hour, 2) + ZeroPadded(time.Minute, 2);
 }
 
+// The call runs to the first quote with a comma behind it. Empty for what is none, and for an
+// object, which is no station. `text` begins with the key.
+std::string_view CallOf(std::string_view text) {
+  const std::string_view value = Mid(text, 12);
+  const std::size_t end = value.find("\",");
+  if (end == kNone || IsWithin(InStr(text, R"("type":"O")"), 16, 39)) return {};
+  const std::string_view call = value.substr(0, end);
+  return std::all_of(call.begin(), call.end(), IsPlain) ? call : std::string_view();
+}
+
+// `text`: from the key of the call to that of the next one.
+std::optional<AreaStation> ReadStation(std::string_view text) {
+  constexpr std::string_view kTimeKey = "posreceived";
+  constexpr double kNoPosition = 0.01;  // degrees
+  const std::string_view call = CallOf(text);
+  const std::size_t time_key = text.find(kTimeKey);
+  if (call.empty() || time_key == kNone) return std::nullopt;
+  const std::string_view time_text = Mid(text.substr(time_key), 15);
+  const std::optional<std::int64_t> seconds = TimeOfValue(time_text);
+  const std::ptrdiff_t lat_key = InStr(time_text, R"("lat":)");
+  if (!seconds || !IsWithin(lat_key, 16, 29)) return std::nullopt;
+  const std::string_view lat_text = Mid(time_text, lat_key + 6);
+  const std::ptrdiff_t lon_key = InStr(lat_text, R"("lon":)");
+  if (!IsWithin(lon_key, 6, 29)) return std::nullopt;
+  const std::optional<double> lat = NumberOf(lat_text);
+  const std::optional<double> lon = NumberOf(Mid(lat_text, lon_key + 6));
+  const std::string symbol = SymbolBehind(lat_text);
+  if (!lat || !lon || symbol.empty()) return std::nullopt;
+  if (std::fabs(*lat) <= kNoPosition || std::fabs(*lon) <= kNoPosition) return std::nullopt;
+  return AreaStation{Upper(call), *seconds, *lat, *lon, symbol};
+}
+
 }  // namespace
 
 AreaReply::AreaReply(std::string_view text)
@@ -106,36 +138,6 @@ std::optional<AreaStation> AreaReply::Next() {
     rest_.remove_prefix(next == kNone ? rest_.size() : next);
     if (auto station = ReadStation(text)) return station;
   }
-}
-
-// `text`: from the key of the call to that of the next one.
-std::optional<AreaStation> AreaReply::ReadStation(std::string_view text) {
-  constexpr std::string_view kTimeKey = "posreceived";
-  constexpr double kNoPosition = 0.01;  // degrees
-  // The call runs to the first quote with a comma behind it.
-  const std::string_view value = Mid(text, 12);
-  const std::size_t call_end = value.find("\",");
-  if (call_end == kNone || call_end == 0) return std::nullopt;
-  const std::string_view call = value.substr(0, call_end);
-  if (!std::all_of(call.begin(), call.end(), IsPlain)) return std::nullopt;
-  // An object is no station.
-  if (IsWithin(InStr(text, R"("type":"O")"), 16, 39)) return std::nullopt;
-
-  const std::size_t time_key = text.find(kTimeKey);
-  if (time_key == kNone) return std::nullopt;
-  const std::string_view time_text = Mid(text.substr(time_key), 15);
-  const std::optional<std::int64_t> seconds = TimeOfValue(time_text);
-  const std::ptrdiff_t lat_key = InStr(time_text, R"("lat":)");
-  if (!seconds || !IsWithin(lat_key, 16, 29)) return std::nullopt;
-  const std::string_view lat_text = Mid(time_text, lat_key + 6);
-  const std::ptrdiff_t lon_key = InStr(lat_text, R"("lon":)");
-  if (!IsWithin(lon_key, 6, 29)) return std::nullopt;
-  const std::optional<double> lat = NumberOf(lat_text);
-  const std::optional<double> lon = NumberOf(Mid(lat_text, lon_key + 6));
-  const std::string symbol = SymbolBehind(lat_text);
-  if (!lat || !lon || symbol.empty()) return std::nullopt;
-  if (std::fabs(*lat) <= kNoPosition || std::fabs(*lon) <= kNoPosition) return std::nullopt;
-  return AreaStation{Upper(call), *seconds, *lat, *lon, symbol};
 }
 
 std::optional<StationRecord> RecordOfStation(const AreaStation& station, const AreaContext& context,

@@ -34,8 +34,6 @@ class AreaReply {
   std::optional<AreaStation> Next();
 
  private:
-  std::optional<AreaStation> ReadStation(std::string_view text);
-
   std::string_view rest_;
 };
 

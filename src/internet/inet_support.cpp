@@ -140,8 +140,12 @@ void InetSupport::FetchMoni1() {
   // One that is still awaited is not asked for twice; one of a station that is left does not count.
   if (moni1_.UnderWay && !IsOfFollowed(*moni1_.UnderWay)) Drop(moni1_);
   if (moni1_.UnderWay) return;
-  internet.InetTries = std::min(internet.InetTries + 1, kMostTries);
   internet.LastMoni1InternetMinute = HhMmNow();
+  if (Trim(sections_.Followed.Moni1Call).empty()) {
+    Rest();
+    return TellMoni1(internet_texts::kNoStation);
+  }
+  internet.InetTries = std::min(internet.InetTries + 1, kMostTries);
   const StationStore& history = sections_.Stores.Moni1Records;
   const int hours = HoursToAsk(history.Count() > 0 ? history.At(history.Count()).DateAndTime() : "",
                                tools_.LocalClock.Now());
@@ -188,10 +192,9 @@ void InetSupport::Ask(Kind& kind, const std::string& address, std::string call,
 
 void InetSupport::Moni1Came(const Page& page) {
   const Asked asked = std::move(*std::exchange(moni1_.UnderWay, std::nullopt));
-  // Given up by `Timer2`, by the limit of time or by a press; or of a station that is left.
-  const bool fits = controls_.Moni1.Check22.Value == 1 && !IsHeld() && IsOfFollowed(asked);
   DecodedLines decoded;
-  if (!fits) {
+  if (controls_.Moni1.Check22.Value != 1 || IsHeld() || !IsOfFollowed(asked)) {
+    // Given up by `Timer2`, by the limit of time or by a press; or of a station that is left.
     moni1_.Words = internet_texts::kPassedOver.With({ClockNow()});
   } else if (const auto trouble = TroubleOf(page)) {
     moni1_.Words = *trouble;
@@ -201,19 +204,25 @@ void InetSupport::Moni1Came(const Page& page) {
       return Renew();
     }
   } else {
-    sections_.Internet.InetRawText = LinesOf(asked, BodyText(page));
-    if (!sections_.Internet.InetRawText.empty())
-      decoded = lines_.DecodeInetLines(sections_.Internet.InetRawText);
-    if (decoded.Lines > 0) {
-      moni1_.Words = internet_texts::kLines.With(
-          {ClockNow(), NumberText(decoded.Lines), NumberText(decoded.Stored)});
-    }
-    sections_.Internet.InetRawText.clear();
+    decoded = TakeLines(asked, BodyText(page));
   }
   Rest();
   Renew();
   ShowNew(decoded.Level);
   HandOnMessages(decoded);
+}
+
+DecodedLines InetSupport::TakeLines(const Asked& asked, const std::string& body) {
+  DecodedLines decoded;
+  std::string& lines = sections_.Internet.InetRawText;
+  lines = LinesOf(asked, body);
+  if (!lines.empty()) decoded = lines_.DecodeInetLines(lines);
+  lines.clear();
+  if (decoded.Lines > 0) {
+    moni1_.Words = internet_texts::kLines.With(
+        {ClockNow(), NumberText(decoded.Lines), NumberText(decoded.Stored)});
+  }
+  return decoded;
 }
 
 bool InetSupport::IsOfFollowed(const Asked& asked) const {

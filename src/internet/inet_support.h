@@ -132,6 +132,7 @@ class InetSupport {
   void MoniAllCame(const Page& page);
   // Words of a page that holds no answer; nothing for a good one.
   std::optional<std::string> TroubleOf(const Page& page);
+  DecodedLines TakeLines(const Asked& asked, const std::string& body);
   void TakeArea(const std::string& body);
   std::string LinesOf(const Asked& asked, const std::string& body);
   void ShowNew(FrameLevel level);

@@ -182,6 +182,15 @@ TEST_F(InetSupportTest, SwitchedOffWhileTheWindowHadControlNothingIsAsked) {
   EXPECT_TRUE(world.IsAtRest());
 }
 
+TEST_F(InetSupportTest, WithoutAStationNothingIsAsked) {
+  world.Followed.Moni1Call = " ";
+  world.SwitchOn();
+  world.FetchMoni1();
+  EXPECT_TRUE(world.Pages.Asked.empty());
+  EXPECT_TRUE(world.IsAtRest());
+  EXPECT_EQ(world.Words(), "MONI 1: no station is followed");
+}
+
 TEST_F(InetSupportTest, WhereTooManyPagesWaitItSaysSo) {
   for (std::size_t count = 0; count <= PageFetcher::kMostWaiting; ++count)
     world.Pages.Fetch("http://x", {});

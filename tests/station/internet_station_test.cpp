@@ -112,6 +112,22 @@ TEST(InternetStation, TheFollowedStationIsAskedForEveryMinuteAloneAndEverySecond
   EXPECT_EQ(station.AskedFor("/aprs/raw"), 8);
 }
 
+TEST(InternetStation, WithTheAreaOnTheEvenMinutesAreAsked) {
+  InternetStation station({2024, 5, 14, 13, 4, 10});
+  station.Click(station.Moni1());
+  station.Click(station.Area());
+  station.Minutes(0.5);
+  EXPECT_EQ(station.AskedFor("/aprs/raw"), 1);
+  EXPECT_EQ(station.AskedFor("/aprs/area"), 1);
+  station.Minutes(1.0);  // 13:05
+  EXPECT_EQ(station.AskedFor("/aprs/raw"), 1);
+  station.Minutes(0.8);  // 13:06
+  EXPECT_EQ(station.AskedFor("/aprs/raw"), 2);
+  EXPECT_EQ(station.AskedFor("/aprs/area"), 1);
+  station.Minutes(2.0);  // 13:08
+  EXPECT_EQ(station.AskedFor("/aprs/area"), 2);
+}
+
 TEST(InternetStation, WhatIsAskedForReachesBackToTheNewestRecord) {
   InternetStation station(kAfternoon);
   station.answer = [&station](const std::string&) { return LineOf(station, "QX7GW", 130); };

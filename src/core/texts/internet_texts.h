@@ -29,6 +29,7 @@ inline constexpr Text kTooManyWait{"%1 too many pages wait"};
 inline constexpr Text kTimeIsUp{"off after %1 min"};
 // %1: the key in the file.
 inline constexpr Text kNoService{"off, no %1 in SERVICES.TXT"};
+inline constexpr Text kNoStation{"no station is followed"};
 inline constexpr Text kNothingToScan{"no station to scan"};
 // %1: which one, %2: of how many; then that, and what is done with it.
 inline constexpr Text kScanPlace{"%1/%2"};
