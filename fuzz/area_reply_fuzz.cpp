@@ -2,22 +2,17 @@
 // their columns, and a reply that comes again brings nothing new.
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 #include "core/text_fields.h"
+#include "fuzz/page_world.h"
 #include "internet/area_decoder.h"
 #include "internet/area_reply.h"
-#include "tests/reception/reception_support.h"
 
 namespace {
 
 using namespace zepril;
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
 
 void CheckStation(const AreaStation& station, const std::string& upper) {
   Require(!station.Call.empty());
@@ -40,11 +35,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   Require(count == 0 || reply.find('[') != std::string_view::npos);
 
-  Reception world;
-  world.Stores.LogsOn = 1;
-  world.Time.SetNow({2024, 5, 14, 12, 35, 0});
+  PageWorld world;
   AreaDecoder decoder({world.Stores, world.Map, world.Settings},
-                      {world.Room.Keeper, world.Symbols, world.Time});
+                      {world.Keeper, world.Symbols, world.Time});
   const DecodedArea first = decoder.DecodeInetArea(reply);
   Require(first.Stations <= count && first.Stored <= first.Stations);
   Require(world.Stores.Moni1Records.Count() == 0);
@@ -52,8 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(record.HeardViaField() == "inet" && record.Info().empty());
     Require(record.Text().find_first_of("\r\n") == std::string_view::npos);
   }
-  const std::string log = world.Disk.Of(Reception::Log("_LOGL_.TXT"));
-  Require(log.size() == static_cast<std::size_t>(first.Stored) * (StationRecord::kLength + 2));
+  Require(world.Logged() == static_cast<std::size_t>(first.Stored));
   const bool all_held = first.Stored == world.Stores.MoniAllRecords.Count();
   if (all_held) Require(decoder.DecodeInetArea(reply).Stored == 0);
   return 0;

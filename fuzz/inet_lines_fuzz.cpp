@@ -3,24 +3,17 @@
 // whose lines have their length.
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
-#include "core/quiet_actions.h"
 #include "core/text_fields.h"
+#include "fuzz/page_world.h"
 #include "internet/inet_line_decoder.h"
 #include "internet/inet_lines.h"
-#include "platform/quiet_machine.h"
-#include "tests/reception/reception_support.h"
 
 namespace {
 
 using namespace zepril;
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
 
 // Each line stands in its text, is no shorter than a line may be, and none is older than the one
 // before.
@@ -36,7 +29,7 @@ void CheckLines(std::string_view text) {
   }
 }
 
-void CheckStores(const Reception& station, std::string_view reply) {
+void CheckStores(const PageWorld& station, std::string_view reply) {
   // A return within a call is a blank in its record.
   std::string upper = Upper(reply);
   std::erase(upper, '\0');
@@ -52,8 +45,7 @@ void CheckStores(const Reception& station, std::string_view reply) {
   }));
   for (const StationRecord& record : history)
     Require(EqualFolded(record.Call(), "QX7GW"));
-  const std::string log = station.Disk.Of(Reception::Log("_LOGL_.TXT"));
-  Require(log.size() % (StationRecord::kLength + 2) == 0);
+  station.Logged();
 }
 
 }  // namespace
@@ -69,14 +61,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CheckLines(lines);
   CheckLines(reply);
 
-  Reception station;
-  station.Followed.Moni1Call = "QX7GW";
-  station.Followed.Moni1LogPath = Reception::Log("QX7GW.TXT");
-  station.Stores.LogsOn = 1;
-  station.Stores.MoniAllRecords.Limit = 50;
-  station.Time.SetNow({2024, 5, 14, 12, 35, 0});
+  PageWorld station;
   InetLineDecoder decoder({station.Identity, station.Map, station.Settings},
-                          {station.Room.Keeper, station.Symbols, station.Time});
+                          {station.Keeper, station.Symbols, station.Time});
   const DecodedLines first = decoder.DecodeInetLines(lines);
   Require(first.Stored <= first.Lines);
   CheckStores(station, reply);
