@@ -63,8 +63,10 @@ QWidget { font-size: 12px; }
 QToolTip { color: %5; background: %2; border: 1px solid %4; padding: 3px; }
 QFrame#MapBar, QFrame#BottomLine { background: %2; border: none; }
 QFrame[panel="true"] { background: %2; border: 1px solid %4; border-radius: 4px; }
-QFrame[alarm="true"] { background: %8; border: 4px double %9; border-radius: 4px; }
-QLabel[alarm="true"] { color: %9; border: none; }
+QFrame[alarm="panel"] { background: %8; border: 4px double %9; border-radius: 4px; }
+QLabel[alarm] { color: %9; border: none; background: transparent; }
+QLabel[alarm="title"] { font-size: 36px; font-weight: bold; }
+QLabel[alarm="call"] { font-size: 28px; font-weight: bold; }
 QLabel[group="true"] { color: %6; font-weight: bold; font-size: 11px; }
 QLabel[dim="true"] { color: %6; }
 QLabel[fault="true"] { color: #E88A8A; }

@@ -216,7 +216,9 @@ void PanelsOverMap::PlaceGpsLine(QLabel* line) {
   const int wanted = line->fontMetrics().horizontalAdvance(line->text()) + 2 * margin + 2;
   const int width = std::min(wanted, std::max(map_.width(), 100));
   const int height = line->heightForWidth(width);
-  line->setGeometry(0, map_.height() - height, width, height);
+  // Above an open record, which would hide all but its edge.
+  const int floor = made_.Record->isHidden() ? map_.height() : made_.Record->y() - kOverlayMargin;
+  line->setGeometry(0, floor - height, width, height);
   line->lower();
 }
 

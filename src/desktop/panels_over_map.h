@@ -38,7 +38,7 @@ class PanelsOverMap {
 
   // At the map's bottom, as wide as its line.
   void PlaceRecord();
-  // At the map's lower edge, under all panels.
+  // At the map's lower edge, or above an open record; under all panels.
   void PlaceGpsLine(QLabel* line);
   // At the map's right, above an open record.
   void PlaceHeard();

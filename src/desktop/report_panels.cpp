@@ -17,17 +17,6 @@ namespace {
 
 constexpr int kMargin = 8;  // pixels, to the map's edge
 constexpr int kEmergencyWidth = 720;
-// To be read from across a room.
-constexpr int kTitlePixels = 36;
-constexpr int kCallPixels = 28;
-
-QLabel* LargeLabel(int pixels) {
-  auto* label = new QLabel;
-  label->setProperty("alarm", true);
-  label->setStyleSheet(QStringLiteral("font-size: %1px; font-weight: bold;").arg(pixels));
-  return label;
-}
-
 }  // namespace
 
 ReportPanels::ReportPanels(WindowParts& parts, MainWindowControls& controls, QWidget& map,
@@ -73,23 +62,25 @@ void ReportPanels::MakeWeather(const QtSurface& surface) {
 void ReportPanels::MakeEmergency() {
   EmergencyControls& e = controls_.Emergency;
   emergency_ = parts_.Panel(&map_);
-  emergency_->setProperty("alarm", true);
+  emergency_->setProperty("alarm", "panel");
   auto* grid = new QGridLayout(emergency_);
   grid->setContentsMargins(20, 12, 20, 12);
   grid->setVerticalSpacing(4);
-  QLabel* title = LargeLabel(kTitlePixels);
-  title->setObjectName(QStringLiteral("EmergencyTitle"));
+  // To be read from across a room.
+  auto* title = new QLabel;
+  title->setProperty("alarm", "title");
   // Told by its shape too: a sign before the word and after it.
   title->setText(QStringLiteral("!!  %1  !!").arg(ToQt(emergency_texts::kTitle)));
   title->setAlignment(Qt::AlignCenter);
   grid->addWidget(title, 0, 0, 1, 3);
-  QLabel* call = LargeLabel(kCallPixels);
+  auto* call = new QLabel;
+  call->setProperty("alarm", "call");
   grid->addWidget(call, 1, 0, 1, 3);
   parts_.Binding.Bind(call, e.EmergencyCall);
   int row = 2;
   for (Label* control : {&e.EmergencyInfo, &e.Label26, &e.Label27, &e.EmergencyFile}) {
     QLabel* line = parts_.FixedLabel();
-    line->setProperty("alarm", true);
+    line->setProperty("alarm", "line");
     line->setWordWrap(true);
     grid->addWidget(line, row++, 0, 1, 3);
     parts_.Binding.Bind(line, *control);

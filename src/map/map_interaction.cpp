@@ -209,6 +209,7 @@ void MapInteraction::ChooseFolder(int row) {
 }
 
 void MapInteraction::CentreOnRecord() {
+  view_.ManualMapMove = true;
   view_.PictureMode = MapShows::Map;
   ClosePicture();
   FollowNobody(view_, controls_.Map);
@@ -223,6 +224,8 @@ void MapInteraction::CentreOnRecord() {
 }
 
 void MapInteraction::Follow(Following what) {
+  // The GPS leaves another choice for a while.
+  if (what != Following::OwnPosition) view_.ManualMapMove = true;
   FollowWith(view_, controls_.Map, what);
   view_.PictureMode = MapShows::Map;
   ClosePicture();

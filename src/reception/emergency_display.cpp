@@ -40,6 +40,8 @@ void EmergencyDisplay::ShowEmergency() {
   sections_.View.QthNorthText = sections_.Alarms.AlarmNorth;
   sections_.View.QthEastText = sections_.Alarms.AlarmEast;
   JumpOnceToTyped(sections_.View);
+  // A station on the move stays there for a while, as when a hand has moved the map.
+  sections_.View.ManualMapMove = true;
   FillPanel();
   PlayAlarmSound();
   controls_.Panel.Frame14.Visible = true;

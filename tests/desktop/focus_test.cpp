@@ -183,7 +183,7 @@ TEST_F(FocusTest, TheTabKeyGoesOnFromWhereItWasBeforeTheTick) {
   EXPECT_EQ(window->focusWidget(), Find<>(*window, "Check1"));
   Redraw();
   QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
-  EXPECT_EQ(window->focusWidget(), Find<>(*window, "Command13"));
+  EXPECT_EQ(window->focusWidget(), Find<>(*window, "Check22"));
   QTest::keyClick(window->focusWidget(), Qt::Key_Backtab);
   EXPECT_EQ(window->focusWidget(), Find<>(*window, "Check1"));
 }

@@ -83,9 +83,10 @@ const std::set<std::string>& KnownOfWindows() {
       "Form0", "Form1", "BottomLine", "Drawer", "LinkLamp", "LinkWords", "MapBar", "MapProgress",
       "ReceptionRests", "StartFields", "Caption",
       // Properties of widgets, and their values in style sheets.
-      "accessible_role", "bare", "covered", "dim", "fault", "group", "keeps_keys", "leaving",
-      "notice", "on_air", "over_map", "own_object", "panel", "picture_only", "quiet", "spoken_name",
-      "third_state", "three_states", "tight", "typed", "true",
+      "accessible_role", "alarm", "bare", "call", "line", "title", "covered", "dim", "fault",
+      "group", "keeps_keys", "leaving", "notice", "on_air", "over_map", "own_object", "panel",
+      "picture_only", "quiet", "spoken_name", "third_state", "three_states", "tight", "typed",
+      "true",
       // Style sheets.
       "background: %1;", "color: %1;", "padding: 2px 2px;",
       "font-size: 15px; font-weight: bold; min-height: 36px;",

@@ -220,7 +220,10 @@ TEST(FollowOptions, ChooseWhatTheCentreFollowsAndCloseThePicture) {
   EXPECT_EQ(world.View().PictureMode, MapShows::Map);
   EXPECT_EQ(world.View().CentreNorthKm, 5800.0);
   EXPECT_EQ(world.Controls.Map.Command12.Caption, "MAP");
+  EXPECT_FALSE(world.View().ManualMapMove);
   world.Controls.Map.Option2.Click();
+  // Which the GPS leaves alone for a while.
+  EXPECT_TRUE(world.View().ManualMapMove);
   EXPECT_EQ(world.View().CentreFollow, Following::Station);
   EXPECT_TRUE(world.Controls.Map.Option2.Value);
   EXPECT_FALSE(world.Controls.Map.Option1.Value);

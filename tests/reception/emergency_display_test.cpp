@@ -79,6 +79,7 @@ TEST_F(EmergencyDisplayTest, TheStationIsShownOnPanelAndMap) {
   EXPECT_FALSE(map.Option1.Value);
   EXPECT_FALSE(map.Option2.Value);
   EXPECT_EQ(view.CentreFollow, Following::TypedPosition);
+  EXPECT_TRUE(view.ManualMapMove);
   EXPECT_EQ(view.QthNorthText, " 5818.297");
   EXPECT_EQ(view.QthEastText, "  391.750");
   // In this order.
