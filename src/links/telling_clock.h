@@ -18,6 +18,7 @@ class TellingClock final : public Clock {
   LocalTime Now() const override { return clock_.Now(); }
   double SecondsSinceMidnight() const override { return clock_.SecondsSinceMidnight(); }
   double MonotonicSeconds() const override { return clock_.MonotonicSeconds(); }
+  std::int64_t FileTimeNs() const override { return clock_.FileTimeNs(); }
   void Wait(double seconds) override {
     for (; seconds > 2.0 * kLongestPiece; seconds -= kLongestPiece) {
       if (!WaitPiece(kLongestPiece)) return;

@@ -23,6 +23,8 @@ class Clock {
   virtual double SecondsSinceMidnight() const = 0;
   // Seconds that never go back, from an arbitrary start.
   virtual double MonotonicSeconds() const = 0;
+  // Now in the measure of files' stamps: nanoseconds of the system's epoch.
+  virtual std::int64_t FileTimeNs() const = 0;
 
   // Waits. Sockets and serial ports fill their buffers meanwhile; no timer and no user event fires.
   virtual void Wait(double seconds) = 0;

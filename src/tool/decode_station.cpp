@@ -24,6 +24,7 @@ class StandingClock final : public Clock {
     return now_.Hour * 3600.0 + now_.Minute * 60.0 + now_.Second;
   }
   double MonotonicSeconds() const override { return 0.0; }
+  std::int64_t FileTimeNs() const override { return 0; }
   void Wait(double) override {}
   void WaitPumping(double) override {}
   void HandOver() override {}

@@ -34,6 +34,7 @@ class HurriedClock final : public Clock {
   double MonotonicSeconds() const override {
     return (world_.MonotonicSeconds() - begin_) * factor_;
   }
+  std::int64_t FileTimeNs() const override { return world_.FileTimeNs(); }
 
   void Wait(double seconds) override {
     Waited += seconds;

@@ -25,6 +25,9 @@ class VirtualClock final : public Clock, public Loop {
            (elapsed_ - static_cast<double>(Whole()));
   }
   double MonotonicSeconds() const override { return elapsed_; }
+  std::int64_t FileTimeNs() const override {
+    return start_ * 1'000'000'000 + static_cast<std::int64_t>(elapsed_ * 1e9);
+  }
 
   // Timers stand still in a plain wait; scheduled events (sockets, serial lines) arrive.
   void Wait(double seconds) override {

@@ -11,6 +11,7 @@ class SystemClock : public Clock {
   LocalTime Now() const override;
   double SecondsSinceMidnight() const override;
   double MonotonicSeconds() const override;
+  std::int64_t FileTimeNs() const override;
   void Wait(double seconds) override;
   void WaitPumping(double seconds) override { Wait(seconds); }
   void HandOver() override {}
