@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 #include "core/centre_follow.h"
 #include "core/clock_text.h"
@@ -48,12 +49,14 @@ void NmeaReader::ReadSentences() {
   if (gps.GpsFixValidBefore == 0) controls_.Gps.GpsInfo.Visible = false;
   gps.GpsFixValid = 0;
   // What has come, the last of it.
-  came_ = tools_.Source.Take();
+  tools_.Source.Take();
   // Up to the last line end: what stands behind it waits for its own.
   const std::string finished(FinishedNmea(gps.NmeaBuffer));
-  // The last two sentences of the best kind, which must agree.
+  // The last two sentences of the best kind, which must agree, the newer one not long ago.
   const auto pair = LastNmeaPair(finished);
   if (!pair || !PairAgrees(*pair)) return;
+  const double age = tools_.Source.SecondsSinceItCame(finished.size() - pair->Newer.size());
+  if (age > kLongestTrueSeconds) return;
   // The clock, where they tell the date.
   SetClock(*pair);
   // The position as text, and the line over the map.
@@ -62,6 +65,7 @@ void NmeaReader::ReadSentences() {
   controls_.Gps.GpsInfo.Visible = true;
   // The position on the map's grid.
   TakePosition(position);
+  NotePositionTime(age);
   // The way for the navigation program.
   if (gps.NavigationOn && SaveWay) SaveWay();
   // The map follows, unless it was just moved by hand.
@@ -110,7 +114,11 @@ void NmeaReader::TakePosition(const NmeaPosition& position) {
   }
   gps.GpsNorthText = texts.North;
   gps.GpsEastText = texts.East;
-  if (came_) last_position_ = tools_.LocalClock.Now();
+}
+
+void NmeaReader::NotePositionTime(double seconds_ago) {
+  const std::int64_t now = SecondsOf(tools_.LocalClock.Now());
+  last_position_ = TimeOfSeconds(now - static_cast<std::int64_t>(seconds_ago));
 }
 
 // A station that transmits shows and reports its place at once, unless the operator looks at a

@@ -43,6 +43,9 @@ class NmeaReader {
  public:
   // So long after the operator has moved the map it stays where he put it.
   static constexpr double kHandsOffSeconds = 30.0;
+  // So long a sentence is true: of one that stays the last its position would be taken again and
+  // again.
+  static constexpr double kLongestTrueSeconds = 60.0;
 
   // Sets the event of `GpsNote`.
   NmeaReader(NmeaSections sections, NmeaControls controls, NmeaTools tools);
@@ -62,6 +65,7 @@ class NmeaReader {
   void NoteManualMove();
   void SetClock(const NmeaPair& pair);
   void TakePosition(const NmeaPosition& position);
+  void NotePositionTime(double seconds_ago);
   bool MapIsLeftAlone() const;
   void GoToOwnPosition();
   bool FixIsFresh() const;
@@ -70,9 +74,8 @@ class NmeaReader {
   NmeaSections sections_;
   NmeaControls controls_;
   NmeaTools tools_;
-  bool came_ = false;                       // the source has told something since the last tick
   std::string clock_told_;                  // date and time by which the clock was set last
-  std::optional<LocalTime> last_position_;  // when one was taken for the last time
+  std::optional<LocalTime> last_position_;  // when the last one that was taken came
   std::string closed_note_;
 };
 

@@ -2,7 +2,7 @@
 #include "gps/nmea_source.h"
 
 #include <algorithm>
-#include <utility>
+#include <cassert>
 
 #include "core/port_number.h"
 #include "core/text_fields.h"
@@ -85,7 +85,6 @@ std::string NmeaSource::Trouble() const {
 
 void NmeaSource::Open() {
   Close();
-  last_came_ = clock_.MonotonicSeconds();
   if (!IsThere()) return;
   opened_ = true;
   port_.DataArrived = [this] { Drain(); };
@@ -112,23 +111,32 @@ void NmeaSource::Drain() {
   Add(port_.ReadAll());
 }
 
-bool NmeaSource::Take() {
+void NmeaSource::Take() {
   if (!PortText().empty()) {
     Drain();
   } else if (IsThere()) {
     TakeFile();
   }
-  const bool silent = clock_.MonotonicSeconds() - last_came_ > kLongestSilenceSeconds;
-  if (silent) gps_.NmeaBuffer.clear();
-  return std::exchange(came_, false);
 }
 
 void NmeaSource::Add(std::string_view text) {
   if (text.empty()) return;
-  came_ = true;
-  last_came_ = clock_.MonotonicSeconds();
   gps_.NmeaBuffer += Right(text, GpsState::kLongestBuffer);
   gps_.NmeaBuffer = Right(gps_.NmeaBuffer, GpsState::kLongestBuffer);
+  count_ += static_cast<std::int64_t>(text.size());
+  arrivals_.push_back({count_, clock_.MonotonicSeconds()});
+  const std::int64_t gone = count_ - static_cast<std::int64_t>(gps_.NmeaBuffer.size());
+  while (arrivals_.front().End <= gone)
+    arrivals_.pop_front();
+}
+
+double NmeaSource::SecondsSinceItCame(std::size_t place) const {
+  assert(place < gps_.NmeaBuffer.size() && !arrivals_.empty());
+  const std::int64_t behind = static_cast<std::int64_t>(gps_.NmeaBuffer.size() - place);
+  const auto came =
+      std::upper_bound(arrivals_.begin(), arrivals_.end(), count_ - behind,
+                       [](std::int64_t at, const Arrival& arrival) { return at < arrival.End; });
+  return clock_.MonotonicSeconds() - came->At;
 }
 
 // ---- File -------------------------------------------------------------------------------------

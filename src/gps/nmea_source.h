@@ -6,11 +6,14 @@
 // to three characters. Only an ordinary file is a file: it is read and removed. A device that is
 // lost is tried again every ten seconds by a timer, never another one in its place.
 //
-// What was told is true for a minute. Of a source that has been silent for longer nothing is left:
-// its last position would be taken again and again.
+// The buffer lives for the run; how old a piece of it is, is known for as long as it is held.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+#include <deque>
 #include <string>
+#include <string_view>
 
 #include "core/state/gps.h"
 #include "core/timer.h"
@@ -22,7 +25,6 @@ namespace zepril {
 
 class NmeaSource {
  public:
-  static constexpr double kLongestSilenceSeconds = 60.0;
   static constexpr int kReopenMilliseconds = 10000;
 
   // Takes the event of the port from `Open` to `Close`. All that is given must outlive it.
@@ -35,8 +37,10 @@ class NmeaSource {
   // be opened is no failure.
   void Open();
   void Close();
-  // What has come since is in the buffer behind this; a file is gone. True when there was anything.
-  bool Take();
+  // What has come since is in the buffer behind this; a file is gone.
+  void Take();
+  // Seconds since what stands at `place` (from 0) of the buffer has come.
+  double SecondsSinceItCame(std::size_t place) const;
 
   // The setting names one.
   bool IsThere() const;
@@ -57,14 +61,20 @@ class NmeaSource {
   void TakeFile();
   void Add(std::string_view text);
 
+  // A piece of what is held, and when it came.
+  struct Arrival {
+    std::int64_t End;  // behind it, in characters of the run
+    double At;         // monotonic seconds
+  };
+
   GpsState& gps_;
   SerialPort& port_;
   Files& disk_;
   const Clock& clock_;
   std::string port_text_;  // of a port that was found
   bool opened_ = false;    // the port's event is taken
-  bool came_ = false;      // something, since it was asked for the last time
-  double last_came_ = 0.0;
+  std::deque<Arrival> arrivals_;
+  std::int64_t count_ = 0;  // of all characters that came in this run
   std::string file_trouble_;
 };
 

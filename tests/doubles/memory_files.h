@@ -87,6 +87,8 @@ class MemoryFiles final : public Files {
     if (found == Contents.end()) return std::nullopt;
     stamp.Size = static_cast<std::int64_t>(found->second.size());
     stamp.IsRegular = true;
+    const auto modified = ModifiedNs.find(path);
+    if (modified != ModifiedNs.end()) stamp.ModifiedNs = modified->second;
     return stamp;
   }
   std::vector<FolderEntry> List(const std::string& folder,
@@ -116,9 +118,10 @@ class MemoryFiles final : public Files {
   }
 
   std::map<std::string, std::string> Contents;
-  std::set<std::string> Folders;            // that are there
-  std::set<std::string> Devices;            // likewise
-  bool NothingIsRemoved = false;            // a removal is refused
+  std::map<std::string, std::int64_t> ModifiedNs;  // of these paths; of the others 0
+  std::set<std::string> Folders;                   // that are there
+  std::set<std::string> Devices;                   // likewise
+  bool NothingIsRemoved = false;                   // a removal is refused
   std::function<void()> OnReadRange;        // after a part was read, before it is handed over
   int Writes = 0;                           // appended or replaced so far
   std::string RefusedEnding;                // files whose path ends so can't be written

@@ -48,7 +48,7 @@ TEST(ReadNmea, OneSentenceOrTornOnesLeaveTheOldPosition) {
   GpsWorld world;
   world.SayAndTick(Rmcs());
   world.Clock.Run(61.0);
-  world.Tick();  // forgotten
+  world.Tick();  // too old by now
   for (const char* text : {"", "$GPRMC,123040,A,4830.1500,N,00805.2000,E,12.4,90.0,140524,,*10\r\n",
                            "$GPRMC,123041,A,48", "30.15\r\n\r\n", "$$$\xFF\xFE\r\n"}) {
     world.SayAndTick(text);
@@ -127,6 +127,56 @@ TEST(ReadNmea, AFileGivesAPositionAndTheTime) {
   EXPECT_EQ(world.Gps.GpsFixValid, 1);
   EXPECT_EQ(world.Gps.GpsTimeValid, 1);
   EXPECT_FALSE(world.Disk.Exists(R"(C:\GPS.TXT)"));
+}
+
+// ---- Age --------------------------------------------------------------------------------------
+
+TEST(GpsAge, AFilesSentenceAgreesWithThatOfTheFileBeforeHoweverLongAgo) {
+  GpsWorld world(R"(C:\GPS.TXT)");
+  for (const char* time : {"120000", "120130", "120300"}) {
+    world.Disk.Write(R"(C:\GPS.TXT)", GgaLine(time, kBerlin));
+    world.Tick();
+    EXPECT_EQ(world.Gps.GpsFixValid, time == std::string("120000") ? 0 : 1) << time;
+    world.Clock.Run(84.0);
+    world.Reader.ReadNmea();
+    EXPECT_EQ(world.Gps.GpsFixValid, 0) << time;
+  }
+  EXPECT_EQ(world.Controls.GpsNote.Caption, "GPS: no position since 12:37");
+}
+
+TEST(GpsAge, OtherLinesDoNotKeepAPositionAlive) {
+  GpsWorld world;
+  world.Say(Rmcs());
+  for (int tick = 1; tick <= 12; ++tick) {
+    world.SayAndTick("$GPGSV,1,1,00*79\r\n");
+    EXPECT_EQ(world.Gps.GpsFixValid, tick <= 10 ? 1 : 0) << tick;
+  }
+  world.Tick();
+  EXPECT_EQ(world.Controls.GpsNote.Caption, "GPS: no position since 12:34");
+}
+
+TEST(GpsAge, ThatOfTheNewerSentenceCounts) {
+  GpsWorld world;
+  world.Say(RmcLine("123040", kBerlin));
+  world.Clock.Run(300.0);
+  world.SayAndTick(RmcLine("123041", kBerlin));
+  EXPECT_EQ(world.Gps.GpsFixValid, 1);
+}
+
+TEST(GpsAge, WhatCameWhileNothingWasReadIsOldToo) {
+  GpsWorld world;
+  world.Say(Rmcs());
+  world.Clock.Run(600.0);
+  world.Reader.ReadNmea();
+  EXPECT_EQ(world.Gps.GpsFixValid, 0);
+}
+
+TEST(GpsAge, StandingStillIsAPositionAsLongAsItIsSaid) {
+  GpsWorld world;
+  for (int tick = 0; tick < 50; ++tick) {
+    world.SayAndTick(RmcLine("123040", kBerlin));
+    EXPECT_EQ(world.Gps.GpsFixValid, tick == 0 ? 0 : 1) << tick;
+  }
 }
 
 // ---- Clock ------------------------------------------------------------------------------------

@@ -13,6 +13,13 @@ namespace {
 
 constexpr const char* kFile = R"(C:\GPS.TXT)";
 
+// Whether anything came.
+bool Takes(NmeaSource& source, const GpsState& gps) {
+  const std::string before = gps.NmeaBuffer;
+  source.Take();
+  return gps.NmeaBuffer != before;
+}
+
 // ---- What the setting means -------------------------------------------------------------------
 
 TEST(NmeaSourceSetting, ANumberInFrontIsAPort) {
@@ -42,7 +49,7 @@ TEST(NmeaSourceSetting, AFileOfUpToThreeCharactersOrWithTheWordIsNotRead) {
   for (const char* name : {"ABC", "XSAVE"}) {
     GpsWorld world(name);
     world.Disk.Write(name, RmcLine("123040"));
-    EXPECT_FALSE(world.Source.Take()) << name;
+    EXPECT_FALSE(Takes(world.Source, world.Gps)) << name;
     EXPECT_TRUE(world.Disk.Exists(name)) << name;
   }
 }
@@ -79,12 +86,12 @@ TEST(NmeaSourceSetting, APortThatIsOpenIsClosedFirst) {
 
 TEST(NmeaPort, WhatComesIsKeptUpToThreeThousandCharacters) {
   GpsWorld world;
-  EXPECT_FALSE(world.Source.Take());
+  EXPECT_FALSE(Takes(world.Source, world.Gps));
   world.Say("abc");
   world.Say("def");
-  EXPECT_TRUE(world.Source.Take());
+  EXPECT_TRUE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.NmeaBuffer, "abcdef");
-  EXPECT_FALSE(world.Source.Take());
+  EXPECT_FALSE(Takes(world.Source, world.Gps));
   world.Say(std::string(2998, 'x'));
   EXPECT_EQ(world.Gps.NmeaBuffer, "ef" + std::string(2998, 'x'));
   world.Say(std::string(70000, 'y') + "z");
@@ -141,15 +148,24 @@ TEST(NmeaPort, ClosesAndIsNotTriedAgain) {
   EXPECT_FALSE(world.Port.IsOpen());
 }
 
-TEST(NmeaPort, WhatItSaidIsForgottenAfterAMinuteOfSilence) {
+TEST(NmeaPort, EveryPieceThatIsHeldHasItsAge) {
   GpsWorld world;
-  world.Say("abc\r\n");
-  world.Clock.Run(60.0);
+  world.Say("abc");
+  world.Clock.Run(10.0);
+  world.Say("de");
+  world.Clock.Run(100.0);
   world.Source.Take();
-  EXPECT_EQ(world.Gps.NmeaBuffer, "abc\r\n");
-  world.Clock.Run(1.0);
-  world.Source.Take();
-  EXPECT_EQ(world.Gps.NmeaBuffer, "");
+  EXPECT_EQ(world.Gps.NmeaBuffer, "abcde");
+  EXPECT_EQ(world.Source.SecondsSinceItCame(0), 110.0);
+  EXPECT_EQ(world.Source.SecondsSinceItCame(2), 110.0);
+  EXPECT_EQ(world.Source.SecondsSinceItCame(3), 100.0);
+  world.Say(std::string(2996, 'x'));
+  EXPECT_EQ(world.Gps.NmeaBuffer.front(), 'b');
+  EXPECT_EQ(world.Source.SecondsSinceItCame(1), 110.0);
+  EXPECT_EQ(world.Source.SecondsSinceItCame(2), 100.0);
+  EXPECT_EQ(world.Source.SecondsSinceItCame(2999), 0.0);
+  world.Say(std::string(5000, 'y'));
+  EXPECT_EQ(world.Source.SecondsSinceItCame(0), 0.0);
 }
 
 TEST(NmeaPort, ADeviceThatComesUnderTheNameOfAFileIsOpenedAndNotRead) {
@@ -173,7 +189,7 @@ TEST(NmeaPort, ADeviceWhoseNameGoesWithItIsNoFileMeanwhile) {
   port.Why = "gone";
   disk.Devices.clear();
   disk.Write("/tmp/gps", "one\n");
-  EXPECT_FALSE(source.Take());
+  EXPECT_FALSE(Takes(source, gps));
   EXPECT_EQ(source.Trouble(), "gone");
   EXPECT_TRUE(disk.Exists("/tmp/gps"));
 }
@@ -183,15 +199,15 @@ TEST(NmeaPort, ADeviceWhoseNameGoesWithItIsNoFileMeanwhile) {
 TEST(NmeaFile, IsConsumedAndMakesTheTimeValid) {
   GpsWorld world(kFile);
   EXPECT_FALSE(world.Port.IsOpen());
-  EXPECT_FALSE(world.Source.Take());
+  EXPECT_FALSE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.GpsTimeValid, 0);
   world.Disk.Write(kFile, "one\ntwo\r\n\rthree");
-  EXPECT_TRUE(world.Source.Take());
+  EXPECT_TRUE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.NmeaBuffer, "one\r\ntwo\r\n\r\nthree\r\n");
   EXPECT_FALSE(world.Disk.Exists(kFile));
   EXPECT_EQ(world.Gps.GpsTimeValid, 1);
   world.Disk.Write(kFile, "four\n");
-  EXPECT_TRUE(world.Source.Take());
+  EXPECT_TRUE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.NmeaBuffer, "one\r\ntwo\r\n\r\nthree\r\nfour\r\n");
 }
 
@@ -201,11 +217,11 @@ TEST(NmeaFile, OfALongOneTheEndCounts) {
   for (int line = 0; line < 100000; ++line)
     text += "0123456789\n";
   world.Disk.Write(kFile, text + "end");
-  EXPECT_TRUE(world.Source.Take());
+  EXPECT_TRUE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.NmeaBuffer.size(), GpsState::kLongestBuffer);
   EXPECT_TRUE(world.Gps.NmeaBuffer.ends_with("\r\n0123456789\r\nend\r\n"));
   world.Disk.Write(kFile, std::string(5000, '\n'));
-  EXPECT_TRUE(world.Source.Take());
+  EXPECT_TRUE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.NmeaBuffer.size(), GpsState::kLongestBuffer);
   EXPECT_EQ(world.Gps.NmeaBuffer.find_first_not_of("\r\n"), std::string::npos);
 }
@@ -214,18 +230,18 @@ TEST(NmeaFile, OneThatGrowsWhileItIsReadIsTakenAtTheNextTick) {
   GpsWorld world(kFile);
   world.Disk.Write(kFile, "one\n");
   world.Disk.OnReadRange = [&] { world.Disk.Append(kFile, "two\n"); };
-  EXPECT_FALSE(world.Source.Take());
+  EXPECT_FALSE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.NmeaBuffer, "");
   EXPECT_EQ(world.Disk.Of(kFile), "one\ntwo\n");
   world.Disk.OnReadRange = nullptr;
-  EXPECT_TRUE(world.Source.Take());
+  EXPECT_TRUE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.NmeaBuffer, "one\r\ntwo\r\n");
 }
 
 TEST(NmeaFile, AnEmptyOneIsLeftToItsWriter) {
   GpsWorld world(kFile);
   world.Disk.Write(kFile, "");
-  EXPECT_FALSE(world.Source.Take());
+  EXPECT_FALSE(Takes(world.Source, world.Gps));
   EXPECT_TRUE(world.Disk.Exists(kFile));
   EXPECT_EQ(world.Gps.GpsTimeValid, 0);
 }
@@ -234,7 +250,7 @@ TEST(NmeaFile, OneThatCannotBeRemovedIsNotReadAgainAndAgain) {
   GpsWorld world(kFile);
   world.Disk.Write(kFile, "one\n");
   world.Disk.NothingIsRemoved = true;
-  EXPECT_FALSE(world.Source.Take());
+  EXPECT_FALSE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.NmeaBuffer, "");
   EXPECT_EQ(world.Gps.GpsTimeValid, 0);
   EXPECT_EQ(world.Source.Trouble(), gps_texts::kFileStays.With({kFile}));
@@ -244,18 +260,18 @@ TEST(NmeaFile, OneThatCannotBeReadStays) {
   GpsWorld world(kFile);
   world.Disk.Write(kFile, "one\n");
   world.Disk.UnreadableEnding = "GPS.TXT";
-  EXPECT_FALSE(world.Source.Take());
+  EXPECT_FALSE(Takes(world.Source, world.Gps));
   EXPECT_TRUE(world.Disk.Exists(kFile));
   EXPECT_EQ(world.Source.Trouble(), gps_texts::kFileUnread.With({kFile}));
   world.Disk.UnreadableEnding.clear();
-  EXPECT_TRUE(world.Source.Take());
+  EXPECT_TRUE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Source.Trouble(), "");
 }
 
 TEST(NmeaFile, AFolderIsNone) {
   GpsWorld world(R"(C:\GPS)");
   world.Disk.Folders.insert(R"(C:\GPS)");
-  EXPECT_FALSE(world.Source.Take());
+  EXPECT_FALSE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Source.Trouble(), gps_texts::kNoFile.With({R"(C:\GPS)"}));
   EXPECT_FALSE(world.Port.IsOpen());
 }
