@@ -55,10 +55,11 @@ void NmeaReader::ReadSentences() {
   // The last two sentences of the best kind, which must agree, the newer one not long ago.
   const auto pair = LastNmeaPair(finished);
   if (!pair || !PairAgrees(*pair)) return;
-  const double age = tools_.Source.SecondsSinceItCame(finished.size() - pair->Newer.size());
+  const std::size_t place = finished.size() - pair->Newer.size();
+  const double age = tools_.Source.SecondsSinceItCame(place);
   if (age > kLongestTrueSeconds) return;
   // The clock, where they tell the date.
-  SetClock(*pair);
+  SetClock(*pair, tools_.Source.SecondsSinceItWasSaid(place));
   // The position as text, and the line over the map.
   const NmeaPosition position = PositionOf(*pair);
   controls_.Gps.GpsInfo.Caption = GpsInfoLine(finished, position);
@@ -88,12 +89,13 @@ bool NmeaReader::MapIsLeftAlone() const {
   return tools_.LocalClock.MonotonicSeconds() - sections_.Gps.LastManualMapMove >= kHandsOffSeconds;
 }
 
-void NmeaReader::SetClock(const NmeaPair& pair) {
+void NmeaReader::SetClock(const NmeaPair& pair, double seconds_ago) {
   const auto time = ClockTimeOf(pair, sections_.Settings.UtcOffsetHours);
   if (!time) return;
   sections_.Gps.GpsTimeValid = 1;
-  // A sentence is true while it is new: of a GPS that has fallen silent the clock would be set
-  // back again and again.
+  // A time is true while it is new: by a file that has lain about, or a GPS that has fallen silent,
+  // the clock would be set back.
+  if (seconds_ago > kLongestTimeTrueSeconds) return;
   const std::string told = std::string(GetNmeaField(pair.Newer, pair.Kind->Date)) + " " +
                            std::string(GetNmeaField(pair.Newer, pair.Kind->Time));
   if (told == clock_told_) return;

@@ -46,6 +46,8 @@ class NmeaReader {
   // So long a sentence is true: of one that stays the last its position would be taken again and
   // again.
   static constexpr double kLongestTrueSeconds = 60.0;
+  // So long its time is good enough for the computer's clock.
+  static constexpr double kLongestTimeTrueSeconds = 10.0;
 
   // Sets the event of `GpsNote`.
   NmeaReader(NmeaSections sections, NmeaControls controls, NmeaTools tools);
@@ -63,7 +65,7 @@ class NmeaReader {
  private:
   void ReadSentences();
   void NoteManualMove();
-  void SetClock(const NmeaPair& pair);
+  void SetClock(const NmeaPair& pair, double seconds_ago);
   void TakePosition(const NmeaPosition& position);
   void NotePositionTime(double seconds_ago);
   bool MapIsLeftAlone() const;

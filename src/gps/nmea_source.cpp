@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <limits>
 
 #include "core/port_number.h"
 #include "core/text_fields.h"
@@ -24,6 +25,15 @@ std::string WithLineEnds(std::string_view text) {
     text.remove_prefix(text.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, text.size()));
   }
   return lines;
+}
+
+// Seconds since a file was changed; endless when its stamp lies in the future, as of another
+// computer's clock.
+double AgeOf(const FileStamp& stamp, const Clock& clock) {
+  constexpr double kNsPerSecond = 1e9;
+  const std::int64_t age_ns = clock.FileTimeNs() - stamp.ModifiedNs;
+  return age_ns < 0 ? std::numeric_limits<double>::infinity()
+                    : static_cast<double>(age_ns) / kNsPerSecond;
 }
 
 bool IsDevice(const Files& disk, const std::string& path) {
@@ -108,7 +118,7 @@ void NmeaSource::Close() {
 
 // Taken as it comes: between two ticks more may come than the port holds.
 void NmeaSource::Drain() {
-  Add(port_.ReadAll());
+  Add(port_.ReadAll(), 0.0);
 }
 
 void NmeaSource::Take() {
@@ -119,24 +129,32 @@ void NmeaSource::Take() {
   }
 }
 
-void NmeaSource::Add(std::string_view text) {
+void NmeaSource::Add(std::string_view text, double age) {
   if (text.empty()) return;
   gps_.NmeaBuffer += Right(text, GpsState::kLongestBuffer);
   gps_.NmeaBuffer = Right(gps_.NmeaBuffer, GpsState::kLongestBuffer);
   count_ += static_cast<std::int64_t>(text.size());
-  arrivals_.push_back({count_, clock_.MonotonicSeconds()});
+  const double now = clock_.MonotonicSeconds();
+  arrivals_.push_back({count_, now - age, now});
   const std::int64_t gone = count_ - static_cast<std::int64_t>(gps_.NmeaBuffer.size());
   while (arrivals_.front().End <= gone)
     arrivals_.pop_front();
 }
 
-double NmeaSource::SecondsSinceItCame(std::size_t place) const {
+const NmeaSource::Arrival& NmeaSource::ArrivalOf(std::size_t place) const {
   assert(place < gps_.NmeaBuffer.size() && !arrivals_.empty());
   const std::int64_t behind = static_cast<std::int64_t>(gps_.NmeaBuffer.size() - place);
-  const auto came =
-      std::upper_bound(arrivals_.begin(), arrivals_.end(), count_ - behind,
-                       [](std::int64_t at, const Arrival& arrival) { return at < arrival.End; });
-  return clock_.MonotonicSeconds() - came->At;
+  return *std::upper_bound(
+      arrivals_.begin(), arrivals_.end(), count_ - behind,
+      [](std::int64_t at, const Arrival& arrival) { return at < arrival.End; });
+}
+
+double NmeaSource::SecondsSinceItCame(std::size_t place) const {
+  return clock_.MonotonicSeconds() - ArrivalOf(place).CameAt;
+}
+
+double NmeaSource::SecondsSinceItWasSaid(std::size_t place) const {
+  return clock_.MonotonicSeconds() - ArrivalOf(place).SaidAt;
 }
 
 // ---- File -------------------------------------------------------------------------------------
@@ -166,7 +184,7 @@ void NmeaSource::TakeFile() {
     file_trouble_ = gps_texts::kFileStays.With({path});
     return;
   }
-  Add(WithLineEnds(*text));
+  Add(WithLineEnds(*text), AgeOf(*found, clock_));
   gps_.GpsTimeValid = 1;
 }
 

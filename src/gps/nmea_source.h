@@ -41,6 +41,9 @@ class NmeaSource {
   void Take();
   // Seconds since what stands at `place` (from 0) of the buffer has come.
   double SecondsSinceItCame(std::size_t place) const;
+  // Seconds since it was said: what a file tells was said when the file was changed last. Endless
+  // where that can't be known.
+  double SecondsSinceItWasSaid(std::size_t place) const;
 
   // The setting names one.
   bool IsThere() const;
@@ -59,13 +62,16 @@ class NmeaSource {
   int Baud() const;
   void Drain();
   void TakeFile();
-  void Add(std::string_view text);
+  // `age`: seconds since it was said.
+  void Add(std::string_view text, double age);
 
-  // A piece of what is held, and when it came.
+  // A piece of what is held, and when it was said and came.
   struct Arrival {
     std::int64_t End;  // behind it, in characters of the run
-    double At;         // monotonic seconds
+    double SaidAt;     // monotonic seconds
+    double CameAt;
   };
+  const Arrival& ArrivalOf(std::size_t place) const;
 
   GpsState& gps_;
   SerialPort& port_;

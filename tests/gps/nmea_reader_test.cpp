@@ -240,6 +240,33 @@ TEST(GpsClock, ASilentGpsDoesNotSetItBack) {
   EXPECT_EQ(world.Desktop.ClockSettings.size(), 2U);
 }
 
+TEST(GpsClock, IsSetByAFileThatWasJustWrittenAndByNoOther) {
+  constexpr std::int64_t kSecondNs = 1'000'000'000;
+  for (const auto& [age, sets] : {std::pair{0, 1U}, std::pair{10, 1U}, std::pair{11, 0U},
+                                  std::pair{86400, 0U}, std::pair{-1, 0U}}) {
+    GpsWorld world(R"(C:\GPS.TXT)");
+    world.Gps.SetsClock = true;
+    world.Disk.Write(R"(C:\GPS.TXT)", Rmcs());
+    world.Disk.ModifiedNs[R"(C:\GPS.TXT)"] = world.Clock.FileTimeNs() - age * kSecondNs;
+    world.Reader.ReadNmea();
+    EXPECT_EQ(world.Desktop.ClockSettings.size(), sets) << age;
+    EXPECT_EQ(world.Gps.ClockSetFromGps, static_cast<int>(sets)) << age;
+    EXPECT_EQ(world.Gps.GpsTimeValid, 1) << age;
+    EXPECT_EQ(world.Gps.GpsFixValid, 1) << age;
+  }
+}
+
+TEST(GpsClock, IsNotSetByWhatCameWhileNothingWasRead) {
+  GpsWorld world;
+  world.Gps.SetsClock = true;
+  world.Say(Rmcs());
+  world.Clock.Run(11.0);
+  world.Reader.ReadNmea();
+  EXPECT_TRUE(world.Desktop.ClockSettings.empty());
+  EXPECT_EQ(world.Gps.GpsTimeValid, 1);
+  EXPECT_EQ(world.Gps.GpsFixValid, 1);
+}
+
 // ---- The line over the map --------------------------------------------------------------------
 
 TEST(GpsLine, ComesWithThePositionAndGoesTwoTicksAfterIt) {
