@@ -33,6 +33,10 @@ NmeaReader::NmeaReader(NmeaSections sections, NmeaControls controls, NmeaTools t
   };
 }
 
+void NmeaReader::Begin() {
+  if (IsNoNmeaSource(sections_.Gps.NmeaSource)) ShowNote();
+}
+
 void NmeaReader::ReadNmea() {
   const bool was_fresh = FixIsFresh();
   ReadSentences();
@@ -135,16 +139,27 @@ bool NmeaReader::FixIsFresh() const {
   return sections_.Gps.GpsFixValid == 1 || sections_.Gps.GpsFixValidBefore == 1;
 }
 
+std::string NmeaReader::NoteWords() const {
+  if (IsNoNmeaSource(sections_.Gps.NmeaSource)) {
+    return gps_texts::kNoSource.With({Trim(sections_.Gps.NmeaSource)});
+  }
+  if (!tools_.Source.IsThere()) return {};
+  const std::string words = last_position_
+                                ? gps_texts::kNoPositionSince.With({ClockText(*last_position_)})
+                                : std::string(gps_texts::kNoPositionYet);
+  const std::string trouble = tools_.Source.Trouble();
+  return trouble.empty() ? words : gps_texts::kWithTrouble.With({words, trouble});
+}
+
 void NmeaReader::ShowNote() {
   Label& note = controls_.Gps.GpsNote;
   note.Visible = false;
-  if (controls_.Gps.GpsInfo.Visible) closed_note_.clear();
-  if (controls_.Gps.GpsInfo.Visible || !tools_.Source.IsThere()) return;
-  std::string words = last_position_
-                          ? gps_texts::kNoPositionSince.With({ClockText(*last_position_)})
-                          : std::string(gps_texts::kNoPositionYet);
-  const std::string trouble = tools_.Source.Trouble();
-  if (!trouble.empty()) words = gps_texts::kWithTrouble.With({words, trouble});
+  if (controls_.Gps.GpsInfo.Visible) {
+    closed_note_.clear();
+    return;
+  }
+  const std::string words = NoteWords();
+  if (words.empty()) return;
   note.Caption = words;
   note.Visible = words != closed_note_;
 }

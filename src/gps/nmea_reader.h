@@ -54,6 +54,8 @@ class NmeaReader {
   NmeaReader(const NmeaReader&) = delete;
   NmeaReader& operator=(const NmeaReader&) = delete;
 
+  // The start of the run: of a setting that can be no source no tick will tell.
+  void Begin();
   // Once a tick. Whatever can't be read leaves the old position.
   void ReadNmea();
 
@@ -71,6 +73,7 @@ class NmeaReader {
   bool MapIsLeftAlone() const;
   void GoToOwnPosition();
   bool FixIsFresh() const;
+  std::string NoteWords() const;
   void ShowNote();
 
   NmeaSections sections_;

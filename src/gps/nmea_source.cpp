@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cassert>
 #include <limits>
+#include <utility>
 
 #include "core/port_number.h"
 #include "core/text_fields.h"
@@ -27,6 +28,23 @@ std::string WithLineEnds(std::string_view text) {
   return lines;
 }
 
+// Of a text without a number in front.
+bool IsFileName(std::string_view source) {
+  const std::string_view name = Trim(source);
+  return name.size() >= kShortestFileName && InStr(Upper(name), "SAVE") == 0;
+}
+
+bool MeansFile(std::string_view source) {
+  return Val(source) == 0.0 && IsFileName(source);
+}
+
+bool HoldsSentences(std::string_view lines) {
+  for (const std::string_view word : {"RMC,", "GGA,", "GLL,", "\n$"}) {
+    if (lines.find(word) != std::string_view::npos) return true;
+  }
+  return lines.starts_with('$');
+}
+
 // Seconds since a file was changed; endless when its stamp lies in the future, as of another
 // computer's clock.
 double AgeOf(const FileStamp& stamp, const Clock& clock) {
@@ -42,6 +60,12 @@ bool IsDevice(const Files& disk, const std::string& path) {
 }
 
 }  // namespace
+
+bool IsNoNmeaSource(std::string_view setting) {
+  const std::string_view source = Trim(setting);
+  if (source.empty() || source.starts_with('0') || MeansFile(source)) return false;
+  return !(Val(source) > 0.0) && PortNumberOfText(source).value_or(0) == 0;
+}
 
 NmeaSource::NmeaSource(GpsState& gps, SerialPort& port, Files& disk, const Clock& clock)
     : gps_(gps), port_(port), disk_(disk), clock_(clock) {
@@ -65,21 +89,15 @@ std::string NmeaSource::FindPort() const {
   const std::string source(Trim(gps_.NmeaSource));
   if (const double number = Val(source); number > 0.0) return ShortNumber(Fix(number));
   if (const auto number = PortNumberOfText(source); number && *number > 0) return source;
-  if (!IsFile()) return {};
+  if (!IsFileName(source)) return {};
   const bool is_path = source.find_first_of("/\\:") != std::string::npos;
   const bool is_device = is_path ? source.starts_with(kDeviceFolder) || IsDevice(disk_, source)
                                  : IsDevice(disk_, std::string(kDeviceFolder) + source);
   return is_device ? source : std::string();
 }
 
-// Of a text without a number in front.
-bool NmeaSource::IsFile() const {
-  const std::string_view source = Trim(gps_.NmeaSource);
-  return source.size() >= kShortestFileName && InStr(Upper(source), "SAVE") == 0;
-}
-
 bool NmeaSource::IsThere() const {
-  return !PortText().empty() || (Val(gps_.NmeaSource) == 0.0 && IsFile());
+  return !PortText().empty() || MeansFile(gps_.NmeaSource);
 }
 
 int NmeaSource::Baud() const {
@@ -159,32 +177,42 @@ double NmeaSource::SecondsSinceItWasSaid(std::size_t place) const {
 
 // ---- File -------------------------------------------------------------------------------------
 
-void NmeaSource::TakeFile() {
+bool NmeaSource::CameLately() const {
+  constexpr double kLately = 60.0;
+  return !arrivals_.empty() && clock_.MonotonicSeconds() - arrivals_.back().CameAt <= kLately;
+}
+
+NmeaSource::FileText NmeaSource::ReadFile(const std::string& path) const {
   // As many as fill the buffer when their line ends have become two characters.
   constexpr std::int64_t kEnough = 2 * GpsState::kLongestBuffer;
-  const std::string path(Trim(gps_.NmeaSource));
-  file_trouble_.clear();
   const auto found = disk_.Stamp(path);
-  // Nothing was dropped, or its writer has only begun.
-  if (!found || (found->IsRegular && found->Size == 0)) return;
-  if (!found->IsRegular) {
-    file_trouble_ = gps_texts::kNoFile.With({path});
-    return;
-  }
+  // Between two files there is none.
+  if (!found && CameLately()) return {};
+  if (!found) return {{}, {}, gps_texts::kFileAbsent.With({path})};
+  if (!found->IsRegular) return {{}, {}, gps_texts::kNoFile.With({path})};
   const auto from = std::max<std::int64_t>(found->Size - kEnough, 0);
   const auto text = disk_.ReadRange(path, from, kEnough);
-  if (!text) {
-    file_trouble_ = gps_texts::kFileUnread.With({path});
-    return;
-  }
-  // One that has changed meanwhile is still being written: it is taken at the next tick.
-  if (disk_.Stamp(path) != found) return;
+  if (!text) return {{}, {}, gps_texts::kFileUnread.With({path})};
+  // One that has changed meanwhile, or is empty, is still being written: it is taken at the next
+  // tick.
+  if (text->empty() || disk_.Stamp(path) != found) return {};
+  // It may be of value to somebody.
+  std::string lines = WithLineEnds(*text);
+  if (!HoldsSentences(lines)) return {{}, {}, gps_texts::kNoSentences.With({path})};
+  return {std::move(lines), *found, {}};
+}
+
+void NmeaSource::TakeFile() {
+  const std::string path(Trim(gps_.NmeaSource));
+  const FileText read = ReadFile(path);
+  file_trouble_ = read.Trouble;
+  if (read.Text.empty()) return;
   // What stayed would be read at every tick, and its position never grow old.
   if (!disk_.Remove(path)) {
     file_trouble_ = gps_texts::kFileStays.With({path});
     return;
   }
-  Add(WithLineEnds(*text), AgeOf(*found, clock_));
+  Add(read.Text, AgeOf(read.Stamp, clock_));
   gps_.GpsTimeValid = 1;
 }
 

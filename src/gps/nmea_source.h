@@ -3,8 +3,9 @@
 //
 // The setting is a port's number ("3", "3 SAVE", "COM3"), a device ("/dev/ttyACM0"), or a file
 // ("C:\GPS.TXT"). A text without a number in front is none of these with the word SAVE in it or up
-// to three characters. Only an ordinary file is a file: it is read and removed. A device that is
-// lost is tried again every ten seconds by a timer, never another one in its place.
+// to three characters. Only an ordinary file in which sentences stand is a file: it is read and
+// removed. A device that is lost is tried again every ten seconds by a timer, never another one in
+// its place.
 //
 // The buffer lives for the run; how old a piece of it is, is known for as long as it is held.
 #pragma once
@@ -22,6 +23,10 @@
 #include "platform/serial_port.h"
 
 namespace zepril {
+
+// True for a setting that is meant as a source and can be none, like "ABC" and "GPSSAVE.TXT". An
+// empty one and one with 0 in front switch the GPS off.
+bool IsNoNmeaSource(std::string_view setting);
 
 class NmeaSource {
  public:
@@ -58,10 +63,18 @@ class NmeaSource {
   // a port once in this run is no file any more.
   std::string PortText() const;
   std::string FindPort() const;
-  bool IsFile() const;
   int Baud() const;
   void Drain();
   void TakeFile();
+  // The file's text, and what it is about it that it can't be taken; nothing of both when it is to
+  // be looked at again.
+  struct FileText {
+    std::string Text;
+    FileStamp Stamp;
+    std::string Trouble;
+  };
+  FileText ReadFile(const std::string& path) const;
+  bool CameLately() const;
   // `age`: seconds since it was said.
   void Add(std::string_view text, double age);
 

@@ -51,7 +51,10 @@ StartSteps StartOrder(StationRooms& rooms) {
     if (open) rooms.Gateway.Digipeater.Begin();
     return open;
   };
-  start.OpenGpsPort = [&rooms] { rooms.Gps.Source.Open(); };
+  start.OpenGpsPort = [&rooms] {
+    rooms.Gps.Source.Open();
+    rooms.Gps.Reader.Begin();
+  };
   start.RestoreTracksPlacesAndChat = [&rooms] {
     rooms.Gps.Tracks.RestoreAtStart();
     rooms.Viewers.Places.RestoreAtStart();

@@ -36,11 +36,39 @@ TEST(NmeaSourceSetting, ANumberInFrontIsAPort) {
 }
 
 TEST(NmeaSourceSetting, NothingIsOpenedWithoutASource) {
-  for (const char* setting : {"", "0", "0 SAVE", "ABC", "XSAVE", "GPSSAVE.TXT", "-3"}) {
+  for (const char* setting : {"", " ", "0", "00", "0 SAVE"}) {
     GpsWorld world(setting);
     EXPECT_FALSE(world.Port.IsOpen()) << setting;
     EXPECT_FALSE(world.Source.IsThere()) << setting;
+    EXPECT_FALSE(IsNoNmeaSource(setting)) << setting;
+    world.Reader.Begin();
     world.Tick();
+    EXPECT_FALSE(world.Controls.GpsNote.Visible) << setting;
+  }
+}
+
+TEST(NmeaSourceSetting, OneThatCanBeNoSourceIsToldFromTheStart) {
+  for (const std::string setting :
+       {"ABC", "XSAVE", "GPSSAVE.TXT", "-3", "-3 SAVE", R"(C:\SAVED\GPS.TXT)", "ABC SAVE"}) {
+    GpsWorld world(" " + setting);
+    EXPECT_FALSE(world.Port.IsOpen()) << setting;
+    EXPECT_FALSE(world.Source.IsThere()) << setting;
+    EXPECT_TRUE(IsNoNmeaSource(setting)) << setting;
+    world.Reader.Begin();
+    EXPECT_TRUE(world.Controls.GpsNote.Visible) << setting;
+    EXPECT_EQ(world.Controls.GpsNote.Caption, "GPS: " + setting + " is neither a port nor a file.");
+    world.Controls.GpsNote.Click();
+    world.Tick();
+    EXPECT_FALSE(world.Controls.GpsNote.Visible) << setting;
+  }
+}
+
+TEST(NmeaSourceSetting, WhatIsASourceIsNotTalkedOfAtTheStart) {
+  for (const char* setting :
+       {"3", "3 SAVE", "COM5", R"(C:\GPS.TXT)", "/dev/ttyACM0", "ttyUSB7", "0GPS.TXT"}) {
+    GpsWorld world(setting);
+    EXPECT_FALSE(IsNoNmeaSource(setting)) << setting;
+    world.Reader.Begin();
     EXPECT_FALSE(world.Controls.GpsNote.Visible) << setting;
   }
 }
@@ -188,7 +216,7 @@ TEST(NmeaPort, ADeviceWhoseNameGoesWithItIsNoFileMeanwhile) {
   port.Vanish();
   port.Why = "gone";
   disk.Devices.clear();
-  disk.Write("/tmp/gps", "one\n");
+  disk.Write("/tmp/gps", "$one\n");
   EXPECT_FALSE(Takes(source, gps));
   EXPECT_EQ(source.Trouble(), "gone");
   EXPECT_TRUE(disk.Exists("/tmp/gps"));
@@ -201,41 +229,41 @@ TEST(NmeaFile, IsConsumedAndMakesTheTimeValid) {
   EXPECT_FALSE(world.Port.IsOpen());
   EXPECT_FALSE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.GpsTimeValid, 0);
-  world.Disk.Write(kFile, "one\ntwo\r\n\rthree");
+  world.Disk.Write(kFile, "$one\ntwo\r\n\rthree");
   EXPECT_TRUE(Takes(world.Source, world.Gps));
-  EXPECT_EQ(world.Gps.NmeaBuffer, "one\r\ntwo\r\n\r\nthree\r\n");
+  EXPECT_EQ(world.Gps.NmeaBuffer, "$one\r\ntwo\r\n\r\nthree\r\n");
   EXPECT_FALSE(world.Disk.Exists(kFile));
   EXPECT_EQ(world.Gps.GpsTimeValid, 1);
-  world.Disk.Write(kFile, "four\n");
+  world.Disk.Write(kFile, "$four\n");
   EXPECT_TRUE(Takes(world.Source, world.Gps));
-  EXPECT_EQ(world.Gps.NmeaBuffer, "one\r\ntwo\r\n\r\nthree\r\nfour\r\n");
+  EXPECT_EQ(world.Gps.NmeaBuffer, "$one\r\ntwo\r\n\r\nthree\r\n$four\r\n");
 }
 
 TEST(NmeaFile, OfALongOneTheEndCounts) {
   GpsWorld world(kFile);
   std::string text;
   for (int line = 0; line < 100000; ++line)
-    text += "0123456789\n";
+    text += "$123456789\n";
   world.Disk.Write(kFile, text + "end");
   EXPECT_TRUE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.NmeaBuffer.size(), GpsState::kLongestBuffer);
-  EXPECT_TRUE(world.Gps.NmeaBuffer.ends_with("\r\n0123456789\r\nend\r\n"));
-  world.Disk.Write(kFile, std::string(5000, '\n'));
+  EXPECT_TRUE(world.Gps.NmeaBuffer.ends_with("\r\n$123456789\r\nend\r\n"));
+  world.Disk.Write(kFile, std::string(5000, '\n') + "$");
   EXPECT_TRUE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.NmeaBuffer.size(), GpsState::kLongestBuffer);
-  EXPECT_EQ(world.Gps.NmeaBuffer.find_first_not_of("\r\n"), std::string::npos);
+  EXPECT_EQ(world.Gps.NmeaBuffer.find_first_not_of("\r\n"), GpsState::kLongestBuffer - 3);
 }
 
 TEST(NmeaFile, OneThatGrowsWhileItIsReadIsTakenAtTheNextTick) {
   GpsWorld world(kFile);
-  world.Disk.Write(kFile, "one\n");
+  world.Disk.Write(kFile, "$one\n");
   world.Disk.OnReadRange = [&] { world.Disk.Append(kFile, "two\n"); };
   EXPECT_FALSE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.NmeaBuffer, "");
-  EXPECT_EQ(world.Disk.Of(kFile), "one\ntwo\n");
+  EXPECT_EQ(world.Disk.Of(kFile), "$one\ntwo\n");
   world.Disk.OnReadRange = nullptr;
   EXPECT_TRUE(Takes(world.Source, world.Gps));
-  EXPECT_EQ(world.Gps.NmeaBuffer, "one\r\ntwo\r\n");
+  EXPECT_EQ(world.Gps.NmeaBuffer, "$one\r\ntwo\r\n");
 }
 
 TEST(NmeaFile, AnEmptyOneIsLeftToItsWriter) {
@@ -248,7 +276,7 @@ TEST(NmeaFile, AnEmptyOneIsLeftToItsWriter) {
 
 TEST(NmeaFile, OneThatCannotBeRemovedIsNotReadAgainAndAgain) {
   GpsWorld world(kFile);
-  world.Disk.Write(kFile, "one\n");
+  world.Disk.Write(kFile, "$one\n");
   world.Disk.NothingIsRemoved = true;
   EXPECT_FALSE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Gps.NmeaBuffer, "");
@@ -258,7 +286,7 @@ TEST(NmeaFile, OneThatCannotBeRemovedIsNotReadAgainAndAgain) {
 
 TEST(NmeaFile, OneThatCannotBeReadStays) {
   GpsWorld world(kFile);
-  world.Disk.Write(kFile, "one\n");
+  world.Disk.Write(kFile, "$one\n");
   world.Disk.UnreadableEnding = "GPS.TXT";
   EXPECT_FALSE(Takes(world.Source, world.Gps));
   EXPECT_TRUE(world.Disk.Exists(kFile));
@@ -266,6 +294,47 @@ TEST(NmeaFile, OneThatCannotBeReadStays) {
   world.Disk.UnreadableEnding.clear();
   EXPECT_TRUE(Takes(world.Source, world.Gps));
   EXPECT_EQ(world.Source.Trouble(), "");
+}
+
+TEST(NmeaFile, OneWithoutSentencesIsLeftAloneAndTold) {
+  GpsWorld world(kFile);
+  for (const std::string& text :
+       {std::string("my letters\n"), std::string("\n"), std::string("\0\x01\x02", 3),
+        std::string("costs 5$\nRMC\n"), GgaLine("1") + std::string(6000, '.')}) {
+    world.Disk.Write(kFile, text);
+    world.Tick();
+    EXPECT_EQ(world.Disk.Of(kFile), text);
+    EXPECT_EQ(world.Gps.NmeaBuffer, "");
+    EXPECT_EQ(world.Gps.GpsTimeValid, 0);
+    EXPECT_EQ(world.Controls.GpsNote.Caption,
+              R"(GPS: no position yet   C:\GPS.TXT holds no NMEA sentences, and is left alone.)");
+  }
+}
+
+TEST(NmeaFile, AWordOfASentenceOrADollarAtTheBeginningOfALineIsEnough) {
+  for (const char* text :
+       {"RMC,1\n", "GPGGA,1\n", "xGLL,\n", "$GPGSV,1\n", "a\n$PGRME\n", "a\r$\n"}) {
+    GpsWorld world(kFile);
+    world.Disk.Write(kFile, text);
+    EXPECT_TRUE(Takes(world.Source, world.Gps)) << text;
+    EXPECT_FALSE(world.Disk.Exists(kFile)) << text;
+    EXPECT_EQ(world.Source.Trouble(), "") << text;
+  }
+}
+
+TEST(NmeaFile, OneThatIsNotThereIsNamedUnlessItCameInTheLastMinute) {
+  GpsWorld world(kFile);
+  const std::string absent = R"(C:\GPS.TXT is not there.)";
+  world.Tick();
+  EXPECT_EQ(world.Controls.GpsNote.Caption, "GPS: no position yet   " + absent);
+  world.Disk.Write(kFile, GgaLine("1"));
+  world.Tick();
+  EXPECT_EQ(world.Controls.GpsNote.Caption, "GPS: no position yet");
+  world.Clock.Run(60.0);
+  world.Source.Take();
+  EXPECT_EQ(world.Source.Trouble(), "");
+  world.Tick();
+  EXPECT_EQ(world.Controls.GpsNote.Caption, "GPS: no position yet   " + absent);
 }
 
 TEST(NmeaFile, AFolderIsNone) {

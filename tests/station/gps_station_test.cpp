@@ -194,6 +194,15 @@ TEST(GpsStationTest, WithoutASourceNothingIsOpenedOrSaid) {
   EXPECT_FALSE(station.Controls().Gps.GpsInfo.Visible);
 }
 
+TEST(GpsStationTest, ASourceThatCanBeNoneIsToldThroughTheRun) {
+  GpsStation station("NMEA=ABC\r\n");
+  ASSERT_TRUE(station.Start());
+  EXPECT_TRUE(station.Controls().Gps.GpsNote.Visible);
+  EXPECT_EQ(station.Controls().Gps.GpsNote.Caption, "GPS: ABC is neither a port nor a file.");
+  station.Ticks(3);
+  EXPECT_TRUE(station.Controls().Gps.GpsNote.Visible);
+}
+
 TEST(GpsStationTest, DatesAndClockJumpsLeaveTheDriveAlone) {
   for (const LocalTime& begin :
        {LocalTime{2024, 2, 28, 23, 59, 30}, LocalTime{2023, 12, 31, 23, 59, 30},

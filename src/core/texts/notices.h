@@ -60,6 +60,8 @@ inline constexpr Text kPortClosed{"%1 can't be opened."};
 inline constexpr Text kCallWanted{"your call sign, 3 characters or more"};
 inline constexpr Text kNoDevice{"no serial device is there"};
 inline constexpr Text kPortNumbers{"port numbers go from 1 to %1"};
+inline constexpr Text kNoGpsSource{
+    "neither a port nor a file (4 characters or more, without SAVE)"};
 inline constexpr Text kSpeedIsNumber{"the speed is a number, such as 9600"};
 inline constexpr Text kPortIsNumber{"the port is a number"};
 

@@ -9,6 +9,7 @@
 #include "core/port_number.h"
 #include "core/text_fields.h"
 #include "core/texts/notices.h"
+#include "gps/nmea_source.h"
 #include "station/start/port_choice.h"
 
 namespace zepril {
@@ -60,6 +61,7 @@ void GpsFields::Show() {
                              0, 1) == 1;
   controls_.SetClockBox.Value = sets_clock_ ? 1 : 0;
   ReadDevices();
+  TellOfSource();
 }
 
 void GpsFields::DeviceListOpens() {
@@ -71,9 +73,15 @@ void GpsFields::DeviceListOpens() {
 void GpsFields::SourceChanged() {
   controls_.GpsFault.Caption.clear();
   devices_.TakeChosenRow();
+  TellOfSource();
+}
+
+void GpsFields::TellOfSource() {
   const auto number = PortNumberOfText(PartsOf(controls_.Text6.Text).Front);
   if (number && *number != 0 && !IsPortNumber(*number)) {
     controls_.GpsFault.Caption = notices::kPortNumbers.With({WholeNumber(kHighestPortNumber)});
+  } else if (IsNoNmeaSource(Choice().Source)) {
+    controls_.GpsFault.Caption = notices::kNoGpsSource;
   }
 }
 

@@ -46,6 +46,7 @@ class GpsFields {
  private:
   int NumberForDevice(const std::string& device) const;
   void SourceChanged();
+  void TellOfSource();
   void SpeedChanged();
 
   StartPanelControls& controls_;

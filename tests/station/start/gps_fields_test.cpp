@@ -81,6 +81,24 @@ TEST_F(GpsFieldsTest, WhatCantBeIsMarkedWhileItIsTyped) {
   EXPECT_EQ(panel->Controls.GpsFault.Caption, "");
 }
 
+TEST_F(GpsFieldsTest, ASourceThatCanBeNoneIsMarked) {
+  const std::string fault = "neither a port nor a file (4 characters or more, without SAVE)";
+  const auto panel = PanelOf("MODEM=4\r\nNMEA=ABC\r\n");
+  EXPECT_EQ(panel->Controls.GpsFault.Caption, fault);
+  for (const char* good : {"3", "3 SAVE", "COM3 SAVE", "ttyUSB0", "ttyUSB0 SAVE", "/dev/ttyACM0",
+                           "/dev/ttyACM0 SAVE", "C:\\GPS.TXT", "0"}) {
+    TypeGps(*panel, good);
+    EXPECT_EQ(panel->Controls.GpsFault.Caption, "") << good;
+  }
+  for (const char* bad : {"AB", "-3", "C:\\GPS.TXT SAVE", "C:\\SAVED\\GPS.TXT"}) {
+    TypeGps(*panel, bad);
+    EXPECT_EQ(panel->Controls.GpsFault.Caption, fault) << bad;
+  }
+  // It is no reason not to start.
+  panel->Controls.Command1.Click();
+  EXPECT_EQ(starts, 1);
+}
+
 TEST_F(GpsFieldsTest, TheListOffersTheDevicesThatAreThere) {
   const auto panel = PanelOf("MODEM=4\r\n");
   EXPECT_EQ(panel->Controls.Text6.Items, (Lines{"/dev/ttyUSB0   FTDI FT232R", "/dev/ttyS0"}));
