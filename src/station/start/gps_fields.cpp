@@ -2,6 +2,7 @@
 #include "station/start/gps_fields.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "config/ports_file.h"
@@ -18,12 +19,6 @@ namespace {
 constexpr const char* kUsualSpeed = "4800";
 constexpr int kUsualNumber = 4;  // those below are the modems' by default
 
-// A setting as its port or file, and the rest: "3 SAVE" is "3" and " SAVE".
-struct SourceParts {
-  std::string Front;
-  std::string Rest;
-};
-
 SourceParts PartsOf(std::string_view source) {
   constexpr std::string_view kSave = "SAVE";
   const std::string text(Trim(source));
@@ -36,6 +31,13 @@ SourceParts PartsOf(std::string_view source) {
 double NumberOf(const std::string& source) {
   const std::string front = PartsOf(source).Front;
   return PortNumberOfText(front).value_or(std::max(Val(front), 0.0));
+}
+
+// "5 SAVE" of "COM5 SAVE"; nothing without the word, and of what is no number of a port.
+std::optional<std::string> PortAndRest(const SourceParts& parts) {
+  const int number = PortNumberOfText(parts.Front).value_or(0);
+  if (parts.Rest.empty() || number == 0) return std::nullopt;
+  return WholeNumber(number) + parts.Rest;
 }
 
 }  // namespace
@@ -98,10 +100,15 @@ GpsChoice GpsFields::Choice() const {
   const std::string& held = settings_.Values.Gps.NmeaSource;
   if (typed.empty() || typed == shown_) return {held, NumberOf(held), {}};
   const SourceParts parts = PartsOf(typed);
-  if (!devices_.IsDevice(parts.Front)) return {typed, NumberOf(typed), {}};
+  if (!IsDevice(parts)) return {PortAndRest(parts).value_or(typed), NumberOf(typed), {}};
   const std::string device = devices_.StableName(parts.Front);
   const int number = NumberForDevice(device);
   return {WholeNumber(number) + parts.Rest, static_cast<double>(number), device};
+}
+
+// With the word behind it only a port can be meant: a device that is not plugged in yet, too.
+bool GpsFields::IsDevice(const SourceParts& parts) const {
+  return devices_.IsDevice(parts.Front) || (!parts.Rest.empty() && parts.Front.starts_with("tty"));
 }
 
 // The number that the GPS has, else one that means nothing else.

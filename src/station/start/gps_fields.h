@@ -22,6 +22,12 @@ struct GpsChoice {
   std::string DeviceKept;  // to be kept for the number; empty: nothing is to be kept
 };
 
+// A setting as its port or file, and the rest: "3 SAVE" is "3" and " SAVE".
+struct SourceParts {
+  std::string Front;
+  std::string Rest;
+};
+
 class GpsFields {
  public:
   // Sets the events of the fields; the object must outlive them.
@@ -44,6 +50,7 @@ class GpsFields {
   bool StoreClockBox();
 
  private:
+  bool IsDevice(const SourceParts& parts) const;
   int NumberForDevice(const std::string& device) const;
   void SourceChanged();
   void TellOfSource();

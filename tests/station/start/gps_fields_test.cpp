@@ -130,6 +130,30 @@ TEST_F(GpsFieldsTest, AChosenDeviceIsKeptByItsLastingNameUnderANumberOfItsOwn) {
   EXPECT_EQ(MakePanel()->Controls.Text6.Text, "/dev/ttyS0 SAVE");
 }
 
+TEST_F(GpsFieldsTest, APortWithTheWordBehindItIsKeptAsItsNumberAndTheWord) {
+  for (const auto& [typed, stored] :
+       {std::pair{"COM5 SAVE", "5 SAVE"}, std::pair{"com 5save", "5save"},
+        std::pair{"12 SAVE", "12 SAVE"}, std::pair{"COM99999 SAVE", "COM99999 SAVE"}}) {
+    const auto panel = PanelOf("MODEM=4\r\n");
+    TypeGps(*panel, typed);
+    panel->Controls.Command1.Click();
+    EXPECT_TRUE(Has("NMEA=" + std::string(stored))) << typed;
+    EXPECT_EQ(MakePanel()->Controls.Text6.Text, stored);
+  }
+  EXPECT_EQ(Ports(), "(none)");
+  const auto panel = PanelOf("MODEM=4\r\n");
+  TypeGps(*panel, "ttyUSB0 SAVE");
+  panel->Controls.Command1.Click();
+  EXPECT_TRUE(Has("NMEA=4 SAVE"));
+  EXPECT_EQ(Ports(), "COM4=/dev/serial/by-id/usb-FTDI_A1-if00\r\n");
+  // One that is not plugged in.
+  const auto next = MakePanel();
+  TypeGps(*next, "ttyACM3 SAVE");
+  next->Controls.Command1.Click();
+  EXPECT_TRUE(Has("NMEA=4 SAVE"));
+  EXPECT_EQ(Ports(), "COM4=/dev/ttyACM3\r\n");
+}
+
 TEST_F(GpsFieldsTest, TheModemsNumberIsNeverTakenForTheGps) {
   const auto panel = PanelOf("MODEM=4\r\nSCOMP=4\r\nCOM=5\r\nNMEA=4\r\n");
   files.Write("C:\\Z\\PORTS.TXT", "COM4=/dev/ttyUSB9\r\nCOM6=/dev/ttyUSB8\r\n");
