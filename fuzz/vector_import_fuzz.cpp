@@ -11,6 +11,8 @@
 #include "gps/line_files.h"
 #include "gps/vector_import.h"
 #include "tests/doubles/memory_files.h"
+#include "tests/doubles/recorded_progress.h"
+#include "tests/doubles/virtual_clock.h"
 
 namespace {
 
@@ -82,7 +84,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const Lines vectors = LinesIn(disk, kVectors);
   const Lines track = LinesIn(disk, kTrack);
   const zepril::MemoryFiles before = disk;
-  zepril::ImportVectorFiles(disk, "P");
+  const zepril::VirtualClock clock;
+  zepril::RecordedProgress progress;
+  zepril::ImportVectorFiles(disk, "P", clock, progress);
   if (disk.Exists(kVectors)) {
     Require(disk.Contents == before.Contents);
   } else {

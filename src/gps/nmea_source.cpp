@@ -3,12 +3,12 @@
 
 #include <algorithm>
 #include <cassert>
-#include <limits>
 #include <utility>
 
 #include "core/port_number.h"
 #include "core/text_fields.h"
 #include "core/texts/gps_texts.h"
+#include "gps/file_age.h"
 
 namespace zepril {
 namespace {
@@ -43,15 +43,6 @@ bool HoldsSentences(std::string_view lines) {
     if (lines.find(word) != std::string_view::npos) return true;
   }
   return lines.starts_with('$');
-}
-
-// Seconds since a file was changed; endless when its stamp lies in the future, as of another
-// computer's clock.
-double AgeOf(const FileStamp& stamp, const Clock& clock) {
-  constexpr double kNsPerSecond = 1e9;
-  const std::int64_t age_ns = clock.FileTimeNs() - stamp.ModifiedNs;
-  return age_ns < 0 ? std::numeric_limits<double>::infinity()
-                    : static_cast<double>(age_ns) / kNsPerSecond;
 }
 
 bool IsDevice(const Files& disk, const std::string& path) {
@@ -212,7 +203,7 @@ void NmeaSource::TakeFile() {
     file_trouble_ = gps_texts::kFileStays.With({path});
     return;
   }
-  Add(read.Text, AgeOf(read.Stamp, clock_));
+  Add(read.Text, SecondsSinceChange(read.Stamp, clock_));
   gps_.GpsTimeValid = 1;
 }
 

@@ -11,6 +11,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/progress.h"
+#include "platform/clock.h"
 #include "platform/files.h"
 
 namespace zepril {
@@ -50,11 +52,15 @@ bool MergeWay(const NextLine& way, std::string_view line, const PutLine& put);
 // eight characters.
 std::string TrackNameOfVectors(std::string_view file_name);
 
-// All files of vectors under the program folder, at most kMostVectorFiles. Errors pass in silence:
-// a file that could not be taken over whole stays for the next time.
+// All files of vectors under the program folder, at most kMostVectorFiles of them. Errors pass in
+// silence: a file that could not be taken over whole stays for the next time, and so does one that
+// is empty, was changed less than kSettledSeconds ago, or is changed meanwhile: it is still being
+// written. The import tells how far it is, and ends early when the program is to end.
 inline constexpr int kMostVectorFiles = 200;
+inline constexpr double kSettledSeconds = 60.0;
 // Neither files of vectors nor tracks and ways beyond this size (bytes) are touched.
 inline constexpr std::int64_t kLargestMerge = std::int64_t{256} << 20;
-void ImportVectorFiles(Files& disk, const std::string& program_folder);
+void ImportVectorFiles(Files& disk, const std::string& program_folder, const Clock& clock,
+                       Progress& progress);
 
 }  // namespace zepril

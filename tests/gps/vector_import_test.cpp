@@ -4,14 +4,17 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "core/text_fields.h"
 #include "platform/native/native_files.h"
 #include "tests/doubles/memory_files.h"
+#include "tests/doubles/recorded_progress.h"
 #include "tests/doubles/size_limit.h"
 #include "tests/doubles/temp_folder.h"
+#include "tests/doubles/virtual_clock.h"
 
 namespace zepril {
 namespace {
@@ -141,7 +144,7 @@ class VectorImportTest : public ::testing::Test {
     disk.MakeFolder("C:\\ZEPRIL\\U33\\TRK");
     disk.MakeFolder("C:\\MAP\\U33");
   }
-  void Import() { ImportVectorFiles(disk, kProgram); }
+  void Import() { ImportVectorFiles(disk, kProgram, clock, progress); }
   std::string Of(const std::string& path) const {
     return disk.ReadAll(path, std::size_t{64} << 20).value_or("(missing)");
   }
@@ -154,6 +157,9 @@ class VectorImportTest : public ::testing::Test {
   const std::string outing = "5390  415 240514 1300 OUT_A  OUTDOOR_ACT TK20240514.VEC\r\n";
   TempFolder folder;
   NativeFiles disk{folder.Path()};
+  // Years before the files: their age is not known, and they are taken.
+  VirtualClock clock;
+  RecordedProgress progress;
 };
 
 TEST_F(VectorImportTest, AnOutingBecomesACopyALineOfTheWayAndATrack) {
@@ -196,7 +202,7 @@ TEST_F(VectorImportTest, WithoutTheNavigationProgramOnlyTheTrackIsMerged) {
 }
 
 TEST_F(VectorImportTest, TheFolderOfTheUsualInstallationIsMadeWhenThereIsNone) {
-  ImportVectorFiles(disk, "C:\\ELSEWHERE");
+  ImportVectorFiles(disk, "C:\\ELSEWHERE", clock, progress);
   EXPECT_TRUE(disk.Exists("C:\\ZEPRIL\\U33\\VEC"));
   EXPECT_FALSE(disk.Exists("C:\\ELSEWHERE"));
 }
@@ -290,14 +296,106 @@ TEST_F(VectorImportTest, ATrackOfALineWithoutEndIsNotTouched) {
   EXPECT_EQ(Of(kVectors), vectors);
 }
 
-TEST_F(VectorImportTest, AtMostTwoHundredFilesAreTakenAtOnce) {
+TEST_F(VectorImportTest, AtMostTwoHundredFilesAreTakenAtOnceOthersNotCounted) {
   MemoryFiles many;
-  for (int file = 0; file < 205; ++file)
+  for (int file = 0; file < 205; ++file) {
     many.Contents["C:\\ZEPRIL\\U33\\VEC\\XX" + WholeNumber(20240000 + file) + ".VEC"] = vectors;
-  ImportVectorFiles(many, kProgram);
-  EXPECT_EQ(many.List("C:\\ZEPRIL\\U33\\VEC", "*.VEC").size(), 5U);
-  ImportVectorFiles(many, kProgram);
-  EXPECT_TRUE(many.List("C:\\ZEPRIL\\U33\\VEC", "*.VEC").empty());
+    many.Contents["C:\\ZEPRIL\\U33\\VEC\\AA" + WholeNumber(20240000 + file) + ".VEC"] = "<svg>\n";
+  }
+  ImportVectorFiles(many, kProgram, clock, progress);
+  EXPECT_EQ(many.List("C:\\ZEPRIL\\U33\\VEC", "X*.VEC").size(), 5U);
+  ImportVectorFiles(many, kProgram, clock, progress);
+  EXPECT_TRUE(many.List("C:\\ZEPRIL\\U33\\VEC", "X*.VEC").empty());
+  EXPECT_EQ(many.List("C:\\ZEPRIL\\U33\\VEC", "A*.VEC").size(), 205U);
+}
+
+// ---- Files that are being written, and an end meanwhile ---------------------------------------
+
+class GrowingVectorsTest : public ::testing::Test {
+ protected:
+  GrowingVectorsTest() {
+    disk.Contents[kVectors] = Point("1230") + kEnd;
+    disk.Folders.insert("C:\\MAP\\U33");
+  }
+  void Import() { ImportVectorFiles(disk, kProgram, clock, progress); }
+
+  MemoryFiles disk;
+  VirtualClock clock;
+  RecordedProgress progress;
+};
+
+TEST_F(GrowingVectorsTest, OneThatWasJustChangedOrIsEmptyIsLeftForTheNextTime) {
+  disk.ModifiedNs[kVectors] = clock.FileTimeNs();
+  clock.Run(59.0);
+  Import();
+  EXPECT_EQ(disk.Contents.size(), 1U);
+  clock.Run(1.0);
+  disk.Contents[kVectors] = "";
+  Import();
+  EXPECT_EQ(disk.Contents.size(), 1U);
+  disk.Contents[kVectors] = Point("1230") + kEnd;
+  Import();
+  EXPECT_FALSE(disk.Exists(kVectors));
+  EXPECT_EQ(disk.Of(kTrack), Point("1230") + kEnd);
+}
+
+TEST_F(GrowingVectorsTest, OneThatIsChangedMeanwhileStaysAndItsRestFollows) {
+  int reads = 0;
+  disk.OnReadRange = [&] {
+    if (++reads == 3) disk.Append(kVectors, Point("1231") + kEnd);
+  };
+  Import();
+  EXPECT_EQ(disk.Of(kVectors), Point("1230") + kEnd + Point("1231") + kEnd);
+  disk.OnReadRange = nullptr;
+  disk.Contents.erase(kCopy);
+  Import();
+  EXPECT_FALSE(disk.Exists(kVectors));
+  EXPECT_EQ(disk.Of(kTrack), Point("1230") + kEnd + Point("1231") + kEnd);
+}
+
+TEST_F(GrowingVectorsTest, AnEndThatIsAskedForLeavesTheRestAsItIs) {
+  std::string large;
+  for (int point = 0; point < 20000; ++point)
+    large += "\xFE 5378.123  412.345 " + WholeNumber(10000000 + point / 1440) + " " +
+             ZeroPadded(point % 1440, 4) + kEnd;
+  // Whenever it is asked for, nothing is half.
+  int reads_until_end = 0;
+  for (; disk.Exists(kVectors); ++reads_until_end) {
+    disk.Contents = {{kVectors, large}, {kTrack, Point("1229") + kEnd}};
+    clock.EndIsAsked = false;
+    int reads = 0;
+    disk.OnReadRange = [&] { clock.EndIsAsked = ++reads > reads_until_end; };
+    Import();
+    ASSERT_LT(reads_until_end, 1000);
+    if (!disk.Exists(kVectors)) break;
+    EXPECT_EQ(disk.Of(kTrack), Point("1229") + kEnd) << reads_until_end;
+    EXPECT_TRUE(!disk.Exists(kCopy) || disk.Of(kCopy) == large) << reads_until_end;
+    EXPECT_EQ(progress.Ended, reads_until_end + 1);
+  }
+  EXPECT_GE(reads_until_end, 10);
+  EXPECT_EQ(disk.Of(kTrack), large + Point("1229") + kEnd);
+}
+
+TEST_F(GrowingVectorsTest, NoFileIsBegunBehindAnEnd) {
+  disk.Contents["C:\\ZEPRIL\\U33\\VEC\\YY20240515.VEC"] = Point("1231") + kEnd;
+  clock.EndIsAsked = true;
+  Import();
+  EXPECT_EQ(disk.Contents.size(), 2U);
+}
+
+TEST_F(GrowingVectorsTest, TellsHowFarItIs) {
+  std::string large;
+  while (large.size() < 1'000'000)
+    large += Point("1230") + kEnd;
+  disk.Contents[kVectors] = large;
+  Import();
+  EXPECT_EQ(progress.What, "Taking over XX20240514.VEC");
+  EXPECT_EQ(progress.Ended, 1);
+  EXPECT_GE(progress.Shares.size(), 30U);
+  EXPECT_TRUE(std::is_sorted(progress.Shares.begin(), progress.Shares.end()));
+  EXPECT_EQ(progress.Shares.front(), 0.0);
+  EXPECT_GT(progress.Shares.back(), 0.9);
+  EXPECT_LE(progress.Shares.back(), 1.0);
 }
 
 }  // namespace

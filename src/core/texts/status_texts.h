@@ -79,6 +79,7 @@ inline constexpr Text kProgress{"%1  %2 %"};
 inline constexpr Text kTimeLeft{"  %1 s left"};
 inline constexpr Text kReadingTrack{"Reading track %1"};
 inline constexpr Text kReadingPlaces{"Reading places %1"};
+inline constexpr Text kTakingOver{"Taking over %1"};
 inline constexpr Text kModemWork{"MODEM SET-UP"};
 inline constexpr Text kTxSetupWork{"TX SETUP"};
 

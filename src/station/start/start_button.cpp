@@ -11,6 +11,7 @@
 #include "core/texts/status_texts.h"
 #include "gps/vector_import.h"
 #include "station/start/modem_set_up.h"
+#include "station/start/start_progress.h"
 
 namespace zepril {
 namespace {
@@ -50,7 +51,8 @@ void StartButton::Command1Click() {
   }
   SetUpModem();
   // With every interface: what outings have left behind.
-  ImportVectorFiles(settings_.Disk, settings_.ProgramFolder);
+  StartProgress progress(machine_.LocalClock, controls_);
+  ImportVectorFiles(settings_.Disk, settings_.ProgramFolder, machine_.LocalClock, progress);
   if (Started) Started();
 }
 

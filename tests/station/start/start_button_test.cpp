@@ -77,6 +77,17 @@ TEST_F(StartButtonTest, VectorsOfOutingsAreTakenOverWithEveryInterfaceBehindTheS
   }
 }
 
+TEST_F(StartButtonTest, AnEndThatIsAskedForBreaksTheTakingOverOff) {
+  const std::string vectors = "C:\\Z\\U33\\VEC\\XX20240514.VEC";
+  const auto panel = PanelOf("MODEM=4\r\n");
+  files.MakeFolder("C:\\Z\\U33\\VEC");
+  files.Write(vectors, "\xFE 5378.123  412.345 20240514 1230\r\n");
+  clock.EndIsAsked = true;
+  panel->Controls.Command1.Click();
+  EXPECT_TRUE(files.Exists(vectors));
+  EXPECT_FALSE(files.Exists("C:\\Z\\U33\\TRK\\20240514.TRK"));
+}
+
 TEST_F(StartButtonTest, TheWindowTellsHowFarTheSetUpIs) {
   const struct {
     const char* Mode;
