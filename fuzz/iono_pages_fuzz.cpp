@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/text_fields.h"
+#include "core/iono_numbers.h"
 #include "internet/iono_pages.h"
 
 namespace {

@@ -1,27 +1,11 @@
 // Opens the panel, checks the typed numbers, and redraws the circles.
 #include "internet/iono_input.h"
 
-#include <optional>
-#include <string_view>
-
+#include "core/iono_numbers.h"
 #include "core/keys.h"
-#include "core/text_fields.h"
 #include "core/texts/boxes.h"
-#include "internet/iono_pages.h"
 
 namespace zepril {
-namespace {
-
-// A typed number from 0 to `highest`; nothing for any other text.
-std::optional<double> NumberUpTo(std::string_view text, double highest) {
-  const std::string_view typed = Trim(text);
-  if (typed.empty() || !IsNumericField(typed)) return std::nullopt;
-  const double value = Val(typed);
-  if (!(value >= 0.0 && value <= highest)) return std::nullopt;
-  return value;
-}
-
-}  // namespace
 
 IonoInput::IonoInput(InternetState& internet, MapViewState& view, IonoControls& controls,
                      MapControls& map, IonoInputTools tools)

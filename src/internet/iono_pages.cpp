@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "core/iono_numbers.h"
 #include "core/text_fields.h"
 
 namespace zepril {

@@ -9,10 +9,6 @@
 
 namespace zepril {
 
-// What a sunspot number and a K index can be, from 0 on.
-inline constexpr double kHighestSunspotNumber = 400.0;
-inline constexpr double kHighestK = 9.0;
-
 struct IonoPageAValues {
   std::optional<double> KpIndex;
   std::optional<double> SunspotNumber;
