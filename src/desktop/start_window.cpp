@@ -126,6 +126,7 @@ QBoxLayout* StartWindow::StationColumn() {
   from_internet->setAutoDefault(false);
   ionosphere->addWidget(from_internet, 2, 1, Qt::AlignLeft);
   binder_.Bind(from_internet, c.Check8);
+  ionosphere->addWidget(FaultLabel(c.IonoFault), 3, 1);
   column->addSpacing(12);
   auto* server = new QPushButton;
   server->setAutoDefault(false);

@@ -137,9 +137,18 @@ void IonoUpdate::Updated(Text status) {
 
 // What one of the pages gave stays in use.
 void IonoUpdate::Failed() {
+  const std::string time = ClockText(tools_.LocalClock.Now());
   status_.Caption = iono_texts::kUpdateFailed;
-  status_.ToolTip = iono_texts::kNotAnswered.With({ClockText(tools_.LocalClock.Now())});
-  if (!internet_.IonoNeedSunspot || !internet_.IonoNeedK) RedrawCircles();
+  if (!internet_.IonoNeedK) {
+    status_.ToolTip = iono_texts::kOnlyKAnswered.With({time, ShortNumber(internet_.KpIndex)});
+  } else if (!internet_.IonoNeedSunspot) {
+    status_.ToolTip =
+        iono_texts::kOnlySunspotsAnswered.With({time, ShortNumber(internet_.SunspotNumber)});
+  } else {
+    status_.ToolTip = iono_texts::kNotAnswered.With({time});
+    return;
+  }
+  RedrawCircles();
 }
 
 void IonoUpdate::RedrawCircles() {

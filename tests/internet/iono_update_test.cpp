@@ -166,6 +166,26 @@ TEST_F(IonoUpdateTest, ADailyTextThatLacksAnythingFails) {
   EXPECT_EQ(Saves(), 0);
 }
 
+TEST_F(IonoUpdateTest, WhereOneOfBothCameTheWordsNameItAndTheOther) {
+  update.StartIonoUpdate();
+  pages.Answer(kK);
+  pages.Fail();
+  ExpectValues(40.0, 3.5);
+  EXPECT_EQ(Status(), "UPDATE FAILED");
+  EXPECT_EQ(status.IonoLabel.ToolTip,
+            "12:05: K 3.5. No sunspot number came, the one in use stays; the next update is in an "
+            "hour");
+  internet.KpIndex = 2.0;
+  update.StartIonoUpdate();
+  pages.Fail();
+  pages.Answer(kDay);
+  ExpectValues(101.0, 2.0);
+  EXPECT_EQ(Status(), "UPDATE FAILED");
+  EXPECT_EQ(status.IonoLabel.ToolTip,
+            "12:05: sunspot number 101. No K came, the one in use stays; the next update is in an "
+            "hour");
+}
+
 TEST_F(IonoUpdateTest, CirclesThatAreShownAreDrawnAnew) {
   update.StartIonoUpdate();
   pages.Answer(kK + kSunspots);

@@ -27,6 +27,7 @@ struct StartPanelControls {
   TextBox Text15;         // SUNSPOT(R)
   TextBox Text16;         // K
   CheckBox Check8;        // <- INET: both come from the internet
+  Label IonoFault;        // what is wrong with the two
   Button Command14;       // IGATE APRS-IS SETUP
   Frame AprsIsPanel;
   Label AprsIsWords;          // what it is for

@@ -23,4 +23,9 @@ inline constexpr Text kAnswered{"%1: sunspot number %2, K %3"};
 inline constexpr Text kNotAnswered{
     "%1: no answer, or a page without the numbers. The values stay; the next update is in an hour"};
 
+inline constexpr Text kOnlyKAnswered{
+    "%1: K %2. No sunspot number came, the one in use stays; the next update is in an hour"};
+inline constexpr Text kOnlySunspotsAnswered{
+    "%1: sunspot number %2. No K came, the one in use stays; the next update is in an hour"};
+
 }  // namespace zepril::iono_texts

@@ -63,6 +63,8 @@ inline constexpr Text kPortNumbers{"port numbers go from 1 to %1"};
 inline constexpr Text kNoGpsSource{
     "neither a port nor a file (4 characters or more, without SAVE)"};
 inline constexpr Text kSpeedIsNumber{"the speed is a number, such as 9600"};
+inline constexpr Text kSunspotsAre{"SUNSPOT(R): a number from 0 to 400"};
+inline constexpr Text kKIs{"K: a number from 0 to 9"};
 inline constexpr Text kPortIsNumber{"the port is a number"};
 
 // TX SETUP.

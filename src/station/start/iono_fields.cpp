@@ -4,7 +4,9 @@
 #include <cmath>
 #include <limits>
 
+#include "core/iono_numbers.h"
 #include "core/text_fields.h"
+#include "core/texts/notices.h"
 
 namespace zepril {
 namespace {
@@ -19,6 +21,8 @@ void TakeNumber(const TextBox& field, double& held) {
 IonoFields::IonoFields(StartPanelControls& controls, InternetState& held)
     : controls_(controls), held_(held) {
   controls_.Check8.Click = [this] { Follow(); };
+  controls_.Text15.Change = [this] { Mark(); };
+  controls_.Text16.Change = [this] { Mark(); };
 }
 
 void IonoFields::Show() {
@@ -32,6 +36,18 @@ void IonoFields::Follow() {
   const bool by_hand = controls_.Check8.Value == 0;
   controls_.Text15.Enabled = by_hand;
   controls_.Text16.Enabled = by_hand;
+  Mark();
+}
+
+void IonoFields::Mark() {
+  Label& fault = controls_.IonoFault;
+  fault.Caption.clear();
+  // Of what is not typed here nothing is said.
+  if (controls_.Check8.Value != 0) return;
+  if (!NumberUpTo(controls_.Text16.Text, kHighestK)) fault.Caption = notices::kKIs;
+  if (!NumberUpTo(controls_.Text15.Text, kHighestSunspotNumber)) {
+    fault.Caption = notices::kSunspotsAre;
+  }
 }
 
 void IonoFields::Take() {

@@ -8,19 +8,21 @@ namespace zepril {
 
 class IonoFields {
  public:
-  // Sets the event of the box; the object must outlive it.
+  // Sets the events of box and fields; the object must outlive it.
   IonoFields(StartPanelControls& controls, InternetState& held);
   IonoFields(const IonoFields&) = delete;
   IonoFields& operator=(const IonoFields&) = delete;
 
   // The settings were read: their values stand in the fields.
   void Show();
-  // START: the fields and the box go into the settings. A number that overflows is none.
+  // START: the fields and the box go into the settings. A number that overflows is none, one out of
+  // its range is only marked.
   void Take();
 
  private:
   // With the box set the fields are read only.
   void Follow();
+  void Mark();
 
   StartPanelControls& controls_;
   InternetState& held_;

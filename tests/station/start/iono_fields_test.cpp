@@ -39,6 +39,44 @@ TEST_F(IonoFieldsTest, TheBoxLocksAndOpensTheFields) {
   EXPECT_FALSE(c.Text15.Enabled || c.Text16.Enabled);
 }
 
+TEST_F(IonoFieldsTest, WhatCantBeIsMarkedWhileItIsTypedAndStartGoesOn) {
+  const auto panel = PanelOf("IONA=0\r\nSSPT=40\r\nKIND=2\r\nMODEM=4\r\n");
+  StartPanelControls& c = panel->Controls;
+  const auto type = [](TextBox& field, const char* text) {
+    field.Text = text;
+    field.Change();
+  };
+  EXPECT_EQ(c.IonoFault.Caption, "");
+  for (const char* k : {"9.1", "-1", "x", ""}) {
+    type(c.Text16, k);
+    EXPECT_EQ(c.IonoFault.Caption, "K: a number from 0 to 9") << k;
+  }
+  for (const char* k : {"9", "0", " 3.5 "}) {
+    type(c.Text16, k);
+    EXPECT_EQ(c.IonoFault.Caption, "") << k;
+  }
+  for (const char* sunspots : {"401", "-1", "many", ""}) {
+    type(c.Text15, sunspots);
+    EXPECT_EQ(c.IonoFault.Caption, "SUNSPOT(R): a number from 0 to 400") << sunspots;
+  }
+  type(c.Text15, "500");
+  // What comes from the internet is nobody's fault.
+  c.Check8.Value = 1;
+  c.Check8.Click();
+  EXPECT_EQ(c.IonoFault.Caption, "");
+  c.Check8.Value = 0;
+  c.Check8.Click();
+  EXPECT_EQ(c.IonoFault.Caption, "SUNSPOT(R): a number from 0 to 400");
+  c.Command1.Click();
+  EXPECT_EQ(starts, 1);
+  EXPECT_TRUE(Has("SSPT=500")) << Ini();
+}
+
+TEST_F(IonoFieldsTest, TheBoxSaysWhatItDoes) {
+  EXPECT_EQ(PanelOf("")->Controls.Check8.ToolTip,
+            "Fetch ionospherical data automatically via internet");
+}
+
 TEST_F(IonoFieldsTest, StartTakesNumbersAndBox) {
   const auto panel = PanelOf("IONA=1\r\nSSPT=40\r\nKIND=2\r\nMODEM=4\r\n");
   StartPanelControls& c = panel->Controls;
@@ -50,6 +88,12 @@ TEST_F(IonoFieldsTest, StartTakesNumbersAndBox) {
   EXPECT_TRUE(Has("SSPT=120.5")) << Ini();
   EXPECT_TRUE(Has("KIND=3.7")) << Ini();
   EXPECT_TRUE(Has("IONA=0")) << Ini();
+}
+
+TEST_F(IonoFieldsTest, WhateverSwitchesTheUpdateOnIsKeptAsOne) {
+  const auto panel = PanelOf("IONA=8\r\nMODEM=4\r\n");
+  panel->Controls.Command1.Click();
+  EXPECT_TRUE(Has("IONA=1")) << Ini();
 }
 
 TEST_F(IonoFieldsTest, AnEmptyFieldIsZeroAndAnOverflowNothing) {
