@@ -77,6 +77,17 @@ TEST(ReadNmea, AJumpIsThrownAwayAndTakenOnceItIsRepeated) {
   EXPECT_NE(world.Gps.GpsNorthText, before);
 }
 
+TEST(ReadNmea, SentencesOfTheBestKindThatDisagreeAreNotReplacedByThoseOfAnother) {
+  GpsWorld world;
+  world.SayAndTick(RmcLine("123040", kBerlin) + RmcLine("123041", "4830.1500,N,00805.2000,E") +
+                   Ggas(kBerlin));
+  EXPECT_EQ(world.Gps.GpsFixValid, 0);
+  EXPECT_EQ(world.Gps.GpsNorthText, "");
+  // Without them the others are taken.
+  world.SayAndTick(std::string(GpsState::kLongestBuffer, '.') + "\r\n" + Ggas(kBerlin));
+  EXPECT_EQ(world.Gps.GpsFixValid, 1);
+}
+
 TEST(ReadNmea, SouthAndWestAreNegative) {
   GpsWorld world;
   world.SayAndTick(Ggas("0530.0000,S,01324.3100,E"));

@@ -118,5 +118,33 @@ TEST_F(TrackRecorderTest, AnotherTrackDoesNotGrow) {
   EXPECT_TRUE(view.MapDrawn);
 }
 
+TEST_F(TrackRecorderTest, TheSameMinuteOfAnotherDayIsNoNewOne) {
+  track.WriteTrackPoint();
+  clock.SetNow({2024, 5, 15, 12, 30, 0});
+  track.WriteTrackPoint();
+  EXPECT_EQ(disk.Contents.size(), 1U);
+  clock.Run(60);
+  track.WriteTrackPoint();
+  EXPECT_EQ(disk.Of("C:\\ZEPRIL\\U33\\TRK\\20240515.TRK"),
+            "\xFE 5378.123  412.345 20240515 1231\r\n");
+}
+
+TEST_F(TrackRecorderTest, TracksLieInTheFolderOfTheMapSystem) {
+  identity.MapSystemFolder = "C:\\ELSEWHERE\\U32";
+  track.WriteTrackPoint();
+  ASSERT_EQ(disk.Contents.size(), 1U);
+  EXPECT_EQ(disk.Of("C:\\ELSEWHERE\\U32\\TRK\\20240514.TRK"), std::string(kPoint) + "\r\n");
+}
+
+TEST_F(TrackRecorderTest, APointThatCantBeWrittenIsNotShownEither) {
+  settings.TrackFile = "20240514";
+  view.TracksOn = true;
+  view.MapDrawn = true;
+  disk.RefusedEnding = ".TRK";
+  track.WriteTrackPoint();
+  EXPECT_EQ(places.TrackPoints.Count(), 0);
+  EXPECT_TRUE(view.MapDrawn);
+}
+
 }  // namespace
 }  // namespace zepril

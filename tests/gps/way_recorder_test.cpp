@@ -151,5 +151,36 @@ TEST_F(WayRecorderTest, AStepThatCantBeWrittenBeginsALineWhereItCan) {
   EXPECT_EQ(Way(), "5378 412  240514 1230||\r\n5381 412  240514 1230||");
 }
 
+TEST_F(WayRecorderTest, TheEndStandsInTheFolderOfTheMapSystemInUse) {
+  identity.MapZoneName = "U32";
+  disk.Contents["C:\\MAP\\U32\\NAV.DAT"] = "";
+  way.DecideNavigation();
+  DriveTo(5378, 412);
+  way.EndWay();
+  for (const char* name : {"QTHWAY.TXT", "QTHACT.TXT", "QTHACTPR.TXT"}) {
+    EXPECT_TRUE(disk.Exists("C:\\MAP\\U32\\" + std::string(name))) << name;
+    EXPECT_FALSE(disk.Exists("C:\\MAP\\U33\\" + std::string(name))) << name;
+  }
+}
+
+TEST_F(WayRecorderTest, AStopAtTheFirstPointIsAHeadAlone) {
+  DriveTo(5378, 412);
+  way.EndWay();
+  EXPECT_EQ(Way(),
+            "5378 412  240514 1230||\r\n"
+            "5378 412  240514 1230 STOP   ZEPRIL_NAVIGATION_ENDED  @(xxx)@yyy@zzz\r\n");
+}
+
+TEST_F(WayRecorderTest, TheEndBehindHalfALineIsALineOfItsOwn) {
+  DriveTo(5378, 412);
+  disk.RefusedEnding = "QTHWAY.TXT";
+  DriveTo(5379, 412);
+  disk.RefusedEnding.clear();
+  way.EndWay();
+  EXPECT_EQ(Way(),
+            "5378 412  240514 1230||\r\n"
+            "5379 412  240514 1230 STOP   ZEPRIL_NAVIGATION_ENDED  @(xxx)@yyy@zzz\r\n");
+}
+
 }  // namespace
 }  // namespace zepril

@@ -298,6 +298,25 @@ TEST(GpsStationTest, ADriveIsKeptAsAWayForTheNavigationProgram) {
   EXPECT_EQ(file("QTHACTPR.TXT"), "\xFE" + gps.GpsNorthText + gps.GpsEastText + "\r\n");
 }
 
+// The session ends, or the system stops the program.
+TEST(GpsStationTest, AnEndWithoutTheOperatorEndsTheWayOnceToo) {
+  GpsStation station(kNavigator);
+  const std::string folder = "C:\\MAP\\U33\\";
+  station.files.MakeFolder(folder);
+  station.files.Write(folder + "NAV.DAT", "");
+  ASSERT_TRUE(station.Start());
+  station.DriveOn(120);
+  station.program->Stop(false);
+  station.program.reset();
+  const std::vector<std::string> way =
+      LinesOf(station.files.ReadAll(folder + "QTHWAY.TXT", 1 << 20).value_or(""));
+  ASSERT_EQ(way.size(), 2U);
+  EXPECT_EQ(way[0].find("STOP"), std::string::npos);
+  EXPECT_NE(way[1].find(" STOP   ZEPRIL_NAVIGATION_ENDED"), std::string::npos);
+  EXPECT_EQ(station.files.ReadAll(folder + "QTHACT.TXT", 1000), way[1] + "\r\n");
+  EXPECT_TRUE(station.files.Exists(folder + "QTHACTPR.TXT"));
+}
+
 TEST(GpsStationTest, WithoutANavigationProgramNoWayIsWritten) {
   GpsStation station(kNavigator);
   ASSERT_TRUE(station.Start());

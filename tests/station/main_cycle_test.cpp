@@ -338,6 +338,14 @@ TEST_F(MainCycleTest, IonosphereIsUpdatedHourly) {
   EXPECT_EQ(Tick(), (Names{"receive"}));
 }
 
+TEST_F(MainCycleTest, IonosphereIsUpdatedBehindTheHourAndNotOnIt) {
+  state.Internet.IonoAutoOn = 1;
+  state.Internet.LastIonoTimer = clock.SecondsSinceMidnight() - 3600.0;
+  EXPECT_EQ(Tick(), (Names{"receive"}));
+  state.Internet.LastIonoTimer = clock.SecondsSinceMidnight() - 3600.1;
+  EXPECT_EQ(Tick(), (Names{"iono"}));
+}
+
 TEST_F(MainCycleTest, IonosphereIsUpdatedEarlyWhenTheDayChanges) {
   state.Internet.IonoAutoOn = 1;
   clock.SetNow({2024, 1, 15, 0, 0, 10});
