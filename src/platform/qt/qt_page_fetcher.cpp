@@ -20,10 +20,12 @@ QUrl UrlOf(const std::string& url) {
   return web && !sendable.host().isEmpty() ? sendable : QUrl();
 }
 
-// An answer with a status that tells of a fault is an answer all the same.
-bool IsAnswer(const QNetworkReply& reply) {
-  return reply.error() == QNetworkReply::NoError ||
-         reply.error() >= QNetworkReply::ContentAccessDenied;
+// An answer with a status that tells of a fault is an answer all the same. One that says all is
+// well and yet can't be had whole, like a packed page that unpacks beyond measure, is none.
+bool IsAnswer(const QNetworkReply& reply, int status) {
+  constexpr int kFirstFault = 300;
+  if (reply.error() == QNetworkReply::NoError) return status != 0;
+  return reply.error() >= QNetworkReply::ContentAccessDenied && status >= kFirstFault;
 }
 
 }  // namespace
@@ -91,8 +93,7 @@ void QtPageFetcher::Ended() {
   page_.Status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
   page_.ContentType =
       reply_->header(QNetworkRequest::ContentTypeHeader).toString().toLatin1().toStdString();
-  page_.Outcome =
-      IsAnswer(*reply_) && page_.Status != 0 ? PageOutcome::Loaded : PageOutcome::Failed;
+  page_.Outcome = IsAnswer(*reply_, page_.Status) ? PageOutcome::Loaded : PageOutcome::Failed;
   reply_->disconnect();
   reply_->deleteLater();
   reply_ = nullptr;
