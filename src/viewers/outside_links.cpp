@@ -34,15 +34,25 @@ std::string XmlText(char c) {
   }
 }
 
-// The number that ends right before column `end`.
-double NumberBefore(std::string_view text, std::ptrdiff_t end) {
+// A comma between two digits is a point: some desktops write numbers so.
+std::string WithPoints(std::string_view text) {
+  std::string points(text);
+  for (std::size_t at = 1; at + 1 < points.size(); ++at) {
+    if (points[at] == ',' && IsDigit(points[at - 1]) && IsDigit(points[at + 1])) points[at] = '.';
+  }
+  return points;
+}
+
+// The text of the number, with its sign, that ends right before column `end`.
+std::string_view NumberBefore(std::string_view text, std::ptrdiff_t end) {
   std::ptrdiff_t start = end;
   while (start > 1) {
     const char before = text[static_cast<std::size_t>(start - 2)];
-    if (!IsDigit(before) && before != '.') break;
+    if (!IsDigit(before) && before != '.' && before != '-') break;
     --start;
+    if (before == '-') break;
   }
-  return Val(Mid(text, start, end - start));
+  return Mid(text, start, end - start);
 }
 
 // What stands behind a degree sign: minutes up to "'", seconds up to a double quote, each if there.
@@ -56,8 +66,20 @@ double PartsOfDegree(std::string_view text) {
   return minutes / 60.0 + seconds / 3600.0;
 }
 
-bool Has(std::string_view text, std::string_view letters) {
-  return Upper(text).find_first_of(letters) != std::string::npos;
+// The first letter behind a coordinate is its direction; what else is written does not count.
+bool IsNegative(std::string_view degrees, std::string_view behind, std::string_view letters) {
+  const auto letter = std::find_if(behind.begin(), behind.end(), [](char c) {
+    return UpperChar(c) >= 'A' && UpperChar(c) <= 'Z';
+  });
+  const bool by_letter =
+      letter != behind.end() && letters.find(UpperChar(*letter)) != std::string_view::npos;
+  return degrees.starts_with('-') || by_letter;
+}
+
+// `degrees` with their sign, and what stands behind them.
+double Coordinate(std::string_view degrees, std::string_view behind, std::string_view letters) {
+  const double value = std::fabs(Val(degrees)) + PartsOfDegree(behind);
+  return IsNegative(degrees, behind, letters) ? -value : value;
 }
 
 std::optional<Geodetic> OnEarth(double lat, double lon) {
@@ -127,8 +149,8 @@ std::string GlobeFile(std::string_view label, const OutsidePlace& place) {
 
 // ---- The way back ---------------------------------------------------------------------------
 
-std::optional<Geodetic> PlaceInGlobeText(std::string_view text) {
-  text = Left(text, kLongestCopied);
+std::optional<Geodetic> PlaceInGlobeText(std::string_view copied) {
+  const std::string text = WithPoints(Left(copied, kLongestCopied));
   const std::string_view sign(&kDegreeSign, 1);
   const std::ptrdiff_t anywhere = InStr(text, sign);
   const std::ptrdiff_t first =
@@ -136,13 +158,9 @@ std::optional<Geodetic> PlaceInGlobeText(std::string_view text) {
   if (first == 0) return std::nullopt;
   const std::ptrdiff_t second = InStr(first + 1, text, sign);
   if (second == 0) return std::nullopt;
-  const std::string_view behind_first = Mid(text, first + 1, second - first - 1);
-  const std::string_view behind_second = Mid(text, second + 1);
-  double lat = NumberBefore(text, first) + PartsOfDegree(behind_first);
-  double lon = NumberBefore(text, second) + PartsOfDegree(behind_second);
-  if (Has(behind_first, "S")) lat = -lat;
-  if (Has(behind_second, "WV")) lon = -lon;
-  return OnEarth(lat, lon);
+  return OnEarth(
+      Coordinate(NumberBefore(text, first), Mid(text, first + 1, second - first - 1), "S"),
+      Coordinate(NumberBefore(text, second), Mid(text, second + 1), "WV"));
 }
 
 std::optional<Geodetic> PlaceInMapAddress(std::string_view address) {

@@ -47,8 +47,11 @@ void OutsideViewers::OpenGlobe() {
   const OutsidePlace place = PlaceOfCentre(sections_.View);
   const std::string path = sections_.Identity.ProgramFolder + "\\ZEPRIL.KML";
   // An old file would lead to another place.
-  if (!tools_.Disk.Replace(path, GlobeFile(GlobeLabel(place), place)))
+  if (!tools_.Disk.Replace(path, GlobeFile(GlobeLabel(place), place))) {
+    tools_.Timer2.Stop();
+    tools_.Timer1.Enable();
     return Tell(viewer_texts::kGlobeFileUnwritten.With({path, WordsOf(tools_.Disk.Trouble())}));
+  }
   tools_.LocalClock.WaitPumping(kBeforeGlobeSeconds);
   tools_.Desktop.Open(FileAddress(tools_.Disk.NativePath(path)));
 }

@@ -108,6 +108,20 @@ TEST(OutsideLinks, WhatTheGlobeCopiesIsReadInDegreesMinutesAndSeconds) {
               -33.5, -70.0 - 40.0 / 60.0);
 }
 
+TEST(OutsideLinks, SignsCommasAndWordsBehindACoordinateAreToldApart) {
+  ExpectPlace(PlaceInGlobeText("48.55\xB0 -13.81\xB0"), 48.55, -13.81);
+  ExpectPlace(PlaceInGlobeText("-48.55\xB0, 13.81\xB0"), -48.55, 13.81);
+  ExpectPlace(PlaceInGlobeText("48,55\xB0 13,81\xB0"), 48.55, 13.81);
+  ExpectPlace(PlaceInGlobeText("52\xB0"
+                               "30'14,76\"N, 13\xB0"
+                               "24'18,72\"E, Wedding"),
+              52.5041, 13.4052);
+  ExpectPlace(PlaceInGlobeText("54\xB0"
+                               "30'N Ostsee 13\xB0"
+                               "30'E Vogelinsel"),
+              54.5, 13.5);
+}
+
 TEST(OutsideLinks, ATextWithoutTwoCoordinatesIsNoPlace) {
   for (const char* text : {"", "hello",
                            "52\xB0"

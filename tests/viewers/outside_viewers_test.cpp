@@ -117,6 +117,8 @@ TEST_F(OutsideViewersTest, AFileThatCannotBeWrittenIsToldAndNoOldOneOpened) {
   disk.NoRoomToReplace = true;
   controls.GlobeShow.Click();
   EXPECT_THAT(desktop.Opened, IsEmpty());
+  EXPECT_TRUE(timer1.Enabled());
+  EXPECT_FALSE(timer2.Enabled());
   EXPECT_TRUE(
       controls.ViewerNote.Caption.starts_with(std::string(kGlobeFile) + " can't be written: "));
 }
