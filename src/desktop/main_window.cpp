@@ -263,7 +263,10 @@ void MainWindow::ControlsOut() {
   if (windowTitle() != title) setWindowTitle(title);
   if (controls_.Window.MaximiseWanted) {
     controls_.Window.MaximiseWanted = false;
-    setWindowState(windowState() | Qt::WindowMaximized);
+    // An alarm: from among the icons too, and before other windows.
+    setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowMaximized);
+    raise();
+    QApplication::alert(this);
   }
   const bool busy = controls_.Window.Pointer == PointerShape::Hourglass;
   setCursor(busy ? Qt::WaitCursor : Qt::ArrowCursor);

@@ -33,8 +33,23 @@ EmergencyDisplay::EmergencyDisplay(EmergencySections sections, EmergencyDisplayC
   controls_.Panel.FalseAlarm.Click = [this] { Cancel(); };
 }
 
+void EmergencyDisplay::ShowAgain() {
+  AlarmState& alarm = sections_.Alarms;
+  if (alarm.AlarmCall == cancelled_call_) {
+    alarm.AlarmCall.clear();
+  } else if (alarm.AlarmCall != shown_call_) {
+    ShowEmergency();
+  } else {
+    controls_.Panel.Frame14.Visible = true;
+  }
+}
+
 void EmergencyDisplay::ShowEmergency() {
+  shown_call_ = sections_.Alarms.AlarmCall;
+  shown_time_ = sections_.Alarms.AlarmTime;
+  cancelled_call_.clear();
   if (ClosePicture) ClosePicture();
+  sections_.View.PictureMode = MapShows::Map;
   // One jump to the station, which ends all following.
   FollowNobody(sections_.View, controls_.Map);
   sections_.View.QthNorthText = sections_.Alarms.AlarmNorth;
@@ -85,12 +100,14 @@ void EmergencyDisplay::HideForAWhile() {
 
 void EmergencyDisplay::Cancel() {
   AlarmState& alarm = sections_.Alarms;
-  if (!alarm.AlarmCall.empty()) {
+  if (!shown_call_.empty()) {
     const std::string line = emergency_texts::kCancelled.With(
-        {alarm.AlarmCall, alarm.AlarmTime, TextOfTime(tools_.LocalClock.Now())});
+        {shown_call_, shown_time_, TextOfTime(tools_.LocalClock.Now())});
     tools_.Disk.Append(alarm.AlarmFile, line + "\r\n");
   }
-  alarm.AlarmCall.clear();
+  if (alarm.AlarmCall == shown_call_) alarm.AlarmCall.clear();
+  cancelled_call_ = shown_call_;
+  shown_call_.clear();
   if (tools_.Speaker) tools_.Speaker->Stop();
   controls_.Panel.Frame14.Visible = false;
   tools_.Map.MapRedraw();

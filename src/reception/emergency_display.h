@@ -56,11 +56,13 @@ class EmergencyDisplay final : public EmergencyActions {
 
   // Shows the station of the alarm fields. The redraw of the map starts `Timer1` again.
   void ShowEmergency() override;
-  // The panel was closed half a minute ago, and the alarm lasts.
-  void ShowAgain() { controls_.Panel.Frame14.Visible = true; }
+  // An alarm lasts, and its panel was closed half a minute ago or longer: it comes back. An alarm
+  // that was never shown (its report counted as a repeat of an ordinary one) is shown now; the copy
+  // of one that was cancelled is none.
+  void ShowAgain();
   // Closes the panel for half a minute; an old alarm may be cancelled.
   void CloseEmergencyPanel();
-  // Ends the alarm, and says so in its log.
+  // Ends the alarm that is shown, and says so in its log. One that has come meanwhile stays.
   void Cancel();
 
   // A picture in the map's place is to go.
@@ -75,6 +77,9 @@ class EmergencyDisplay final : public EmergencyActions {
   EmergencySections sections_;
   EmergencyDisplayControls controls_;
   EmergencyTools tools_;
+  std::string shown_call_;  // of the alarm on the panel
+  std::string shown_time_;
+  std::string cancelled_call_;  // of the last one that was ended
 };
 
 }  // namespace zepril

@@ -67,8 +67,10 @@ class EmergencyDisplayTest : public ::testing::Test {
 
 TEST_F(EmergencyDisplayTest, TheStationIsShownOnPanelAndMap) {
   view.CentreFollow = Following::Station;
+  view.PictureMode = MapShows::Picture;
   map.Option2.Value = true;
   display.ShowEmergency();
+  EXPECT_EQ(view.PictureMode, MapShows::Map);
   EXPECT_EQ(panel.EmergencyCall.Caption, "QX7GW       2024-05-14 12:30");
   EXPECT_EQ(panel.EmergencyFile.Caption, kLog);
   EXPECT_EQ(panel.Label26.Caption, "UTM(Z33):  5818.297   391.750");
@@ -153,6 +155,44 @@ TEST_F(EmergencyDisplayTest, AClockThatWentBackAsksNothing) {
   CloseAt({2024, 5, 14, 9, 0, 0});
   EXPECT_FALSE(panel.Frame14.Visible);
   EXPECT_EQ(alarms.AlarmCall, "QX7GW");
+}
+
+TEST_F(EmergencyDisplayTest, OneThatWasNeverShownIsShownWhole) {
+  // Its first report counted as a repeat of an ordinary one.
+  display.ShowAgain();
+  EXPECT_TRUE(panel.EmergencyCall.Caption.starts_with("QX7GW"));
+  EXPECT_EQ(actions.CountOf(R"(play C:\ZEPRIL\ALARM.WAV)"), 1);
+  EXPECT_EQ(view.CentreFollow, Following::TypedPosition);
+  display.ShowAgain();
+  EXPECT_EQ(actions.CountOf(R"(play C:\ZEPRIL\ALARM.WAV)"), 1);
+}
+
+TEST_F(EmergencyDisplayTest, AnotherOneThatCameMeanwhileIsNotCancelledWithTheShownOne) {
+  display.ShowEmergency();
+  alarms.AlarmCall = "QX8GW";
+  alarms.AlarmTime = "2024-05-14 12:31";
+  panel.FalseAlarm.Click();
+  EXPECT_EQ(alarms.AlarmCall, "QX8GW");
+  EXPECT_TRUE(disk.Of(kLog).starts_with("FALSE ALARM : QX7GW  2024-05-14 12:30"));
+  display.ShowAgain();
+  EXPECT_TRUE(panel.EmergencyCall.Caption.starts_with("QX8GW"));
+  EXPECT_TRUE(panel.Frame14.Visible);
+}
+
+TEST_F(EmergencyDisplayTest, ACopyOfACancelledOneIsNone) {
+  display.ShowEmergency();
+  panel.FalseAlarm.Click();
+  alarms.AlarmCall = "QX7GW";
+  display.ShowAgain();
+  EXPECT_FALSE(panel.Frame14.Visible);
+  EXPECT_EQ(alarms.AlarmCall, "");
+  // A report of its own is one again.
+  alarms.AlarmCall = "QX7GW";
+  display.ShowEmergency();
+  EXPECT_TRUE(panel.Frame14.Visible);
+  CloseAt({2024, 5, 14, 12, 40, 0});
+  display.ShowAgain();
+  EXPECT_TRUE(panel.Frame14.Visible);
 }
 
 TEST_F(EmergencyDisplayTest, ItComesBackWhileTheAlarmLasts) {

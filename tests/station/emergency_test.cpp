@@ -56,6 +56,27 @@ TEST_F(EmergencyTest, ClosedItComesBackUntilItIsCancelled) {
   EXPECT_NE(station.File("U33\\LOG\\_ALARM_.TXT").find("FALSE ALARM : QX7GW"), std::string::npos);
 }
 
+// Heard over another digipeater within ten minutes it counts as a repeat of the ordinary report.
+TEST_F(EmergencyTest, TheFirstReportOfAnEmergencyFromWhereAStationStoodIsShown) {
+  station.Hear("QX7GW", "=5230.24N/01324.31E>all well", "DIGIA*");
+  station.Ticks(1);
+  station.clock.Run(120.0);
+  station.Hear("QX7GW", "=5230.24N\\01324.31E!help", "DIGIB*");
+  station.Ticks(2);
+  EXPECT_TRUE(Panel().Frame14.Visible);
+  EXPECT_TRUE(Panel().EmergencyCall.Caption.starts_with("QX7GW"));
+  EXPECT_NEAR(station.State().Map.CentreNorthKm, 5818.297, 0.05);
+}
+
+TEST_F(EmergencyTest, APictureGoesAndTheMapJumps) {
+  station.State().Map.PictureMode = MapShows::Picture;
+  station.Controls().Picture.Frame8.Visible = true;
+  HearEmergency();
+  EXPECT_EQ(station.State().Map.PictureMode, MapShows::Map);
+  EXPECT_FALSE(station.Controls().Picture.Frame8.Visible);
+  EXPECT_NEAR(station.State().Map.CentreNorthKm, 5818.297, 0.05);
+}
+
 TEST_F(EmergencyTest, ANewOneTakesThePlaceOfTheOneBefore) {
   HearEmergency();
   Panel().EmergencyClose.Click();

@@ -263,6 +263,8 @@ TEST_F(MainCycleTest, EmergencyComesBackAfterThirtySeconds) {
   clock.Wait(30.0);
   state.Alarms.AlarmClosedAt = clock.MonotonicSeconds() - 29.9;
   EXPECT_EQ(Tick(), (Names{"receive"}));
+  state.Alarms.AlarmClosedAt = clock.MonotonicSeconds() - 30.0;
+  EXPECT_EQ(Tick(), (Names{"receive"}));
   state.Alarms.AlarmClosedAt = clock.MonotonicSeconds() - 30.1;
   EXPECT_EQ(Tick(), (Names{"emergency", "receive"}));
   state.Alarms.AlarmCall.clear();
