@@ -76,8 +76,8 @@ TEST(ServicesFile, TheShippedOneIsRead) {
   EXPECT_EQ(services.AprsRestService, "");
   EXPECT_EQ(services.IonoPageA, "");
   EXPECT_EQ(services.IonoPageB, "https://services.swpc.noaa.gov/text/sgas.txt");
-  for (const std::string& host : {services.GoogleMaps, services.MinKarta, services.Norgeskart,
-                                  services.Karttapaikka})
+  for (const std::string& host :
+       {services.GoogleMaps, services.MinKarta, services.Norgeskart, services.Karttapaikka})
     EXPECT_TRUE(host.starts_with("https://")) << host;
 }
 

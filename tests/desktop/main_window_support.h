@@ -42,20 +42,20 @@ class MainWindowTest : public ::testing::Test {
                 "UUN=5830\r\nUUE=380\r\n");
     socket.OnConnect = [this] { socket.SetState(SocketState::Connected); };
     EXPECT_TRUE(fonts.LoadFonts(QStringLiteral(ZEPRIL_SOURCE_DIR "/data/fonts")));
-    program = std::make_unique<StationProgram>(MachineOf(
-        files, loop, loop, dialogs, desktop,
-        {{&socket},
-         {&modem},
-         {&map_surface, &base_surface, &sun_surface, &tx_symbol_surface, &object_symbol_surface,
-          &weather_surface}}));
+    program = std::make_unique<StationProgram>(
+        MachineOf(files, loop, loop, dialogs, desktop,
+                  {{&socket},
+                   {&modem},
+                   {&map_surface, &base_surface, &sun_surface, &tx_symbol_surface,
+                    &object_symbol_surface, &weather_surface}}));
     loop.RunStep([this] { EXPECT_TRUE(program->Start("C:\\ZEPRIL", 32)); });
     State().Map.MapTileKm = 50.0;
     State().Map.ZoomFactor = 1.0;
-    window = std::make_unique<MainWindow>(*program, loop, fonts,
-                                          WindowSurfaces{map_surface, base_surface, sun_surface,
-                                                         tx_symbol_surface, object_symbol_surface,
-                                                         weather_surface},
-                                          files);
+    window = std::make_unique<MainWindow>(
+        *program, loop, fonts,
+        WindowSurfaces{map_surface, base_surface, sun_surface, tx_symbol_surface,
+                       object_symbol_surface, weather_surface},
+        files);
     window->Closed = [this] { ++closed; };
     loop.ControlsOut = [this] { window->ControlsOut(); };
     loop.StepEnded = [this] { window->StepEnded(); };

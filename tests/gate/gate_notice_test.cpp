@@ -95,7 +95,8 @@ TEST(GateNotice, EveryReasonHasItsWords) {
     const char* Words;
   } kRows[] = {
       {NotGated::NoFrame, "last not gated 09:05: no whole frame"},
-      {NotGated::ForbiddenPath, "last not gated 09:05: NOGATE, RFONLY, TCPIP or TCPXX in its header"},
+      {NotGated::ForbiddenPath,
+       "last not gated 09:05: NOGATE, RFONLY, TCPIP or TCPXX in its header"},
       {NotGated::ForwardedOrQuery, "last not gated 09:05: forwarded, or a query"},
       {NotGated::SeveralLines, "last not gated 09:05: more than one line"},
       {NotGated::Repeat, "last not gated 09:05: like one of the last half minute"},
