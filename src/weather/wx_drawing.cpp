@@ -88,25 +88,21 @@ void DrawTemperature(DrawingSurface& surface, Colour colour) {
   surface.Circle(kCentre, kCentre, kRadius - 13, kMarks);
 }
 
-// A shaft from the dial's edge to the ring and two lines that make its head, longer and broader for
-// stronger wind.
+// A shaft from the dial's edge to the ring and a filled head, longer and broader for stronger wind.
 void DrawWind(DrawingSurface& surface, const WeatherReport& report) {
   const double direction = *report.WindDirectionDeg;
   const int strength = std::max({report.WindSpeedMs.value_or(0), report.GustMs.value_or(0), 1});
-  const double size = std::min(6.0 + strength, 30.0);
-  const double tip = kRadius;
-  const PixelPoint point = At(tip, direction);
-  const PixelPoint tail = At(tip + size, direction);
-  const double spread = 4.0 + size / 3.0;  // degrees
-  const PixelPoint left = At(tip + size / 2.0, direction - spread);
-  const PixelPoint right = At(tip + size / 2.0, direction + spread);
+  const double size = std::min(12.0 + strength, 32.0);
+  const PixelPoint point = At(kRadius, direction);
+  const double half_head = 4.0 + size / 3.0;  // degrees
+  std::vector<PixelLine> lines{{point, At(kRadius + size, direction)}};
+  for (double turn = -half_head; turn <= half_head; turn += 0.5)
+    lines.push_back({point, At(kRadius + size / 2.0, direction + turn)});
   std::vector<PixelLine> shade;
-  std::vector<PixelLine> lines;
-  for (const PixelPoint& end : {tail, left, right}) {
-    lines.push_back({point, end});
+  for (const PixelLine& line : lines) {
     for (const int offset : {-1, 1}) {
-      shade.push_back({{point.X + offset, point.Y}, {end.X + offset, end.Y}});
-      shade.push_back({{point.X, point.Y + offset}, {end.X, end.Y + offset}});
+      shade.push_back({{line.From.X + offset, line.From.Y}, {line.To.X + offset, line.To.Y}});
+      shade.push_back({{line.From.X, line.From.Y + offset}, {line.To.X, line.To.Y + offset}});
     }
   }
   surface.Lines(shade, kGrey);
