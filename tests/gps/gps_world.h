@@ -24,6 +24,9 @@ namespace zepril {
 struct GpsWorld {
   explicit GpsWorld(const std::string& source = "3") {
     Gps.NmeaSource = source;
+    // Hidden at first, as by the program.
+    Controls.GpsInfo.Visible = false;
+    Controls.GpsNote.Visible = false;
     Source.Open();
     Clock.Drive(Source.ReopenTimer, false);
   }

@@ -152,7 +152,9 @@ TEST(GpsAge, AFilesSentenceAgreesWithThatOfTheFileBeforeHoweverLongAgo) {
     world.Reader.ReadNmea();
     EXPECT_EQ(world.Gps.GpsFixValid, 0) << time;
   }
-  EXPECT_EQ(world.Controls.GpsNote.Caption, "GPS: no position since 12:37");
+  world.Tick();
+  EXPECT_EQ(world.Controls.GpsNote.Caption,
+            R"(GPS: no position since 12:37   C:\GPS.TXT is not there.)");
 }
 
 TEST(GpsAge, OtherLinesDoNotKeepAPositionAlive) {
