@@ -55,7 +55,7 @@ class ImportWork {
   }
   // So many bytes were read, some of them of the vectors. False when the program is to end.
   bool GoesOn(std::size_t bytes, std::size_t of_vectors) {
-    constexpr std::size_t kTellEvery = 64 * 1024;
+    constexpr std::size_t kTellEvery = std::size_t{64} * 1024;
     done_ += static_cast<double>(of_vectors);
     untold_ += bytes;
     if (untold_ >= kTellEvery) Tell();
