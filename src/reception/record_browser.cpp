@@ -1,7 +1,9 @@
 // Shows the selected record, steps near the picked place, deletes after a question.
 #include "reception/record_browser.h"
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "core/text_fields.h"
 #include "core/texts/boxes.h"
@@ -97,11 +99,33 @@ void RecordBrowser::FollowedStationChanged() {
   if (!OpenNewest(call)) Close();
 }
 
+int RecordBrowser::NewestOf(std::string_view call) const {
+  const StationStore& store = SelectedStore();
+  int index = store.Count();
+  while (index > 0 && !EqualFolded(store.At(index).Call(), Trim(call)))
+    --index;
+  return index;
+}
+
 void RecordBrowser::MoveToNewest(std::string_view call) {
-  if (call.empty() || !EqualFolded(call, Trim(stores_.SelectedStationCall))) return;
-  stores_.SelectedRecordIndex = SelectedStore().Count();
+  if (Trim(call).empty() || !EqualFolded(Trim(call), Trim(stores_.SelectedStationCall))) return;
+  stores_.SelectedRecordIndex = NewestOf(call);
   SetButtons();
   ShowSelected();
+}
+
+std::optional<StationRecord> RecordBrowser::SelectedOfAll() const {
+  if (SelectedIsFollowed() || !HasSelection()) return std::nullopt;
+  return SelectedStore().At(stores_.SelectedRecordIndex);
+}
+
+void RecordBrowser::FindAgain(const StationRecord& selected) {
+  const std::vector<StationRecord>& all = stores_.MoniAllRecords.All();
+  const auto found = std::find(all.rbegin(), all.rend(), selected);
+  stores_.SelectedRecordIndex = found == all.rend() ? NewestOf(stores_.SelectedStationCall)
+                                                    : static_cast<int>(all.rend() - found);
+  if (HasSelection() || !panel_.Frame1.Visible) return ShowSelected();
+  Close();
 }
 
 void RecordBrowser::Command18Click() {

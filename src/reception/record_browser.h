@@ -4,6 +4,7 @@
 // the record shown); for all others they step through the records near the picked place.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -41,8 +42,14 @@ class RecordBrowser {
   bool OpenNewest(const std::string& call);
   void Close();
 
-  // A record of `call` has been stored: when it is the selected station, the panel moves to it.
+  // A record of `call` has been stored: when it is the selected station, the panel moves to its
+  // newest record.
   void MoveToNewest(std::string_view call);
+  // The selected record of the list of all stations; none while it is one of the history.
+  std::optional<StationRecord> SelectedOfAll() const;
+  // The list of all stations was cut: `selected` is selected where it stands now, or else the
+  // newest record of the selected station. Without one the panel closes.
+  void FindAgain(const StationRecord& selected);
 
   // Another station is followed now: an open panel goes to the newest record of its station in the
   // list that holds it from here on, and its buttons with it; without one it closes.
@@ -58,6 +65,8 @@ class RecordBrowser {
   bool SelectedIsFollowed() const;
   bool HasSelection() const;
   const StationStore& SelectedStore() const;
+  // In the list that is selected; 0: it holds none.
+  int NewestOf(std::string_view call) const;
   void SetButtons();
   void DeletePositions(bool older);
   void StepBack();

@@ -52,6 +52,8 @@ std::optional<FrameLevel> RecordKeeper::Store(const StationRecord& record) {
 void RecordKeeper::BeginPage() {
   page_.clear();
   selected_came_ = false;
+  selected_ = browser_.SelectedOfAll();
+  reordered_ = stores_.MoniAllRecords.Reordered();
 }
 
 std::optional<FrameLevel> RecordKeeper::StoreLine(const StationRecord& record) {
@@ -86,7 +88,9 @@ void RecordKeeper::EndPage() {
   if (!page_.empty()) resting_logs_.AppendRecords(page_);
   page_.clear();
   history_.Keep();
-  if (selected_came_) browser_.MoveToNewest(stores_.SelectedStationCall);
+  if (selected_came_) return browser_.MoveToNewest(stores_.SelectedStationCall);
+  const bool was_cut = stores_.MoniAllRecords.Reordered() != reordered_;
+  if (selected_ && was_cut) browser_.FindAgain(*selected_);
 }
 
 }  // namespace zepril

@@ -85,8 +85,10 @@ class RecordKeeper {
   AllStationsStore all_stations_;
   StationLogs logs_;
   RestingLogs resting_logs_;
-  std::vector<StationRecord> page_;  // of the page under way, not yet in the logs
-  bool selected_came_ = false;       // the page has told of the selected station
+  std::vector<StationRecord> page_;        // of the page under way, not yet in the logs
+  bool selected_came_ = false;             // the page has told of the selected station
+  std::optional<StationRecord> selected_;  // of all stations, when the page began
+  std::uint64_t reordered_ = 0;            // of the list at that time
   std::int64_t stored_ = 0;
   std::int64_t repeats_ = 0;
 };

@@ -17,6 +17,13 @@ class AreaDecoderTest : public ::testing::Test {
                              const std::string& lat = "52.5041") {
     return InternetWorld::Station(call, "2024-05-14 " + time, lat);
   }
+  // Stations that stand at many places.
+  static std::string Flight(int first, int last) {
+    std::string stations;
+    for (int number = first; number <= last; ++number)
+      stations += Station("Q" + WholeNumber(number), "12:30:00", "53." + ZeroPadded(number, 3));
+    return stations;
+  }
 
   InternetWorld world;
   AreaDecoder decoder{{world.Stores, world.Map, world.Settings},
@@ -70,10 +77,34 @@ TEST_F(AreaDecoderTest, TheHistoryOfTheFollowedStationIsLeftAlone) {
 TEST_F(AreaDecoderTest, TheSelectedStationsPanelGoesToItsNewestRecord) {
   world.Stores.SelectedStationCall = "QX7AA";
   Decode(Station("QX7AA") + Station("QX7AB"));
-  EXPECT_EQ(world.Stores.SelectedRecordIndex, 2) << "the newest of the list";
+  EXPECT_EQ(world.Stores.SelectedRecordIndex, 1) << "not that of the last station";
+  Decode(Station("QX7AA", "12:34:00", "53.5") + Station("QX7AC"));
+  EXPECT_EQ(world.Stores.SelectedRecordIndex, 3);
   world.Stores.SelectedStationCall = "N0CALL";
-  Decode(Station("QX7AC"));
-  EXPECT_EQ(world.Stores.SelectedRecordIndex, 2);
+  Decode(Station("QX7AD"));
+  EXPECT_EQ(world.Stores.SelectedRecordIndex, 3);
+}
+
+TEST_F(AreaDecoderTest, TheOpenPanelStaysWithItsRecordWhenTheListIsCut) {
+  world.Stores.MoniAllRecords.Limit = 8;
+  Decode(Flight(1, 5) + Station("QX7AA"));
+  world.Browser.Open("QX7AA", 6, 0.0, 0.0);
+  const std::string shown = world.Controls.Record.Label20.Caption;
+  Decode(Flight(6, 10));
+  ASSERT_LE(world.Heard(), 8);
+  ASSERT_GE(world.Stores.SelectedRecordIndex, 1);
+  ASSERT_LT(world.Stores.SelectedRecordIndex, 6);
+  EXPECT_EQ(world.Stores.MoniAllRecords.At(world.Stores.SelectedRecordIndex).Call(), "QX7AA");
+  EXPECT_EQ(world.Controls.Record.Label20.Caption, shown);
+}
+
+TEST_F(AreaDecoderTest, ThePanelOfARecordThatIsCutAwayCloses) {
+  world.Stores.MoniAllRecords.Limit = 8;
+  Decode(Flight(1, 1) + Station("QX7AA") + Flight(2, 7));
+  world.Browser.Open("QX7AA", 2, 0.0, 0.0);
+  Decode(Flight(9, 10));
+  EXPECT_FALSE(world.Controls.Record.Frame1.Visible);
+  EXPECT_EQ(world.Stores.SelectedRecordIndex, 0);
 }
 
 TEST_F(AreaDecoderTest, TheLimitOfTheListIsKept) {

@@ -236,6 +236,18 @@ TEST_F(InetLineDecoderTest, TheOpenPanelOfTheStationGoesToItsNewestRecord) {
   EXPECT_EQ(world.Stores.SelectedRecordIndex, 2);
 }
 
+TEST_F(InetLineDecoderTest, TheOpenPanelOfAnotherStationStaysWithItsRecordWhenTheListIsCut) {
+  world.Stores.MoniAllRecords.Limit = 8;
+  Decode(Line("2024-05-14 12:01:00") + Line("2024-05-14 12:02:00") + Line("2024-05-14 12:03:00") +
+         Line("2024-05-14 12:04:00") + InternetWorld::Line("2024-05-14 12:05:00", "N0CALL"));
+  world.Browser.Open("N0CALL", 5, 0.0, 0.0);
+  Decode(Line("2024-05-14 12:10:00") + Line("2024-05-14 12:11:00") + Line("2024-05-14 12:12:00") +
+         Line("2024-05-14 12:13:00") + Line("2024-05-14 12:14:00"));
+  ASSERT_LT(world.Stores.SelectedRecordIndex, 5);
+  EXPECT_EQ(world.Stores.MoniAllRecords.At(world.Stores.SelectedRecordIndex).Call(), "N0CALL");
+  EXPECT_EQ(world.Controls.Record.Label20.Caption.find("N0CALL"), 32U);
+}
+
 TEST_F(InetLineDecoderTest, AFullDiskLosesNoLineOfTheLists) {
   world.Disk.RefusedEnding = ".TXT";
   world.Stores.LogsOn = 1;
