@@ -44,34 +44,45 @@ void InetLineDecoder::DecodeLine(const InetLine& line, DecodedLines& decoded) {
                               sections_.View.MapFalseEasting};
   const DecodeResult result = DecodePacket(frame_, context, tools_.Symbols, packet_);
   if (packet_.IsMessage) return NoteMessage(line.Text, decoded);
-  if (result.Outcome == DecodeOutcome::Packet) Keep(decoded);
+  if (result.Outcome == DecodeOutcome::Packet) Keep(line, decoded);
 }
 
-void InetLineDecoder::Keep(DecodedLines& decoded) {
+void InetLineDecoder::Keep(const InetLine& line, DecodedLines& decoded) {
   const StationRecord record = BuildRecord(packet_);
-  const FrameLevel level = tools_.Keeper.StoreLine(record).value_or(FrameLevel::Nothing);
-  if (level == FrameLevel::Nothing) return;
-  ++decoded.Stored;
-  // Replies overlap: only what is new is told of, other than on the air.
-  if (packet_.PacketIsEmergency) {
-    tools_.Keeper.RaiseEmergency(record, StationLogs::kInternetPosition);
-  }
+  // Before it is in the list itself.
+  const bool is_held = packet_.PacketIsEmergency && tools_.Keeper.HoldsEmergency(record);
+  FrameLevel level = tools_.Keeper.StoreLine(record).value_or(FrameLevel::Nothing);
+  if (level != FrameLevel::Nothing) ++decoded.Stored;
+  if (packet_.PacketIsEmergency) level = TellEmergency(line, record, is_held, level);
   decoded.Level = std::max(decoded.Level, level);
 }
 
+// Replies overlap: a line is told of once. One that repeats what is in the list by its place is
+// told of too, and shown unless the list has it as an emergency.
+FrameLevel InetLineDecoder::TellEmergency(const InetLine& line, const StationRecord& record,
+                                          bool is_held, FrameLevel stored) {
+  const bool is_told = emergencies_.IsKnown(line.Text);
+  if (is_told || is_held) {
+    if (!is_told) tools_.Keeper.LogEmergency(record, StationLogs::kInternetPosition);
+    return std::min(stored, FrameLevel::MoniAll);
+  }
+  tools_.Keeper.RaiseEmergency(record, StationLogs::kInternetPosition);
+  return FrameLevel::Emergency;
+}
+
 void InetLineDecoder::NoteMessage(std::string_view line, DecodedLines& decoded) {
-  if (IsKnown(line)) return;
+  if (messages_.IsKnown(line)) return;
   decoded.Messages.push_back(
       {packet_.PacketCall, packet_.PacketInfo, frame_.Header, packet_.PacketDestination});
 }
 
-bool InetLineDecoder::IsKnown(std::string_view line) {
+bool KnownLines::IsKnown(std::string_view line) {
   const std::size_t hash = std::hash<std::string_view>{}(line);
-  if (!known_.insert(hash).second) return true;
-  known_in_order_.push_back(hash);
-  if (known_in_order_.size() > kMostRemembered) {
-    known_.erase(known_in_order_.front());
-    known_in_order_.pop_front();
+  if (!hashes_.insert(hash).second) return true;
+  in_order_.push_back(hash);
+  if (in_order_.size() > kMostRemembered) {
+    hashes_.erase(in_order_.front());
+    in_order_.pop_front();
   }
   return false;
 }

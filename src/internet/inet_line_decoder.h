@@ -46,13 +46,23 @@ struct DecodedLines {
   std::vector<InetMessage> Messages;  // that have not been seen before, the oldest first
 };
 
+// Lines that have been told of, so that an overlap of two replies is not told of twice.
+class KnownLines {
+ public:
+  static constexpr std::size_t kMostRemembered = 4096;
+
+  // True when `line` has been asked for before; from now on it is known.
+  bool IsKnown(std::string_view line);
+
+ private:
+  std::unordered_set<std::size_t> hashes_;
+  std::deque<std::size_t> in_order_;
+};
+
 class InetLineDecoder {
  public:
   // More than these of a page are not worth a chat of eight lines: the newest count.
   static constexpr std::size_t kMostMessages = 400;
-  // So many are remembered, so that an overlap of two replies is not answered twice.
-  static constexpr std::size_t kMostRemembered = 4096;
-
   InetLineDecoder(InetDecoderSections sections, InetDecoderTools tools)
       : sections_(sections), tools_(tools) {}
 
@@ -61,15 +71,16 @@ class InetLineDecoder {
  private:
   void DecodeLine(const InetLine& line, DecodedLines& decoded);
   void NoteMessage(std::string_view line, DecodedLines& decoded);
-  void Keep(DecodedLines& decoded);
-  bool IsKnown(std::string_view line);
+  void Keep(const InetLine& line, DecodedLines& decoded);
+  FrameLevel TellEmergency(const InetLine& line, const StationRecord& record, bool is_held,
+                           FrameLevel stored);
 
   InetDecoderSections sections_;
   InetDecoderTools tools_;
   AnalysedFrame frame_;
   DecodedPacket packet_;
-  std::unordered_set<std::size_t> known_;
-  std::deque<std::size_t> known_in_order_;
+  KnownLines messages_;
+  KnownLines emergencies_;  // apart, so that no flood of messages drives them out
 };
 
 // A time further ahead of the local clock than clocks differ: what it stamps is not believed, for

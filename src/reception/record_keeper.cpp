@@ -1,6 +1,8 @@
 // The stores and logs in the order in which a record goes into them.
 #include "reception/record_keeper.h"
 
+#include <algorithm>
+
 #include "core/text_fields.h"
 #include "reception/emergency_report.h"
 
@@ -24,6 +26,19 @@ bool RecordKeeper::LogRaw(std::string_view collected) {
 void RecordKeeper::RaiseEmergency(const StationRecord& record, std::string_view position_label) {
   FillEmergency(record, map_, logs_.LogPath("_ALARM_.TXT"), alarms_);
   logs_.AppendEmergency(alarms_, position_label);
+}
+
+void RecordKeeper::LogEmergency(const StationRecord& record, std::string_view position_label) {
+  AlarmState alarm;
+  FillEmergency(record, map_, logs_.LogPath("_ALARM_.TXT"), alarm);
+  logs_.AppendEmergency(alarm, position_label);
+}
+
+bool RecordKeeper::HoldsEmergency(const StationRecord& record) const {
+  const std::vector<StationRecord>& all = stores_.MoniAllRecords.All();
+  return std::any_of(all.begin(), all.end(), [&record](const StationRecord& stored) {
+    return stored.EmergencyMark() == '!' && IsSamePacket(stored, record);
+  });
 }
 
 std::optional<FrameLevel> RecordKeeper::Store(const StationRecord& record) {

@@ -56,6 +56,10 @@ class RecordKeeper {
   // Fills the alarm fields and appends the block of the emergency log.
   void RaiseEmergency(const StationRecord& record,
                       std::string_view position_label = StationLogs::kHeardPosition);
+  // Appends the block alone: what is shown stays.
+  void LogEmergency(const StationRecord& record, std::string_view position_label);
+  // The list of all stations holds the same packet, and as an emergency.
+  bool HoldsEmergency(const StationRecord& record) const;
   // Stores `record` unless it is a repeat; what that has led to. Nothing (no level) when the list
   // is full to its capacity, or at the first failure to write a file in this run.
   std::optional<FrameLevel> Store(const StationRecord& record);

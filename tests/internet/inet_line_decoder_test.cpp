@@ -181,6 +181,28 @@ TEST_F(InetLineDecoderTest, AnEmergencyThatIsKnownIsNotToldOfAgain) {
   EXPECT_EQ(world.Disk.LineCount(world.Log("_ALARM_.TXT")), 7);
 }
 
+TEST_F(InetLineDecoderTest, AnEmergencyAtThePlaceOfAnEarlierPacketIsToldOfAndShown) {
+  decoder.DecodeInetLines(
+      "20240514120000,QX7GW>APRS,qAR,QX7AB:!4830.15N/00805.20E>Test of the net\r\n");
+  const DecodedLines decoded =
+      decoder.DecodeInetLines("20240514120500,QX7GW>APRS,qAR,QX7CD:!4830.15N\\00805.20E!help\r\n");
+  EXPECT_EQ(decoded.Stored, 0) << "by its place a repeat";
+  EXPECT_EQ(world.Disk.LineCount(world.Log("_ALARM_.TXT")), 7);
+  EXPECT_EQ(decoded.Level, FrameLevel::Emergency);
+  EXPECT_EQ(world.Alarms.AlarmCall, "QX7GW");
+}
+
+TEST_F(InetLineDecoderTest, AnotherWayOfAnEmergencyIsLoggedAndNotShownAgain) {
+  const auto line = [](const char* gate) {
+    return std::string("20240514123000,QX7GW>APRS,qAR,") + gate + ":!4830.15N\\00805.20E!help\r\n";
+  };
+  EXPECT_EQ(decoder.DecodeInetLines(line("QX7AB")).Level, FrameLevel::Emergency);
+  world.Alarms.AlarmCall.clear();  // the operator has ended it
+  EXPECT_EQ(decoder.DecodeInetLines(line("QX7CD")).Level, FrameLevel::Nothing);
+  EXPECT_EQ(world.Disk.LineCount(world.Log("_ALARM_.TXT")), 14);
+  EXPECT_EQ(world.Alarms.AlarmCall, "");
+}
+
 // ---- Messages -------------------------------------------------------------------------------
 
 TEST_F(InetLineDecoderTest, AMessageIsHandedOnOnceHoweverOftenItsLineComes) {
