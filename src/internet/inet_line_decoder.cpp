@@ -57,12 +57,18 @@ void InetLineDecoder::Keep(const InetLine& line, DecodedLines& decoded) {
   decoded.Level = std::max(decoded.Level, level);
 }
 
+// Ahead of the local clock it is negative.
+std::int64_t InetLineDecoder::AgeOf(const InetLine& line) const {
+  const std::int64_t offset = sections_.Settings.UtcOffsetHours * kSecondsPerHour;
+  return SecondsOf(tools_.LocalClock.Now()) - (line.Seconds + offset);
+}
+
 // Replies overlap: a line is told of once. One that repeats what is in the list by its place is
 // told of too, and shown unless the list has it as an emergency.
 FrameLevel InetLineDecoder::TellEmergency(const InetLine& line, const StationRecord& record,
                                           bool is_held, FrameLevel stored) {
   const bool is_told = emergencies_.IsKnown(line.Text);
-  if (is_told || is_held) {
+  if (is_told || is_held || AgeOf(line) > kShownSeconds) {
     if (!is_told) tools_.Keeper.LogEmergency(record, StationLogs::kInternetPosition);
     return std::min(stored, FrameLevel::MoniAll);
   }

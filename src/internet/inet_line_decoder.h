@@ -63,6 +63,9 @@ class InetLineDecoder {
  public:
   // More than these of a page are not worth a chat of eight lines: the newest count.
   static constexpr std::size_t kMostMessages = 400;
+  // An emergency that is older, as a first page may tell of it, is not shown.
+  static constexpr std::int64_t kShownSeconds = 24 * 3600;
+
   InetLineDecoder(InetDecoderSections sections, InetDecoderTools tools)
       : sections_(sections), tools_(tools) {}
 
@@ -71,6 +74,7 @@ class InetLineDecoder {
  private:
   void DecodeLine(const InetLine& line, DecodedLines& decoded);
   void NoteMessage(std::string_view line, DecodedLines& decoded);
+  std::int64_t AgeOf(const InetLine& line) const;  // seconds
   void Keep(const InetLine& line, DecodedLines& decoded);
   FrameLevel TellEmergency(const InetLine& line, const StationRecord& record, bool is_held,
                            FrameLevel stored);

@@ -203,6 +203,30 @@ TEST_F(InetLineDecoderTest, AnotherWayOfAnEmergencyIsLoggedAndNotShownAgain) {
   EXPECT_EQ(world.Alarms.AlarmCall, "");
 }
 
+TEST_F(InetLineDecoderTest, AKnownEmergencyThatTheListHasLostIsNotToldOfAgain) {
+  DecodePacketOf("!4830.15N\\00805.20E!help");
+  world.Alarms.AlarmCall.clear();  // the operator has ended it
+  world.Stores.MoniAllRecords.Clear();
+  const DecodedLines again = DecodePacketOf("!4830.15N\\00805.20E!help");
+  EXPECT_EQ(again.Stored, 1);
+  EXPECT_EQ(again.Level, FrameLevel::MoniAll);
+  EXPECT_EQ(world.Disk.LineCount(world.Log("_ALARM_.TXT")), 7);
+  EXPECT_EQ(world.Alarms.AlarmCall, "");
+}
+
+TEST_F(InetLineDecoderTest, AnEmergencyOfMoreThanADayIsStoredAndNotShown) {
+  const auto line = [](const char* time) {
+    return InternetWorld::Line(time, "QX7GW", "!4830.15N\\00805.20E!help");
+  };
+  world.Settings.UtcOffsetHours = 2;  // the local clock shows 12:35
+  const DecodedLines old = Decode(line("2024-05-13 10:34:59"));
+  EXPECT_EQ(old.Stored, 1);
+  EXPECT_EQ(old.Level, FrameLevel::MoniAll);
+  EXPECT_EQ(world.Alarms.AlarmCall, "");
+  EXPECT_EQ(world.Disk.LineCount(world.Log("_ALARM_.TXT")), 7);
+  EXPECT_EQ(Decode(line("2024-05-13 10:35:00")).Level, FrameLevel::Emergency);
+}
+
 // ---- Messages -------------------------------------------------------------------------------
 
 TEST_F(InetLineDecoderTest, AMessageIsHandedOnOnceHoweverOftenItsLineComes) {
