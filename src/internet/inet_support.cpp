@@ -153,6 +153,8 @@ void InetSupport::FetchMoni1() {
     controls_.Status.Text10.BackColour = kCollectingFromRest;
   Ask(moni1_, RawAddress(source, host, sections_.Followed.Moni1Call, hours),
       sections_.Followed.Moni1Call, &InetSupport::Moni1Came);
+  // It would take the switch of MONI 1 away from under an area that is silent.
+  if (moni1_.UnderWay) tools_.Timer2.Arm(kPatienceMilliseconds);
 }
 
 // The map's centre in degrees, and everything around it.
@@ -184,7 +186,6 @@ void InetSupport::Ask(Kind& kind, const std::string& address, std::string call,
   sections_.Internet.WebRequestUrl = address;
   kind.UnderWay = {number, sections_.Internet.InetSource, std::move(call), ClockNow(),
                    tools_.LocalClock.MonotonicSeconds()};
-  tools_.Timer2.Arm(kPatienceMilliseconds);
   Renew();
 }
 
@@ -314,6 +315,7 @@ void InetSupport::Rest() {
   banner.BackColour = state_colours::kCollectingMoni1;
   controls_.Window.Pointer = PointerShape::Default;
   controls_.Map.Picture1.Pointer = PointerShape::Default;
+  tools_.Timer2.Stop();
   tools_.Timer1.Enable();
 }
 

@@ -386,6 +386,17 @@ TEST_F(InetSupportTest, ASilentAreaServiceIsGivenUpAndStaysOn) {
   EXPECT_EQ(world.AreaWords(), "AREA: 12:36 no answer");
 }
 
+TEST_F(InetSupportTest, TheWatchdogIsThatOfTheFollowedStationAlone) {
+  world.SwitchAreaOn();
+  world.FetchMoniAll();
+  EXPECT_FALSE(world.Timer2.Enabled() && world.Timer2.IntervalMs() == 60000);
+  world.Pages.Answer(OneStation());
+  world.SwitchOn();
+  world.FetchMoni1();
+  world.Pages.Answer(OneLine());
+  EXPECT_FALSE(world.Timer2.Enabled()) << "or it fires while the area is awaited";
+}
+
 TEST_F(InetSupportTest, APageBehindTheWatchdogIsPassedOverWhole) {
   world.SwitchOn();
   world.FetchMoni1();

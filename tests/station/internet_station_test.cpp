@@ -47,6 +47,8 @@ class InternetStation : public StationHarness {
   std::function<std::string(const std::string& url)> answer = [](const std::string& url) {
     return url.find("/aprs/area") != std::string::npos ? "[]" : "";
   };
+  // Whether the service answers what is asked there; missing: it does.
+  std::function<bool(const std::string& url)> answers;
 
  private:
   // What the program's owner does once a second, and the services.
@@ -54,7 +56,9 @@ class InternetStation : public StationHarness {
     clock.Schedule(1.0, [this] {
       clock.Post([this] {
         program->SecondPassed();
-        if (pages->IsBusy() && answer) pages->Answer(answer(pages->Asked.back()));
+        if (!pages->IsBusy() || !answer) return;
+        const std::string url = pages->Asked.back();
+        if (!answers || answers(url)) pages->Answer(answer(url));
       });
       EverySecond();
     });
@@ -238,6 +242,19 @@ TEST(InternetStation, ASilentAreaServiceDoesNotStopTheStationForGood) {
   EXPECT_TRUE(station.program->Timer1().Enabled());
   station.Minutes(2.5);
   EXPECT_EQ(station.AskedFor("/aprs/area"), 2);
+}
+
+TEST(InternetStation, ASilentAreaServiceLeavesTheFollowedStationOn) {
+  InternetStation station({2024, 5, 14, 13, 4, 10});
+  station.answers = [](const std::string& url) {
+    return url.find("/aprs/area") == std::string::npos;
+  };
+  station.Click(station.Moni1());
+  station.Click(station.Area());
+  station.Minutes(2.0);
+  EXPECT_EQ(station.AskedFor("/aprs/area"), 1);
+  EXPECT_EQ(station.Moni1().Value, 1);
+  EXPECT_EQ(station.AskedFor("/aprs/raw"), 2);
 }
 
 TEST(InternetStation, AWatchdogThatFiresEarlyBringsNoHalfPage) {
