@@ -232,18 +232,15 @@ bool InetSupport::IsOfFollowed(const Asked& asked) const {
 
 // The lines of a page by the service that was asked, and what there is to say where it has none.
 std::string InetSupport::LinesOf(const Asked& asked, const std::string& body) {
-  sections_.Internet.InetNoData = SaysNoData(body);
-  const std::string time = ClockNow();
-  if (sections_.Internet.InetNoData) {
-    moni1_.Words = internet_texts::kNoData.With({time});
-    return {};
-  }
-  std::string lines = asked.Source == InternetSource::CgiService ? LinesOfCgiReply(body, asked.Call)
-                                                                 : LinesOfRestReply(body);
-  const bool tells_nothing = Trim(body).empty();
+  const bool is_cgi = asked.Source == InternetSource::CgiService;
+  const bool says_no_data = SaysNoData(body);
+  const bool tells_nothing = says_no_data || Trim(body).empty();
   moni1_.Words =
-      (tells_nothing ? internet_texts::kNoData : internet_texts::kOddAnswer).With({time});
-  return lines;
+      (tells_nothing ? internet_texts::kNoData : internet_texts::kOddAnswer).With({ClockNow()});
+  // Among the packets of the other service the words may be part of one.
+  sections_.Internet.InetNoData = is_cgi && says_no_data;
+  if (sections_.Internet.InetNoData) return {};
+  return is_cgi ? LinesOfCgiReply(body, asked.Call) : LinesOfRestReply(body);
 }
 
 void InetSupport::MoniAllCame(const Page& page) {

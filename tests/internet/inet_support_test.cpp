@@ -250,6 +250,16 @@ TEST_F(InetSupportTest, NoDataChangesNothing) {
   EXPECT_FALSE(world.Internet.InetNoData);
 }
 
+TEST_F(InetSupportTest, APacketThatSpeaksOfNoDataIsOne) {
+  world.SwitchOn();
+  world.FetchMoni1();
+  world.Pages.Answer("\n" +
+                     InternetWorld::Line("2024-05-14 12:29:00", "QX7GW", ">no data found for you") +
+                     InternetWorld::Line("2024-05-14 12:30:00"));
+  EXPECT_FALSE(world.Internet.InetNoData);
+  EXPECT_EQ(world.HistoryCount(), 1);
+}
+
 TEST_F(InetSupportTest, PagesOfAnotherFormAreIgnored) {
   world.SwitchOn();
   for (const std::string& page :
