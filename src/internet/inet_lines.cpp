@@ -125,10 +125,9 @@ std::string LinesOfRestReply(std::string_view body) {
 
 std::vector<InetLine> CutInetLines(std::string_view text) {
   std::vector<InetLine> lines;
-  // The head, and empty lines behind it.
-  if (!text.starts_with(kCentury)) TakeLine(text);
-  while (text.starts_with('\r') || text.starts_with('\n'))
-    text.remove_prefix(1);
+  // The head, which may stand on a line of its own behind an empty one.
+  while (!text.empty() && !text.starts_with(kCentury))
+    TakeLine(text);
   while (!text.empty()) {
     const std::string_view line = TakeLine(text);
     if (line.size() < kShortestLine) break;

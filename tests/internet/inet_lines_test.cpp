@@ -113,6 +113,8 @@ TEST(CutInetLines, AHeadIsPassedOverAndNeverAPacket) {
   EXPECT_THAT(TextsOf(" for 72 hours\r\n" + kPlain + "\r\n"), ElementsAre(kPlain));
   EXPECT_THAT(TextsOf("\r\n" + kPlain + "\r\n"), ElementsAre(kPlain));
   EXPECT_THAT(TextsOf("\r\n\r\n" + kPlain + "\r\n"), ElementsAre(kPlain));
+  EXPECT_THAT(TextsOf("\r\nfor 72 hours\r\n" + kPlain + "\r\n"), ElementsAre(kPlain));
+  EXPECT_THAT(TextsOf("\r\nfor 72 hours\r\n\r\n" + kPlain), ElementsAre(kPlain));
   EXPECT_THAT(TextsOf("x\n" + kPlain), ElementsAre(kPlain));
   EXPECT_THAT(TextsOf(kPlain), ElementsAre(kPlain));
 }
