@@ -43,7 +43,7 @@ void InetLineDecoder::DecodeLine(const InetLine& line, DecodedLines& decoded) {
                               utc_offset, sections_.View.MapCentralMeridian,
                               sections_.View.MapFalseEasting};
   const DecodeResult result = DecodePacket(frame_, context, tools_.Symbols, packet_);
-  if (packet_.IsMessage) return NoteMessage(line.Text, decoded);
+  if (packet_.IsMessage) return NoteMessage(line, decoded);
   if (result.Outcome == DecodeOutcome::Packet) Keep(line, decoded);
 }
 
@@ -76,10 +76,10 @@ FrameLevel InetLineDecoder::TellEmergency(const InetLine& line, const StationRec
   return FrameLevel::Emergency;
 }
 
-void InetLineDecoder::NoteMessage(std::string_view line, DecodedLines& decoded) {
-  if (messages_.IsKnown(line)) return;
-  decoded.Messages.push_back(
-      {packet_.PacketCall, packet_.PacketInfo, frame_.Header, packet_.PacketDestination});
+void InetLineDecoder::NoteMessage(const InetLine& line, DecodedLines& decoded) {
+  if (messages_.IsKnown(line.Text)) return;
+  decoded.Messages.push_back({packet_.PacketCall, packet_.PacketInfo, frame_.Header,
+                              packet_.PacketDestination, AgeOf(line)});
 }
 
 bool KnownLines::IsKnown(std::string_view line) {

@@ -37,6 +37,7 @@ struct InetMessage {
   std::string Info;
   std::string Header;
   std::string Destination;
+  std::int64_t AgeSeconds = 0;  // by its line's own time
 };
 
 struct DecodedLines {
@@ -73,7 +74,7 @@ class InetLineDecoder {
 
  private:
   void DecodeLine(const InetLine& line, DecodedLines& decoded);
-  void NoteMessage(std::string_view line, DecodedLines& decoded);
+  void NoteMessage(const InetLine& line, DecodedLines& decoded);
   std::int64_t AgeOf(const InetLine& line) const;  // seconds
   void Keep(const InetLine& line, DecodedLines& decoded);
   FrameLevel TellEmergency(const InetLine& line, const StationRecord& record, bool is_held,

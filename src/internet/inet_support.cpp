@@ -290,8 +290,8 @@ void InetSupport::HandOnMessages(const DecodedLines& decoded) {
   if (decoded.Messages.empty()) return;
   tools_.Messages.PassBegins();
   for (const InetMessage& message : decoded.Messages) {
-    tools_.Messages.MessageReceived(
-        {message.From, message.Info, message.Header, message.Destination, true});
+    tools_.Messages.MessageReceived({message.From, message.Info, message.Header,
+                                     message.Destination, true, message.AgeSeconds});
   }
 }
 

@@ -1,6 +1,8 @@
 // The steps of a received message in their order.
 #include "messages/message_reception.h"
 
+#include <algorithm>
+
 #include "core/text_fields.h"
 #include "messages/message_texts.h"
 
@@ -13,15 +15,17 @@ void MessageReception::MessageReceived(const HeardMessage& heard) {
                         std::string(heard.Destination),
                         std::string(MessageTextOf(heard.Info)),
                         NumberIn(heard.Info).has_value(),
-                        heard.OverInternet};
+                        heard.OverInternet,
+                        heard.AgeSeconds};
   if (!IsOwnCall(AddresseeOf(message.Info), identity_)) return ShowTrafficOfOthers(message);
   if (BeginsLikeAck(message.Text)) return TakeAck(message);
   const bool is_new = ShowForMe(message);
+  const bool is_awaited = message.AgeSeconds <= kAnsweredSeconds;
   // At once, also for repeats.
-  Acknowledge(message);
-  if (is_new) AnswerForTheOperator(message);
+  if (is_awaited) Acknowledge(message);
+  if (is_awaited && is_new) AnswerForTheOperator(message);
   MarkAnsweredPings(message);
-  AnswerPing(message);
+  if (is_awaited) AnswerPing(message);
 }
 
 // Kept: a line without a number, as that of a ping, is compared with the newest one only, and the
@@ -67,17 +71,33 @@ bool MessageReception::MayAnswer() {
 }
 
 // One that does not leave costs seconds: no other is tried in the same pass.
-void MessageReception::Answer() {
-  if (!tools_.Sender.SendChatFrame().empty()) answers_ = kMostAnswers;
+bool MessageReception::Answer() {
+  if (tools_.Sender.SendChatFrame().empty()) return true;
+  answers_ = kMostAnswers;
+  return false;
+}
+
+bool MessageReception::IsAcknowledged(const Message& message) const {
+  const std::string line = ReceivedLine(message.From, message.Info);
+  const std::int64_t sent = SecondsOf(tools_.LocalClock.Now()) - message.AgeSeconds;
+  return std::any_of(acknowledged_.begin(), acknowledged_.end(), [&](const Acknowledged& other) {
+    return other.Seconds >= sent && other.Line == line;
+  });
+}
+
+void MessageReception::NoteAcknowledged(const Message& message) {
+  acknowledged_.push_back(
+      {ReceivedLine(message.From, message.Info), SecondsOf(tools_.LocalClock.Now())});
+  if (acknowledged_.size() > kMostAcknowledged) acknowledged_.pop_front();
 }
 
 void MessageReception::Acknowledge(const Message& message) {
   const auto number = NumberToAcknowledge(message.From, message.Info);
-  if (!number || !MayAnswer()) return;
+  if (!number || (message.OverInternet && IsAcknowledged(message)) || !MayAnswer()) return;
   // Who came by the internet alone is answered that way.
   chat_.ChatTxText = message.OverInternet ? InternetAckText(message.From, *number)
                                           : AckText(message.From, *number);
-  Answer();
+  if (Answer() && !message.OverInternet) NoteAcknowledged(message);
 }
 
 void MessageReception::AnswerForTheOperator(const Message& message) {

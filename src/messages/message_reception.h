@@ -2,6 +2,9 @@
 // it asks for that; acknowledgements find the line they are meant for.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+#include <deque>
 #include <string>
 #include <string_view>
 
@@ -30,6 +33,8 @@ class MessageReception final : public MessageActions {
   // So many frames answer messages in one receive pass: each takes 0.8 s, and together they are to
   // take less than a tick. Who is not acknowledged repeats his message.
   static constexpr int kMostAnswers = 6;
+  // A database tells of the past too: who sent longer ago waits for no answer any more.
+  static constexpr std::int64_t kAnsweredSeconds = 3600;
 
   MessageReception(const IdentityState& identity, ChatState& chat, ChatControls& controls,
                    MessageReceptionTools tools)
@@ -48,8 +53,19 @@ class MessageReception final : public MessageActions {
     std::string Text;  // behind the addressee
     bool HasNumber = false;
     bool OverInternet = false;
+    std::int64_t AgeSeconds = 0;
   };
 
+  // An acknowledgement that has left by radio.
+  struct Acknowledged {
+    std::string Line;
+    std::int64_t Seconds = 0;  // local calendar
+  };
+  static constexpr std::size_t kMostAcknowledged = 100;
+
+  // It left by radio after this was sent.
+  bool IsAcknowledged(const Message& message) const;
+  void NoteAcknowledged(const Message& message);
   void ShowTrafficOfOthers(const Message& message);
   void TakeAck(const Message& message);
   bool ShowForMe(const Message& message);
@@ -60,14 +76,15 @@ class MessageReception final : public MessageActions {
   bool IsRepeat(const Message& message, const std::string& line) const;
   void Enter(const std::string& line, std::uint32_t colour);
   bool MayAnswer();
-  // Sends what stands in `ChatTxText`.
-  void Answer();
+  // Sends what stands in `ChatTxText`; false when it did not leave.
+  bool Answer();
 
   const IdentityState& identity_;
   ChatState& chat_;
   ChatControls& controls_;
   MessageReceptionTools tools_;
   int answers_ = 0;  // in this pass
+  std::deque<Acknowledged> acknowledged_;
 };
 
 }  // namespace zepril

@@ -334,6 +334,7 @@ TEST_F(InetSupportTest, MessagesAreHandedOnWithTheWordThatTheyCameByTheNet) {
   ASSERT_EQ(world.Actions.Messages.size(), 1U);
   EXPECT_TRUE(world.Actions.Messages[0].OverInternet);
   EXPECT_EQ(world.Actions.Messages[0].From, "QX7GW");
+  EXPECT_EQ(world.Actions.Messages[0].AgeSeconds, 300);
   EXPECT_EQ(world.Actions.PassesBegun, 1);
   EXPECT_EQ(world.Words(), "MONI 1: 12:35 1 lines, 0 new");
 }

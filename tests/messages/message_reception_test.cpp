@@ -60,6 +60,34 @@ TEST_F(MessageReceptionTest, OneThatCameByTheInternetWithoutANumberIsNot) {
   EXPECT_THAT(world.Pages.Asked, IsEmpty());
 }
 
+TEST_F(MessageReceptionTest, OneOfTheInternetThatIsOldIsShownAndNotAnswered) {
+  world.State.Chat.AutoAnswerOn = 1;
+  world.State.Chat.AutoAnswerText = "Not at home";
+  world.HearOverInternet("N0CALL", ":QX7KB    :Hello{07", 3601);
+  EXPECT_EQ(world.Newest().Text, "N0CALL   :QX7KB    :Hello{07");
+  world.HearOverInternet("N0CALL", ":QX7KB    :?aprst", 3601);
+  EXPECT_EQ(world.Newest().Text, "N0CALL   :QX7KB    :?aprst");
+  EXPECT_THAT(world.Sent(), IsEmpty());
+  EXPECT_THAT(world.Pages.Asked, IsEmpty());
+  EXPECT_EQ(world.State.Chat.ChatTxText, "");
+}
+
+TEST_F(MessageReceptionTest, OneOfTheInternetOfLessThanAnHourIsAnswered) {
+  world.HearOverInternet("N0CALL", ":QX7KB    :Hello{07", 3600);
+  EXPECT_EQ(world.Pages.Asked.size(), 1U);
+  world.HearOverInternet("N0CALL", ":QX7KB    :?aprst", 3600);
+  EXPECT_EQ(world.Sent().size(), 1U);
+}
+
+TEST_F(MessageReceptionTest, WhatWasAcknowledgedByRadioIsNotOnceMoreByTheInternet) {
+  world.Hear("N0CALL", ":QX7KB    :Hello{07");
+  world.Clock.Run(60.0);
+  world.HearOverInternet("N0CALL", ":QX7KB    :Hello{07", 90);
+  EXPECT_THAT(world.Pages.Asked, IsEmpty());
+  world.HearOverInternet("N0CALL", ":QX7KB    :Hello{07", 10);
+  EXPECT_EQ(world.Pages.Asked.size(), 1U) << "sent again: the first did not arrive";
+}
+
 TEST_F(MessageReceptionTest, BothAcknowledgementsCountWhenTheyComeByTheInternet) {
   for (const char* word : {"ack", "mok"}) {
     world.PutLine(3, " QX7KB-10:N0CALL   :Hello{07", 251);

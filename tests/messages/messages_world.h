@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -54,8 +55,10 @@ struct MessagesWorld {
     Room.Heard.MessageReceived({from, info, header, "APRS"});
   }
   // One that a database of the internet tells of.
-  void HearOverInternet(const std::string& from, const std::string& info) {
-    Room.Heard.MessageReceived({from, info, from + ">qAR,QX7AB>APRS <UI>", "APRS", true});
+  void HearOverInternet(const std::string& from, const std::string& info,
+                        std::int64_t age_seconds = 0) {
+    const std::string header = from + ">qAR,QX7AB>APRS <UI>";
+    Room.Heard.MessageReceived({from, info, header, "APRS", true, age_seconds});
   }
   void Type(const std::string& to, const std::string& text) {
     Controls.Chat.Text2.Text = to;

@@ -56,7 +56,7 @@ class RecordingActions final : public MapActions,
   void MessageReceived(const HeardMessage& message) override {
     Messages.push_back({std::string(message.From), std::string(message.Info),
                         std::string(message.Header), std::string(message.Destination),
-                        message.OverInternet});
+                        message.OverInternet, message.AgeSeconds});
   }
   void PassBegins() override { ++PassesBegun; }
   void ShowEmergency() override { ++Emergencies; }
@@ -75,6 +75,7 @@ class RecordingActions final : public MapActions,
     std::string Header;
     std::string Destination;
     bool OverInternet = false;
+    std::int64_t AgeSeconds = 0;
   };
   int PassesBegun = 0;
   int Redraws = 0;

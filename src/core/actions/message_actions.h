@@ -1,6 +1,7 @@
 // What reception does with a message frame.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 namespace zepril {
@@ -12,6 +13,7 @@ struct HeardMessage {
   std::string_view Header;       // header line of the frame
   std::string_view Destination;  // of the header
   bool OverInternet = false;     // it was not heard but told of by a database
+  std::int64_t AgeSeconds = 0;   // since it was sent; negative by a clock that is behind
 };
 
 class MessageActions {
