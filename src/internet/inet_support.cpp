@@ -183,6 +183,7 @@ void InetSupport::Ask(Kind& kind, const std::string& address, std::string call,
     Rest();
     return Renew();
   }
+  failed_at_.reset();  // the banner is of this fetch now
   sections_.Internet.WebRequestUrl = address;
   kind.UnderWay = {number, sections_.Internet.InetSource, std::move(call), ClockNow(),
                    tools_.LocalClock.MonotonicSeconds()};
@@ -202,6 +203,7 @@ void InetSupport::Moni1Came(const Page& page) {
     // The banner stays until `Timer2` takes it away, and the switch with it.
     if (page.Outcome == PageOutcome::Failed) {
       tools_.Timer2.Arm(kFailureMilliseconds);
+      failed_at_ = tools_.LocalClock.MonotonicSeconds();
       return Renew();
     }
   } else {
@@ -304,16 +306,21 @@ void InetSupport::Drop(Kind& kind) {
   tools_.Pages.Drop(number);
 }
 
+bool InetSupport::IsBannerOfMessage() const {
+  const Label& banner = controls_.Status.Text10;
+  return banner.Visible && banner.Caption == std::string(chat_texts::kSendingOverInternet);
+}
+
 // The banner of a message that is being sent stays: whoever sends it takes it away.
 void InetSupport::Rest() {
+  if (IsBannerOfMessage()) return;
   Label& banner = controls_.Status.Text10;
-  if (banner.Visible && banner.Caption == std::string(chat_texts::kSendingOverInternet)) return;
   banner.Visible = false;
   banner.BackColour = state_colours::kCollectingMoni1;
   controls_.Window.Pointer = PointerShape::Default;
   controls_.Map.Picture1.Pointer = PointerShape::Default;
   tools_.Timer2.Stop();
-  tools_.Timer1.Enable();
+  if (!IsHeld()) tools_.Timer1.Enable();
 }
 
 void InetSupport::SecondPassed() {
@@ -323,9 +330,22 @@ void InetSupport::SecondPassed() {
     moni1_.WasOn = false;
     moni1_.Words = internet_texts::kNoAnswer.With({ClockNow()});
   }
+  EndFailure();
   GiveUpSilent(moni1_);
   GiveUpSilent(moni_all_);
   Renew();
+}
+
+// `Timer2` ends a failed fetch, unless a panel or a key has stopped it meanwhile.
+void InetSupport::EndFailure() {
+  if (!failed_at_) return;
+  const double passed = tools_.LocalClock.MonotonicSeconds() - *failed_at_;
+  if (passed * 1000.0 < kFailureMilliseconds) return;
+  failed_at_.reset();
+  if (!controls_.Status.Text10.Visible || IsBannerOfMessage()) return;
+  controls_.Moni1.Check22.Value = 0;
+  moni1_.WasOn = false;
+  Rest();
 }
 
 void InetSupport::GiveUpSilent(Kind& kind) {

@@ -139,7 +139,9 @@ class InetSupport {
   void HandOnMessages(const DecodedLines& decoded);
   void Drop(Kind& kind);
   void GiveUpSilent(Kind& kind);
+  void EndFailure();
   void Rest();
+  bool IsBannerOfMessage() const;
   void LoseService(Kind& kind, CheckBox& box, InternetSource source);
   void NoteSwitchedOff(Kind& kind, const CheckBox& box);
   std::string StateOf(const Kind& kind, const CheckBox& box, int last_minute, int every) const;
@@ -153,6 +155,7 @@ class InetSupport {
   AreaDecoder area_;
   Kind moni1_;
   Kind moni_all_;
+  std::optional<double> failed_at_;  // monotonic seconds; the banner of that fetch may still stand
 };
 
 }  // namespace zepril

@@ -362,6 +362,47 @@ TEST_F(InetSupportTest, AServiceThatCannotBeReachedEndsInTwoSeconds) {
   EXPECT_EQ(world.Words(), "MONI 1: 12:35 no answer");
 }
 
+TEST_F(InetSupportTest, AFailedFetchEndsAlsoWhenTheWatchdogWasStopped) {
+  world.SwitchOn();
+  world.FetchMoni1();
+  world.Pages.Fail();
+  world.Timer2.Stop();  // as a panel does
+  world.Time.Run(1.0);
+  Support().SecondPassed();
+  EXPECT_TRUE(banner.Visible);
+  world.Time.Run(1.0);
+  Support().SecondPassed();
+  EXPECT_TRUE(world.IsAtRest());
+  EXPECT_EQ(moni1.Value, 0);
+  EXPECT_EQ(world.Words(), "MONI 1: 12:35 no answer");
+}
+
+TEST_F(InetSupportTest, AFailedFetchEndsUnderAPanelWithoutTheCycle) {
+  bool held = false;
+  Support().CycleIsHeld = [&held] { return held; };
+  world.SwitchOn();
+  world.FetchMoni1();
+  world.Pages.Fail();
+  world.Timer2.Stop();
+  held = true;
+  world.Time.Run(2.0);
+  Support().SecondPassed();
+  EXPECT_FALSE(banner.Visible);
+  EXPECT_FALSE(world.Timer1.Enabled());
+}
+
+TEST_F(InetSupportTest, AFailedFetchDoesNotEndTheNextOne) {
+  world.SwitchOn();
+  world.FetchMoni1();
+  world.Pages.Fail();
+  world.SwitchAreaOn();
+  world.FetchMoniAll();
+  world.Time.Run(2.0);
+  Support().SecondPassed();
+  EXPECT_TRUE(banner.Visible);
+  EXPECT_EQ(moni1.Value, 1);
+}
+
 TEST_F(InetSupportTest, AnAreaServiceThatCannotBeReachedIsAskedAgainLater) {
   world.SwitchAreaOn();
   world.FetchMoniAll();
