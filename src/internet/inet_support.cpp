@@ -348,8 +348,18 @@ void InetSupport::EndFailure() {
   Rest();
 }
 
+// Pages of others are before it in the line, and its service is not silent yet. Those are given up
+// in their turn, so that this one's comes. A shorter time of `Timer2` is that of a press.
+void InetSupport::WaitForTurn(Kind& kind) {
+  kind.UnderWay->Since = tools_.LocalClock.MonotonicSeconds();
+  const bool is_watched =
+      tools_.Timer2.Enabled() && tools_.Timer2.IntervalMs() == kPatienceMilliseconds;
+  if (&kind == &moni1_ && is_watched) tools_.Timer2.Arm(kPatienceMilliseconds);
+}
+
 void InetSupport::GiveUpSilent(Kind& kind) {
   if (!kind.UnderWay) return;
+  if (!tools_.Pages.IsUnderWay(kind.UnderWay->Number)) return WaitForTurn(kind);
   const double waited = tools_.LocalClock.MonotonicSeconds() - kind.UnderWay->Since;
   if (waited * 1000.0 < kPatienceMilliseconds) return;
   Drop(kind);

@@ -110,7 +110,7 @@ class InetSupport {
     InternetSource Source = InternetSource::RestService;
     std::string Call;
     std::string At;      // time of day
-    double Since = 0.0;  // monotonic seconds
+    double Since = 0.0;  // monotonic seconds, while it waits for its turn the last ones
   };
   // One of the two switches.
   struct Kind {
@@ -139,6 +139,7 @@ class InetSupport {
   void HandOnMessages(const DecodedLines& decoded);
   void Drop(Kind& kind);
   void GiveUpSilent(Kind& kind);
+  void WaitForTurn(Kind& kind);
   void EndFailure();
   void Rest();
   bool IsBannerOfMessage() const;

@@ -438,6 +438,28 @@ TEST_F(InetSupportTest, ASilentAreaServiceIsGivenUpAndStaysOn) {
   EXPECT_EQ(world.AreaWords(), "AREA: 12:36 no answer");
 }
 
+TEST_F(InetSupportTest, PatienceBeginsWithTheTurnOfThePage) {
+  const std::int64_t other = world.Pages.Fetch("http://other", {});
+  world.SwitchOn();
+  world.SwitchAreaOn();
+  world.FetchMoni1();
+  world.FetchMoniAll();
+  for (int second = 0; second < 90; ++second) {
+    world.Time.Run(1.0);
+    Support().SecondPassed();
+  }
+  EXPECT_EQ(world.Words(), "MONI 1: asking since 12:35");
+  EXPECT_EQ(world.AreaWords(), "AREA: asking since 12:35");
+  world.Pages.Drop(other);
+  world.Time.Run(59.0);
+  Support().SecondPassed();
+  EXPECT_EQ(moni1.Value, 1);
+  world.Time.Run(1.0);
+  Support().SecondPassed();
+  EXPECT_EQ(moni1.Value, 0);
+  EXPECT_EQ(world.AreaWords(), "AREA: asking since 12:35") << "its turn has just come";
+}
+
 TEST_F(InetSupportTest, TheWatchdogIsThatOfTheFollowedStationAlone) {
   world.SwitchAreaOn();
   world.FetchMoniAll();

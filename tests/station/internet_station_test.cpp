@@ -244,6 +244,20 @@ TEST(InternetStation, ASilentAreaServiceDoesNotStopTheStationForGood) {
   EXPECT_EQ(station.AskedFor("/aprs/area"), 2);
 }
 
+TEST(InternetStation, AServiceThatWaitsForItsTurnIsNotGivenUp) {
+  InternetStation station(kAfternoon);
+  station.answer = nullptr;
+  const std::int64_t other = station.pages->Fetch("http://other", {});
+  station.Click(station.Moni1());
+  station.Minutes(1.5);
+  EXPECT_EQ(station.Moni1().Value, 1);
+  station.pages->Drop(other);
+  station.Minutes(0.9);
+  EXPECT_EQ(station.Moni1().Value, 1);
+  station.pages->Answer(LineOf(station, "QX7GW"));
+  EXPECT_EQ(station.State().Stores.Moni1Records.Count(), 1);
+}
+
 TEST(InternetStation, ASilentAreaServiceLeavesTheFollowedStationOn) {
   InternetStation station({2024, 5, 14, 13, 4, 10});
   station.answers = [](const std::string& url) {
