@@ -18,14 +18,19 @@ void MessageReception::MessageReceived(const HeardMessage& heard) {
                         heard.OverInternet,
                         heard.AgeSeconds};
   if (!IsOwnCall(AddresseeOf(message.Info), identity_)) return ShowTrafficOfOthers(message);
-  if (BeginsLikeAck(message.Text)) return TakeAck(message);
-  const bool is_new = ShowForMe(message);
+  // What a database tells of long after answers nothing, and waits for no answer.
   const bool is_awaited = message.AgeSeconds <= kAnsweredSeconds;
+  if (BeginsLikeAck(message.Text)) {
+    if (is_awaited) TakeAck(message);
+    return;
+  }
+  const bool is_new = ShowForMe(message);
+  if (!is_awaited) return;
   // At once, also for repeats.
-  if (is_awaited) Acknowledge(message);
-  if (is_awaited && is_new) AnswerForTheOperator(message);
+  Acknowledge(message);
+  if (is_new) AnswerForTheOperator(message);
   MarkAnsweredPings(message);
-  if (is_awaited) AnswerPing(message);
+  AnswerPing(message);
 }
 
 // Kept: a line without a number, as that of a ping, is compared with the newest one only, and the

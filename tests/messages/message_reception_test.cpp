@@ -72,6 +72,18 @@ TEST_F(MessageReceptionTest, OneOfTheInternetThatIsOldIsShownAndNotAnswered) {
   EXPECT_EQ(world.State.Chat.ChatTxText, "");
 }
 
+// A number of the day before may be in use again.
+TEST_F(MessageReceptionTest, AnOldAckOfTheInternetAcknowledgesNothing) {
+  world.PutLine(6, " QX7KB-10:AB1CD    :?APRST", 253);
+  world.PutLine(7, " QX7KB-10:AB1CD    :Hello{07", 252);
+  world.HearOverInternet("AB1CD", ":QX7KB    :ack07", 3601);
+  EXPECT_EQ(world.Newest().Colour, 252U);
+  world.HearOverInternet("AB1CD", ":QX7KB    :ack07", 3600);
+  EXPECT_EQ(world.Newest().Colour, 128U);
+  world.HearOverInternet("AB1CD", ":QX7KB    :PATH = QX7KB-10 VIA  TO ZEPR", 3601);
+  EXPECT_EQ(world.Line(5).Colour, 253U);
+}
+
 TEST_F(MessageReceptionTest, OneOfTheInternetOfLessThanAnHourIsAnswered) {
   world.HearOverInternet("N0CALL", ":QX7KB    :Hello{07", 3600);
   EXPECT_EQ(world.Pages.Asked.size(), 1U);
