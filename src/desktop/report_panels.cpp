@@ -61,7 +61,8 @@ void ReportPanels::MakeWeather(const QtSurface& surface) {
 
 void ReportPanels::MakeEmergency() {
   EmergencyControls& e = controls_.Emergency;
-  emergency_ = parts_.Panel(&map_);
+  // Of the window, so that no panel beside the map covers it and no drawer cuts it.
+  emergency_ = parts_.Panel(map_.window());
   emergency_->setProperty("alarm", "panel");
   auto* grid = new QGridLayout(emergency_);
   grid->setContentsMargins(20, 12, 20, 12);
@@ -89,6 +90,10 @@ void ReportPanels::MakeEmergency() {
   grid->addWidget(parts_.BoundButton(e.FalseAlarm), row, 1);
   grid->addWidget(parts_.BoundButton(e.EmergencyClose), row, 2);
   parts_.Binding.Bind(emergency_, e.Frame14);
+  // Behind all others of this pass, which may have come to the front.
+  parts_.Binding.OnControlsOut([this, &e] {
+    if (e.Frame14.Visible) PlaceEmergency();
+  });
 }
 
 void ReportPanels::PlaceWeather(const QWidget& record) {
@@ -100,7 +105,8 @@ void ReportPanels::PlaceWeather(const QWidget& record) {
 void ReportPanels::PlaceEmergency() {
   emergency_->setFixedWidth(std::min(kEmergencyWidth, std::max(map_.width() - 2 * kMargin, 100)));
   emergency_->adjustSize();
-  emergency_->move((map_.width() - emergency_->width()) / 2, kMargin);
+  const QPoint on_map((map_.width() - emergency_->width()) / 2, kMargin);
+  emergency_->move(map_.mapTo(map_.window(), on_map));
   emergency_->raise();
 }
 

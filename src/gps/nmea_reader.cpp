@@ -66,6 +66,7 @@ void NmeaReader::ReadSentences() {
   SetClock(*pair, tools_.Source.SecondsSinceItWasSaid(place));
   // The position as text, and the line over the map.
   const NmeaPosition position = PositionOf(*pair);
+  if (!IsOnEarth(position)) return;
   controls_.Gps.GpsInfo.Caption = GpsInfoLine(finished, position);
   controls_.Gps.GpsInfo.Visible = true;
   // The position on the map's grid.

@@ -185,6 +185,10 @@ std::optional<NmeaPair> LastNmeaPair(std::string_view finished) {
   return std::nullopt;
 }
 
+bool IsOnEarth(const NmeaPosition& position) {
+  return std::fabs(Val(position.Latitude)) <= 90.0 && std::fabs(Val(position.Longitude)) <= 180.0;
+}
+
 bool PairAgrees(const NmeaPair& pair) {
   const NmeaFields& at = *pair.Kind;
   const auto time = [&](std::string_view sentence) { return Val(GetNmeaField(sentence, at.Time)); };

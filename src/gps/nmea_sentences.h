@@ -57,6 +57,8 @@ struct NmeaPosition {
   std::string LongitudeShown;  // shortened, with the letter: " 13.405E"
 };
 NmeaPosition PositionOf(const NmeaPair& pair);
+// False for what no latitude and longitude can be, as of a sentence whose digits were torn.
+bool IsOnEarth(const NmeaPosition& position);
 
 // The time to which the newer sentence of a pair sets a clock `utc_offset_hours` ahead of UTC: five
 // seconds more, for the way here. Nothing in the last five seconds of a minute, of a kind without a

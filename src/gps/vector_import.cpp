@@ -273,8 +273,10 @@ bool MergeTrack(const NextLine& track, const NextLine& vectors, const PutLine& p
   bool has_fresh = NextFilled(vectors, fresh);
   while (has_old || has_fresh) {
     const int order = TrackKey(old).compare(TrackKey(fresh));
-    // Lines without a whole date and time are of no minute: both stay.
-    const bool same = has_old && has_fresh && order == 0 && TrackKey(old).size() == kTrackKey;
+    // Lines without a whole date and time are of no minute, and one with a text of its own is not
+    // told by the vectors': both stay.
+    const bool same = has_old && has_fresh && order == 0 && TrackKey(old).size() == kTrackKey &&
+                      (TrimRight(old).size() <= kWholePoint || old == fresh);
     const bool old_first = has_old && (!has_fresh || (order <= 0 && !same));
     if (!put(old_first ? old : fresh)) return false;
     if (old_first || same) has_old = track(old);

@@ -56,6 +56,8 @@ void StationScan::RunScanSwitchHandler() {
 void StationScan::FollowNext() {
   sections_.Internet.Moni1ScanTicks = kTicksOfStation;
   tools_.Choice.Follow(calls_[begun_++]);
+  // Power that is lost meanwhile leaves the operator's choice.
+  tools_.Settings.ReplaceConfigLine("CALL", call_before_);
   tools_.Support.Renew();
 }
 

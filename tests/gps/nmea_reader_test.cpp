@@ -30,6 +30,16 @@ std::string Ggas(const std::string& place) {
 
 // ---- Position and fix -------------------------------------------------------------------------
 
+TEST(ReadNmea, WhatLiesOffTheEarthIsNoPosition) {
+  GpsWorld world;
+  for (const char* place : {"9999.9999,N,01324.3096,E", "5230.2430,N,18124.3096,E"}) {
+    world.SayAndTick(Rmcs(place));
+    EXPECT_EQ(world.Gps.GpsFixValid, 0) << place;
+    EXPECT_EQ(world.Gps.GpsNorthText, "") << place;
+    EXPECT_FALSE(world.Controls.GpsInfo.Visible) << place;
+  }
+}
+
 TEST(ReadNmea, TakesThePositionOfTwoSentencesThatAgree) {
   GpsWorld world;
   world.SayAndTick(Rmcs());

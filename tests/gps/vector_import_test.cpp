@@ -60,6 +60,15 @@ TEST(MergeTrack, KeepsTheOrderOfDateAndTime) {
             (Lines{Point("1200"), Point("1201"), Point("1203"), Point("1204")}));
 }
 
+// What somebody has written beside a point is nowhere else.
+TEST(MergeTrack, ALineWithATextOfItsOwnStaysBesideTheVectors) {
+  const std::string own = Point("1200") + " at the lake";
+  const Lines merged = TrackOf({own, Point("1203")}, {Point("1200"), Point("1203")});
+  EXPECT_EQ(merged, (Lines{own, Point("1200"), Point("1203")}));
+  // Once more it changes nothing.
+  EXPECT_EQ(TrackOf(merged, {Point("1200"), Point("1203")}), merged);
+}
+
 TEST(MergeTrack, OfTheSameMinuteTheVectorsLineIsTakenOnce) {
   const std::string fresh = Point("1201", "5379.000  413.000");
   EXPECT_EQ(TrackOf({Point("1200"), Point("1201"), Point("1202")}, {fresh}),

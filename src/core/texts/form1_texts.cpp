@@ -185,7 +185,7 @@ constexpr ControlRow<MainWindowControls> kTable[] = {
     {"Check22", On<&Moni1Controls::Check22>(), Own("i  1"),
      {"MONI 1 internet support for 15 minutes, source 1 or 2 / Rclick: The other source"}},
     {"Check27", On<&Moni1Controls::Check27>(), Own("SCAN"),
-     {"Internet support for each station of the list in turn"}},
+     {"Internet support for each station of the list in turn / meanwhile nothing is received or sent"}},
 
     // What internet support says of itself.
     {"InetMoni1State", On<&InetControls::Moni1State>(), {},
