@@ -65,7 +65,7 @@ class InetLineDecoder {
   // More than these of a page are not worth a chat of eight lines: the newest count.
   static constexpr std::size_t kMostMessages = 400;
   // An emergency that is older, as a first page may tell of it, is not shown.
-  static constexpr std::int64_t kShownSeconds = 24 * 3600;
+  static constexpr std::int64_t kShownSeconds = std::int64_t{24} * 3600;
 
   InetLineDecoder(InetDecoderSections sections, InetDecoderTools tools)
       : sections_(sections), tools_(tools) {}

@@ -42,7 +42,7 @@ std::string GlobeFile(std::string_view label, const OutsidePlace& place);
 // degree sign stands among these. South, and west as "W" or "V", are negative. Nothing for any
 // other text, one of the two 0, or beyond the earth.
 //   52°30'14.76"N 13°24'18.72"E
-std::optional<Geodetic> PlaceInGlobeText(std::string_view text);
+std::optional<Geodetic> PlaceInGlobeText(std::string_view copied);
 // The place in the address of a page of Google Maps: latitude and longitude behind "@", a comma
 // behind each.
 std::optional<Geodetic> PlaceInMapAddress(std::string_view address);

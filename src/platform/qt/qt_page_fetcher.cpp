@@ -51,7 +51,7 @@ void QtPageFetcher::Begin(const std::string& url, Asking asking) {
   request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
   request.setMaximumRedirectsAllowed(kMostRedirects);
   request.setDecompressedSafetyCheckThreshold(static_cast<qint64>(kLargestPage));
-  reply_ = asking == Asking::Once ? AskOnce(std::move(request)) : manager_.get(request);
+  reply_ = asking == Asking::Once ? AskOnce(request) : manager_.get(request);
   reply_->setReadBufferSize(kBytesAtOnce);
   QObject::connect(reply_, &QNetworkReply::readyRead, &context_, [this] { TakeBytes(); });
   QObject::connect(reply_, &QNetworkReply::finished, &context_, [this] { Ended(); });

@@ -1,6 +1,10 @@
 // Pages over loopback: whole, redirected, packed, refused, broken off, endless, too large, slow.
 #include "platform/qt/qt_page_fetcher.h"
 
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QSslServer>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
@@ -12,6 +16,7 @@
 
 #include "platform/qt/qt_loop.h"
 #include "tests/platform/qt/application_support.h"
+#include "tests/platform/qt/loopback_certificate.h"
 
 namespace zepril {
 namespace {
@@ -247,6 +252,71 @@ TEST_F(QtPageFetcherTest, WhoNeverAnswersIsDroppedWithoutAWord) {
   Ask(Url("/"));
   ASSERT_TRUE(Comes(1));
   EXPECT_EQ(told[0].Body, "next");
+}
+
+// ---- https ----------------------------------------------------------------------------------
+
+class QtHttpsTest : public QtPageFetcherTest {
+ protected:
+  QtHttpsTest() {
+    QSslConfiguration own = QSslConfiguration::defaultConfiguration();
+    own.setLocalCertificate(certificate);
+    own.setPrivateKey(QSslKey(QByteArray(kLoopbackKey), QSsl::Ec));
+    https.setSslConfiguration(own);
+    EXPECT_TRUE(https.listen(QHostAddress::LocalHost));
+    QObject::connect(&https, &QTcpServer::pendingConnectionAvailable, [this] {
+      QTcpSocket* peer = https.nextPendingConnection();
+      QObject::connect(peer, &QTcpSocket::readyRead, peer, [peer] {
+        if (peer->readAll().endsWith("\r\n\r\n")) Say(*peer, Whole("secret"));
+      });
+    });
+  }
+  ~QtHttpsTest() override { QSslConfiguration::setDefaultConfiguration(before); }
+  void TrustIt() {
+    QSslConfiguration trusting = before;
+    trusting.addCaCertificate(certificate);
+    QSslConfiguration::setDefaultConfiguration(trusting);
+  }
+  std::string Address() const {
+    return "https://127.0.0.1:" + std::to_string(https.serverPort()) + "/";
+  }
+
+  const QSslConfiguration before = QSslConfiguration::defaultConfiguration();
+  const QSslCertificate certificate{QByteArray(kLoopbackCertificate)};
+  QSslServer https;
+};
+
+TEST_F(QtHttpsTest, AHostWhoseCertificateIsTrustedIsRead) {
+  TrustIt();
+  Ask(Address());
+  ASSERT_TRUE(Comes(1));
+  EXPECT_TRUE(told[0].IsGood());
+  EXPECT_EQ(told[0].Body, "secret");
+}
+
+TEST_F(QtHttpsTest, AHostWhoseCertificateIsNotIsNoAnswer) {
+  Ask(Address());
+  ASSERT_TRUE(Comes(1));
+  EXPECT_EQ(told[0].Outcome, PageOutcome::Failed);
+  EXPECT_EQ(told[0].Body, "");
+}
+
+// From https nobody is led back to http.
+TEST_F(QtHttpsTest, ARedirectToALessSafeAddressIsRefused) {
+  TrustIt();
+  https.disconnect();
+  QObject::connect(&https, &QTcpServer::pendingConnectionAvailable, [this] {
+    QTcpSocket* peer = https.nextPendingConnection();
+    QObject::connect(peer, &QTcpSocket::readyRead, peer, [this, peer] {
+      peer->readAll();
+      Say(*peer, "HTTP/1.1 302 Found\r\nLocation: " + Url("/") + "\r\nContent-Length: 0\r\n\r\n");
+    });
+  });
+  answer = [](QTcpSocket& peer) { Say(peer, Whole("open to all")); };
+  Ask(Address());
+  ASSERT_TRUE(Comes(1));
+  EXPECT_FALSE(told[0].IsGood());
+  EXPECT_TRUE(requests.empty());
 }
 
 TEST_F(QtPageFetcherTest, APageThatComesInPiecesIsPutTogether) {
