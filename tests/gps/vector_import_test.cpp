@@ -280,9 +280,9 @@ TEST_F(VectorImportTest, OnAFullDiskEverythingStaysAsItWas) {
 }
 
 TEST_F(VectorImportTest, AFileAThousandTimesTheUsualSizeIsMergedLineByLine) {
-  // A day has 1440 points.
+  // An outing of five hours has 300 points.
   std::string large;
-  const int count = 1'500'000;
+  const int count = 300'000;
   large.reserve(std::size_t{37} * count);
   for (int point = 0; point < count; ++point)
     large += "\xFE 5378.123  412.345 " + WholeNumber(10000000 + point / 1440) + " " +
